@@ -1,0 +1,18 @@
+# SPDX-FileCopyrightText: 2026 The Melvado authors
+# SPDX-License-Identifier: Apache-2.0
+
+option(VMOD17_CORE_ONLY "Build the core and its tests, without any window, sound or store" OFF)
+option(VMOD17_TESTS "Build the tests" ON)
+option(VMOD17_BENCH "Build the benchmarks" OFF)
+option(VMOD17_WERROR "Treat warnings as errors" OFF)
+set(VMOD17_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined or thread")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()

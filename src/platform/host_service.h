@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "platform/tagged_value.h"
+
+namespace vmod17 {
+
+/// The one object through which the program reaches its host. It holds no state of its own: any
+/// number of instances may exist, and all see the same store.
+///
+/// The commands, with their arguments and answers:
+///
+/// | command   | args                                | answer in `result`                        |
+/// |-----------|-------------------------------------|-------------------------------------------|
+/// | "MIDI"    | empty                               | string, the number of the output to use   |
+/// | "READ"    | array: program, key                 | the stored array; element 0 "NIL" if none |
+/// | "STORE"   | array: program, key, value          | untouched; committed when it returns      |
+/// | "LOGIN"   | ""                                  | array: matriculation number, name, first name |
+/// | "LANG"    | ""                                  | string, the name of an installed language |
+/// | "LOGMESS" | string, one line                    | untouched                                 |
+/// | "LOGERR"  | array: place, number, text, source  | untouched                                 |
+/// | "MENUE"   | ""                                  | untouched                                 |
+class HostService {
+ public:
+  virtual ~HostService() = default;
+
+  /// Carries out `command`. `result` comes in with the caller's default and is overwritten only by
+  /// an answer. Returns true when the host has an answer for the command.
+  /// Errors: RunTimeError kStore when the store refuses, kTypeMismatch for arguments of another
+  /// shape than the table's.
+  virtual bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result) = 0;
+};
+
+using HostServiceFactory = std::function<std::unique_ptr<HostService>()>;
+
+}  // namespace vmod17
