@@ -172,15 +172,8 @@ struct KlangtypFacts {
 };
 
 // By Klangtyp. The headroom is what proved right at the instrument, not the widest chord.
-constexpr std::array<KlangtypFacts, 9> kFacts = {{{},
-                                                  {},
-                                                  {},
-                                                  {10, 2, 8},
-                                                  {17, 3, 11},
-                                                  {23, 4, 21},
-                                                  {15, 5, 21},
-                                                  {5, 6, 21},
-                                                  {64, 4, 29}}};
+constexpr std::array<KlangtypFacts, 9> kFacts = {
+    {{}, {}, {}, {10, 2, 8}, {17, 3, 11}, {23, 4, 21}, {15, 5, 21}, {5, 6, 21}, {64, 4, 29}}};
 
 // By group, then Klangtyp 4 to 8. For Klangtyp 4 the cells of groups 7 and 8 are not the counts of
 // the rows above; boards have always been drawn with these numbers and stay comparable.

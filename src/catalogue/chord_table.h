@@ -9,18 +9,19 @@
 
 namespace vmod17 {
 
-inline constexpr int kKlangZahl = 134;     ///< chords of the catalogue
+inline constexpr int kKlangZahl = 134;  ///< chords of the catalogue
 inline constexpr int kKleinsterKlangtyp = 3;
-inline constexpr int kVoicing = 8;         ///< the Klangtyp of the two-hand voicings
-inline constexpr int kTriade = 3;          ///< the Klangtyp of the triads, which have no group
+inline constexpr int kVoicing = 8;  ///< the Klangtyp of the two-hand voicings
+inline constexpr int kTriade = 3;   ///< the Klangtyp of the triads, which have no group
 inline constexpr int kGruppen = 8;
 
 /// One chord of the catalogue, on the root C.
 struct Chord {
-  int klangtyp;            ///< 3 to 7 by the number of notes, 8 a two-hand voicing
-  int row;                 ///< from 1 within its Klangtyp
-  int group;               ///< 1 to 8; 0 for a triad
-  std::string_view symbol; ///< UTF-8; b and # for flat and sharp, a slash in parentheses for two lines
+  int klangtyp;  ///< 3 to 7 by the number of notes, 8 a two-hand voicing
+  int row;       ///< from 1 within its Klangtyp
+  int group;     ///< 1 to 8; 0 for a triad
+  std::string_view
+      symbol;  ///< UTF-8; b and # for flat and sharp, a slash in parentheses for two lines
   std::span<const int> semitones;  ///< above the root, ascending, the first 0
 };
 
@@ -30,16 +31,16 @@ const Chord& ChordOfKlang(int klang);
 /// The tables of a run, indexed by Klangtyp (3 to 8). All start at 0; `SetzeKlangZahlen`,
 /// `SetzeGruppen` and `SetzeStruktur` fill what a run needs.
 struct ChordTable {
-  using RowValues = std::array<int, 65>;      ///< by row, 0 unused
-  using Notes = std::array<int, 8>;           ///< by note index
-  using GroupValues = std::array<int, 9>;     ///< by group, 0 unused
+  using RowValues = std::array<int, 65>;   ///< by row, 0 unused
+  using Notes = std::array<int, 8>;        ///< by note index
+  using GroupValues = std::array<int, 9>;  ///< by group, 0 unused
 
-  std::array<int, 9> akk_je_typ_ar{};         ///< rows of each Klangtyp
-  std::array<int, 9> stimmen_ar{};            ///< index of a chord's last note
-  std::array<int, 9> klang_spanne_ar{};       ///< semitones that stay free above a root
+  std::array<int, 9> akk_je_typ_ar{};    ///< rows of each Klangtyp
+  std::array<int, 9> stimmen_ar{};       ///< index of a chord's last note
+  std::array<int, 9> klang_spanne_ar{};  ///< semitones that stay free above a root
   std::array<std::array<Notes, 65>, 9> akk_struktur_ar{};  ///< semitones above the root
-  std::array<RowValues, 9> akk_gruppe_ar{};   ///< group of a row
-  std::array<GroupValues, 9> grp_zahl_ar{};   ///< pool sizes; settled numbers of their own
+  std::array<RowValues, 9> akk_gruppe_ar{};                ///< group of a row
+  std::array<GroupValues, 9> grp_zahl_ar{};  ///< pool sizes; settled numbers of their own
 
   /// Fills `akk_je_typ_ar`.
   void SetzeKlangZahlen();

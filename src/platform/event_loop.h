@@ -8,9 +8,9 @@
 namespace vmod17 {
 
 struct DateTime {
-  int year = 0;    ///< four digits
-  int month = 0;   ///< 1 to 12
-  int day = 0;     ///< 1 to 31
+  int year = 0;   ///< four digits
+  int month = 0;  ///< 1 to 12
+  int day = 0;    ///< 1 to 31
   int hour = 0;
   int minute = 0;
   int second = 0;
@@ -33,6 +33,10 @@ class EventLoop {
   /// Delivers `handler` on the program's thread as soon as it is free. The one member that may be
   /// called from any thread.
   virtual void Post(Handler handler) = 0;
+
+  /// Delivers `handler` when no other handler is running any more, not even one that waits: the
+  /// time to release what a running handler may still stand in.
+  virtual void WhenIdle(Handler handler) = 0;
 
   /// Delivers what is due now, and returns.
   virtual void Yield() = 0;

@@ -21,11 +21,11 @@ namespace vmod17 {
 /// | "MIDI"    | empty                               | string, the number of the output to use   |
 /// | "READ"    | array: program, key                 | the stored array; element 0 "NIL" if none |
 /// | "STORE"   | array: program, key, value          | untouched; committed when it returns      |
-/// | "LOGIN"   | ""                                  | array: matriculation number, name, first name |
-/// | "LANG"    | ""                                  | string, the name of an installed language |
-/// | "LOGMESS" | string, one line                    | untouched                                 |
-/// | "LOGERR"  | array: place, number, text, source  | untouched                                 |
-/// | "MENUE"   | ""                                  | untouched                                 |
+/// | "LOGIN"   | ""                                  | array: matriculation number, name, first
+/// name | | "LANG"    | ""                                  | string, the name of an installed
+/// language | | "LOGMESS" | string, one line                    | untouched | | "LOGERR"  | array:
+/// place, number, text, source  | untouched                                 | | "MENUE"   | "" |
+/// untouched                                 |
 class HostService {
  public:
   virtual ~HostService() = default;

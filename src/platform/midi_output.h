@@ -10,29 +10,29 @@ namespace vmod17 {
 
 /// The members of the output object, by their numbers.
 enum class MidiMember {
-  Befehl = 1,          ///< write: a `MidiBefehl`
-  GeraetNr = 2,        ///< read, write: the device, 0 to GeraeteZahl - 1; -1 is the default mapper
-  GeraetName = 6,      ///< read (`GeraetName()`): name of the device in GeraetNr
-  GeraetKennung = 7,   ///< read: a number that identifies that device
-  VolumeLinks = 13,    ///< read, write: 0 to 65535
-  VolumeRechts = 14,   ///< read, write: 0 to 65535
-  Status = 15,         ///< write: first byte of the message, kind + channel
-  Daten1 = 16,         ///< write: second byte
-  Daten2 = 17,         ///< write: third byte
-  Zeit = 18,           ///< write: milliseconds from the start of the queue, may have a fraction
-  GeraeteZahl = 20,    ///< read: number of output devices
-  OffenStand = 21,     ///< read: 1 or more while the device is open
-  Marke = 22,          ///< write: a number that travels with a queued message
+  Befehl = 1,         ///< write: a `MidiBefehl`
+  GeraetNr = 2,       ///< read, write: the device, 0 to GeraeteZahl - 1; -1 is the default mapper
+  GeraetName = 6,     ///< read (`GeraetName()`): name of the device in GeraetNr
+  GeraetKennung = 7,  ///< read: a number that identifies that device
+  VolumeLinks = 13,   ///< read, write: 0 to 65535
+  VolumeRechts = 14,  ///< read, write: 0 to 65535
+  Status = 15,        ///< write: first byte of the message, kind + channel
+  Daten1 = 16,        ///< write: second byte
+  Daten2 = 17,        ///< write: third byte
+  Zeit = 18,          ///< write: milliseconds from the start of the queue, may have a fraction
+  GeraeteZahl = 20,   ///< read: number of output devices
+  OffenStand = 21,    ///< read: 1 or more while the device is open
+  Marke = 22,         ///< write: a number that travels with a queued message
 };
 
 /// What a write to `MidiMember::Befehl` does.
 enum class MidiBefehl {
-  kOeffnen = 1,      ///< open the device in GeraetNr; centres the pitch bend of all channels
-  kSchliessen = 2,   ///< close it; notes that hang fall silent
-  kStart = 4,        ///< run the queue from time 0
-  kStopp = 5,        ///< stop, and drop what is queued
-  kEinreihen = 6,    ///< put the message of Status, Daten1, Daten2, Zeit, Marke in the queue
-  kSenden = 7,       ///< send the message of Status, Daten1, Daten2 now
+  kOeffnen = 1,     ///< open the device in GeraetNr; centres the pitch bend of all channels
+  kSchliessen = 2,  ///< close it; notes that hang fall silent
+  kStart = 4,       ///< run the queue from time 0
+  kStopp = 5,       ///< stop, and drop what is queued
+  kEinreihen = 6,   ///< put the message of Status, Daten1, Daten2, Zeit, Marke in the queue
+  kSenden = 7,      ///< send the message of Status, Daten1, Daten2 now
 };
 
 /// A MIDI output with a time-stamped queue that is filled while it rests, started as a whole and

@@ -11,8 +11,8 @@ namespace vmod17 {
 
 /// Something that the user should be told once, in plain words, while the program goes on.
 struct Notice {
-  int text_id;               ///< id of the text, in which %1, %2 stand for the details
-  std::string english;       ///< the same text, for a language that has no word for the id
+  int text_id;                       ///< id of the text, in which %1, %2 stand for the details
+  std::string english;               ///< the same text, for a language that has no word for the id
   std::vector<std::string> details;  ///< UTF-8: names, folders, what the system said
 };
 

@@ -29,17 +29,17 @@ class RunTimeError : public std::runtime_error {
 
 /// The numbers of `RunTimeError`. They go to the log and are never reused for another meaning.
 namespace ErrorNumber {
-inline constexpr int kInvalidCall = 5;        ///< a call that its object is not ready for
-inline constexpr int kOutOfRange = 9;         ///< an index outside its array
-inline constexpr int kTypeMismatch = 13;      ///< a tagged value of another kind than needed
-inline constexpr int kNoSuchElement = 340;    ///< a control array has no such index
-inline constexpr int kCannotCreate = 429;     ///< a class that is listed cannot be made
-inline constexpr int kFile = 75;              ///< a file or folder that cannot be used
-inline constexpr int kStore = 1001;           ///< the host's store refused a call
-inline constexpr int kDevice = 1002;          ///< a sound device refused a call
-inline constexpr int kUnknownText = 1003;     ///< a language has no word for a text id
-inline constexpr int kNothingToDraw = 1004;   ///< no draw can satisfy the rules of a task
-inline constexpr int kForeign = 1000;         ///< an exception that is not a RunTimeError
+inline constexpr int kInvalidCall = 5;       ///< a call that its object is not ready for
+inline constexpr int kOutOfRange = 9;        ///< an index outside its array
+inline constexpr int kTypeMismatch = 13;     ///< a tagged value of another kind than needed
+inline constexpr int kNoSuchElement = 340;   ///< a control array has no such index
+inline constexpr int kCannotCreate = 429;    ///< a class that is listed cannot be made
+inline constexpr int kFile = 75;             ///< a file or folder that cannot be used
+inline constexpr int kStore = 1001;          ///< the host's store refused a call
+inline constexpr int kDevice = 1002;         ///< a sound device refused a call
+inline constexpr int kUnknownText = 1003;    ///< a language has no word for a text id
+inline constexpr int kNothingToDraw = 1004;  ///< no draw can satisfy the rules of a task
+inline constexpr int kForeign = 1000;        ///< an exception that is not a RunTimeError
 }  // namespace ErrorNumber
 
 }  // namespace vmod17

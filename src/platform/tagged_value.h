@@ -47,10 +47,10 @@ class TaggedValue {
   const TaggedValue& operator[](std::size_t index) const {
     const Array& elements = Elements();
     if (index >= elements.size()) {
-      throw RunTimeError(ErrorNumber::kOutOfRange,
-                         "element " + std::to_string(index) + " of an array of " +
-                             std::to_string(elements.size()),
-                         "vmod17.TaggedValue");
+      throw RunTimeError(
+          ErrorNumber::kOutOfRange,
+          "element " + std::to_string(index) + " of an array of " + std::to_string(elements.size()),
+          "vmod17.TaggedValue");
     }
     return elements[index];
   }
@@ -61,8 +61,8 @@ class TaggedValue {
   template <typename Kind>
   const Kind& Get(const char* wanted) const {
     if (const Kind* content = std::get_if<Kind>(&content_)) return *content;
-    throw RunTimeError(ErrorNumber::kTypeMismatch,
-                       std::string("a tagged value is not ") + wanted, "vmod17.TaggedValue");
+    throw RunTimeError(ErrorNumber::kTypeMismatch, std::string("a tagged value is not ") + wanted,
+                       "vmod17.TaggedValue");
   }
 
   std::variant<std::monostate, std::int64_t, double, std::string, Array> content_;

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "catalogue/chord_board.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "platform/run_time_error.h"
+#include "shell/numbers.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr int kVersucheJeGruppe = 200;  // tries after which a group may come a second time
+constexpr int kVersucheInsgesamt = 100000;
+
+[[noreturn]] void NichtsZuZiehen(const char* what) {
+  throw RunTimeError(ErrorNumber::kNothingToDraw, std::string("the board finds no ") + what,
+                     "vmod17.ChordBoard");
+}
+
+}  // namespace
+
+void SlotLimits::Setze(int auswahl) {
+  wahl_anzahl = auswahl;
+  fehl_stufen = std::min(wahl_anzahl - 1, 4);
+  fehl_max = fehl_stufen * kFehlSchritt;
+}
+
+BoardEntry& ChordBoard::operator[](int e) {
+  if (e < 1 || e > kBrettGroesse) {
+    throw RunTimeError(ErrorNumber::kOutOfRange, "no board entry " + std::to_string(e),
+                       "vmod17.ChordBoard");
+  }
+  return akk_tab_[e];
+}
+
+void ChordBoard::SetzeAkkTab(const BoardSelection& selection, Random& random) {
+  akk_tab_.fill({});
+  grp_aktiv_ar.fill(0);
+  Sammle(selection);
+
+  const bool voicings = !selection.klangtypen.empty() && selection.klangtypen.back() == kVoicing;
+  const int grenze = voicings ? kBrettVoicings : kBrettGroesse;
+  akk_zahl = 0;
+  if (static_cast<int>(kandidat_ar_.size()) <= grenze) {
+    for (Kandidat& kandidat : kandidat_ar_) {
+      grp_aktiv_ar[kandidat.group] = 1;
+      Nimm(kandidat);
+    }
+  } else {
+    Ziehe(selection, random, grenze);
+  }
+  Sortiere(akk_zahl);
+
+  for (int e = 1; e <= akk_zahl; ++e) {
+    BoardEntry& entry = akk_tab_[e];
+    entry.group = entry.klangtyp == kTriade ? 0 : table_.akk_gruppe_ar[entry.klangtyp][entry.row];
+  }
+  table_.SetzeStruktur(selection.klangtypen);
+  limits.Setze(selection.best_art == 0 ? akk_zahl : static_cast<int>(selection.gruppen.size()));
+}
+
+void ChordBoard::Sammle(const BoardSelection& selection) {
+  kandidat_ar_.clear();
+  vorrat_ar_.fill(0);
+  for (const int k : selection.klangtypen) {
+    if (k == kTriade) {
+      vorrat_ar_[k] = table_.akk_je_typ_ar[k];
+      for (int r = 1; r <= table_.akk_je_typ_ar[k]; ++r) kandidat_ar_.push_back({k, r, 0});
+      continue;
+    }
+    table_.SetzeGruppen(k);
+    for (const int g : selection.gruppen) {
+      vorrat_ar_[k] += table_.grp_zahl_ar[k][g];
+      for (int r = 1; r <= table_.akk_je_typ_ar[k]; ++r) {
+        if (table_.akk_gruppe_ar[k][r] == g) kandidat_ar_.push_back({k, r, g});
+      }
+    }
+  }
+}
+
+void ChordBoard::Ziehe(const BoardSelection& selection, Random& random, int grenze) {
+  if (selection.akk_form == 1) {
+    ZiehePflichtVoicings(selection, random);
+  } else if (selection.akk_form == 0) {
+    ZiehePflichtKlaenge(selection, random);
+  }
+  while (akk_zahl < grenze) {
+    int versuche = 0;
+    Kandidat* kandidat = &Wuerfle(random);
+    while (kandidat->klangtyp == 0) {
+      if (++versuche > kVersucheInsgesamt) NichtsZuZiehen("chord to fill up with");
+      kandidat = &Wuerfle(random);
+    }
+    Nimm(*kandidat);
+  }
+}
+
+void ChordBoard::ZiehePflichtVoicings(const BoardSelection& selection, Random& random) {
+  for (const int g : selection.gruppen) {
+    int versuche = 0;
+    Kandidat* kandidat = &Wuerfle(random);
+    while (kandidat->group != g) {
+      if (++versuche > kVersucheInsgesamt) NichtsZuZiehen("voicing of a group");
+      kandidat = &Wuerfle(random);
+    }
+    grp_aktiv_ar[g] = 1;
+    Nimm(*kandidat);
+    kandidat->group = 0;
+  }
+}
+
+void ChordBoard::ZiehePflichtKlaenge(const BoardSelection& selection, Random& random) {
+  const auto gruppen = static_cast<double>(selection.gruppen.size());
+  const auto klaenge = static_cast<double>(selection.klangtypen.size());
+  for (auto it = selection.klangtypen.rbegin(); it != selection.klangtypen.rend(); ++it) {
+    const int k = *it;
+    if (vorrat_ar_[k] <= 0) continue;
+    const int quote = vorrat_ar_[k] == 1        ? 1
+                      : selection.best_art == 0 ? 2
+                                                : RoundHalfEven(gruppen / klaenge + 0.5);
+    for (int i = 0; i < quote; ++i) {
+      for (int versuche = 1;; ++versuche) {
+        if (versuche > kVersucheInsgesamt) NichtsZuZiehen("chord of a kind");
+        Kandidat& kandidat = Wuerfle(random);
+        if (kandidat.klangtyp != k) continue;
+        if (k != kTriade && versuche <= kVersucheJeGruppe) {
+          if (grp_aktiv_ar[kandidat.group] != 0) continue;
+          grp_aktiv_ar[kandidat.group] = 1;
+        }
+        Nimm(kandidat);
+        break;
+      }
+    }
+  }
+}
+
+void ChordBoard::Nimm(Kandidat& kandidat) {
+  ++akk_zahl;
+  akk_tab_[akk_zahl].klangtyp = std::exchange(kandidat.klangtyp, 0);
+  akk_tab_[akk_zahl].row = kandidat.row;
+}
+
+ChordBoard::Kandidat& ChordBoard::Wuerfle(Random& random) {
+  return kandidat_ar_[static_cast<std::size_t>(random.Rnd() *
+                                               static_cast<float>(kandidat_ar_.size()))];
+}
+
+void ChordBoard::Sortiere(int letzter) {
+  const auto key = [](const BoardEntry& entry) { return entry.klangtyp * 100 + entry.row; };
+  std::sort(akk_tab_.begin() + 1, akk_tab_.begin() + 1 + letzter,
+            [&](const BoardEntry& a, const BoardEntry& b) { return key(a) < key(b); });
+}
+
+int ChordBoard::KlangNummer(int e) {
+  BoardEntry& entry = (*this)[e];
+  entry.klang = table_.KlangNummer(entry.klangtyp, entry.row);
+  return entry.klang;
+}
+
+}  // namespace vmod17

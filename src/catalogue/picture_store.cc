@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "catalogue/picture_store.h"
+
+#include <string>
+
+namespace vmod17 {
+
+PictureId PictureStore::jakk(int klang) { return Get(PictureId::Kind::kNotation, klang); }
+
+PictureId PictureStore::jbez(int klang) { return Get(PictureId::Kind::kSymbol, klang); }
+
+PictureId PictureStore::Get(PictureId::Kind kind, int klang) {
+  if (klang < first_ || klang > last_) {
+    throw RunTimeError(ErrorNumber::kOutOfRange, "no picture " + std::to_string(klang),
+                       "vmod17.PictureStore");
+  }
+  loaded_ = true;
+  return {kind, klang};
+}
+
+}  // namespace vmod17

@@ -1,0 +1,385 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "settings/settings_screen.h"
+
+#include <initializer_list>
+#include <utility>
+
+#include "catalogue/chord_board.h"
+#include "shell/delay.h"
+#include "shell/numbers.h"
+#include "sound/instrument_list.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr int kStartIntervall = 200;
+constexpr int kTestIntervall = 2000;
+constexpr int kBestimmen = 1;
+constexpr int kNeuesTraining = 1;
+constexpr int kFortsetzung = 2;
+constexpr int kTest = 3;
+constexpr int kPruefungen = 5;
+constexpr int kLautstaerke = 100;
+
+constexpr Color kRahmen = Bgr(0xC0FFFF);
+constexpr Color kRahmenLevel = Bgr(0xC0FFC0);
+constexpr Color kRahmenKlang = Bgr(0xFFFFC0);
+constexpr Color kBereitFarbe = Bgr(0x80FF80);
+constexpr Color kTempoFarbe = Bgr(0xFF0000);
+
+void SetzeContainer(Control& frame, std::initializer_list<Control*> controls) {
+  for (Control* control : controls) control->container = &frame;
+}
+
+void SetzeContainer(Control& frame, const OptionGroup& group) {
+  for (int i = group.first(); i <= group.last(); ++i) group[i].container = &frame;
+}
+
+/// Inserts an entry before the first one of a greater value.
+void ReiheEin(ItemList& ziel, const ItemList::Entry& entry) {
+  int j = 0;
+  while (j < ziel.count() && ziel.entry(j).item_data <= entry.item_data) ++j;
+  ziel.Insert(j, entry);
+}
+
+}  // namespace
+
+Einstellung1::Einstellung1(Shell& shell, const Parts& parts)
+    : Form("einstellung1"),
+      start(*this, shell.loop, "start", kStartIntervall),
+      testtimer(*this, shell.loop, "testtimer", kTestIntervall),
+      shell_(shell),
+      parts_(parts) {
+  caption = "Grundeinstellung : Jazz-Akkorde bestimmen";
+  StelleInRahmen();
+  Verdrahte();
+  cmdHilfe.caption = "?";
+  prfnr_Comb.enabled = false;
+  Channel_Combo.visible = false;
+  lb15[2].visible = false;
+}
+
+void Einstellung1::StelleInRahmen() {
+  for (const int i : grdeinst.indexes()) {
+    grdeinst[i].container = &aktionsbox;
+    grdeinst[i].back_color = i == 8 ? kRahmenLevel : i == 14 || i == 15 ? kRahmenKlang : kRahmen;
+  }
+  for (const int i : geinst_lb.indexes()) geinst_lb[i].container = &grdeinst[i];
+  SetzeContainer(grdeinst[0], frequenz);
+  SetzeContainer(grdeinst[1], {&oktav_cmb, &lb1, &Combo_tonraum});
+  SetzeContainer(grdeinst[2], {&grplst[0], &grplst[1], &lb2[0], &lb2[1], &lb2[2], &lb2[3]});
+  SetzeContainer(grdeinst[3], akk_grp);
+  SetzeContainer(grdeinst[4], {&akkzahl_cmb});
+  SetzeContainer(grdeinst[5], abfrage);
+  SetzeContainer(grdeinst[7], aus_w);
+  SetzeContainer(grdeinst[8], {&training_Combo, &prfnr_Comb});
+  SetzeContainer(grdeinst[9], Tonart);
+  SetzeContainer(grdeinst[10], {&arpeg_cmb, &lb10, &cmb_arpTmp});
+  SetzeContainer(grdeinst[11], {&klanglst[0], &klanglst[1], &lb11[0], &lb11[1], &lb11[2]});
+  SetzeContainer(grdeinst[12], akk_anzg);
+  SetzeContainer(grdeinst[14], {&klang_contr, &HSliderVolume, &lb14[0], &lb14[1]});
+  SetzeContainer(grdeinst[15], kl_farb);
+  SetzeContainer(grdeinst[15],
+                 {&Channel_Combo, &ComboPatch, &temp_Combo, &lb15[0], &lb15[1], &lb15[2]});
+  SetzeContainer(grdeinst[17], betonung);
+}
+
+void Einstellung1::Verdrahte() {
+  ExerciseSettings& settings = parts_.settings;
+  start.Fire = [this] { start_Timer(); };
+  testtimer.Fire = [this] {
+    testtimer.Disable();
+    cmdOK_Click();
+  };
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdZurueck.Click = [this] { cmdZurueck_Click(); };
+  cmdHilfe.Click = [this] { cmdHilfe_Click(); };
+  abfrage.Click = [&](int index) { settings.abfolge = index; };
+  akk_anzg.Click = [&](int index) { settings.akk_anzeige = index; };
+  betonung.Click = [&](int index) { settings.grundton_betont = index; };
+  frequenz.Click = [&](int index) { settings.frequenz_art = index; };
+  Tonart.Click = [&](int index) { settings.grundton_art = index; };
+  arpeg_cmb.Click = [this] { arpeg_cmb_Click(); };
+  temp_Combo.Click = [this] { temp_Combo_Click(); };
+  cmb_arpTmp.Click = [this] { cmb_arpTmp_Click(); };
+  oktav_cmb.Click = [this] { oktav_cmb_Click(); };
+  Combo_tonraum.Click = [&] { settings.SetzeTonraum(Combo_tonraum.list_index()); };
+  akkzahl_cmb.Click = [&] { settings.akk_anzahl = akkzahl_cmb.list_index() + 1; };
+  prfnr_Comb.Click = [&] { settings.pruef_nr = prfnr_Comb.list_index() + 1; };
+  training_Combo.Click = [&] { settings.uebmodus = training_Combo.list_index(); };
+  ComboPatch.Click = [this] { ComboPatch_Click(); };
+  HSliderVolume.Change = [this] { HSliderVolume_Change(); };
+  for (int i : {0, 1}) klanglst[i].Click = [this, i] { klanglst_Click(i); };
+}
+
+void Einstellung1::Form_Load() {
+  visible = false;
+  parts_.output.QueueEmpty = [this] { MIDI_QueueEmpty(); };
+  start.Enable();
+}
+
+void Einstellung1::Form_Unload() {
+  delay_abbruch = true;
+  parts_.output.QueueEmpty = nullptr;
+  parts_.output.Set(MidiMember::Befehl, static_cast<int>(MidiBefehl::kSchliessen));
+}
+
+void Einstellung1::start_Timer() {
+  start.Disable();
+  shell_.errors.Guard(
+      "start_timer.", *this, [this] { BaueAuf(); }, [this] { cmdZurueck_Click(); });
+}
+
+void Einstellung1::BaueAuf() {
+  ExerciseSettings& settings = parts_.settings;
+  const TextLookup& texts = shell_.texts;
+  caption =
+      texts.ueb_typ_name_ar.at(shell_.state.uebTyp) + texts.Sprachtext(700) + texts.titel_ar[1];
+  SetzeTexte();
+  visible = true;
+  form_bereit = false;
+  delay_abbruch = false;
+  RunCounters& counters = parts_.counters;
+  if (!counters.ergebnis_obj.allocated()) counters.ergebnis_obj.init_arr(kBrettGroesse);
+  if (!counters.auswertung_obj.allocated()) counters.auswertung_obj.init_arr(kBrettGroesse, 3);
+  parts_.midi.MidiGeraeteListe(parts_.output);
+  parts_.midi.MidiOeffnen(parts_.output);
+  KlangNamen(ComboPatch);
+  settings.tempo_idx = 1;
+  settings.abfolge = settings.uebmodus = settings.grundton_art = 0;
+  settings.best_art = settings.akk_anzeige = 0;
+  FuelleKlangListen();
+  FuelleAuswahlListen();
+  form_bereit = true;
+}
+
+/// Fills the lists that tell how a run sounds. Each selection runs the list's event, and the fields
+/// get their defaults from these.
+void Einstellung1::FuelleKlangListen() {
+  const TextLookup& texts = shell_.texts;
+  const auto fill = [](ItemList& list, const auto& names) {
+    for (const std::string& name : names) list.Add(name, ItemList::kValueIsIndex);
+  };
+  fill(temp_Combo, TextLookup::tempo_name_ar);
+  temp_Combo.Select(1);
+  HSliderVolume.Set(kLautstaerke);
+  fill(arpeg_cmb, texts.arp_richtung_name_ar);
+  arpeg_cmb.Select(kArpOhne);
+  fill(cmb_arpTmp, texts.arp_tempo_name_ar);
+  cmb_arpTmp.Select(2);
+  FuelleTraining();
+  training_Combo.Select(0);
+  parts_.settings.klang_kanal = 0;
+  parts_.settings.patch_ar = kPatchVorgabe;
+  for (int i = 1; i < ModMIDI::kKanaele; ++i) {
+    Channel_Combo.Add(texts.Sprachtext(499) + " " + SignedText(i), ItemList::kValueIsIndex);
+  }
+  for (int i = 0; i < ModMIDI::kKanaele; ++i) SetzeKlangfarbe(parts_.settings.patch_ar[i], i);
+  ComboPatch.Select(parts_.settings.patch_ar[0]);
+}
+
+/// Fills the lists that tell what a run is made of.
+void Einstellung1::FuelleAuswahlListen() {
+  const TextLookup& texts = shell_.texts;
+  for (int i : {0, 1}) klanglst[i].Clear();
+  for (int k = kTriade; k < kVoicing; ++k) klanglst[0].Add(texts.klang_name_ar[k], k);
+  klanglst[0].Select(0);
+  for (int i = 1; i <= kPruefungen; ++i) {
+    prfnr_Comb.Add(texts.Sprachtext(426) + SignedText(i), ItemList::kValueIsIndex);
+  }
+  prfnr_Comb.Select(0);
+  grdeinst[2].visible = false;
+  for (int i = 1; i <= 4; ++i) akkzahl_cmb.Add(SignedText(i), i);
+  akkzahl_cmb.Select(0);
+  for (int n = 2; n <= 5; ++n) {
+    oktav_cmb.Add(SignedText(n) + " " + texts.Sprachtext(41), n - 2);
+  }
+  oktav_cmb.Select(0);
+}
+
+void Einstellung1::FuelleTraining() {
+  const std::string typ = DecimalText(shell_.state.uebTyp);
+  ModServer& server = shell_.server;
+  const bool fortsetzbar = server.LeseEinstellung("E" + typ) && server.LeseAblage("A" + typ) &&
+                           server.ablage_ar.at(0) == TaggedValue("true");
+  for (int i = 0; i < static_cast<int>(shell_.texts.modus_name_ar.size()); ++i) {
+    const bool leer = i == kFortsetzung && !fortsetzbar;
+    training_Combo.Add(leer ? "---------------" : shell_.texts.modus_name_ar[i],
+                       ItemList::kValueIsIndex);
+  }
+}
+
+void Einstellung1::SetzeTexte() {
+  const auto text = [this](int id) { return shell_.texts.Sprachtext(id); };
+  const auto options = [&](const OptionGroup& group, int first, int second) {
+    group[0].caption = text(first);
+    group[1].caption = text(second);
+  };
+  for (const auto& [frame, id] : std::initializer_list<std::pair<int, int>>{{0, 243},
+                                                                            {1, 107},
+                                                                            {2, 302},
+                                                                            {3, 154},
+                                                                            {4, 88},
+                                                                            {5, 78},
+                                                                            {7, 138},
+                                                                            {8, 587},
+                                                                            {9, 297},
+                                                                            {10, 469},
+                                                                            {11, 364},
+                                                                            {12, 114},
+                                                                            {15, 365},
+                                                                            {17, 87}}) {
+    geinst_lb[frame].caption = text(id);
+  }
+  options(abfrage, 383, 142);
+  options(frequenz, 238, 603);
+  options(akk_grp, 97, 301);
+  options(akk_anzg, 507, 429);
+  options(aus_w, 49, 45);
+  options(Tonart, 623, 277);
+  options(betonung, 588, 156);
+  options(kl_farb, 277, 589);
+  lb1.caption = text(153);
+  lb10.caption = text(116);
+  lb11[0].caption = lb2[0].caption = text(140);
+  lb11[1].caption = lb2[1].caption = text(135);
+  lb11[2].caption = text(395);
+  lb2[2].caption = text(396);
+  lb2[3].caption = text(2);
+  cmdOK.caption = text(139);
+  cmdZurueck.caption = text(640);
+  klang_contr.caption = text(366);
+  lb14[0].caption = text(372);
+  lb14[1].caption = DecimalText(kLautstaerke);
+  lb15[0].caption = text(547);
+  lb15[1].caption = "=MM";
+  lb15[2].caption = text(615);
+  temp_Combo.fore_color = kTempoFarbe;
+}
+
+void Einstellung1::arpeg_cmb_Click() {
+  parts_.settings.arp_richtung = arpeg_cmb.list_index();
+  cmb_arpTmp.visible = lb10.visible = parts_.settings.arp_richtung < kArpOhne;
+}
+
+void Einstellung1::temp_Combo_Click() {
+  parts_.settings.tempo_idx = temp_Combo.list_index();
+  parts_.settings.RechneArpDauer(shell_.state);
+}
+
+void Einstellung1::cmb_arpTmp_Click() {
+  parts_.settings.arp_tempo_idx = cmb_arpTmp.list_index();
+  parts_.settings.RechneArpDauer(shell_.state);
+}
+
+void Einstellung1::oktav_cmb_Click() {
+  ExerciseSettings& settings = parts_.settings;
+  settings.oktav_ber = oktav_cmb.entry(oktav_cmb.list_index()).item_data;
+  const TextLookup& texts = shell_.texts;
+  Combo_tonraum.Clear();
+  for (int j = 0; j <= 3 - settings.oktav_ber; ++j) {
+    Combo_tonraum.Add(texts.Sprachtext(671 + j) + " " + texts.Sprachtext(702) + " " +
+                          texts.Sprachtext(673 + settings.oktav_ber + j),
+                      ItemList::kValueIsIndex);
+  }
+  Combo_tonraum.Select(settings.oktav_ber == 3 ? 0 : 1);
+}
+
+void Einstellung1::ComboPatch_Click() {
+  ExerciseSettings& settings = parts_.settings;
+  settings.patch_ar.at(settings.klang_kanal) = ComboPatch.list_index();
+  SetzeKlangfarbe(ComboPatch.list_index(), settings.klang_kanal);
+}
+
+void Einstellung1::HSliderVolume_Change() {
+  parts_.midi.midiVelocity = HSliderVolume.value();
+  lb14[1].caption = DecimalText(HSliderVolume.value());
+}
+
+void Einstellung1::klanglst_Click(int index) {
+  ItemList& quelle = klanglst[index];
+  const int gewaehlt = quelle.list_index();
+  ReiheEin(klanglst[1 - index], quelle.entry(gewaehlt));
+  quelle.Remove(gewaehlt);
+
+  const ItemList& auswahl = klanglst[1];
+  const bool nur_triaden = auswahl.count() == 1 && auswahl.entry(0).item_data == kTriade;
+  lb11[2].visible = auswahl.count() == 0;
+  SetzeOk(nur_triaden ? Bereitschaft::kBereit : Bereitschaft::kGesperrt);
+  klang_contr.enabled = nur_triaden;
+}
+
+void Einstellung1::SetzeOk(Bereitschaft zustand) {
+  const bool bereit = zustand == Bereitschaft::kBereit;
+  cmdOK.enabled = bereit;
+  cmdOK.back_color = bereit ? kBereitFarbe : Colors::kRed;
+  cmdOK.caption = shell_.texts.Sprachtext(bereit ? 432 : 139);
+}
+
+void Einstellung1::MIDI_QueueEmpty() {
+  const Form* top = shell_.screens.top();
+  if (top == nullptr || top->caption != caption) return;
+  klang_contr.enabled = true;
+  cmdOK.enabled = true;
+}
+
+void Einstellung1::cmdOK_Click() {
+  shell_.errors.Guard(
+      "cmdOK_click.", *this,
+      [this] {
+        cmdOK.enabled = false;
+        parts_.record.LessonNeu();
+        SichereAuswahl();
+        parts_.settings.klangfarb_felder = parts_.settings.klangfarb_art != 0 ? 8 : 2;
+        EinstDatSave();
+        // Saving that failed has led back to the first screen by itself.
+        if (!loaded()) return;
+        if (parts_.settings.uebmodus == kNeuesTraining && shell_.state.uebTyp == kBestimmen) {
+          BaueEinstSatz();
+        } else if (parts_.settings.uebmodus == kTest) {
+          abfrage.Check(1);
+        }
+        pointer = Pointer::kHourglass;
+        shell_.loop.Yield();
+        if (!loaded()) return;  // left in the meantime
+        pointer = Pointer::kDefault;
+        cmdOK.enabled = true;
+        visible = false;
+        shell_.navigation.OpenWorksheet();
+      },
+      [this] { cmdZurueck_Click(); });
+}
+
+void Einstellung1::SichereAuswahl() {
+  ExerciseSettings& settings = parts_.settings;
+  if (settings.akk_form == 0) {
+    settings.klang_anzahl = klanglst[1].count();
+    for (int i = 1; i <= 5; ++i) {
+      settings.klang_ausw_ar[i] =
+          i <= settings.klang_anzahl ? klanglst[1].entry(i - 1).item_data : 0;
+    }
+  } else {
+    settings.klang_anzahl = 1;
+    settings.klang_ausw_ar[1] = kVoicing;
+  }
+  settings.grp_anzahl = grplst[1].count();
+  for (int i = 1; i <= kGruppen; ++i) {
+    settings.grp_ausw_ar[i] = i <= settings.grp_anzahl ? grplst[1].entry(i - 1).item_data : 0;
+  }
+}
+
+void Einstellung1::cmdZurueck_Click() {
+  delay_abbruch = true;
+  cmdZurueck.enabled = false;
+  parts_.midi.MidiReset();
+  shell_.navigation.ShowFirstScreen();
+  shell_.screens.Unload(*this);
+}
+
+void Einstellung1::cmdHilfe_Click() { shell_.system.SendKeys("{F1}"); }
+
+void Einstellung1::Delay(float ms) { vmod17::Delay(shell_.loop, ms, delay_abbruch); }
+
+}  // namespace vmod17

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/event_loop.h"
+
+namespace vmod17 {
+
+/// Waits `ms` milliseconds by the clock while events are served, or until `abbruch` is set.
+void Delay(EventLoop& loop, float ms, const bool& abbruch);
+
+}  // namespace vmod17

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "shell/error_report.h"
+
+#include <exception>
+
+namespace vmod17 {
+namespace {
+
+constexpr const char* kTitel = "Melvado 2000";
+
+}  // namespace
+
+ErrorReport::ErrorReport(ModServer& server, const TextLookup& texts, MessageBox& messages)
+    : server_(server), texts_(texts), messages_(messages) {}
+
+void ErrorReport::Guard(const std::string& tag, const Form& form, const std::function<void()>& body,
+                        const std::function<void()>& recovery) {
+  bool normal = false;
+  try {
+    body();
+    normal = true;
+  } catch (...) {
+    LogFehler(CurrentError(), tag + form.name(), Zeigen::kNein);
+    messages_.Warn(texts_.Sprachtext(720) + "\n" + texts_.Sprachtext(721) + "\n" +
+                       texts_.Sprachtext(722) + "\n" + texts_.Sprachtext(723),
+                   kTitel);
+  }
+  if (!normal) recovery();
+}
+
+void ErrorReport::LogFehler(const RunTimeError& error, const std::string& routine, Zeigen zeigen) {
+  server_.LogFehler(routine + "." + server_.identity().name, error);
+  if (zeigen == Zeigen::kJa) {
+    messages_.Warn("Es ist ein Fehler aufgetreten!\nWeitere Informationen befinden sich im LogFile",
+                   "Warnung");
+  }
+}
+
+RunTimeError CurrentError() {
+  try {
+    throw;
+  } catch (const RunTimeError& error) {
+    return error;
+  } catch (const std::exception& error) {
+    return {ErrorNumber::kForeign, error.what(), "vmod17"};
+  } catch (...) {
+    return {ErrorNumber::kForeign, "an error of an unknown kind", "vmod17"};
+  }
+}
+
+}  // namespace vmod17

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/message_box.h"
+#include "shell/mod_server.h"
+#include "shell/text_lookup.h"
+
+namespace vmod17 {
+
+/// The one way in which a routine of weight deals with an error: log it, tell the user, leave by
+/// the normal way out of its screen.
+class ErrorReport {
+ public:
+  ErrorReport(ModServer& server, const TextLookup& texts, MessageBox& messages);
+
+  /// Runs `body`; an error in it is logged under `tag` and the form's name, shown in the four fixed
+  /// lines, and followed by `recovery`. Errors: those of `recovery` and of the log.
+  void Guard(const std::string& tag, const Form& form, const std::function<void()>& body,
+             const std::function<void()>& recovery);
+
+  enum class Zeigen { kNein, kJa };
+  /// Logs an error; its place is `routine` + "." + the program's name. With `kJa` it also tells the
+  /// user that there is more in the log.
+  void LogFehler(const RunTimeError& error, const std::string& routine, Zeigen zeigen);
+
+ private:
+  ModServer& server_;
+  const TextLookup& texts_;
+  MessageBox& messages_;
+};
+
+/// The exception being handled, as a RunTimeError. Call it only inside a catch block.
+RunTimeError CurrentError();
+
+}  // namespace vmod17

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+namespace vmod17 {
+
+/// The way from screen to screen. A screen is opened in two moves: the opener hides itself and asks
+/// for the next one, which is loaded hidden and shows itself when it has built itself.
+class Navigation {
+ public:
+  virtual ~Navigation() = default;
+
+  /// Asks the settings screen to hide, which loads it if it is not loaded.
+  virtual void OpenSettings() = 0;
+  /// The same for the worksheet.
+  virtual void OpenWorksheet() = 0;
+  /// Show a screen that waits hidden.
+  virtual void ShowFirstScreen() = 0;
+  virtual void ShowSettings() = 0;
+};
+
+}  // namespace vmod17

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/event_loop.h"
+#include "platform/message_box.h"
+#include "platform/system.h"
+#include "shell/app_state.h"
+#include "shell/error_report.h"
+#include "shell/loaded_screens.h"
+#include "shell/mod_server.h"
+#include "shell/navigation.h"
+#include "shell/text_lookup.h"
+
+namespace vmod17 {
+
+/// What every screen stands on.
+struct Shell {
+  EventLoop& loop;
+  System& system;
+  MessageBox& messages;
+  AppState& state;
+  TextLookup& texts;
+  ModServer& server;
+  ErrorReport& errors;
+  LoadedScreens& screens;
+  Navigation& navigation;
+};
+
+}  // namespace vmod17

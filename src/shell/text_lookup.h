@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/language.h"
+#include "platform/system.h"
+
+namespace vmod17 {
+
+/// Makes the list of the installed languages. Errors: any exception when it cannot be made.
+using LanguageListFactory = std::function<std::unique_ptr<LanguageList>()>;
+
+/// All texts of the program, by text id, in the language of the process.
+class TextLookup {
+ public:
+  TextLookup(LanguageListFactory make_list, const System& system);
+
+  /// Reads the installed languages. Without a list all texts are "VOID".
+  void SprachenLaden();
+  bool SprachenDa() const { return languageListOk; }
+  /// Takes the language of exactly this name; an unknown name leaves all texts "VOID".
+  /// Errors: RunTimeError kCannotCreate when a listed language cannot be made.
+  void SpracheWaehlen(const std::string& name);
+  void SpracheErzeugen(int column);
+
+  /// The word for a text id in the language in use, asked anew each time; "VOID" without one.
+  std::string Sprachtext(int id) const;
+
+  /// Fills the tables below. Must run after `SpracheWaehlen`.
+  void TexteLaden();
+
+  std::string Rechnername() const { return system_.ComputerName(); }
+
+  // Tables of names, filled by `TexteLaden`. Entries that are not named stay empty.
+  std::string modul_titel;
+  std::array<std::string, 3> titel_ar;         ///< captions of first, settings, results screen
+  std::array<std::string, 4> ueb_typ_name_ar;  ///< by `uebTyp`, from 1
+  std::array<std::string, 11> grp_name_ar;     ///< by group; 0 the triads, 10 a short form of 5
+  std::array<std::string, 8> klang_name_ar;    ///< by Klangtyp, 3 to 7
+  std::array<std::string, 5> modus_name_ar;    ///< by `uebmodus`
+  std::array<std::string, 4> arp_richtung_name_ar;
+  std::array<std::string, 5> arp_tempo_name_ar;
+  std::array<std::string, 2> art_name_ar;
+  std::array<std::string, 5> frei_name_ar;
+  static const std::array<std::string, 10> tempo_name_ar;  ///< the same in all languages
+
+ private:
+  LanguageListFactory make_list_;
+  const System& system_;
+  std::unique_ptr<LanguageList> languageList;
+  bool languageListOk = false;
+  std::vector<LanguageColumn> languageTable;
+  std::unique_ptr<Language> languageTexts;
+};
+
+}  // namespace vmod17

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "sound/mod_midi.h"
+
+namespace vmod17 {
+namespace {
+
+// Status bytes of MIDI 1.0, for channel 0.
+constexpr int kNoteAus = 128;
+constexpr int kNoteAn = 144;
+constexpr int kProgramm = 192;
+constexpr int kTonhoehe = 224;
+
+constexpr int kMarkeNoteAus = 1000000;
+constexpr int kStandardStaerke = 100;
+
+}  // namespace
+
+std::map<int, MidiDevice> ModMIDI::MidiGeraeteListe(MidiOutput& control) {
+  std::map<int, MidiDevice> liste;
+  const int zahl = static_cast<int>(control.Get(MidiMember::GeraeteZahl));
+  for (int nr = -1; nr < zahl; ++nr) {
+    control.Set(MidiMember::GeraetNr, nr);
+    liste[nr] = {control.Get(MidiMember::GeraetKennung), control.GeraetName()};
+  }
+  const int vom_host = server_.HostMidiGeraet();
+  midiDeviceNumber = vom_host == ModServer::kKeinGeraet ? zahl - 1 : vom_host;
+  return liste;
+}
+
+void ModMIDI::MidiOeffnen(MidiOutput& control) {
+  midiPort = &control;
+  midiChannel = 0;
+  midiVelocity = kStandardStaerke;
+  if (control.Get(MidiMember::OffenStand) >= 1 || control.Get(MidiMember::GeraetNr) == -1) {
+    Befehl(MidiBefehl::kSchliessen);
+  }
+  control.Set(MidiMember::GeraetNr, midiDeviceNumber);
+  Befehl(MidiBefehl::kOeffnen);
+  midiVolumeLeft = kVollausschlag;
+  midiVolumeRight = kVollausschlag;
+}
+
+void ModMIDI::MidiReset() {
+  if (midiPort == nullptr) return;  // nothing sounds before an output is opened
+  Befehl(MidiBefehl::kStopp);
+  Befehl(MidiBefehl::kSchliessen);
+  Befehl(MidiBefehl::kOeffnen);
+}
+
+void ModMIDI::MidiNote(int note, double start, double dauer, int kanal, int marke,
+                       std::optional<int> staerke) {
+  midiPort->Set(MidiMember::Status, kNoteAn + kanal);
+  midiPort->Set(MidiMember::Daten2, staerke.value_or(midiVelocity));
+  midiPort->Set(MidiMember::Daten1, note);
+  midiPort->Set(MidiMember::Zeit, start);
+  midiPort->Set(MidiMember::Marke, marke);
+  Befehl(MidiBefehl::kEinreihen);
+  midiPort->Set(MidiMember::Status, kNoteAus + kanal);
+  midiPort->Set(MidiMember::Daten1, note);
+  midiPort->Set(MidiMember::Zeit, start + dauer);
+  midiPort->Set(MidiMember::Marke, marke + kMarkeNoteAus);
+  Befehl(MidiBefehl::kEinreihen);
+}
+
+void ModMIDI::MidiTonhoehe(int wert, int kanal) { Sende(kTonhoehe + kanal, 0, wert); }
+
+void ModMIDI::SetzeKlangfarbe(int patch, int kanal) { Sende(kProgramm + kanal, patch, 0); }
+
+void ModMIDI::MidiStart() {
+  Befehl(MidiBefehl::kStart);
+  if (midiVolumeLeft <= 0) return;
+  for (int lautstaerke = 0; lautstaerke <= midiVolumeLeft; lautstaerke += kRampenschritt) {
+    SetzeLautstaerken(lautstaerke, lautstaerke);
+    loop_.Yield();
+  }
+  SetzeLautstaerken(midiVolumeLeft, midiVolumeRight);
+}
+
+void ModMIDI::MidiAusblenden() {
+  Befehl(MidiBefehl::kStopp);
+  const int links = static_cast<int>(midiPort->Get(MidiMember::VolumeLinks));
+  if (links <= 0) return;
+  midiVolumeLeft = links;
+  midiVolumeRight = static_cast<int>(midiPort->Get(MidiMember::VolumeRechts));
+  for (int lautstaerke = links; lautstaerke >= 0; lautstaerke -= kRampenschritt) {
+    SetzeLautstaerken(lautstaerke, lautstaerke);
+    loop_.Yield();
+  }
+  SetzeLautstaerken(0, 0);
+}
+
+void ModMIDI::Befehl(MidiBefehl befehl) {
+  if (midiPort == nullptr) {
+    throw RunTimeError(ErrorNumber::kInvalidCall, "no output was opened", "vmod17.modMIDI");
+  }
+  midiPort->Set(MidiMember::Befehl, static_cast<int>(befehl));
+}
+
+void ModMIDI::SetzeLautstaerken(int links, int rechts) {
+  midiPort->Set(MidiMember::VolumeLinks, links);
+  midiPort->Set(MidiMember::VolumeRechts, rechts);
+}
+
+void ModMIDI::Sende(int status, int daten1, int daten2) {
+  midiPort->Set(MidiMember::Status, status);
+  midiPort->Set(MidiMember::Daten1, daten1);
+  midiPort->Set(MidiMember::Daten2, daten2);
+  midiPort->Set(MidiMember::Zeit, 0);
+  Befehl(MidiBefehl::kSenden);
+}
+
+}  // namespace vmod17

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "platform/event_loop.h"
+#include "platform/midi_output.h"
+#include "shell/mod_server.h"
+
+namespace vmod17 {
+
+/// A device of the list: what it is known by.
+struct MidiDevice {
+  double kennung = 0;
+  std::string name;
+};
+
+/// `modMIDI`, the thin layer over the output object. It keeps no notes: a playing is a queue of
+/// timed messages that the output runs by itself.
+class ModMIDI {
+ public:
+  static constexpr int kHoechsteStaerke = 127;
+  static constexpr int kVollausschlag = 65535;
+  static constexpr int kRampenschritt = 500;
+  static constexpr int kKanaele = 8;         ///< channels in use, 0 to 7
+  static constexpr int kTonhoeheMitte = 64;  ///< upper seven bits of a centred pitch bend
+
+  ModMIDI(EventLoop& loop, const ModServer& server) : loop_(loop), server_(server) {}
+
+  /// The devices by number, from -1, and the choice of the one to open: the host's, or the last.
+  std::map<int, MidiDevice> MidiGeraeteListe(MidiOutput& control);
+  /// Takes the control for all further sound and opens the chosen device.
+  void MidiOeffnen(MidiOutput& control);
+  /// Stop, close, open: all sound dies at once.
+  void MidiReset();
+  /// Queues a note as its two messages. `start` and `dauer` in ms, the velocity `midiVelocity`
+  /// unless given.
+  void MidiNote(int note, double start, double dauer, int kanal, int marke,
+                std::optional<int> staerke = std::nullopt);
+  /// Bends a channel at once; `wert` 0 to 127, 64 the centre.
+  void MidiTonhoehe(int wert, int kanal);
+  /// Gives a channel its program (General MIDI, from 0) at once.
+  void SetzeKlangfarbe(int patch, int kanal);
+  /// Starts the queue, then lets the volume rise, serving events meanwhile.
+  void MidiStart();
+  /// Stops the queue and lets the volume fall, serving events meanwhile.
+  void MidiAusblenden();
+
+  int midiChannel = 0;
+  int midiVelocity = 0;
+  int midiDeviceNumber = 0;
+  int midiVolumeLeft = 0;
+  int midiVolumeRight = 0;
+
+ private:
+  void Befehl(MidiBefehl befehl);
+  void SetzeLautstaerken(int links, int rechts);
+  void Sende(int status, int daten1, int daten2);
+
+  EventLoop& loop_;
+  const ModServer& server_;
+  MidiOutput* midiPort = nullptr;
+};
+
+/// `MidiEvent`: raises QueueEmpty for whoever listens. The worksheet holds one; nothing in the
+/// program raises its event.
+class MidiEvent {
+ public:
+  std::function<void()> QueueEmpty;
+  void SendQueueEmpty() {
+    if (QueueEmpty) QueueEmpty();
+  }
+};
+
+}  // namespace vmod17

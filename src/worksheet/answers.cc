@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// From a click to the end of its task: right or wrong, what is marked, what opens next.
+
+#include <cmath>
+
+#include "shell/numbers.h"
+#include "worksheet/worksheet_screen.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr Color kOffen = Rgb(128, 255, 128);
+constexpr Color kGeloest = Rgb(0, 192, 0);
+constexpr Color kRichtigText = Rgb(0, 255, 0);
+
+/// Red on black and black on red in turn, so that each wrong click is seen.
+void TauscheFarben(Panel& panel) {
+  const bool war_rot = panel.back_color == Colors::kRed;
+  panel.back_color = war_rot ? Colors::kBlack : Colors::kRed;
+  panel.fore_color = war_rot ? Colors::kRed : Colors::kBlack;
+}
+
+}  // namespace
+
+void Arbeitsblatt1::AntwortenFreigeben() {
+  if (NachAkkorden()) {
+    for (int e = 1; e <= parts_.board.akk_zahl; ++e) {
+      if (run_.aus_ar[e] == 0) Oeffne(e);
+    }
+  } else {
+    for (const int g : parts_.settings.Gruppen()) {
+      if (run_.aus_ar[g] == 0) akk_group[g].enabled = true;
+    }
+  }
+}
+
+void Arbeitsblatt1::SperreAntworten() {
+  if (NachAkkorden()) {
+    for (int e = 1; e <= parts_.board.akk_zahl; ++e) Schliesse(e);
+  } else {
+    for (int g = 1; g <= kGruppen; ++g) akk_group[g].enabled = false;
+  }
+}
+
+void Arbeitsblatt1::akk_antw(int index) {
+  Bewache("akk_antw.", [this, index] {
+    AnswerClock& clock = run_.clock;
+    clock.antw_ende = shell_.loop.Clock();
+    const float sekunden = ClockDifference(clock.antw_start, clock.antw_ende) + clock.antw_dauer;
+    clock.antw_dauer = std::floor(sekunden * 10 + 0.5f);
+    const auto record = parts_.record.LessonLetzteAntwort(clock.antw_dauer, clock.anz_whlg);
+    const bool right = NachAkkorden() ? index == run_.task.aufg_akk_ar.at(run_.akk_nr)
+                                      : index == Gefragt(run_.akk_nr).group;
+    AntwortSetzen(index, right, *record);
+    if (run_.lauf_status == LaufStatus::kAufgabeFertig) {
+      wieder.visible = false;
+      wieder.enabled = false;
+      wieder2.visible = true;
+      NaechsteAufgabeAnbieten();
+    }
+  });
+}
+
+void Arbeitsblatt1::AntwortSetzen(int clicked, bool right, XmlElement& record) {
+  if (right) {
+    Richtig(clicked, record);
+  } else {
+    Falsch(clicked, record);
+  }
+}
+
+void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
+  const int slot = run_.akk_nr;
+  ergebnis[slot].back_color = Colors::kBlack;
+  ergebnis[slot].fore_color = kRichtigText;
+  if (NachAkkorden()) {
+    ZeigeLoesung(slot, kGeloest);
+  } else {
+    ergebnis[slot].caption = akk_group[clicked].caption;
+  }
+  nrakk[slot].enabled = false;
+  Erhoehe(zaehler[0]);
+  parts_.record.LessonEigenschaft(record, "Antwort", "true");
+  ++run_.akk_nr;
+  NaechsterAkkord();
+}
+
+void Arbeitsblatt1::Falsch(int clicked, XmlElement& record) {
+  const int slot = run_.akk_nr;
+  TauscheFarben(ergebnis[slot]);
+  Erhoehe(zaehler[1]);
+  float& punkte = run_.answers.fehl_ar.at(slot);
+  punkte += SlotLimits::kFehlSchritt;
+  if (NachAkkorden()) {
+    const int klick = static_cast<int>(punkte) / SlotLimits::kFehlSchritt;
+    run_.answers.falsch_ar.at(slot).at(klick) = clicked;
+  }
+  parts_.record.LessonEigenschaft(record, "Antwort", "false");
+  if (punkte == static_cast<float>(parts_.board.limits.fehl_max)) {
+    Verloren(slot);
+    return;
+  }
+  run_.clock.anz_whlg = 0;
+  run_.lauf_status = LaufStatus::kWeitererVersuch;
+  ergebnis[slot].caption = shell_.texts.Sprachtext(232);
+  Streiche(clicked);
+  run_.clock.antw_dauer = 0;
+  run_.clock.antw_start = shell_.loop.Clock();
+  ++run_.clock.antw_lfd;
+  NeueAntwort(run_.clock.antw_lfd, "Akkord");
+}
+
+void Arbeitsblatt1::Verloren(int slot) {
+  if (NachAkkorden()) {
+    ZeigeLoesung(slot, Colors::kRed);
+  } else {
+    ergebnis[slot].caption = akk_group[Gefragt(slot).group].caption;
+  }
+  nrakk[slot].enabled = false;
+  ++run_.akk_nr;
+  NaechsterAkkord();
+}
+
+void Arbeitsblatt1::ZeigeLoesung(int slot, Color rahmen) {
+  erg[slot].visible = true;
+  ergebnis[slot].back_color = rahmen;
+  akk_lfdnr[slot].visible = true;
+}
+
+void Arbeitsblatt1::Streiche(int clicked) {
+  if (NachAkkorden()) {
+    Schliesse(clicked);
+  } else {
+    akk_group[clicked].enabled = false;
+  }
+  run_.aus_ar.at(clicked) = 1;
+}
+
+void Arbeitsblatt1::NaechsterAkkord() {
+  run_.aus_ar.fill(0);
+  if (run_.akk_nr == parts_.settings.akk_anzahl + 1) {
+    run_.lauf_status = LaufStatus::kAufgabeFertig;
+    SperreAntworten();
+    return;
+  }
+  run_.clock.antw_start = shell_.loop.Clock();
+  run_.clock.antw_dauer = 0;
+  run_.lauf_status = LaufStatus::kNaechsterSlot;
+  nrakk[run_.akk_nr].enabled = true;
+  OeffneAlle();
+  run_.clock.anz_whlg = 0;
+  run_.clock.antw_lfd = 1;
+  NeueAntwort(run_.clock.antw_lfd, "interval");
+}
+
+void Arbeitsblatt1::OeffneAlle() {
+  if (NachAkkorden()) {
+    for (int e = 1; e <= parts_.board.akk_zahl; ++e) Oeffne(e);
+  } else {
+    for (int g = 1; g <= kGruppen; ++g) akk_group[g].enabled = true;
+  }
+}
+
+void Arbeitsblatt1::Oeffne(int kachel) {
+  jz_kl[kachel].back_color = Colors::kWhite;
+  jz_kl[kachel].enabled = true;
+  klang_pan[kachel].back_color = kOffen;
+}
+
+void Arbeitsblatt1::Schliesse(int kachel) {
+  jz_kl[kachel].back_color = Colors::kGrey;
+  jz_kl[kachel].enabled = false;
+  klang_pan[kachel].back_color = Colors::kRed;
+}
+
+void Arbeitsblatt1::NeueAntwort(int lfd, const char* slot_attribute) {
+  parts_.record.LessonAntwort(lfd)->Attributes()->Add(DecimalText(run_.akk_nr), slot_attribute);
+}
+
+}  // namespace vmod17

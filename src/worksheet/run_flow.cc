@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// From task to task: drawing, playing, repeating, and leaving.
+
+#include "shell/delay.h"
+#include "shell/numbers.h"
+#include "worksheet/worksheet_screen.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr float kRuheVorWiederholung = 50;  // ms
+
+}  // namespace
+
+void Arbeitsblatt1::Bewache(const std::string& tag, const std::function<void()>& body) {
+  shell_.errors.Guard(tag, *this, body, [this] {
+    zurueck.tag = "ERROR";
+    zurueck_Click();
+  });
+}
+
+void Arbeitsblatt1::Erhoehe(Label& zaehler) {
+  zaehler.caption = DecimalText(LeadingNumber(zaehler.caption) + 1);
+}
+
+void Arbeitsblatt1::BieteErsteAufgabeAn() {
+  const bool automatisch = parts_.settings.abfolge == 1;
+  CmdNextAufg.visible = !automatisch;
+  CmdNextAufg.enabled = !automatisch;
+  LbNextAufg.visible = automatisch;
+  if (automatisch) {
+    WahlAutomat.Enable();
+  } else {
+    WahlAutomat.Disable();
+  }
+}
+
+void Arbeitsblatt1::NaechsteAufgabeAnbieten() {
+  run_.schalter_zaehler = 1;
+  CmdNextAufg.caption = LbNextAufg.caption = shell_.texts.Sprachtext(420);
+  CmdNextAufg.visible = parts_.settings.abfolge == 0;
+  BieteWeiterAn();
+}
+
+void Arbeitsblatt1::BieteWeiterAn() {
+  if (parts_.settings.abfolge == 1) {
+    LbNextAufg.visible = true;
+    WahlAutomat.Enable();
+  } else {
+    CmdNextAufg.enabled = true;
+  }
+}
+
+void Arbeitsblatt1::NimmAngebotZurueck() {
+  if (parts_.settings.abfolge == 1) {
+    WahlAutomat.Disable();
+    LbNextAufg.visible = false;
+  } else {
+    CmdNextAufg.enabled = false;
+  }
+}
+
+void Arbeitsblatt1::CmdNextAufg_Click() {
+  CmdNextAufg.enabled = false;
+  mat_wahl();
+}
+
+void Arbeitsblatt1::WahlAutomat_Timer() {
+  if (!WahlAutomat.enabled) return;
+  WahlAutomat.Disable();
+  LbNextAufg.visible = false;
+  mat_wahl();
+}
+
+void Arbeitsblatt1::mat_wahl() {
+  Bewache("mat_wahl.", [this] {
+    selection_.Ziehe(run_);
+    BereiteAufgabeVor();
+    parts_.record.LessonAufgabe(parts_.settings.akk_anzahl, run_.task.aufg_akk_ar, parts_.board);
+    run_.clock.antw_lfd = 1;
+    if (parts_.settings.frequenz_art == 1) {
+      ChordPlayback::TonhoeheWuerfeln(run_.task, parts_.random);
+    }
+    Spiele(SpielArt::kAufgabe);
+  });
+}
+
+void Arbeitsblatt1::BereiteAufgabeVor() {
+  run_.answers = TaskAnswers();
+  for (int slot = 1; slot <= parts_.settings.akk_anzahl; ++slot) LegeLoesungBereit(slot);
+  run_.akk_nr = 1;
+  nrakk[1].enabled = true;
+  CmdNextAufg.enabled = false;
+  wieder2.visible = false;
+  wieder.visible = true;
+  wieder.enabled = false;
+  run_.clock.anz_whlg = 0;
+  run_.clock.antw_dauer = 0;
+}
+
+void Arbeitsblatt1::LegeLoesungBereit(int slot) {
+  const int e = run_.task.aufg_akk_ar[slot];
+  erg[slot].visible = false;
+  akk_lfdnr[slot].visible = false;
+  ergebnis[slot].caption.clear();
+  ergebnis[slot].back_color = Colors::kBlack;
+  if (!NachAkkorden()) return;
+  akk_lfdnr[slot].caption = shell_.texts.Sprachtext(374) + " " + DecimalText(e);
+  erg[slot].image = parts_.settings.akk_anzeige == 0 ? Akkbez[e].image : jz_kl[e].image;
+  erg[slot].caption = jz_kl[e].caption;
+}
+
+void Arbeitsblatt1::Spiele(SpielArt art) {
+  run_.spiel_art = art;
+  playback_.SpieleAufgabe(run_.task, run_.abbruch);
+  spieltimer.Enable();
+}
+
+void Arbeitsblatt1::spieltimer_Timer() {
+  Bewache("spieltimer_timer.", [this] {
+    spieltimer.Disable();
+    if (run_.abbruch) return;
+    if (run_.spiel_art != SpielArt::kKontrolle) {
+      AntwortenFreigeben();
+      wieder.enabled = true;
+      run_.clock.antw_start = shell_.loop.Clock();
+      return;
+    }
+    wieder2.enabled = true;
+    if (run_.lauf_status != LaufStatus::kTrainingZuEnde &&
+        run_.lauf_status != LaufStatus::kTestZuEnde) {
+      BieteWeiterAn();
+    }
+  });
+}
+
+void Arbeitsblatt1::wieder_Click() {
+  wieder.enabled = false;
+  // The tiles close before the pause and not after it: an answer that came in the pause would end
+  // the task that is about to be repeated.
+  SperreAntworten();
+  run_.spiel_art = SpielArt::kWiederholung;
+  parts_.midi.MidiReset();
+  Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
+  if (run_.abbruch) return;
+  Erhoehe(whlgzaehler);
+  ++run_.answers.whlg_ar.at(run_.akk_nr);
+  ++run_.clock.anz_whlg;
+  run_.clock.antw_ende = shell_.loop.Clock();
+  run_.clock.antw_dauer += ClockDifference(run_.clock.antw_start, run_.clock.antw_ende);
+  Spiele(SpielArt::kWiederholung);
+}
+
+void Arbeitsblatt1::wieder2_Click() {
+  wieder2.enabled = false;
+  // Withdrawn before the pause for the same reason: the next task must not begin in it.
+  NimmAngebotZurueck();
+  run_.spiel_art = SpielArt::kKontrolle;
+  parts_.midi.MidiReset();
+  Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
+  if (run_.abbruch) return;
+  Spiele(SpielArt::kKontrolle);
+}
+
+void Arbeitsblatt1::Uhrzeit_Timer() {
+  if (!Uhrzeit.enabled) return;
+  ZeigeUhrzeit();
+}
+
+void Arbeitsblatt1::testtimer_Timer() {
+  testtimer.Disable();
+  zurueck_Click();
+}
+
+void Arbeitsblatt1::zurueck_Click() {
+  zurueck.enabled = false;
+  run_.abbruch = true;
+  Uhrzeit.Disable();
+  spieltimer.Disable();
+  WahlAutomat.Disable();
+  parts_.midi.MidiReset();
+  parts_.record.LessonEnde(*this, WaitMeldung, parts_.settings.einst_liste);
+  shell_.navigation.ShowSettings();
+  shell_.screens.Unload(*this);
+}
+
+}  // namespace vmod17

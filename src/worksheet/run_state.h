@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "sound/chord_playback.h"
+
+namespace vmod17 {
+
+/// Where a run stands.
+enum class LaufStatus {
+  kNochKeine = 0,        ///< no slot answered yet
+  kAufgabeFertig = 1,    ///< the next task may be called
+  kNaechsterSlot = 2,    ///< the next slot of the task is open
+  kWeitererVersuch = 3,  ///< a wrong click was made, the slot stays open
+  kTrainingZuEnde = 4,   ///< solved, or too hard
+  kTestZuEnde = 5,       ///< no tasks left
+};
+
+/// What a playing is.
+enum class SpielArt { kAufgabe = 0, kWiederholung = 1, kKontrolle = 2 };
+
+/// The answers of the present task, by slot from 1.
+struct TaskAnswers {
+  std::array<float, kSlots + 1> fehl_ar{};  ///< points of a slot: 2 for each wrong click
+  std::array<std::array<int, 5>, kSlots + 1> falsch_ar{};  ///< wrong tiles, by number of the click
+  std::array<int, kSlots + 1> whlg_ar{};    ///< repeats asked for while the slot was open
+  std::array<float, kSlots + 1> zeit_ar{};  ///< time surcharge of a right first click
+};
+
+/// The clock of the open slot.
+struct AnswerClock {
+  float antw_start = 0;  ///< seconds since midnight at which it last started
+  float antw_ende = 0;   ///< seconds since midnight of the last click or repeat
+  float antw_dauer = 0;  ///< seconds gathered so far; from a click on, tenths of a second
+  int anz_whlg = 0;      ///< repeats since the last answer
+  int antw_frei = 0;     ///< time that costs nothing, in tenths of a second
+  int antw_lfd = 0;      ///< number of the present answer within the slot, from 1
+};
+
+/// The bag from which a training or test draws its chords, and the weights of a training. Free
+/// practice has none.
+struct Material {
+  int mat_posten = 0;                       ///< entries in the material
+  std::vector<std::array<int, 2>> mat_tab;  ///< board entry and weight, row 0 unused
+  int mat_soll = 0;                         ///< weight of every entry at the start
+  std::vector<int> mat_ar;                  ///< the bag, from 1; 0 a used copy
+  int mat_anzahl = 0;                       ///< last index of `mat_ar`
+  int mat_index = 0;                        ///< place drawn last
+  int mat_rest = 0;                         ///< sum of the positive weights
+};
+
+/// What is left of a test.
+struct TestRest {
+  int test_aufgaben = 0;  ///< tasks of the test, even
+  int rest_aufgaben = 0;
+  int rest_sek = 0;  ///< seconds, a multiple of 10
+};
+
+/// The state of a run. It starts anew with each worksheet.
+struct RunState {
+  PlaybackTask task;
+  TaskAnswers answers;
+  AnswerClock clock;
+  Material material;
+  TestRest test;
+  std::array<int, kBrettGroesse + 1>
+      aus_ar{};  ///< 1 for each tile or group struck in the open slot
+
+  int grundton = 0;               ///< root of the chord last built, a MIDI note
+  int ton_bereich = 0;            ///< width of the range of roots, in semitones
+  std::array<int, 4> oktav_ar{};  ///< octaves of the Tonraum by `oktav_ber`
+  int letzt_klangtyp = -1;        ///< of the first chord of the previous task
+  int letzt_row = -1;             ///< the same
+  int letzt_ton = 0;              ///< its lowest note
+
+  int akk_nr = 0;  ///< the open slot; one more than `akk_anzahl` when the task is finished
+  LaufStatus lauf_status = LaufStatus::kNochKeine;
+  SpielArt spiel_art = SpielArt::kAufgabe;
+  bool abbruch = false;      ///< the worksheet is being left
+  int schalter_zaehler = 0;  ///< 1 from the first finished task on
+};
+
+}  // namespace vmod17

@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "worksheet/worksheet_screen.h"
+
+#include "shell/numbers.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr int kStartIntervall = 200;
+constexpr int kSpielIntervall = 3000;  // until a run sets its own
+constexpr int kWahlIntervall = 1800;
+constexpr int kUhrIntervall = 10000;
+constexpr int kTestIntervall = 2000;
+
+constexpr int kKachelnJeZeile = 6;
+constexpr int kSymbolHoehe = 40;
+constexpr int kFeldHoehe = 545;
+
+/// Heights in the grid of tiles, which follow the pictures.
+struct Raster {
+  int zeilenschritt;
+  int kachelhoehe;
+};
+
+Raster RasterFuer(int letzter_klangtyp, int akk_anzeige) {
+  const bool voicing = letzter_klangtyp == kVoicing;
+  const int hoehe_mit_noten = voicing ? 129 : 84;
+  return {voicing ? 176 : 136, akk_anzeige == 0 ? hoehe_mit_noten : 50};
+}
+
+}  // namespace
+
+Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
+    : Form("arbeitsblatt1"),
+      start(*this, shell.loop, "start", kStartIntervall),
+      spieltimer(*this, shell.loop, "spieltimer", kSpielIntervall),
+      WahlAutomat(*this, shell.loop, "WahlAutomat", kWahlIntervall),
+      Uhrzeit(*this, shell.loop, "Uhrzeit", kUhrIntervall),
+      testtimer(*this, shell.loop, "testtimer", kTestIntervall),
+      tonart_Timer(*this, shell.loop, "tonart_Timer", 0),
+      shell_(shell),
+      parts_(parts),
+      selection_(parts.settings, parts.board, parts.random),
+      playback_(shell.loop, parts.midi, shell.state, parts.settings, parts.board) {
+  StelleInRahmen();
+  Verdrahte();
+  cmdHilfe.caption = "?";
+  wieder.visible = false;
+  wieder2.visible = false;
+  CmdNextAufg.visible = false;
+  LbNextAufg.visible = false;
+  PicUetyp[0].image.kind = PictureId::Kind::kTraining;
+  PicUetyp[1].image.kind = PictureId::Kind::kTest;
+  for (Control* control : std::initializer_list<Control*>{
+           &PicUetyp[0], &PicUetyp[1], &matboxanz, &ergebnis_anz[0], &ergebnis_anz[1],
+           &ergebnis_anz[2], &stop_uhr, &lab_aufgaben, &cmd_test_aus, &cmd_test_ein}) {
+    control->visible = false;
+  }
+  for (int g = akk_group.first(); g <= akk_group.last(); ++g) akk_group[g].enabled = false;
+}
+
+void Arbeitsblatt1::StelleInRahmen() {
+  for (Control* control :
+       std::initializer_list<Control*>{&PicUetyp[0], &PicUetyp[1], &cmdHilfe, &Uhr, &matboxanz,
+                                       &ergebnis_anz[0], &ergebnis_anz[1], &ergebnis_anz[2],
+                                       &stop_uhr, &lab_aufgaben, &cmd_test_aus, &cmd_test_ein}) {
+    control->container = &PicUebTyp;
+  }
+  for (int e = 1; e <= kBrettGroesse; ++e) {
+    klang_pan[e].container = &jzakk_box[0];
+    Akkbez[e].container = &jzakk_box[0];
+    jz_kl[e].container = &klang_pan[e];
+  }
+  LbAkkGrp.container = &jzakk_box[1];
+  for (int g = 1; g <= kGruppen; ++g) akk_group[g].container = &jzakk_box[1];
+  nrakk[0].container = &aktionsbox;
+  for (int i = 1; i <= kSlots; ++i) {
+    nrakk[i].container = &aktionsbox;
+    ergebnis[i].container = &aktionsbox;
+    akk_lfdnr[i].container = &aktionsbox;
+    erg[i].container = &ergebnis[i];
+    erg[i].visible = false;
+  }
+  for (Control* control : std::initializer_list<Control*>{
+           &true_false[0], &true_false[1], &zaehler[0], &zaehler[1], &CmdNextAufg, &LbNextAufg,
+           &wieder, &wieder2, &whlgzaehler, &zurueck}) {
+    control->container = &aktionsbox;
+  }
+  WaitMeld.container = &WaitMeldung;
+}
+
+void Arbeitsblatt1::Verdrahte() {
+  start.Fire = [this] { start_Timer(); };
+  spieltimer.Fire = [this] { spieltimer_Timer(); };
+  WahlAutomat.Fire = [this] { WahlAutomat_Timer(); };
+  Uhrzeit.Fire = [this] { Uhrzeit_Timer(); };
+  testtimer.Fire = [this] { testtimer_Timer(); };
+  for (int e = 1; e <= kBrettGroesse; ++e) jz_kl[e].Click = [this, e] { akk_antw(e); };
+  for (int g = 1; g <= kGruppen; ++g) akk_group[g].Click = [this, g] { akk_antw(g); };
+  CmdNextAufg.Click = [this] { CmdNextAufg_Click(); };
+  wieder.Click = [this] { wieder_Click(); };
+  wieder2.Click = [this] { wieder2_Click(); };
+  zurueck.Click = [this] { zurueck_Click(); };
+  cmdHilfe.Click = [this] { cmdHilfe_Click(); };
+  cmd_test_aus.Click = [this] { cmd_test_aus_Click(); };
+  cmd_test_ein.Click = [this] { cmd_test_ein_Click(); };
+}
+
+void Arbeitsblatt1::Form_Load() {
+  visible = false;
+  if (!run_.abbruch) start.Enable();
+}
+
+void Arbeitsblatt1::Form_Unload() {
+  run_.abbruch = true;
+  parts_.midi.MidiReset();
+  const int letzter = parts_.settings.klangfarb_art == 0 ? 0 : ModMIDI::kKanaele - 1;
+  for (int kanal = 0; kanal <= letzter; ++kanal) {
+    parts_.settings.klang_kanal = kanal;
+    parts_.einstellung1.SetzeKlangfarbe(parts_.settings.patch_ar[kanal], kanal);
+  }
+}
+
+void Arbeitsblatt1::Form_Close() {
+  if (zurueck.enabled) zurueck_Click();
+}
+
+void Arbeitsblatt1::start_Timer() {
+  start.Disable();
+  zurueck.tag = "OK";
+  pointer = Pointer::kHourglass;
+  Bewache("start_timer.", [this] { BaueAuf(); });
+  pointer = Pointer::kDefault;
+}
+
+void Arbeitsblatt1::BaueAuf() {
+  const ExerciseSettings& settings = parts_.settings;
+  midi_ereignis = std::make_unique<MidiEvent>();
+  midi_ereignis->QueueEmpty = [this] { midi_QueueEmpty(); };
+  run_ = RunState();
+  caption = shell_.texts.ueb_typ_name_ar.at(shell_.state.uebTyp);
+  TexteSetzen();
+  visible = true;
+  selection_.Saeen(shell_.loop.Clock());
+  parts_.counters.auswertung_obj.Clear();
+  parts_.counters.ergebnis_obj.Clear();
+  parts_.table.SetzeKlangZahlen();
+  parts_.board.SetzeAkkTab(
+      {settings.Klangtypen(), settings.Gruppen(), settings.akk_form, settings.best_art},
+      parts_.random);
+  BaueAntwortfeld();
+  BereiteSlotsVor();
+  PicUebTyp.width = *jzakk_box[NachAkkorden() ? 0 : 1].width + *aktionsbox.width;
+  run_.clock.antw_frei = 20;
+  selection_.BereiteVor(run_);
+  run_.material.mat_posten = parts_.board.akk_zahl;
+  wieder.enabled = false;
+  zurueck.enabled = true;
+  spieltimer.interval = shell_.state.tempo_dauer_ar.at(settings.tempo_idx) * settings.akk_anzahl;
+  WahlAutomat.interval = kWahlIntervall;
+  whlgzaehler.caption = zaehler[0].caption = zaehler[1].caption = "0";
+  Uhrzeit.Enable();
+  ZeigeUhrzeit();
+  parts_.pictures.For(settings.akk_form).Unload();
+  WaitMeldung.visible = false;
+  BieteErsteAufgabeAn();
+}
+
+void Arbeitsblatt1::TexteSetzen() {
+  const TextLookup& texts = shell_.texts;
+  const auto text = [&](int id) { return texts.Sprachtext(id); };
+  LbAkkGrp.caption = text(56);
+  nrakk[0].caption = text(95) + text(700);
+  for (int i = 1; i <= kSlots; ++i) {
+    nrakk[i].caption = text(426) + " " + DecimalText(i);
+    akk_lfdnr[i].caption = text(374);
+  }
+  true_false[0].caption = text(468);
+  true_false[1].caption = text(232);
+  wieder.caption = text(629);
+  wieder2.caption = text(632);
+  CmdNextAufg.caption = LbNextAufg.caption = text(129) + " 1";
+  zurueck.caption = text(640);
+  ergebnis_anz[0].caption = text(566);
+  ergebnis_anz[1].caption = text(130);
+  ergebnis_anz[2].caption = text(638);
+  cmd_test_aus.caption = text(552);
+  cmd_test_ein.caption = text(551);
+  WaitMeld.caption = text(726);
+}
+
+void Arbeitsblatt1::BaueAntwortfeld() {
+  const bool akkorde = NachAkkorden();
+  aktionsbox.width = akkorde ? 193 : 313;
+  aktionsbox.height = kFeldHoehe;
+  jzakk_box[0].width = 790;
+  jzakk_box[1].width = 670;
+  jzakk_box[akkorde ? 0 : 1].height = kFeldHoehe;
+  jzakk_box[0].visible = akkorde;
+  jzakk_box[1].visible = !akkorde;
+  for (int i = 1; i <= kSlots; ++i) {
+    ergebnis[i].width = akkorde ? 95 : 169;
+    ergebnis[i].height = akkorde ? 46 : 41;
+  }
+  if (akkorde) {
+    BaueKacheln();
+  } else {
+    BaueGruppen();
+  }
+}
+
+void Arbeitsblatt1::BaueKacheln() {
+  const ExerciseSettings& settings = parts_.settings;
+  PictureStore& store = parts_.pictures.For(settings.akk_form);
+  const Raster raster = RasterFuer(settings.LetzterKlangtyp(), settings.akk_anzeige);
+  for (int e = 1; e <= kBrettGroesse; ++e) {
+    const bool belegt = e <= parts_.board.akk_zahl;
+    klang_pan[e].visible = belegt;
+    Akkbez[e].visible = belegt && settings.akk_anzeige == 0;
+    if (!belegt) continue;
+    const int zeile = (e - 1) / kKachelnJeZeile;
+    klang_pan[e].top = zeile * raster.zeilenschritt + kSymbolHoehe;
+    klang_pan[e].height = raster.kachelhoehe;
+    Akkbez[e].top = zeile * raster.zeilenschritt;
+    Schliesse(e);
+
+    const int n = parts_.board.KlangNummer(e);
+    jz_kl[e].image = settings.akk_anzeige == 0 ? store.jakk(n) : store.jbez(n);
+    if (settings.akk_anzeige == 0) Akkbez[e].image = store.jbez(n);
+    jz_kl[e].caption = Akkbez[e].caption = ChordOfKlang(n).symbol;
+    jz_kl[e].description = shell_.texts.Sprachtext(374) + " " + DecimalText(e);
+  }
+}
+
+void Arbeitsblatt1::BaueGruppen() {
+  for (int g = 1; g <= kGruppen; ++g) {
+    akk_group[g].enabled = false;
+    akk_group[g].visible = parts_.board.grp_aktiv_ar[g] == 1;
+    if (akk_group[g].visible) akk_group[g].caption = shell_.texts.grp_name_ar[g];
+  }
+  // The record tells the chord of a task by its Klang number, also where no tile shows it.
+  for (int e = 1; e <= parts_.board.akk_zahl; ++e) parts_.board.KlangNummer(e);
+}
+
+void Arbeitsblatt1::BereiteSlotsVor() {
+  for (int i = 1; i <= kSlots; ++i) {
+    const bool belegt = i <= parts_.settings.akk_anzahl;
+    nrakk[i].visible = belegt;
+    nrakk[i].enabled = false;
+    ergebnis[i].visible = belegt;
+    ergebnis[i].back_color = Colors::kBlack;
+    erg[i].visible = false;
+    akk_lfdnr[i].visible = false;
+  }
+}
+
+void Arbeitsblatt1::ZeigeUhrzeit() {
+  const DateTime now = shell_.loop.Now();
+  Uhr.caption = PaddedText(now.hour, 2) + ":" + PaddedText(now.minute, 2);
+}
+
+void Arbeitsblatt1::cmdHilfe_Click() { shell_.system.SendKeys("{F1}"); }
+
+void Arbeitsblatt1::cmd_test_aus_Click() { ZeigeTeststand(false); }
+
+void Arbeitsblatt1::cmd_test_ein_Click() { ZeigeTeststand(true); }
+
+void Arbeitsblatt1::ZeigeTeststand(bool sichtbar) {
+  stop_uhr.visible = sichtbar;
+  lab_aufgaben.visible = sichtbar;
+  cmd_test_aus.visible = sichtbar;
+  cmd_test_ein.visible = !sichtbar;
+}
+
+}  // namespace vmod17

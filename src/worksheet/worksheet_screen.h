@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "catalogue/chord_board.h"
+#include "catalogue/picture_store.h"
+#include "results/counters.h"
+#include "results/lesson_record.h"
+#include "settings/settings_record.h"
+#include "settings/settings_screen.h"
+#include "shell/shell.h"
+#include "sound/chord_playback.h"
+#include "sound/mod_midi.h"
+#include "worksheet/run_state.h"
+#include "worksheet/task_selection.h"
+
+namespace vmod17 {
+
+/// `arbeitsblatt1`, the worksheet: the screen of a run, and the run itself. Its routines stand in
+/// several files: worksheet_screen.cc builds it, run_flow.cc leads from task to task and out,
+/// answers.cc judges the clicks.
+class Arbeitsblatt1 : public Form {
+ public:
+  /// What the screen works on.
+  struct Parts {
+    ExerciseSettings& settings;
+    ChordTable& table;
+    ChordBoard& board;
+    PictureStores& pictures;
+    ModMIDI& midi;
+    Random& random;
+    RunCounters& counters;
+    LessonRecord& record;
+    Einstellung1& einstellung1;
+  };
+
+  Arbeitsblatt1(Shell& shell, const Parts& parts);
+
+  Frame PicUebTyp{*this, "PicUebTyp"};
+  ControlArray<Picture> PicUetyp{*this, "PicUetyp", 0, 1};
+  Button cmdHilfe{*this, "cmdHilfe"};
+  Label Uhr{*this, "Uhr"};
+  ControlArray<Frame> jzakk_box{*this, "jzakk_box", 0, 1};
+  Label LbAkkGrp{*this, "LbAkkGrp"};
+  ControlArray<Panel> klang_pan{*this, "klang_pan", 1, kBrettGroesse};
+  ControlArray<Picture> jz_kl{*this, "jz_kl", 1, kBrettGroesse};
+  ControlArray<Picture> Akkbez{*this, "Akkbez", 1, kBrettGroesse};
+  ControlArray<Panel> akk_group{*this, "akk_group", 1, kGruppen};
+  Frame aktionsbox{*this, "aktionsbox"};
+  ControlArray<Label> nrakk{*this, "nrakk", 0, kSlots};
+  ControlArray<Panel> ergebnis{*this, "ergebnis", 1, kSlots};
+  ControlArray<Picture> erg{*this, "erg", 1, kSlots};
+  ControlArray<Label> akk_lfdnr{*this, "akk_lfdnr", 1, kSlots};
+  ControlArray<Label> true_false{*this, "true_false", 0, 1};
+  ControlArray<Label> zaehler{*this, "zaehler", 0, 1};
+  Button CmdNextAufg{*this, "CmdNextAufg"};
+  Label LbNextAufg{*this, "LbNextAufg"};
+  Panel wieder{*this, "wieder"};
+  Panel wieder2{*this, "wieder2"};
+  Label whlgzaehler{*this, "whlgzaehler"};
+  Panel zurueck{*this, "zurueck"};
+  Gauge matboxanz{*this, "matboxanz"};
+  ControlArray<Label> ergebnis_anz{*this, "ergebnis_anz", 0, 2};
+  Label stop_uhr{*this, "stop_uhr"};
+  Label lab_aufgaben{*this, "lab_aufgaben"};
+  Button cmd_test_aus{*this, "cmd_test_aus"};
+  Button cmd_test_ein{*this, "cmd_test_ein"};
+  Frame WaitMeldung{*this, "WaitMeldung"};
+  Label WaitMeld{*this, "WaitMeld"};
+  Timer start;
+  Timer spieltimer;
+  Timer WahlAutomat;
+  Timer Uhrzeit;
+  Timer testtimer;
+  Timer tonart_Timer;
+
+  const RunState& run() const { return run_; }
+
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Form_Close() override;
+
+  void start_Timer();
+  void spieltimer_Timer();
+  void WahlAutomat_Timer();
+  void Uhrzeit_Timer();
+  void testtimer_Timer();
+  void CmdNextAufg_Click();
+  void wieder_Click();
+  void wieder2_Click();
+  void zurueck_Click();
+  void cmdHilfe_Click();
+  void cmd_test_aus_Click();
+  void cmd_test_ein_Click();
+  void midi_QueueEmpty() {}
+
+  /// Draws the next task, enters it in the record and plays it.
+  void mat_wahl();
+  /// Judges a click: on tile `index` of the board, or on group `index`.
+  void akk_antw(int index);
+
+ private:
+  // worksheet_screen.cc
+  void Verdrahte();
+  void StelleInRahmen();
+  void TexteSetzen();
+  void BaueAuf();
+  void BaueAntwortfeld();
+  void BaueKacheln();
+  void BaueGruppen();
+  void BereiteSlotsVor();
+  void ZeigeUhrzeit();
+  void ZeigeTeststand(bool sichtbar);
+
+  // run_flow.cc
+  void BereiteAufgabeVor();
+  void LegeLoesungBereit(int slot);
+  void Spiele(SpielArt art);
+  void BieteErsteAufgabeAn();
+  void NaechsteAufgabeAnbieten();
+  void BieteWeiterAn();
+  void NimmAngebotZurueck();
+  /// Adds 1 to the number that a counter shows.
+  static void Erhoehe(Label& zaehler);
+  /// Runs a routine of weight; an error in it ends the run.
+  void Bewache(const std::string& tag, const std::function<void()>& body);
+
+  // answers.cc
+  void AntwortenFreigeben();
+  void AntwortSetzen(int clicked, bool right, XmlElement& record);
+  void Richtig(int clicked, XmlElement& record);
+  void Falsch(int clicked, XmlElement& record);
+  void Verloren(int slot);
+  void ZeigeLoesung(int slot, Color rahmen);
+  void Streiche(int clicked);
+  void NaechsterAkkord();
+  void OeffneAlle();
+  void SperreAntworten();
+  void Oeffne(int kachel);
+  void Schliesse(int kachel);
+  /// Appends an answer to the record, with the attribute that tells the slot.
+  void NeueAntwort(int lfd, const char* slot_attribute);
+
+  bool NachAkkorden() const { return parts_.settings.best_art == 0; }
+  const BoardEntry& Gefragt(int slot) const { return parts_.board[run_.task.aufg_akk_ar.at(slot)]; }
+
+  Shell& shell_;
+  Parts parts_;
+  RunState run_;
+  TaskSelection selection_;
+  ChordPlayback playback_;
+  std::unique_ptr<MidiEvent> midi_ereignis;
+};
+
+}  // namespace vmod17
