@@ -27,7 +27,11 @@ Program::~Program() {
 
 void Program::Start() { Load(grd_einst_, shell_); }
 
-void Program::Leave() { server_.HostBeenden("MENUE", screens_); }
+void Program::Leave() {
+  // A run that is cut off from outside ends as if it were left, so that its record is saved.
+  if (arbeitsblatt1_ && arbeitsblatt1_->visible) arbeitsblatt1_->Form_Close();
+  server_.HostBeenden("MENUE", screens_);
+}
 
 void Program::OpenSettings() {
   if (!einstellung1_) {

@@ -13,7 +13,6 @@
 namespace vmod17 {
 namespace {
 
-constexpr const char* kOhneWort = "VOID";
 constexpr std::size_t kNameInColumn = 1;
 
 }  // namespace

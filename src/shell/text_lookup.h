@@ -20,6 +20,9 @@ using LanguageListFactory = std::function<std::unique_ptr<LanguageList>()>;
 /// All texts of the program, by text id, in the language of the process.
 class TextLookup {
  public:
+  /// What stands in the place of a text that nobody knows.
+  static constexpr const char* kOhneWort = "VOID";
+
   TextLookup(LanguageListFactory make_list, const System& system);
 
   /// Reads the installed languages. Without a list all texts are "VOID".

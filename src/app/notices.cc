@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "app/notices.h"
+
+#include <utility>
+
+namespace vmod17 {
+namespace {
+
+constexpr int kWarten = 150;  // ms between two looks whether a screen stands
+
+void Replace(std::string& text, const std::string& placeholder, const std::string& by) {
+  const std::size_t at = text.find(placeholder);
+  if (at != std::string::npos) text.replace(at, placeholder.size(), by);
+}
+
+}  // namespace
+
+Notices::Notices(EventLoop& loop, MessageBox& messages, const TextLookup& texts,
+                 std::function<bool()> ready)
+    : loop_(loop), messages_(messages), texts_(texts), ready_(std::move(ready)) {}
+
+void Notices::Tell(const Notice& notice) {
+  if (!told_.insert(notice.text_id).second) return;
+  pending_.push_back(notice);
+  Arm();
+}
+
+std::string Notices::Words(const Notice& notice) const {
+  std::string text = texts_.Sprachtext(notice.text_id);
+  if (text.empty() || text == TextLookup::kOhneWort) text = notice.english;
+  // From the last placeholder down: a detail may hold what looks like one.
+  for (std::size_t i = notice.details.size(); i > 0; --i) {
+    Replace(text, "%" + std::to_string(i), notice.details[i - 1]);
+  }
+  return text;
+}
+
+void Notices::Arm() {
+  if (armed_) return;
+  armed_ = true;
+  loop_.StartTimer(kWarten, EventLoop::Repeat::kOnce, [this] {
+    loop_.WhenIdle([this] {
+      armed_ = false;
+      Show();
+    });
+  });
+}
+
+void Notices::Show() {
+  if (pending_.empty()) return;
+  if (ready_()) {
+    const Notice notice = pending_.front();
+    pending_.erase(pending_.begin());
+    messages_.Warn(Words(notice), "Melvado");
+  }
+  if (!pending_.empty()) Arm();
+}
+
+}  // namespace vmod17
