@@ -3,8 +3,6 @@
 
 #include "shell/error_report.h"
 
-#include <exception>
-
 namespace vmod17 {
 namespace {
 
@@ -22,7 +20,7 @@ void ErrorReport::Guard(const std::string& tag, const Form& form, const std::fun
     body();
     normal = true;
   } catch (...) {
-    LogFehler(CurrentError(), tag + form.name(), Zeigen::kNein);
+    LogFehler(AsRunTimeError(std::current_exception()), tag + form.name(), Zeigen::kNein);
     messages_.Warn(texts_.Sprachtext(720) + "\n" + texts_.Sprachtext(721) + "\n" +
                        texts_.Sprachtext(722) + "\n" + texts_.Sprachtext(723),
                    kTitel);
@@ -38,13 +36,13 @@ void ErrorReport::LogFehler(const RunTimeError& error, const std::string& routin
   }
 }
 
-RunTimeError CurrentError() {
+RunTimeError AsRunTimeError(const std::exception_ptr& error) {
   try {
-    throw;
-  } catch (const RunTimeError& error) {
-    return error;
-  } catch (const std::exception& error) {
-    return {ErrorNumber::kForeign, error.what(), "vmod17"};
+    std::rethrow_exception(error);
+  } catch (const RunTimeError& known) {
+    return known;
+  } catch (const std::exception& foreign) {
+    return {ErrorNumber::kForeign, foreign.what(), "vmod17"};
   } catch (...) {
     return {ErrorNumber::kForeign, "an error of an unknown kind", "vmod17"};
   }

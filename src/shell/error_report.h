@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <string>
 
@@ -35,7 +36,7 @@ class ErrorReport {
   MessageBox& messages_;
 };
 
-/// The exception being handled, as a RunTimeError. Call it only inside a catch block.
-RunTimeError CurrentError();
+/// An exception of any kind as a RunTimeError; one of another kind gets the number kForeign.
+RunTimeError AsRunTimeError(const std::exception_ptr& error);
 
 }  // namespace vmod17

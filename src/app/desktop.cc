@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "app/desktop.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <algorithm>
+#include <exception>
+#include <utility>
+#include <vector>
+
+#include "platform/xml/pugi_document.h"
+#include "version.h"
+
+namespace vmod17 {
+namespace {
+
+/// The user's folder for what the suite keeps: records that found no place, languages of one's own.
+std::string DataFolder() {
+  return (QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/melvado")
+      .toStdString();
+}
+
+/// Beside the program in a build, under share/ where it is installed, and the user's own.
+std::vector<std::filesystem::path> LanguageFolders() {
+  const std::string program = QCoreApplication::applicationDirPath().toStdString();
+  return {program + "/../languages", program + "/../share/melvado/languages",
+          DataFolder() + "/languages"};
+}
+
+ProgramIdentity Identity() {
+  return {QFileInfo(QCoreApplication::applicationFilePath()).baseName().toStdString(),
+          kVersionMajor, kVersionMinor, kVersionRevision};
+}
+
+/// A view of the installed languages as the list that the text lookup makes for itself.
+class SharedLanguages : public LanguageList {
+ public:
+  explicit SharedLanguages(const LanguageList& list) : list_(list) {}
+  std::vector<LanguageColumn> Table() const override { return list_.Table(); }
+  std::unique_ptr<Language> Create(const std::string& class_name) const override {
+    return list_.Create(class_name);
+  }
+
+ private:
+  const LanguageList& list_;
+};
+
+}  // namespace
+
+Desktop::Desktop()
+    : languages_(LanguageFolders()),
+      output_(MakeMidiOutput({.soundfont = system_.Environment("MELVADO_SOUNDFONT").value_or("")},
+                             loop_, [this](const Notice& notice) { Tell(notice); })),
+      store_(HostOptions()),
+      program_(std::make_unique<Program>(MakePlatform(), Identity())) {
+  notices_ = std::make_unique<Notices>(loop_, messages_, program_->texts(),
+                                       [this] { return screen_was_shown_; });
+  loop_.after_event = [this] { AfterEvent(); };
+  loop_.on_error = [this](std::exception_ptr error) { RunTimeReport(error); };
+  messages_.words = [this] {
+    return QtMessageBox::Words{Word(432, "OK"), Word(9001, "Yes"), Word(9002, "No")};
+  };
+  program_->OnEnd = [this] { loop_.Quit(); };
+}
+
+Desktop::~Desktop() { notices_.reset(); }
+
+void Desktop::Tell(const Notice& notice) {
+  if (notices_) notices_->Tell(notice);
+}
+
+int Desktop::Run() {
+  loop_.Deliver([this] {
+    TakeOutputFromEnvironment();
+    program_->Start();
+  });
+  loop_.Run();
+  return failed_ ? 1 : 0;
+}
+
+void Desktop::Leave() {
+  loop_.Deliver([this] { program_->Leave(); });
+}
+
+StoreOptions Desktop::HostOptions() {
+  StoreOptions options;
+  options.address = system_.Environment("MELVADO_STORE").value_or("");
+  options.desktop_language = [this] { return languages_.DesktopLanguage(); };
+  options.language_installed = [this](const std::string& name) {
+    const auto table = languages_.Table();
+    return std::any_of(table.begin(), table.end(),
+                       [&](const LanguageColumn& column) { return column[1] == name; });
+  };
+  options.midi_number = [this](const std::string& name) -> std::optional<int> {
+    const auto names = output_->DeviceNames();
+    const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& device) {
+      return device.find(name) != std::string::npos;
+    });
+    if (found == names.end()) return std::nullopt;
+    return static_cast<int>(found - names.begin());
+  };
+  options.menue = [this] { return system_.Environment("MELVADO_HOST").has_value(); };
+  options.notify = [this](const Notice& notice) { Tell(notice); };
+  options.clock = [this] { return loop_.Now(); };
+  return options;
+}
+
+Platform Desktop::MakePlatform() {
+  return {loop_,
+          system_,
+          messages_,
+          view_,
+          *output_,
+          random_,
+          [this] { return store_.Service(); },
+          [this] { return std::make_unique<SharedLanguages>(languages_); },
+          PugiDocumentFactory(DataFolder(), [this](const Notice& notice) { Tell(notice); })};
+}
+
+/// The output is remembered by the host. The variable sets it from outside, by a part of its name;
+/// an empty one goes back to the built-in synthesiser.
+void Desktop::TakeOutputFromEnvironment() {
+  const auto name = system_.Environment("MELVADO_MIDI");
+  if (!name) return;
+  try {
+    store_.SetMidiDevice(*name);
+  } catch (const RunTimeError&) {
+    // The store has told by itself what is wrong with it.
+  }
+}
+
+void Desktop::AfterEvent() {
+  view_.Refresh();
+  if (screen_was_shown_) return;
+  const GrdEinst* first = program_->grd_einst();
+  if (first == nullptr || !first->visible) return;
+  screen_was_shown_ = true;
+  // What takes time begins once the user has something to look at.
+  loop_.Post([this] {
+    output_->BeginLoading();
+    TellOfLanguages();
+  });
+}
+
+void Desktop::TellOfLanguages() {
+  for (const std::string& file : languages_.problems()) {
+    Tell({9251,
+          "The language file %1 cannot be read and is left out. If it came with the "
+          "program, install the program again.",
+          {file}});
+  }
+  if (program_->texts().Sprachtext(700) == TextLookup::kOhneWort) {
+    Tell({9252,
+          "No words were found for the language of this program, which is why its texts "
+          "read \"VOID\". Install the program again, or start it in another language.",
+          {}});
+  }
+}
+
+void Desktop::RunTimeReport(const std::exception_ptr& error) {
+  if (std::exchange(failed_, true)) return;  // the report itself failed
+  const RunTimeError what = AsRunTimeError(error);
+  try {
+    program_->errors().LogFehler(what, "run_time", ErrorReport::Zeigen::kNein);
+  } catch (const std::exception&) {
+    // The message below is what is left.
+  }
+  messages_.Warn(Word(9003, "The program has met an error that it cannot deal with, and ends.") +
+                     "\n\n" + what.what() + " (" + std::to_string(what.number()) + ", " +
+                     what.source() + ")",
+                 "Melvado");
+  try {
+    program_->Leave();
+  } catch (const std::exception&) {
+  }
+  loop_.Quit();
+}
+
+std::string Desktop::Word(int id, const char* english) const {
+  const std::string word = program_->texts().Sprachtext(id);
+  return word == TextLookup::kOhneWort ? english : word;
+}
+
+}  // namespace vmod17

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "app/notices.h"
+#include "app/program.h"
+#include "platform/midi/midi_device_output.h"
+#include "platform/qt/qt_event_loop.h"
+#include "platform/qt/qt_language.h"
+#include "platform/qt/qt_message_box.h"
+#include "platform/qt/qt_system.h"
+#include "platform/qt/qt_view.h"
+#include "platform/store/host_store.h"
+#include "shell/uniform_random.h"
+
+namespace vmod17 {
+
+/// The program on a desktop: the real platform, and the program on top of it. A QApplication must
+/// exist before it and outlive it.
+class Desktop {
+ public:
+  Desktop();
+  ~Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  /// Starts the program and serves it until it ends. Returns the exit status of the process: 0, or
+  /// 1 after an error that nothing in the program could deal with.
+  int Run();
+  /// Ends the program from any state, as its user would: a run is left and its record saved.
+  void Leave();
+
+ private:
+  void Tell(const Notice& notice);
+  StoreOptions HostOptions();
+  Platform MakePlatform();
+  void TakeOutputFromEnvironment();
+  void AfterEvent();
+  /// The last resort for an error that left its handler: tell, log, end.
+  void RunTimeReport(const std::exception_ptr& error);
+  void TellOfLanguages();
+  std::string Word(int id, const char* english) const;
+
+  QtEventLoop loop_;
+  QtSystem system_;
+  UniformRandom random_;
+  QtLanguageList languages_;
+  QtView view_{loop_};
+  QtMessageBox messages_{[this] { return view_.Window(); }};
+  std::unique_ptr<Notices> notices_;  // before those that tell, so that it goes after them
+  std::unique_ptr<MidiDeviceOutput> output_;
+  HostStore store_;
+  std::unique_ptr<Program> program_;
+  bool screen_was_shown_ = false;
+  bool failed_ = false;
+};
+
+}  // namespace vmod17

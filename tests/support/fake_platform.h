@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/form_view.h"
+#include "platform/language.h"
+#include "platform/message_box.h"
+#include "platform/run_time_error.h"
+#include "platform/system.h"
+
+namespace vmod17 {
+
+/// Records the messages and answers questions from a script.
+class ScriptedMessageBox : public MessageBox {
+ public:
+  struct Shown {
+    std::string text;
+    std::string title;
+    bool operator==(const Shown&) const = default;
+  };
+  std::vector<Shown> warnings;
+  std::vector<Shown> questions;
+  Answer answer = Answer::kNo;
+  /// Runs while a message is on display.
+  std::function<void()> meanwhile;
+
+  void Warn(const std::string& text, const std::string& title) override {
+    warnings.push_back({text, title});
+    if (meanwhile) meanwhile();
+  }
+  Answer Ask(const std::string& text, const std::string& title) override {
+    questions.push_back({text, title});
+    return answer;
+  }
+};
+
+class FakeSystem : public System {
+ public:
+  std::string computer = "tonstudio";
+  std::map<std::string, std::string> environment = {{"temp", "/tmp"}};
+  std::string temporary_folder = "/var/tmp";
+  std::vector<std::string> keys;
+
+  std::string ComputerName() const override { return computer; }
+  std::optional<std::string> Environment(const std::string& name) const override {
+    const auto found = environment.find(name);
+    return found == environment.end() ? std::nullopt : std::optional(found->second);
+  }
+  std::string TemporaryFolder() const override { return temporary_folder; }
+  void SendKeys(const std::string& sent) override { keys.push_back(sent); }
+};
+
+/// Languages in memory. A language without words answers each key with the key itself in brackets:
+/// "[700s]".
+class FakeLanguages {
+ public:
+  struct Words {
+    std::map<std::string, std::string> words;
+    std::set<std::string> missing;  ///< keys that raise
+    bool broken = false;            ///< listed, but cannot be made
+  };
+  std::vector<std::pair<std::string, Words>> languages = {{"Deutsch", {}}, {"English", {}}};
+  bool no_list = false;                ///< the list itself cannot be made
+  std::vector<std::string> made;       ///< class names, in the order of their making
+  std::vector<std::string> looked_up;  ///< keys, in the order of the look-ups
+
+  std::unique_ptr<LanguageList> Make() {
+    if (no_list) {
+      throw RunTimeError(ErrorNumber::kCannotCreate, "no list", "vmod17.FakeLanguages");
+    }
+    return std::make_unique<List>(*this);
+  }
+  auto Factory() {
+    return [this] { return Make(); };
+  }
+
+ private:
+  class Class : public Language {
+   public:
+    Class(FakeLanguages& all, const Words& words) : all_(all), words_(words) {}
+    std::string Wort(const std::string& key) const override {
+      all_.looked_up.push_back(key);
+      if (words_.missing.contains(key)) {
+        throw RunTimeError(ErrorNumber::kUnknownText, "no word for " + key, "vmod17.FakeLanguages");
+      }
+      const auto found = words_.words.find(key);
+      return found == words_.words.end() ? "[" + key + "]" : found->second;
+    }
+
+   private:
+    FakeLanguages& all_;
+    const Words& words_;
+  };
+  class List : public LanguageList {
+   public:
+    explicit List(FakeLanguages& all) : all_(all) {}
+    std::vector<LanguageColumn> Table() const override {
+      std::vector<LanguageColumn> table;
+      for (const auto& [name, words] : all_.languages) table.push_back({"xx_XX", name});
+      return table;
+    }
+    std::unique_ptr<Language> Create(const std::string& class_name) const override {
+      all_.made.push_back(class_name);
+      for (const auto& [name, words] : all_.languages) {
+        if ("melvadolang." + name == class_name && !words.broken) {
+          return std::make_unique<Class>(all_, words);
+        }
+      }
+      throw RunTimeError(ErrorNumber::kCannotCreate, "cannot make " + class_name,
+                         "vmod17.FakeLanguages");
+    }
+
+   private:
+    FakeLanguages& all_;
+  };
+};
+
+/// Shows nothing, and knows which screens it was given.
+class NoView : public FormView {
+ public:
+  std::vector<Form*> forms;
+  void Attach(Form& form) override { forms.push_back(&form); }
+  void Detach(Form& form) override { std::erase(forms, &form); }
+};
+
+}  // namespace vmod17
