@@ -5,6 +5,7 @@ option(VMOD17_CORE_ONLY "Build the core and its tests, without any window, sound
 option(VMOD17_TESTS "Build the tests" ON)
 option(VMOD17_BENCH "Build the benchmarks" OFF)
 option(VMOD17_WERROR "Treat warnings as errors" OFF)
+set(VMOD17_TEST_PREFIX "" CACHE STRING "Stands before the name of each test")
 set(VMOD17_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined or thread")
 
 set(CMAKE_CXX_STANDARD 20)

@@ -23,5 +23,6 @@ function(vmod17_test name)
   gtest_discover_tests(
     ${name}
     DISCOVERY_TIMEOUT 60
+    TEST_PREFIX "${VMOD17_TEST_PREFIX}"
     PROPERTIES LABELS ${name} TIMEOUT 300 ENVIRONMENT "${arg_ENVIRONMENT}")
 endfunction()

@@ -5,4 +5,29 @@
 vmod17_test(
   core_tests
   SOURCES app/program_test.cc
+          shell/app_state_test.cc
+          shell/delay_test.cc
+          shell/error_report_test.cc
+          shell/first_screen_test.cc
+          shell/loaded_screens_test.cc
+          shell/message_form_test.cc
+          shell/mod_server_test.cc
+          shell/numbers_test.cc
+          shell/text_lookup_test.cc
+          shell/uniform_random_test.cc
+          catalogue/chord_board_test.cc
+          catalogue/chord_table_test.cc
+          catalogue/picture_store_test.cc
+          sound/chord_playback_test.cc
+          sound/instrument_list_test.cc
+          sound/mod_midi_test.cc
   LIBRARIES vmod17_program test_support rapidcheck)
+
+# Records, the worksheet and whole runs.
+target_sources(
+  core_tests
+  PRIVATE results/counters_test.cc
+          results/lesson_record_test.cc
+          worksheet/run_state_test.cc
+          worksheet/task_selection_test.cc
+          worksheet/worksheet_screen_test.cc)

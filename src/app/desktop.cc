@@ -52,8 +52,8 @@ class SharedLanguages : public LanguageList {
 
 Desktop::Desktop()
     : languages_(LanguageFolders()),
-      output_(MakeMidiOutput({.soundfont = system_.Environment("MELVADO_SOUNDFONT").value_or("")},
-                             loop_, [this](const Notice& notice) { Tell(notice); })),
+      output_(
+          MakeMidiOutput(OutputOptions(), loop_, [this](const Notice& notice) { Tell(notice); })),
       store_(HostOptions()),
       program_(std::make_unique<Program>(MakePlatform(), Identity())) {
   notices_ = std::make_unique<Notices>(loop_, messages_, program_->texts(),
@@ -83,6 +83,12 @@ int Desktop::Run() {
 
 void Desktop::Leave() {
   loop_.Deliver([this] { program_->Leave(); });
+}
+
+MidiOptions Desktop::OutputOptions() const {
+  MidiOptions options;
+  options.soundfont = system_.Environment("MELVADO_SOUNDFONT").value_or("");
+  return options;
 }
 
 StoreOptions Desktop::HostOptions() {

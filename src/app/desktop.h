@@ -37,6 +37,7 @@ class Desktop {
 
  private:
   void Tell(const Notice& notice);
+  MidiOptions OutputOptions() const;
   StoreOptions HostOptions();
   Platform MakePlatform();
   void TakeOutputFromEnvironment();

@@ -1,0 +1,669 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Melvado authors -->
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<TS version="2.1" language="de_DE">
+<context>
+    <name></name>
+    <message id="1s">
+        <source></source>
+        <translation>Drucken</translation>
+    </message>
+    <message id="2s">
+        <source></source>
+        <translation>(für 4-7 Klänge und voicings)</translation>
+    </message>
+    <message id="6s">
+        <source></source>
+        <extracomment>first part of the version line, before 699 and the number</extracomment>
+        <translation>vmod17</translation>
+    </message>
+    <message id="8s">
+        <source></source>
+        <extracomment>second line of the question 495</extracomment>
+        <translation>(Ein früher gespeicherter Stand wird dabei ersetzt.)</translation>
+    </message>
+    <message id="41s">
+        <source></source>
+        <extracomment>a number from 2 to 5 stands before it</extracomment>
+        <translation>Oktaven</translation>
+    </message>
+    <message id="45s">
+        <source></source>
+        <translation>2-hand-voicings</translation>
+    </message>
+    <message id="49s">
+        <source></source>
+        <translation>3-7 - Klänge</translation>
+    </message>
+    <message id="51s">
+        <source></source>
+        <translation>Dreiklänge</translation>
+    </message>
+    <message id="56s">
+        <source></source>
+        <translation>4-7 Klänge/two-hand-voicings: Bestimmung Akkordgruppe</translation>
+    </message>
+    <message id="57s">
+        <source></source>
+        <translation>Vierklänge</translation>
+    </message>
+    <message id="60s">
+        <source></source>
+        <translation>Fünfklänge</translation>
+    </message>
+    <message id="62s">
+        <source></source>
+        <translation>Sechsklänge</translation>
+    </message>
+    <message id="64s">
+        <source></source>
+        <translation>Siebenklänge</translation>
+    </message>
+    <message id="78s">
+        <source></source>
+        <extracomment>how one task follows another</extracomment>
+        <translation>Abfolge</translation>
+    </message>
+    <message id="84s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>abwärts</translation>
+    </message>
+    <message id="87s">
+        <source></source>
+        <extracomment>whether the root is accented</extracomment>
+        <translation>Akkord-Grundton</translation>
+    </message>
+    <message id="88s">
+        <source></source>
+        <extracomment>chords in one task</extracomment>
+        <translation>Akkord-Anzahl</translation>
+    </message>
+    <message id="95s">
+        <source></source>
+        <extracomment>heading of the list of chords; 700 follows</extracomment>
+        <translation>Akk</translation>
+    </message>
+    <message id="97s">
+        <source></source>
+        <extracomment>what is asked for</extracomment>
+        <translation>Akkord</translation>
+    </message>
+    <message id="107s">
+        <source></source>
+        <translation>Tonraum</translation>
+    </message>
+    <message id="109s">
+        <source></source>
+        <extracomment>a blank and 700 follow</extracomment>
+        <translation>Anwender</translation>
+    </message>
+    <message id="114s">
+        <source></source>
+        <translation>Akk.-Anzeige</translation>
+    </message>
+    <message id="116s">
+        <source></source>
+        <translation>Arpeggio-Tempo</translation>
+    </message>
+    <message id="129s">
+        <source></source>
+        <extracomment>" 1" follows</extracomment>
+        <translation>Aufgabe</translation>
+    </message>
+    <message id="130s">
+        <source></source>
+        <translation>Aufgabe gelöst</translation>
+    </message>
+    <message id="133s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>aufwärts</translation>
+    </message>
+    <message id="135s">
+        <source></source>
+        <translation>Ausgewählt</translation>
+    </message>
+    <message id="136s">
+        <source></source>
+        <translation>freies Üben</translation>
+    </message>
+    <message id="138s">
+        <source></source>
+        <translation>Auswahl</translation>
+    </message>
+    <message id="139s">
+        <source></source>
+        <extracomment>on the OK button while the selection is incomplete</extracomment>
+        <translation>Auswahl??</translation>
+    </message>
+    <message id="140s">
+        <source></source>
+        <translation>Auswählen</translation>
+    </message>
+    <message id="141s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>auswählbar</translation>
+    </message>
+    <message id="142s">
+        <source></source>
+        <extracomment>the tasks follow by themselves</extracomment>
+        <translation>automatisch</translation>
+    </message>
+    <message id="153s">
+        <source></source>
+        <translation>Bereich</translation>
+    </message>
+    <message id="154s">
+        <source></source>
+        <translation>bestimmen</translation>
+    </message>
+    <message id="156s">
+        <source></source>
+        <translation>betont</translation>
+    </message>
+    <message id="160s">
+        <source></source>
+        <translation>bilden</translation>
+    </message>
+    <message id="189s">
+        <source></source>
+        <extracomment>a blank and 700 follow</extracomment>
+        <translation>Datum</translation>
+    </message>
+    <message id="194s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>direkt</translation>
+    </message>
+    <message id="196s">
+        <source></source>
+        <translation>Die gespeicherten Einstellungen lassen sich nicht lesen. Beginnen Sie bitte ein neues Training.</translation>
+    </message>
+    <message id="199s">
+        <source></source>
+        <extracomment>short form of 201 for a small label</extracomment>
+        <translation>Dom.-Sept, alt.</translation>
+    </message>
+    <message id="200s">
+        <source></source>
+        <translation>Dominant-Sept</translation>
+    </message>
+    <message id="201s">
+        <source></source>
+        <translation>Dominant-Sept, alt.</translation>
+    </message>
+    <message id="221s">
+        <source></source>
+        <extracomment>window title of the settings screen, after 348 and 700; begins with the blank after 700</extracomment>
+        <translation> Grundeinstellung</translation>
+    </message>
+    <message id="223s">
+        <source></source>
+        <translation>ENDE</translation>
+    </message>
+    <message id="224s">
+        <source></source>
+        <extracomment>window title of the results screen, after 348 and 700; begins with the blank after 700</extracomment>
+        <translation> Ergebnis</translation>
+    </message>
+    <message id="232s">
+        <source></source>
+        <translation>Falsch</translation>
+    </message>
+    <message id="238s">
+        <source></source>
+        <translation>fest (a'440 Hz)</translation>
+    </message>
+    <message id="243s">
+        <source></source>
+        <translation>Frequenz</translation>
+    </message>
+    <message id="275s">
+        <source></source>
+        <translation>Gesamtergebnis</translation>
+    </message>
+    <message id="277s">
+        <source></source>
+        <extracomment>of the root of the tasks and of the timbre</extracomment>
+        <translation>gleichbleibend</translation>
+    </message>
+    <message id="278s">
+        <source></source>
+        <translation>gleichzeitig (kein Arpeggio)</translation>
+    </message>
+    <message id="287s">
+        <source></source>
+        <extracomment>window title of the first screen, after 347 and 700; begins with the blank after 700</extracomment>
+        <translation> Übungsart</translation>
+    </message>
+    <message id="297s">
+        <source></source>
+        <translation>Grundton</translation>
+    </message>
+    <message id="301s">
+        <source></source>
+        <extracomment>what is asked for</extracomment>
+        <translation>Gruppe</translation>
+    </message>
+    <message id="302s">
+        <source></source>
+        <translation>Gruppen-Auswahl</translation>
+    </message>
+    <message id="312s">
+        <source></source>
+        <translation>Halbvermindert</translation>
+    </message>
+    <message id="319s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>hoch</translation>
+    </message>
+    <message id="347s">
+        <source></source>
+        <extracomment>title of the module</extracomment>
+        <translation>Jazz-Akkorde bestimmen</translation>
+    </message>
+    <message id="348s">
+        <source></source>
+        <extracomment>title of the exercise</extracomment>
+        <translation>Jazz-Akkorde bestimmen</translation>
+    </message>
+    <message id="364s">
+        <source></source>
+        <translation>Klang-Auswahl</translation>
+    </message>
+    <message id="365s">
+        <source></source>
+        <translation>Klangfarbe</translation>
+    </message>
+    <message id="366s">
+        <source></source>
+        <translation>Klang-Kontrolle</translation>
+    </message>
+    <message id="371s">
+        <source></source>
+        <translation>langsam</translation>
+    </message>
+    <message id="372s">
+        <source></source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message id="374s">
+        <source></source>
+        <extracomment>a number follows</extracomment>
+        <translation>lfd. Nr.:</translation>
+    </message>
+    <message id="379s">
+        <source></source>
+        <translation>Major-Sept</translation>
+    </message>
+    <message id="380s">
+        <source></source>
+        <translation>Major-Sept, alt.</translation>
+    </message>
+    <message id="383s">
+        <source></source>
+        <extracomment>the next task is asked for</extracomment>
+        <translation>manuell</translation>
+    </message>
+    <message id="394s">
+        <source></source>
+        <translation>Min.</translation>
+    </message>
+    <message id="395s">
+        <source></source>
+        <translation>mindestens 1 !!</translation>
+    </message>
+    <message id="396s">
+        <source></source>
+        <translation>mindestens 2 !!</translation>
+    </message>
+    <message id="400s">
+        <source></source>
+        <translation>mittel</translation>
+    </message>
+    <message id="409s">
+        <source></source>
+        <translation>Moll-Sept</translation>
+    </message>
+    <message id="410s">
+        <source></source>
+        <translation>Moll-Tonika </translation>
+    </message>
+    <message id="420s">
+        <source></source>
+        <translation>nächste Aufgabe</translation>
+    </message>
+    <message id="424s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>niedrig</translation>
+    </message>
+    <message id="426s">
+        <source></source>
+        <extracomment>a blank and a number follow</extracomment>
+        <translation>Nr.</translation>
+    </message>
+    <message id="429s">
+        <source></source>
+        <translation>nur Symbol</translation>
+    </message>
+    <message id="432s">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="438s">
+        <source></source>
+        <translation>Prüfung</translation>
+    </message>
+    <message id="461s">
+        <source></source>
+        <extracomment>the minutes with 394 and the seconds with 480 follow</extracomment>
+        <translation>Restzeit:</translation>
+    </message>
+    <message id="462s">
+        <source></source>
+        <extracomment>a blank and a number follow</extracomment>
+        <translation>Restliche Aufgaben:</translation>
+    </message>
+    <message id="468s">
+        <source></source>
+        <translation>Richtig</translation>
+    </message>
+    <message id="469s">
+        <source></source>
+        <extracomment>of an arpeggio</extracomment>
+        <translation>Richtung</translation>
+    </message>
+    <message id="470s">
+        <source></source>
+        <translation>schnell</translation>
+    </message>
+    <message id="476s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>sehr hoch</translation>
+    </message>
+    <message id="477s">
+        <source></source>
+        <translation>sehr langsam</translation>
+    </message>
+    <message id="478s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>sehr niedrig</translation>
+    </message>
+    <message id="479s">
+        <source></source>
+        <translation>sehr schnell</translation>
+    </message>
+    <message id="480s">
+        <source></source>
+        <translation>Sek.</translation>
+    </message>
+    <message id="495s">
+        <source></source>
+        <translation>Soll der Stand des Trainings gespeichert werden?</translation>
+    </message>
+    <message id="496s">
+        <source></source>
+        <translation>spielen</translation>
+    </message>
+    <message id="499s">
+        <source></source>
+        <extracomment>a number from 1 to 7 follows</extracomment>
+        <translation>Stimme</translation>
+    </message>
+    <message id="507s">
+        <source></source>
+        <translation>Struktur + Symbol</translation>
+    </message>
+    <message id="547s">
+        <source></source>
+        <translation>Tempo</translation>
+    </message>
+    <message id="550s">
+        <source></source>
+        <translation>Test</translation>
+    </message>
+    <message id="551s">
+        <source></source>
+        <translation>Teststand einblenden</translation>
+    </message>
+    <message id="552s">
+        <source></source>
+        <translation>Teststand ausblenden</translation>
+    </message>
+    <message id="564s">
+        <source></source>
+        <translation>Training (neu)</translation>
+    </message>
+    <message id="565s">
+        <source></source>
+        <translation>Training (Fortsetzung)</translation>
+    </message>
+    <message id="566s">
+        <source></source>
+        <translation>Trainingsstand</translation>
+    </message>
+    <message id="586s">
+        <source></source>
+        <translation>Übungsart</translation>
+    </message>
+    <message id="587s">
+        <source></source>
+        <translation>Übungsmodus</translation>
+    </message>
+    <message id="588s">
+        <source></source>
+        <translation>unbetont</translation>
+    </message>
+    <message id="589s">
+        <source></source>
+        <extracomment>each voice has a timbre of its own</extracomment>
+        <translation>unterschiedlich</translation>
+    </message>
+    <message id="603s">
+        <source></source>
+        <translation>variabel</translation>
+    </message>
+    <message id="609s">
+        <source></source>
+        <translation>vermindert</translation>
+    </message>
+    <message id="615s">
+        <source></source>
+        <translation>von unten aufwärts</translation>
+    </message>
+    <message id="623s">
+        <source></source>
+        <extracomment>of the root of the tasks</extracomment>
+        <translation>wechselnd</translation>
+    </message>
+    <message id="624s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>zufällig</translation>
+    </message>
+    <message id="625s">
+        <source></source>
+        <translation>weiter</translation>
+    </message>
+    <message id="629s">
+        <source></source>
+        <translation>wiederholen</translation>
+    </message>
+    <message id="632s">
+        <source></source>
+        <translation>wiederholen (Kontrolle)</translation>
+    </message>
+    <message id="638s">
+        <source></source>
+        <translation>zu schwer !!</translation>
+    </message>
+    <message id="640s">
+        <source></source>
+        <translation>zurück</translation>
+    </message>
+    <message id="671s">
+        <source></source>
+        <extracomment>MIDI note 36</extracomment>
+        <translation>C</translation>
+    </message>
+    <message id="672s">
+        <source></source>
+        <extracomment>MIDI note 48</extracomment>
+        <translation>c</translation>
+    </message>
+    <message id="673s">
+        <source></source>
+        <extracomment>MIDI note 60</extracomment>
+        <translation>c'</translation>
+    </message>
+    <message id="674s">
+        <source></source>
+        <extracomment>MIDI note 72</extracomment>
+        <translation>c''</translation>
+    </message>
+    <message id="675s">
+        <source></source>
+        <extracomment>MIDI note 84</extracomment>
+        <translation>c'''</translation>
+    </message>
+    <message id="676s">
+        <source></source>
+        <extracomment>MIDI note 96</extracomment>
+        <translation>c''''</translation>
+    </message>
+    <message id="699s">
+        <source></source>
+        <extracomment>the version number follows</extracomment>
+        <translation>Version</translation>
+    </message>
+    <message id="700s">
+        <source></source>
+        <extracomment>stands between the two parts of a window title and after the heading 95</extracomment>
+        <translation>:</translation>
+    </message>
+    <message id="702s">
+        <source></source>
+        <extracomment>between two notes</extracomment>
+        <translation>bis</translation>
+    </message>
+    <message id="720s">
+        <source></source>
+        <extracomment>first of four lines of one message</extracomment>
+        <translation>Es ist leider ein Fehler aufgetreten.</translation>
+    </message>
+    <message id="721s">
+        <source></source>
+        <extracomment>second of four lines</extracomment>
+        <translation>Er ist im Protokoll von Melvado festgehalten.</translation>
+    </message>
+    <message id="722s">
+        <source></source>
+        <extracomment>third of four lines</extracomment>
+        <translation>Der begonnene Schritt wird jetzt abgebrochen und das Fenster geschlossen.</translation>
+    </message>
+    <message id="723s">
+        <source></source>
+        <extracomment>last of four lines</extracomment>
+        <translation>Versuchen Sie es bitte noch einmal. Hilft das nicht, wenden Sie sich bitte an Ihre Lehrkraft.</translation>
+    </message>
+    <message id="726s">
+        <source></source>
+        <translation>Einen Moment bitte !</translation>
+    </message>
+    <message id="9001s">
+        <source></source>
+        <translation>Ja</translation>
+    </message>
+    <message id="9002s">
+        <source></source>
+        <translation>Nein</translation>
+    </message>
+    <message id="9003s">
+        <source></source>
+        <translation>Im Programm ist ein Fehler aufgetreten, den es nicht beheben kann; es wird beendet.</translation>
+    </message>
+    <message id="9101s">
+        <source></source>
+        <translation>Ihre gespeicherten Trainings in %1 stammen von einer neueren Fassung dieses Programms. Sie bleiben genau so, wie sie sind. Sie können üben, aber was Sie jetzt speichern, geht verloren, wenn das Programm endet. Bitte installieren Sie die neuere Fassung.</translation>
+    </message>
+    <message id="9102s">
+        <source></source>
+        <translation>Der Ort für Ihre gespeicherten Trainings, %1, lässt sich nicht benutzen (%2). Sie können üben, aber was Sie jetzt speichern, geht verloren, wenn das Programm endet. Bitte prüfen Sie, ob es den Ordner gibt und ob Sie darin schreiben dürfen, und starten Sie dann das Programm noch einmal.</translation>
+    </message>
+    <message id="9103s">
+        <source></source>
+        <translation>Ein anderes Programm benutzt gerade Ihre gespeicherten Trainings in %1 und hat sie nicht rechtzeitig freigegeben. Es ist nichts verändert worden. Bitte schließen Sie das andere Programm und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="9104s">
+        <source></source>
+        <translation>Ihre gespeicherten Trainings in %1 lassen sich lesen, aber nicht ändern. Sie bleiben, wie sie sind. Sie können üben, aber was Sie jetzt speichern, geht verloren, wenn das Programm endet. Bitte geben Sie die Datei und ihren Ordner zum Schreiben frei und starten Sie dann das Programm noch einmal.</translation>
+    </message>
+    <message id="9105s">
+        <source></source>
+        <translation>Was Sie gespeichert haben, konnte nicht nach %1 geschrieben werden: Wahrscheinlich ist die Festplatte voll (%2). Das früher Gespeicherte ist noch da, und das Neue bleibt erhalten, bis das Programm endet. Bitte schaffen Sie Platz auf der Festplatte und speichern Sie es noch einmal.</translation>
+    </message>
+    <message id="9106s">
+        <source></source>
+        <translation>Die Datei mit Ihren gespeicherten Trainings, %1, ist beschädigt und konnte nicht gelesen werden. Sie ist unter dem Namen %2 aufgehoben, und eine neue, leere Datei wurde angelegt. Wenn Sie eine Sicherungskopie der Datei haben, können Sie sie wieder an ihre Stelle legen.</translation>
+    </message>
+    <message id="9107s">
+        <source></source>
+        <translation>Ein gespeicherter Eintrag (%1) ist beschädigt und konnte nicht gelesen werden. Er ist unter dem Namen %2 aufgehoben. Die Einstellungen beginnen mit ihren üblichen Werten; alles andere Gespeicherte ist noch da.</translation>
+    </message>
+    <message id="9108s">
+        <source></source>
+        <translation>Der Server mit den gespeicherten Trainings, %1, lässt sich nicht benutzen (%2). Sie können üben, aber was Sie jetzt speichern, geht verloren, wenn das Programm endet. Bitte sagen Sie der Person Bescheid, die die Computer betreut, oder starten Sie das Programm später noch einmal.</translation>
+    </message>
+    <message id="9109s">
+        <source></source>
+        <translation>Ihre gespeicherten Trainings in %1 lassen sich zur Zeit nicht lesen (%2). Es ist nichts verändert worden. Sie können üben; um mit ihnen weiterzumachen, starten Sie das Programm bitte später noch einmal.</translation>
+    </message>
+    <message id="9151s">
+        <source></source>
+        <translation>Die Übung bleibt stumm: Die Datei mit den Klängen der Instrumente (Soundfont) ist beschädigt: %1. Installieren Sie das Paket fluid-soundfont-gm neu und starten Sie dann das Programm noch einmal.</translation>
+    </message>
+    <message id="9152s">
+        <source></source>
+        <translation>Die Übung bleibt stumm: Die Datei mit den Klängen der Instrumente (Soundfont) fehlt. Installieren Sie das Paket fluid-soundfont-gm und starten Sie dann das Programm noch einmal.</translation>
+    </message>
+    <message id="9153s">
+        <source></source>
+        <translation>Die Übung bleibt stumm: Es wurde keine Tonausgabe gefunden (versucht: %1). Prüfen Sie, ob Lautsprecher oder Kopfhörer angeschlossen und in den Klangeinstellungen des Systems ausgewählt sind, und starten Sie dann das Programm noch einmal.</translation>
+    </message>
+    <message id="9154s">
+        <source></source>
+        <translation>Die Tonausgabe ist ausgefallen. Prüfen Sie die Lautsprecher oder Kopfhörer und die Klangeinstellungen des Systems. Die Übung geht weiter; bei den nächsten Akkorden wird die Ausgabe noch einmal versucht.</translation>
+    </message>
+    <message id="9155s">
+        <source></source>
+        <translation>Das MIDI-Gerät „%1“ ist nicht mehr da. Prüfen Sie sein Kabel und ob es eingeschaltet ist; bei den nächsten Akkorden wird es noch einmal gesucht. Die Übung geht ohne Ton weiter.</translation>
+    </message>
+    <message id="9156s">
+        <source></source>
+        <translation>Das MIDI-Gerät Nummer %1 gibt es nicht; vorhanden sind %2 Geräte. Wählen Sie in Melvado ein anderes MIDI-Gerät. Die Übung geht ohne Ton weiter.</translation>
+    </message>
+    <message id="9201s">
+        <source></source>
+        <translation>Das Protokoll Ihrer Übung konnte nicht im Ordner %1 gespeichert werden (%2). Es wurde stattdessen als %3 gespeichert. Bitte prüfen Sie, ob es den Ordner gibt, ob Sie darin schreiben dürfen und ob die Festplatte nicht voll ist.</translation>
+    </message>
+    <message id="9202s">
+        <source></source>
+        <translation>Das Protokoll Ihrer Übung konnte nicht gespeichert werden, weder im Ordner %1 (%2) noch im eigenen Ordner des Programms. Ihre Ergebnisse werden trotzdem angezeigt. Bitte schaffen Sie vor der nächsten Übung Platz auf der Festplatte oder prüfen Sie den Ordner.</translation>
+    </message>
+    <message id="9251s">
+        <source></source>
+        <translation>Die Sprachdatei %1 lässt sich nicht lesen und wird ausgelassen. Wenn sie zum Programm gehört, installieren Sie das Programm bitte neu.</translation>
+    </message>
+    <message id="9252s">
+        <source></source>
+        <translation>Für die Sprache dieses Programms wurden keine Wörter gefunden; deshalb steht an Stelle der Texte „VOID“. Installieren Sie das Programm bitte neu, oder starten Sie es in einer anderen Sprache.</translation>
+    </message>
+</context>
+</TS>

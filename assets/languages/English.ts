@@ -1,0 +1,669 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Melvado authors -->
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<TS version="2.1" language="en_GB">
+<context>
+    <name></name>
+    <message id="1s">
+        <source></source>
+        <translation>Print</translation>
+    </message>
+    <message id="2s">
+        <source></source>
+        <translation>(for 4- to 7-note chords and voicings)</translation>
+    </message>
+    <message id="6s">
+        <source></source>
+        <extracomment>first part of the version line, before 699 and the number</extracomment>
+        <translation>vmod17</translation>
+    </message>
+    <message id="8s">
+        <source></source>
+        <extracomment>second line of the question 495</extracomment>
+        <translation>(This replaces any progress saved earlier.)</translation>
+    </message>
+    <message id="41s">
+        <source></source>
+        <extracomment>a number from 2 to 5 stands before it</extracomment>
+        <translation>octaves</translation>
+    </message>
+    <message id="45s">
+        <source></source>
+        <translation>Two-hand voicings</translation>
+    </message>
+    <message id="49s">
+        <source></source>
+        <translation>3- to 7-note chords</translation>
+    </message>
+    <message id="51s">
+        <source></source>
+        <translation>Triads</translation>
+    </message>
+    <message id="56s">
+        <source></source>
+        <translation>4- to 7-note chords/two-hand voicings: name the chord group</translation>
+    </message>
+    <message id="57s">
+        <source></source>
+        <translation>Four-note chords</translation>
+    </message>
+    <message id="60s">
+        <source></source>
+        <translation>Five-note chords</translation>
+    </message>
+    <message id="62s">
+        <source></source>
+        <translation>Six-note chords</translation>
+    </message>
+    <message id="64s">
+        <source></source>
+        <translation>Seven-note chords</translation>
+    </message>
+    <message id="78s">
+        <source></source>
+        <extracomment>how one task follows another</extracomment>
+        <translation>Sequence</translation>
+    </message>
+    <message id="84s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>downwards</translation>
+    </message>
+    <message id="87s">
+        <source></source>
+        <extracomment>whether the root is accented</extracomment>
+        <translation>Chord root</translation>
+    </message>
+    <message id="88s">
+        <source></source>
+        <extracomment>chords in one task</extracomment>
+        <translation>Number of chords</translation>
+    </message>
+    <message id="95s">
+        <source></source>
+        <extracomment>heading of the list of chords; 700 follows</extracomment>
+        <translation>Chord</translation>
+    </message>
+    <message id="97s">
+        <source></source>
+        <extracomment>what is asked for</extracomment>
+        <translation>Chord</translation>
+    </message>
+    <message id="107s">
+        <source></source>
+        <translation>Range</translation>
+    </message>
+    <message id="109s">
+        <source></source>
+        <extracomment>a blank and 700 follow</extracomment>
+        <translation>User</translation>
+    </message>
+    <message id="114s">
+        <source></source>
+        <translation>Chord display</translation>
+    </message>
+    <message id="116s">
+        <source></source>
+        <translation>Arpeggio speed</translation>
+    </message>
+    <message id="129s">
+        <source></source>
+        <extracomment>" 1" follows</extracomment>
+        <translation>Task</translation>
+    </message>
+    <message id="130s">
+        <source></source>
+        <translation>Training completed</translation>
+    </message>
+    <message id="133s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>upwards</translation>
+    </message>
+    <message id="135s">
+        <source></source>
+        <translation>Selected</translation>
+    </message>
+    <message id="136s">
+        <source></source>
+        <translation>Free practice</translation>
+    </message>
+    <message id="138s">
+        <source></source>
+        <translation>Material</translation>
+    </message>
+    <message id="139s">
+        <source></source>
+        <extracomment>on the OK button while the selection is incomplete</extracomment>
+        <translation>Selection??</translation>
+    </message>
+    <message id="140s">
+        <source></source>
+        <translation>Select</translation>
+    </message>
+    <message id="141s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>selectable</translation>
+    </message>
+    <message id="142s">
+        <source></source>
+        <extracomment>the tasks follow by themselves</extracomment>
+        <translation>automatic</translation>
+    </message>
+    <message id="153s">
+        <source></source>
+        <translation>Register</translation>
+    </message>
+    <message id="154s">
+        <source></source>
+        <translation>identify</translation>
+    </message>
+    <message id="156s">
+        <source></source>
+        <translation>accented</translation>
+    </message>
+    <message id="160s">
+        <source></source>
+        <translation>build</translation>
+    </message>
+    <message id="189s">
+        <source></source>
+        <extracomment>a blank and 700 follow</extracomment>
+        <translation>Date</translation>
+    </message>
+    <message id="194s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>direct</translation>
+    </message>
+    <message id="196s">
+        <source></source>
+        <translation>The saved settings cannot be read. Please start a new training.</translation>
+    </message>
+    <message id="199s">
+        <source></source>
+        <extracomment>short form of 201 for a small label</extracomment>
+        <translation>Dom. 7th, alt.</translation>
+    </message>
+    <message id="200s">
+        <source></source>
+        <translation>Dominant 7th</translation>
+    </message>
+    <message id="201s">
+        <source></source>
+        <translation>Dominant 7th, altered</translation>
+    </message>
+    <message id="221s">
+        <source></source>
+        <extracomment>window title of the settings screen, after 348 and 700; begins with the blank after 700</extracomment>
+        <translation> Settings</translation>
+    </message>
+    <message id="223s">
+        <source></source>
+        <translation>QUIT</translation>
+    </message>
+    <message id="224s">
+        <source></source>
+        <extracomment>window title of the results screen, after 348 and 700; begins with the blank after 700</extracomment>
+        <translation> Results</translation>
+    </message>
+    <message id="232s">
+        <source></source>
+        <translation>Wrong</translation>
+    </message>
+    <message id="238s">
+        <source></source>
+        <translation>fixed (A = 440 Hz)</translation>
+    </message>
+    <message id="243s">
+        <source></source>
+        <translation>Tuning</translation>
+    </message>
+    <message id="275s">
+        <source></source>
+        <translation>Overall result</translation>
+    </message>
+    <message id="277s">
+        <source></source>
+        <extracomment>of the root of the tasks and of the timbre</extracomment>
+        <translation>constant</translation>
+    </message>
+    <message id="278s">
+        <source></source>
+        <translation>all at once (no arpeggio)</translation>
+    </message>
+    <message id="287s">
+        <source></source>
+        <extracomment>window title of the first screen, after 347 and 700; begins with the blank after 700</extracomment>
+        <translation> Exercise type</translation>
+    </message>
+    <message id="297s">
+        <source></source>
+        <translation>Root</translation>
+    </message>
+    <message id="301s">
+        <source></source>
+        <extracomment>what is asked for</extracomment>
+        <translation>Group</translation>
+    </message>
+    <message id="302s">
+        <source></source>
+        <translation>Chord groups</translation>
+    </message>
+    <message id="312s">
+        <source></source>
+        <translation>Half-diminished</translation>
+    </message>
+    <message id="319s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>high</translation>
+    </message>
+    <message id="347s">
+        <source></source>
+        <extracomment>title of the module</extracomment>
+        <translation>Identifying Jazz Chords</translation>
+    </message>
+    <message id="348s">
+        <source></source>
+        <extracomment>title of the exercise</extracomment>
+        <translation>Identifying Jazz Chords</translation>
+    </message>
+    <message id="364s">
+        <source></source>
+        <translation>Chord sizes</translation>
+    </message>
+    <message id="365s">
+        <source></source>
+        <translation>Sound</translation>
+    </message>
+    <message id="366s">
+        <source></source>
+        <translation>Sound check</translation>
+    </message>
+    <message id="371s">
+        <source></source>
+        <translation>slow</translation>
+    </message>
+    <message id="372s">
+        <source></source>
+        <translation>Volume</translation>
+    </message>
+    <message id="374s">
+        <source></source>
+        <extracomment>a number follows</extracomment>
+        <translation>Tile no.:</translation>
+    </message>
+    <message id="379s">
+        <source></source>
+        <translation>Major 7th</translation>
+    </message>
+    <message id="380s">
+        <source></source>
+        <translation>Major 7th, altered</translation>
+    </message>
+    <message id="383s">
+        <source></source>
+        <extracomment>the next task is asked for</extracomment>
+        <translation>manual</translation>
+    </message>
+    <message id="394s">
+        <source></source>
+        <translation>min</translation>
+    </message>
+    <message id="395s">
+        <source></source>
+        <translation>at least 1!</translation>
+    </message>
+    <message id="396s">
+        <source></source>
+        <translation>at least 2!</translation>
+    </message>
+    <message id="400s">
+        <source></source>
+        <translation>medium</translation>
+    </message>
+    <message id="409s">
+        <source></source>
+        <translation>Minor 7th</translation>
+    </message>
+    <message id="410s">
+        <source></source>
+        <translation>Tonic minor</translation>
+    </message>
+    <message id="420s">
+        <source></source>
+        <translation>Next task</translation>
+    </message>
+    <message id="424s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>low</translation>
+    </message>
+    <message id="426s">
+        <source></source>
+        <extracomment>a blank and a number follow</extracomment>
+        <translation>No.</translation>
+    </message>
+    <message id="429s">
+        <source></source>
+        <translation>Symbol only</translation>
+    </message>
+    <message id="432s">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="438s">
+        <source></source>
+        <translation>Exam</translation>
+    </message>
+    <message id="461s">
+        <source></source>
+        <extracomment>the minutes with 394 and the seconds with 480 follow</extracomment>
+        <translation>Time left:</translation>
+    </message>
+    <message id="462s">
+        <source></source>
+        <extracomment>a blank and a number follow</extracomment>
+        <translation>Tasks left:</translation>
+    </message>
+    <message id="468s">
+        <source></source>
+        <translation>Right</translation>
+    </message>
+    <message id="469s">
+        <source></source>
+        <extracomment>of an arpeggio</extracomment>
+        <translation>Direction</translation>
+    </message>
+    <message id="470s">
+        <source></source>
+        <translation>fast</translation>
+    </message>
+    <message id="476s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>very high</translation>
+    </message>
+    <message id="477s">
+        <source></source>
+        <translation>very slow</translation>
+    </message>
+    <message id="478s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>very low</translation>
+    </message>
+    <message id="479s">
+        <source></source>
+        <translation>very fast</translation>
+    </message>
+    <message id="480s">
+        <source></source>
+        <translation>s</translation>
+    </message>
+    <message id="495s">
+        <source></source>
+        <translation>Save your training progress?</translation>
+    </message>
+    <message id="496s">
+        <source></source>
+        <translation>play</translation>
+    </message>
+    <message id="499s">
+        <source></source>
+        <extracomment>a number from 1 to 7 follows</extracomment>
+        <translation>Voice</translation>
+    </message>
+    <message id="507s">
+        <source></source>
+        <translation>Notes + symbol</translation>
+    </message>
+    <message id="547s">
+        <source></source>
+        <translation>Tempo</translation>
+    </message>
+    <message id="550s">
+        <source></source>
+        <translation>Test</translation>
+    </message>
+    <message id="551s">
+        <source></source>
+        <translation>Show test status</translation>
+    </message>
+    <message id="552s">
+        <source></source>
+        <translation>Hide test status</translation>
+    </message>
+    <message id="564s">
+        <source></source>
+        <translation>Training (new)</translation>
+    </message>
+    <message id="565s">
+        <source></source>
+        <translation>Training (continued)</translation>
+    </message>
+    <message id="566s">
+        <source></source>
+        <translation>Training progress</translation>
+    </message>
+    <message id="586s">
+        <source></source>
+        <translation>Exercise type</translation>
+    </message>
+    <message id="587s">
+        <source></source>
+        <translation>Practice mode</translation>
+    </message>
+    <message id="588s">
+        <source></source>
+        <translation>unaccented</translation>
+    </message>
+    <message id="589s">
+        <source></source>
+        <extracomment>each voice has a timbre of its own</extracomment>
+        <translation>individual</translation>
+    </message>
+    <message id="603s">
+        <source></source>
+        <translation>variable</translation>
+    </message>
+    <message id="609s">
+        <source></source>
+        <translation>Diminished</translation>
+    </message>
+    <message id="615s">
+        <source></source>
+        <translation>from the bottom up</translation>
+    </message>
+    <message id="623s">
+        <source></source>
+        <extracomment>of the root of the tasks</extracomment>
+        <translation>changing</translation>
+    </message>
+    <message id="624s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>random</translation>
+    </message>
+    <message id="625s">
+        <source></source>
+        <translation>Continue</translation>
+    </message>
+    <message id="629s">
+        <source></source>
+        <translation>Repeat</translation>
+    </message>
+    <message id="632s">
+        <source></source>
+        <translation>Repeat (check)</translation>
+    </message>
+    <message id="638s">
+        <source></source>
+        <translation>Too hard!</translation>
+    </message>
+    <message id="640s">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="671s">
+        <source></source>
+        <extracomment>MIDI note 36</extracomment>
+        <translation>C2</translation>
+    </message>
+    <message id="672s">
+        <source></source>
+        <extracomment>MIDI note 48</extracomment>
+        <translation>C3</translation>
+    </message>
+    <message id="673s">
+        <source></source>
+        <extracomment>MIDI note 60</extracomment>
+        <translation>C4</translation>
+    </message>
+    <message id="674s">
+        <source></source>
+        <extracomment>MIDI note 72</extracomment>
+        <translation>C5</translation>
+    </message>
+    <message id="675s">
+        <source></source>
+        <extracomment>MIDI note 84</extracomment>
+        <translation>C6</translation>
+    </message>
+    <message id="676s">
+        <source></source>
+        <extracomment>MIDI note 96</extracomment>
+        <translation>C7</translation>
+    </message>
+    <message id="699s">
+        <source></source>
+        <extracomment>the version number follows</extracomment>
+        <translation>version</translation>
+    </message>
+    <message id="700s">
+        <source></source>
+        <extracomment>stands between the two parts of a window title and after the heading 95</extracomment>
+        <translation>:</translation>
+    </message>
+    <message id="702s">
+        <source></source>
+        <extracomment>between two notes</extracomment>
+        <translation>to</translation>
+    </message>
+    <message id="720s">
+        <source></source>
+        <extracomment>first of four lines of one message</extracomment>
+        <translation>Sorry, something went wrong.</translation>
+    </message>
+    <message id="721s">
+        <source></source>
+        <extracomment>second of four lines</extracomment>
+        <translation>The error has been recorded in Melvado's log.</translation>
+    </message>
+    <message id="722s">
+        <source></source>
+        <extracomment>third of four lines</extracomment>
+        <translation>This step stops here, and the window will be closed.</translation>
+    </message>
+    <message id="723s">
+        <source></source>
+        <extracomment>last of four lines</extracomment>
+        <translation>Please try again. If that does not help, ask your teacher.</translation>
+    </message>
+    <message id="726s">
+        <source></source>
+        <translation>One moment, please!</translation>
+    </message>
+    <message id="9001s">
+        <source></source>
+        <translation>Yes</translation>
+    </message>
+    <message id="9002s">
+        <source></source>
+        <translation>No</translation>
+    </message>
+    <message id="9003s">
+        <source></source>
+        <translation>The program has met an error that it cannot deal with, and ends.</translation>
+    </message>
+    <message id="9101s">
+        <source></source>
+        <translation>Your stored trainings in %1 were written by a newer version of this program. They have been left exactly as they are. You can practise, but what you store now is lost when the program ends. Please install the newer version.</translation>
+    </message>
+    <message id="9102s">
+        <source></source>
+        <translation>The place for your stored trainings, %1, cannot be used (%2). You can practise, but what you store now is lost when the program ends. Please check that the folder exists and that you may write in it, then start the program again.</translation>
+    </message>
+    <message id="9103s">
+        <source></source>
+        <translation>Another program is using your stored trainings in %1 and did not let go of them in time. Nothing has been changed. Please close the other program and try again.</translation>
+    </message>
+    <message id="9104s">
+        <source></source>
+        <translation>Your stored trainings in %1 can be read but not changed. They have been left as they are. You can practise, but what you store now is lost when the program ends. Please make the file and its folder writable, then start the program again.</translation>
+    </message>
+    <message id="9105s">
+        <source></source>
+        <translation>What you stored could not be written to %1: the disk is probably full (%2). What was stored before is still there, and the new is kept until the program ends. Please make room on the disk and store it again.</translation>
+    </message>
+    <message id="9106s">
+        <source></source>
+        <translation>The file with your stored trainings, %1, is damaged and could not be read. It has been kept under the name %2, and a new, empty file has been started. If you have a backup copy of the file, you can put it back in its place.</translation>
+    </message>
+    <message id="9107s">
+        <source></source>
+        <translation>One stored record (%1) is damaged and could not be read. It has been kept under the name %2. The settings start with their usual values; all else that is stored is still there.</translation>
+    </message>
+    <message id="9108s">
+        <source></source>
+        <translation>The server with the stored trainings, %1, cannot be used (%2). You can practise, but what you store now is lost when the program ends. Please tell the person who looks after the computers, or start the program again later.</translation>
+    </message>
+    <message id="9109s">
+        <source></source>
+        <translation>Your stored trainings in %1 cannot be read at the moment (%2). Nothing has been changed. You can practise; please start the program again later to go on with them.</translation>
+    </message>
+    <message id="9151s">
+        <source></source>
+        <translation>The exercise makes no sound: the file with the sounds of the instruments (soundfont) is damaged: %1. Install the package fluid-soundfont-gm again, then start the program again.</translation>
+    </message>
+    <message id="9152s">
+        <source></source>
+        <translation>The exercise makes no sound: the file with the sounds of the instruments (soundfont) is missing. Install the package fluid-soundfont-gm, then start the program again.</translation>
+    </message>
+    <message id="9153s">
+        <source></source>
+        <translation>The exercise makes no sound: no sound output was found (tried: %1). Check that loudspeakers or headphones are connected and chosen in the sound settings of the system, then start the program again.</translation>
+    </message>
+    <message id="9154s">
+        <source></source>
+        <translation>The sound output has stopped. Check the loudspeakers or headphones and the sound settings of the system. The exercise goes on; the next chords try to sound again.</translation>
+    </message>
+    <message id="9155s">
+        <source></source>
+        <translation>The MIDI device "%1" is not there any more. Check its cable and whether it is switched on; the next chords try to reach it again. The exercise goes on without sound.</translation>
+    </message>
+    <message id="9156s">
+        <source></source>
+        <translation>MIDI device number %1 does not exist; there are %2 devices. Choose another MIDI device in Melvado. The exercise goes on without sound.</translation>
+    </message>
+    <message id="9201s">
+        <source></source>
+        <translation>The record of your exercise could not be saved in the folder %1 (%2). It has been saved as %3 instead. Please check that the folder exists, that you may write in it and that the disk is not full.</translation>
+    </message>
+    <message id="9202s">
+        <source></source>
+        <translation>The record of your exercise could not be saved, neither in the folder %1 (%2) nor in the program's own folder. Your results are still shown. Please make room on the disk or check the folder before the next exercise.</translation>
+    </message>
+    <message id="9251s">
+        <source></source>
+        <translation>The language file %1 cannot be read and is left out. If it came with the program, install the program again.</translation>
+    </message>
+    <message id="9252s">
+        <source></source>
+        <translation>No words were found for the language of this program, which is why its texts read "VOID". Install the program again, or start it in another language.</translation>
+    </message>
+</context>
+</TS>

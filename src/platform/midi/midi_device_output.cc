@@ -1,0 +1,284 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/midi/midi_device_output.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdint>
+#include <utility>
+
+#include "platform/midi/player.h"
+#include "platform/midi/sound_thread.h"
+#include "platform/midi/synth_renderer.h"
+#include "platform/midi/system_audio.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr const char* kSynthName = "Synthesizer (FluidSynth)";
+constexpr double kFullVolume = 65535;
+
+double SteadyMs() {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration<double, std::milli>(now).count();
+}
+
+int Rounded(double value) { return static_cast<int>(std::lround(value)); }
+
+/// FNV-1a, cut to what a 32-bit signed number holds above 0.
+int IdOfName(const std::string& name) {
+  std::uint32_t hash = 2166136261u;
+  for (const char c : name) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619u;
+  return static_cast<int>(hash & 0x7FFFFFFFu);
+}
+
+SynthSetup SetupOf(const MidiOptions& options) {
+  std::vector<std::string> soundfonts = {options.soundfont};
+  soundfonts.insert(soundfonts.end(), options.usual_soundfonts.begin(),
+                    options.usual_soundfonts.end());
+  return {options.audio, soundfonts, options.audio_drivers, options.sample_rate};
+}
+
+}  // namespace
+
+MidiDeviceOutput::MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify notify)
+    : loop_(loop),
+      notify_(std::move(notify)),
+      audio_(options.audio),
+      sample_rate_(options.sample_rate),
+      ports_(options.ports ? options.ports : MakeSystemMidiPorts()),
+      volume_(std::make_unique<SynthVolume>()) {
+  SilenceSoundLibraries();
+  programs_.fill(-1);
+  Player::Hooks hooks;
+  if (audio_ == SynthAudio::kRendered) {
+    hooks.now = [this] { return rendered_ms_; };
+  } else {
+    hooks.now = &SteadyMs;
+  }
+  hooks.post = [this](std::function<void()> work) { Do(std::move(work)); };
+  hooks.notify = [this, alive = std::weak_ptr(alive_)](const Notice& notice) {
+    loop_.Post([this, alive, notice] {
+      if (!alive.expired() && notify_) notify_(notice);
+    });
+  };
+  player_ = std::make_unique<Player>(SetupOf(options), *ports_, *volume_, std::move(hooks));
+  if (audio_ == SynthAudio::kDriver) {
+    thread_ = std::make_unique<SoundThread>([this] { return player_->RunDue(); });
+  }
+}
+
+MidiDeviceOutput::~MidiDeviceOutput() {
+  if (thread_) thread_->End();
+  player_.reset();
+}
+
+void MidiDeviceOutput::Do(std::function<void()> work) {
+  if (thread_) {
+    thread_->Do(std::move(work));
+  } else {
+    work();
+    player_->RunDue();
+  }
+}
+
+void MidiDeviceOutput::BeginLoading() {
+  Do([this] {
+    player_->BeginLoading();
+    ports_->Prepare();
+  });
+}
+
+void MidiDeviceOutput::Set(MidiMember member, double value) {
+  switch (member) {
+    case MidiMember::Befehl:
+      Command(static_cast<MidiBefehl>(Rounded(value)));
+      break;
+    case MidiMember::GeraetNr:
+      geraet_nr_ = Rounded(value);
+      break;
+    case MidiMember::VolumeLinks:
+    case MidiMember::VolumeRechts:
+      SetVolume(member, value);
+      break;
+    case MidiMember::Status:
+      status_ = value;
+      break;
+    case MidiMember::Daten1:
+      daten1_ = value;
+      break;
+    case MidiMember::Daten2:
+      daten2_ = value;
+      break;
+    case MidiMember::Zeit:
+      zeit_ = value;
+      break;
+    case MidiMember::Marke:
+      marke_ = value;
+      break;
+    case MidiMember::GeraetName:
+    case MidiMember::GeraetKennung:
+    case MidiMember::GeraeteZahl:
+    case MidiMember::OffenStand:
+      break;  // to be read only
+  }
+}
+
+double MidiDeviceOutput::Get(MidiMember member) const {
+  switch (member) {
+    case MidiMember::GeraetNr:
+      return geraet_nr_;
+    case MidiMember::GeraetKennung:
+      return Kennung();
+    case MidiMember::VolumeLinks:
+      return volume_links_;
+    case MidiMember::VolumeRechts:
+      return volume_rechts_;
+    case MidiMember::GeraeteZahl:
+      return static_cast<double>(DeviceNames().size());
+    case MidiMember::OffenStand:
+      return open_ ? 1 : 0;
+    case MidiMember::Befehl:
+    case MidiMember::GeraetName:
+    case MidiMember::Status:
+    case MidiMember::Daten1:
+    case MidiMember::Daten2:
+    case MidiMember::Zeit:
+    case MidiMember::Marke:
+      break;  // to be written only, or no number
+  }
+  return 0;
+}
+
+void MidiDeviceOutput::Command(MidiBefehl befehl) {
+  switch (befehl) {
+    case MidiBefehl::kOeffnen:
+      Open();
+      break;
+    case MidiBefehl::kSchliessen:
+      Drop();
+      open_ = false;
+      Do([this] { player_->Close(); });
+      break;
+    case MidiBefehl::kStart:
+      Start();
+      break;
+    case MidiBefehl::kStopp:
+      queue_.clear();
+      Drop();
+      break;
+    case MidiBefehl::kEinreihen:
+      queue_.push_back({zeit_, Message(), Rounded(marke_)});
+      break;
+    case MidiBefehl::kSenden:
+      SendNow();
+      break;
+  }
+}
+
+void MidiDeviceOutput::Open() {
+  open_ = true;
+  Do([this, choice = Choice(), programs = programs_] { player_->Open(choice, programs); });
+}
+
+void MidiDeviceOutput::Drop() {
+  ++generation_;
+  Do([this] { player_->Stop(); });
+}
+
+void MidiDeviceOutput::Start() {
+  ++generation_;
+  const std::vector<TimedMessage> messages = std::exchange(queue_, {});
+  if (messages.empty()) {
+    Do([this] { player_->Stop(); });
+    RaiseQueueEmpty()();
+    return;
+  }
+  for (const TimedMessage& message : messages) Remember(message.bytes);
+  auto queue = std::make_shared<SequencerQueue>(messages, RaiseQueueEmpty());
+  Do([this, queue] { player_->Start(queue); });
+}
+
+std::function<void()> MidiDeviceOutput::RaiseQueueEmpty() {
+  return [this, alive = std::weak_ptr(alive_), generation = generation_] {
+    loop_.Post([this, alive, generation] {
+      if (alive.expired() || generation != generation_) return;
+      if (QueueEmpty) QueueEmpty();
+    });
+  };
+}
+
+void MidiDeviceOutput::SendNow() {
+  const MidiBytes message = Message();
+  Remember(message);
+  Do([this, message] { player_->Send(message); });
+}
+
+MidiBytes MidiDeviceOutput::Message() const {
+  return {Rounded(status_), Rounded(daten1_) & 0x7F, Rounded(daten2_) & 0x7F};
+}
+
+void MidiDeviceOutput::Remember(const MidiBytes& message) {
+  if (!message.IsChannelMessage() || message.kind() != MidiBytes::kProgram) return;
+  programs_[static_cast<std::size_t>(message.channel())] = message.data1;
+}
+
+void MidiDeviceOutput::SetVolume(MidiMember member, double value) {
+  const double volume = std::clamp(value, 0.0, kFullVolume);
+  const bool is_left = member == MidiMember::VolumeLinks;
+  (is_left ? volume_links_ : volume_rechts_) = volume;
+  (is_left ? volume_->left : volume_->right) = static_cast<float>(volume / kFullVolume);
+}
+
+std::vector<std::string> MidiDeviceOutput::DeviceNames() const {
+  names_ = ports_->Names();
+  names_.push_back(kSynthName);
+  return names_;
+}
+
+const std::string* MidiDeviceOutput::NameOf(int number) const {
+  if (names_.empty()) DeviceNames();
+  const int count = static_cast<int>(names_.size());
+  const int index = number == -1 ? count - 1 : number;
+  if (index < 0 || index >= count) return nullptr;
+  return &names_[static_cast<std::size_t>(index)];
+}
+
+std::string MidiDeviceOutput::GeraetName() const {
+  const std::string* name = NameOf(geraet_nr_);
+  return name ? *name : "";
+}
+
+int MidiDeviceOutput::Kennung() const {
+  const std::string* name = NameOf(geraet_nr_);
+  if (!name) return 0;
+  return geraet_nr_ == -1 ? -1 : IdOfName(*name);
+}
+
+DeviceChoice MidiDeviceOutput::Choice() const {
+  const std::string* name = NameOf(geraet_nr_);
+  if (!name) {
+    return {DeviceChoice::Kind::kNone, "", geraet_nr_, static_cast<int>(names_.size())};
+  }
+  if (name == &names_.back()) return {DeviceChoice::Kind::kSynth, "", 0, 0};
+  return {DeviceChoice::Kind::kPort, *name, 0, 0};
+}
+
+void MidiDeviceOutput::Render(float* left, float* right, int frames) {
+  for (int done = 0; done < frames;) {
+    const int piece = std::min(frames - done, kSynthBlock);
+    player_->RunDue();
+    player_->Render(left + done, right + done, piece);
+    rendered_ms_ += piece * 1000.0 / sample_rate_;
+    done += piece;
+  }
+}
+
+std::unique_ptr<MidiDeviceOutput> MakeMidiOutput(MidiOptions options, EventLoop& loop,
+                                                 Notify notify) {
+  return std::make_unique<MidiDeviceOutput>(std::move(options), loop, std::move(notify));
+}
+
+}  // namespace vmod17

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/event_loop.h"
+#include "platform/midi/midi_message.h"
+#include "platform/midi/midi_options.h"
+#include "platform/midi_output.h"
+#include "platform/notice.h"
+
+namespace vmod17 {
+
+class Player;
+class SoundThread;
+struct DeviceChoice;
+struct SynthVolume;
+
+/// The MIDI output of the program: the system's MIDI ports and, always last, the built-in
+/// synthesiser. The number -1 is the last device too.
+class MidiDeviceOutput : public MidiOutput {
+ public:
+  /// `loop` outlives the output. `notify` is called on the program's thread, about a damaged or
+  /// missing soundfont, missing or lost audio, a port that vanished, a number that names no device.
+  MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify notify);
+  ~MidiDeviceOutput() override;
+
+  /// Loads the synthesiser and looks for ports, beside the program. Meant for the moment at which
+  /// the first screen stands; opening the synthesiser does the same where nobody has. Returns at
+  /// once; a second call does nothing.
+  void BeginLoading();
+
+  void Set(MidiMember member, double value) override;
+  double Get(MidiMember member) const override;
+  std::string GeraetName() const override;
+
+  /// All names in the order of their numbers, as the system has them now. Never empty.
+  std::vector<std::string> DeviceNames() const;
+
+  /// For SynthAudio::kRendered: moves the time by `frames` and writes what sounds.
+  void Render(float* left, float* right, int frames);
+
+ private:
+  void Command(MidiBefehl befehl);
+  void Open();
+  void Start();
+  void Drop();
+  void SendNow();
+  void SetVolume(MidiMember member, double value);
+  MidiBytes Message() const;
+  void Remember(const MidiBytes& message);
+  const std::string* NameOf(int number) const;
+  DeviceChoice Choice() const;
+  int Kennung() const;
+  std::function<void()> RaiseQueueEmpty();
+  void Do(std::function<void()> work);
+
+  EventLoop& loop_;
+  const Notify notify_;
+  const SynthAudio audio_;
+  const double sample_rate_;
+  const std::shared_ptr<MidiPorts> ports_;
+
+  int geraet_nr_ = -1;
+  bool open_ = false;
+  double volume_links_ = 65535;
+  double volume_rechts_ = 65535;
+  double status_ = 0;
+  double daten1_ = 0;
+  double daten2_ = 0;
+  double zeit_ = 0;
+  double marke_ = 0;
+  Programs programs_;
+  std::vector<TimedMessage> queue_;
+  mutable std::vector<std::string> names_;  // as last listed
+
+  // Tells a QueueEmpty of the queue that runs from one that was dropped while the event was under
+  // way, and keeps events from an output that is gone.
+  int generation_ = 0;
+  std::shared_ptr<int> alive_ = std::make_shared<int>(0);
+
+  double rendered_ms_ = 0;
+  std::unique_ptr<SynthVolume> volume_;
+  // The thread object outlives the player: a loader that ends late still posts to it.
+  std::unique_ptr<SoundThread> thread_;
+  std::unique_ptr<Player> player_;
+};
+
+std::unique_ptr<MidiDeviceOutput> MakeMidiOutput(MidiOptions options, EventLoop& loop,
+                                                 Notify notify);
+
+}  // namespace vmod17

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/midi/midi_message.h"
+
+namespace vmod17 {
+
+/// A connection to one MIDI port of the system. One thread at a time.
+class MidiPort {
+ public:
+  virtual ~MidiPort() = default;
+  /// False when the port has taken nothing because it is gone.
+  virtual bool Send(const MidiBytes& message) = 0;
+  /// Whether the system still knows the port. Costs a fraction of a millisecond.
+  virtual bool IsThere() = 0;
+};
+
+/// The MIDI ports of the system that take messages. Any thread.
+class MidiPorts {
+ public:
+  virtual ~MidiPorts() = default;
+  /// Connects to the system, so that a later `Names` knows all.
+  virtual void Prepare() {}
+  /// UTF-8, in the order of the system; two ports never have the same name. Where connecting takes
+  /// long it goes on beside the program, and the ports are there at a later call.
+  virtual std::vector<std::string> Names() = 0;
+  /// Null when there is no port of that name or it cannot be opened.
+  virtual std::unique_ptr<MidiPort> Open(const std::string& name) = 0;
+};
+
+/// The ports as RtMidi finds them: on Linux those of ALSA, and where ALSA has no sequencer those of
+/// a JACK server that runs already. None at all is no error.
+std::unique_ptr<MidiPorts> MakeSystemMidiPorts();
+
+}  // namespace vmod17

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/midi/player.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "platform/midi/midi_notices.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr double kNever = std::numeric_limits<double>::infinity();
+constexpr double kLongestWait = 1500;   // for the synthesiser to be loaded
+constexpr double kPresenceCheck = 500;  // how often a port that plays is looked for
+constexpr double kAudioCheck = 250;     // how often the audio thread is looked after,
+constexpr double kAudioDead =
+    2000;  // and how long it may stand still: sound servers buffer as much
+
+}  // namespace
+
+Player::Player(SynthSetup setup, MidiPorts& ports, const SynthVolume& volume, Hooks hooks)
+    : hooks_(std::move(hooks)),
+      ports_(ports),
+      synth_(std::move(setup), volume, {hooks_.post, [this] { OnSynthLoaded(); }, hooks_.notify}),
+      sink_([this](std::span<const MidiBytes> messages) {
+        if (open_) device_->Send(messages);
+      }) {}
+
+void Player::Open(const DeviceChoice& choice, const Programs& programs) {
+  Choose(choice);
+  open_ = true;
+  device_->Open(programs);
+}
+
+void Player::Choose(const DeviceChoice& choice) {
+  // The first choice of no device differs from the one that stands before any choice by its count.
+  if (choice == choice_) return;
+  Stop();
+  if (open_) device_->Close();
+  choice_ = choice;
+  port_.reset();
+  switch (choice.kind) {
+    case DeviceChoice::Kind::kSynth:
+      device_ = &synth_;
+      break;
+    case DeviceChoice::Kind::kPort:
+      port_ = std::make_unique<PortDevice>(
+          ports_, choice.port, [this] { hooks_.notify(PortVanishedNotice(choice_.port)); });
+      device_ = port_.get();
+      break;
+    case DeviceChoice::Kind::kNone:
+      device_ = &silent_;
+      hooks_.notify(NoSuchDeviceNotice(choice.number, choice.count));
+      break;
+  }
+}
+
+void Player::Close() {
+  Stop();
+  device_->Close();
+  open_ = false;
+}
+
+void Player::Send(const MidiBytes& message) {
+  if (open_) device_->Send({&message, 1});
+}
+
+void Player::Start(std::shared_ptr<SequencerQueue> queue) {
+  Stop();
+  start_ = checked_ = hooks_.now();
+  if (device_ != &synth_ || !open_) {
+    paced_ = std::move(queue);
+  } else if (synth_.state() == SynthDevice::State::kReady) {
+    RunOnSynth(std::move(queue));
+  } else if (synth_.state() == SynthDevice::State::kLoading) {
+    waiting_ = std::move(queue);
+  } else {
+    paced_ = std::move(queue);
+  }
+}
+
+void Player::RunOnSynth(std::shared_ptr<SequencerQueue> queue) {
+  on_synth_ = std::move(queue);
+  start_ = checked_ = hooks_.now();
+  blocks_ = synth_.blocks();
+  synth_.Run(on_synth_);
+}
+
+void Player::Stop() {
+  if (on_synth_) synth_.Stop();
+  on_synth_.reset();
+  waiting_.reset();
+  paced_.reset();
+}
+
+void Player::OnSynthLoaded() {
+  if (!waiting_) return;
+  if (synth_.state() == SynthDevice::State::kReady) {
+    RunOnSynth(std::move(waiting_));
+  } else {
+    paced_ = std::move(waiting_);
+  }
+  waiting_.reset();
+}
+
+double Player::RunDue() {
+  const double now = hooks_.now();
+  double next = kNever;
+  if (waiting_) {
+    next = start_ + kLongestWait - now;
+    if (next <= 0) paced_ = std::exchange(waiting_, nullptr);
+  }
+  if (paced_) next = Pace(now);
+  if (on_synth_) next = Watch(now);
+  return next;
+}
+
+double Player::Pace(double now) {
+  paced_->Advance(now - start_, sink_);
+  if (paced_->IsOver()) {
+    paced_.reset();
+    return kNever;
+  }
+  const double next = start_ + paced_->NextTime() - now;
+  if (!port_) return next;
+  if (now - checked_ >= kPresenceCheck) {
+    checked_ = now;
+    port_->CheckPresence();
+  }
+  return std::min(next, checked_ + kPresenceCheck - now);
+}
+
+double Player::Watch(double now) {
+  if (on_synth_->IsOver()) {
+    on_synth_.reset();
+    return kNever;
+  }
+  if (const std::uint64_t blocks = synth_.blocks(); blocks != blocks_) {
+    blocks_ = blocks;
+    checked_ = now;
+  } else if (now - checked_ >= kAudioDead) {
+    // The audio thread has let go of the queue when `Stop` returns.
+    synth_.Stop();
+    synth_.Lose();
+    paced_ = std::exchange(on_synth_, nullptr);
+    return Pace(now);
+  }
+  return kAudioCheck;
+}
+
+}  // namespace vmod17

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/midi/midi_device.h"
+#include "platform/midi/midi_ports.h"
+#include "platform/midi/port_device.h"
+#include "platform/midi/synth_device.h"
+#include "platform/notice.h"
+
+namespace vmod17 {
+
+/// Which device of the list is meant. A port goes by its name: its number may be another's by now.
+struct DeviceChoice {
+  enum class Kind { kSynth, kPort, kNone };
+  Kind kind = Kind::kNone;
+  std::string port;  ///< for kPort
+  int number = 0;    ///< for kNone: what was asked for
+  int count = 0;     ///< for kNone: how many devices there are
+
+  bool operator==(const DeviceChoice&) const = default;
+};
+
+/// The device that is open and the queue that runs on it. Lives on the sound thread.
+///
+/// A queue runs by the clock of the sound card where the synthesiser plays it, which makes onsets
+/// exact to a block, and by the clock of the system on every other device.
+class Player {
+ public:
+  struct Hooks {
+    std::function<double()> now;                      ///< milliseconds, evenly
+    std::function<void(std::function<void()>)> post;  ///< to the sound thread; any thread
+    std::function<void(const Notice&)> notify;
+  };
+
+  /// `ports` and `volume` outlive the player.
+  Player(SynthSetup setup, MidiPorts& ports, const SynthVolume& volume, Hooks hooks);
+  /// The sound thread must have ended.
+  ~Player() = default;
+
+  void BeginLoading() { synth_.BeginLoading(); }
+  void Open(const DeviceChoice& choice, const Programs& programs);
+  void Close();
+  void Send(const MidiBytes& message);
+  /// A synthesiser that still loads gets a second and a half to be ready; then the queue runs from
+  /// its beginning as if it had started at once, so that its end is never later than that.
+  void Start(std::shared_ptr<SequencerQueue> queue);
+  void Stop();
+
+  /// Sends what is due. Returns the milliseconds until the next call is wanted, or infinity.
+  double RunDue();
+
+  /// For a caller that renders.
+  void Render(float* left, float* right, int frames) { synth_.Render(left, right, frames); }
+
+ private:
+  void Choose(const DeviceChoice& choice);
+  void OnSynthLoaded();
+  void RunOnSynth(std::shared_ptr<SequencerQueue> queue);
+  double Pace(double now);
+  double Watch(double now);
+
+  const Hooks hooks_;
+  MidiPorts& ports_;
+  SynthDevice synth_;
+  SilentDevice silent_;
+  std::unique_ptr<PortDevice> port_;
+  MidiDevice* device_ = &silent_;
+  DeviceChoice choice_;
+  bool open_ = false;
+  const SequencerQueue::Sink sink_;
+
+  double start_ = 0;                         // of whichever queue there is
+  std::shared_ptr<SequencerQueue> waiting_;  // for the synthesiser to be loaded
+  std::shared_ptr<SequencerQueue> paced_;    // by the clock of the system
+  std::shared_ptr<SequencerQueue> on_synth_;
+  double checked_ = 0;  // when the port was last seen, or the synthesiser last played
+  std::uint64_t blocks_ = 0;
+};
+
+}  // namespace vmod17

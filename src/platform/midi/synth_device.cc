@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/midi/synth_device.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/midi/midi_notices.h"
+
+namespace vmod17 {
+
+SynthDevice::SynthDevice(SynthSetup setup, const SynthVolume& volume, Hooks hooks)
+    : setup_(std::move(setup)), volume_(volume), hooks_(std::move(hooks)) {
+  programs_.fill(-1);
+}
+
+SynthDevice::~SynthDevice() {
+  if (loader_.joinable()) loader_.join();
+}
+
+void SynthDevice::BeginLoading() {
+  if (state_ != State::kIdle && state_ != State::kLost) return;
+  state_ = State::kLoading;
+  if (setup_.audio == SynthAudio::kRendered) {
+    Finish(LoadSynth(setup_, volume_));
+    return;
+  }
+  if (loader_.joinable()) loader_.join();
+  loader_ = std::thread([this, lost = std::move(engine_)]() mutable {
+    lost.reset();  // may wait for the dead driver
+    auto load = std::make_shared<SynthLoad>(LoadSynth(setup_, volume_));
+    hooks_.post([this, load] { Finish(std::move(*load)); });
+  });
+}
+
+void SynthDevice::Finish(SynthLoad load) {
+  engine_ = std::move(load.engine);
+  state_ = engine_ ? State::kReady : State::kSilent;
+  // Who has been told that the sound output died needs no second message that it stays dead.
+  if (load.trouble && !lost_before_) hooks_.notify(*load.trouble);
+  if (engine_) {
+    const std::vector<MidiBytes> early = std::move(early_);
+    early_.clear();
+    if (open_) Open(Programs(programs_));
+    Send(early);
+  }
+  hooks_.on_loaded();
+}
+
+void SynthDevice::Open(const Programs& programs) {
+  open_ = true;
+  programs_ = programs;
+  BeginLoading();
+  if (state_ != State::kReady) {
+    early_.clear();
+    return;
+  }
+  for (int channel = 0; channel < kMidiChannels; ++channel) {
+    SetProgram(channel, programs_[static_cast<std::size_t>(channel)]);
+  }
+  const auto bends = CentredPitchBends();
+  engine_->renderer().Send(bends);
+}
+
+void SynthDevice::Close() {
+  open_ = false;
+  early_.clear();
+  if (engine_) engine_->renderer().Silence();
+}
+
+void SynthDevice::SetProgram(int channel, int program) {
+  // Loads the samples of the timbre, which is why it happens here and not on the audio thread.
+  if (program >= 0) fluid_synth_program_change(engine_->synth(), channel, program);
+}
+
+void SynthDevice::Send(std::span<const MidiBytes> messages) {
+  std::vector<MidiBytes> rest;
+  for (const MidiBytes& message : messages) {
+    if (!message.IsChannelMessage()) continue;
+    const bool is_note =
+        message.kind() == MidiBytes::kNoteOn || message.kind() == MidiBytes::kNoteOff;
+    if (message.kind() == MidiBytes::kProgram) {
+      programs_[static_cast<std::size_t>(message.channel())] = message.data1;
+      if (engine_) SetProgram(message.channel(), message.data1);
+    } else if (engine_) {
+      rest.push_back(message);
+    } else if (state_ == State::kLoading && !is_note) {
+      early_.push_back(message);
+    }
+  }
+  if (engine_) engine_->renderer().Send(rest);
+}
+
+void SynthDevice::Run(std::shared_ptr<SequencerQueue> queue) {
+  engine_->renderer().Run(std::move(queue));
+}
+
+void SynthDevice::Stop() {
+  if (engine_) engine_->renderer().Stop();
+}
+
+void SynthDevice::Lose() {
+  state_ = State::kLost;
+  lost_before_ = true;
+  hooks_.notify(AudioLostNotice());
+}
+
+void SynthDevice::Render(float* left, float* right, int frames) {
+  if (engine_) {
+    engine_->renderer().Render(left, right, frames);
+    return;
+  }
+  std::fill_n(left, frames, 0.0f);
+  std::fill_n(right, frames, 0.0f);
+}
+
+}  // namespace vmod17

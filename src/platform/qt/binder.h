@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/event_loop.h"
+#include "platform/qt/widgets.h"
+
+class QButtonGroup;
+
+namespace vmod17 {
+
+/// What a binding needs of its page.
+struct BindingSite {
+  const PageStyle& style;
+  /// Runs what a user's action asks for; does nothing once the form is gone.
+  std::function<void(const EventLoop::Handler&)> deliver;
+  /// Moves the focus from a widget in the direction of an arrow key, among controls of one array.
+  std::function<bool(const Control& from, int key)> move_focus;
+  /// The group in which the options of one name exclude each other.
+  std::function<QButtonGroup*(const std::string& name)> option_group;
+};
+
+/// Ties a control to its widget: a user's action reaches the control, and `Refresh` shows on the
+/// widget what the control says, writing only what differs.
+class Binding {
+ public:
+  Binding(Control& control, QWidget& widget, Dressed& dressed);
+  virtual ~Binding() = default;
+  Binding(const Binding&) = delete;
+  Binding& operator=(const Binding&) = delete;
+
+  Control& control() const { return control_; }
+  QWidget& widget() const { return widget_; }
+  Dressed& dressed() const { return dressed_; }
+  /// The control whose caption names this one; none: its own caption does.
+  void NameBy(const Control* other) { named_by_ = other; }
+  /// The key that presses it, for its tool tip.
+  void SetKey(const QString& key) { key_ = key; }
+
+  /// Returns whether the control's place or visibility differs from the last time.
+  bool Refresh();
+
+ protected:
+  /// Shows what the control's kind has beyond the common; called by `Refresh`.
+  virtual void RefreshKind() {}
+  /// Kinds whose caption is not that of the control set it themselves.
+  virtual bool OwnCaption() const { return false; }
+
+ private:
+  using Frame = std::array<std::optional<int>, 4>;
+
+  void RefreshTexts();
+  void WriteName(const std::string& name);
+  bool RefreshPlace();
+
+  Control& control_;
+  QWidget& widget_;
+  Dressed& dressed_;
+  const Control* named_by_ = nullptr;
+  QString key_;
+
+  std::optional<std::string> caption_;
+  std::optional<std::string> name_;
+  std::string description_;
+  std::optional<Color> back_color_;
+  std::optional<Color> fore_color_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  Frame frame_;
+};
+
+/// Makes the widget for a control, by the control's kind. Null for a kind that is never shown.
+std::unique_ptr<Binding> Bind(Control& control, const Placement& place, const BindingSite& site,
+                              QWidget* parent);
+
+}  // namespace vmod17

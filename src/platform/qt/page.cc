@@ -1,0 +1,354 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/page.h"
+
+#include <QButtonGroup>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <tuple>
+
+#include "platform/qt/look.h"
+#include "platform/qt/qt_event_loop.h"
+#include "platform/qt/signs.h"
+
+namespace vmod17 {
+namespace {
+
+/// How far `to` lies from `from` in the direction of an arrow key; infinite when it lies elsewhere.
+double Distance(const QPointF& from, const QPointF& to, int key) {
+  const QPointF way = to - from;
+  const bool along_x = key == Qt::Key_Left || key == Qt::Key_Right;
+  const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
+  const double ahead = (along_x ? way.x() : way.y()) * (forward ? 1 : -1);
+  const double aside = std::abs(along_x ? way.y() : way.x());
+  if (ahead < 1 || (along_x && aside > 1)) return std::numeric_limits<double>::infinity();
+  return ahead + 3 * aside;
+}
+
+}  // namespace
+
+Page::Page(Form& form, QtEventLoop& loop, PictureSource& pictures, QWidget* parent)
+    : QWidget(parent), form_(&form), loop_(loop), style_{pictures}, site_{style_, {}, {}, {}} {
+  setObjectName(QString::fromStdString(form.name()));
+  setFocusPolicy(Qt::ClickFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  site_.deliver = [this](const EventLoop::Handler& handler) { Deliver(handler); };
+  site_.move_focus = [this](const Control& from, int key) { return MoveFocus(from, key); };
+  site_.option_group = [this](const std::string& name) {
+    QButtonGroup*& group = option_groups_[name];
+    if (group == nullptr) group = new QButtonGroup(this);
+    return group;
+  };
+  Build();
+}
+
+void Page::Build() {
+  layout_ = LayoutOf(*form_, Layout{}.canvas);
+  for (Control* control : form_->controls()) BindControl(*control);
+  NameAndKeys();
+  for (const auto& binding : bindings_) binding->Refresh();
+  OrderTabs();
+}
+
+void Page::BindControl(Control& control) {
+  const auto place = layout_.places.find(control.Id());
+  if (place == layout_.places.end() || by_control_.contains(&control)) return;
+  QWidget* parent = this;
+  if (control.container != nullptr) {
+    BindControl(*control.container);
+    const auto container = by_control_.find(control.container);
+    if (container == by_control_.end()) return;  // what it stands in is not shown
+    parent = &container->second->widget();
+  }
+  std::unique_ptr<Binding> binding = Bind(control, place->second, site_, parent);
+  if (binding == nullptr) return;
+  by_control_[&control] = binding.get();
+  bindings_.push_back(std::move(binding));
+}
+
+void Page::NameAndKeys() {
+  for (const auto& binding : bindings_) {
+    const Placement& place = layout_.places[binding->control().Id()];
+    if (!place.named_by.empty()) binding->NameBy(FindControl(*form_, place.named_by));
+  }
+  for (const KeyBinding& key : layout_.keys) {
+    for (const std::string& id : key.controls) {
+      if (Binding* binding = BindingOf(id)) {
+        binding->SetKey(key.keys.toString(QKeySequence::NativeText));
+      }
+    }
+  }
+}
+
+void Page::Refresh() {
+  if (form_ == nullptr) return;
+  QWidget* const before = window()->focusWidget();
+  bool moved = false;
+  for (const auto& binding : bindings_) moved |= binding->Refresh();
+  if (moved) Place();
+  if (title_ != form_->caption) {
+    title_ = form_->caption;
+    update();
+  }
+  KeepFocus(before);
+}
+
+void Page::Arrange(const QSize& size) {
+  size_ = size;
+  const double fitting =
+      std::min(size.width() / layout_.canvas.width(), size.height() / layout_.canvas.height());
+  style_.factor = std::max(1.0, fitting);
+  if (form_ != nullptr) Place();
+}
+
+void Page::Place() {
+  if (size_.isEmpty()) return;
+  layout_ = LayoutOf(*form_, QSizeF(size_) / style_.factor);
+  for (const auto& binding : bindings_) {
+    const Control& control = binding->control();
+    QRect rect = Pixels(PlaceOf(control));
+    if (control.container != nullptr) {
+      rect.translate(-Pixels(PlaceOf(*control.container)).topLeft());
+    }
+    if (binding->widget().geometry() != rect) binding->widget().setGeometry(rect);
+    if (layout_.places[control.Id()].look == Look::kNotice) binding->widget().raise();
+  }
+  PlaceBackdrops();
+}
+
+void Page::PlaceBackdrops() {
+  std::vector<Card> cards;
+  for (const Backdrop& backdrop : layout_.backdrops) {
+    const Control* const control = FindControl(*form_, backdrop.control);
+    if (control == nullptr || !control->visible) continue;
+    const QRectF place = PlaceOf(*control).marginsAdded(backdrop.beyond);
+    cards.push_back(
+        {Pixels(place), control->back_color ? look::ToQ(*control->back_color) : look::kCard});
+  }
+  const QRect title_place = Pixels(layout_.title);
+  if (cards == cards_ && title_place == title_place_) return;
+  cards_ = std::move(cards);
+  title_place_ = title_place;
+  update();
+}
+
+/// Where a control stands on the page: what the program sets counts before the layout's choice.
+QRectF Page::PlaceOf(const Control& control) const {
+  const auto place = layout_.places.find(control.Id());
+  QRectF rect = place == layout_.places.end() ? QRectF() : place->second.rect;
+  const QPointF origin =
+      control.container != nullptr ? PlaceOf(*control.container).topLeft() : QPointF();
+  if (control.left) rect.moveLeft(origin.x() + *control.left);
+  if (control.top) rect.moveTop(origin.y() + *control.top);
+  if (control.width) rect.setWidth(*control.width);
+  if (control.height) rect.setHeight(*control.height);
+  return rect;
+}
+
+QRect Page::Pixels(const QRectF& units) const {
+  const double f = style_.factor;
+  return QRect(QPoint(qRound(units.left() * f), qRound(units.top() * f)),
+               QPoint(qRound(units.right() * f) - 1, qRound(units.bottom() * f) - 1));
+}
+
+void Page::OrderTabs() {
+  std::vector<QWidget*> order;
+  CollectTabs(nullptr, order);
+  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
+void Page::CollectTabs(const Control* container, std::vector<QWidget*>& order) const {
+  std::vector<const Binding*> inside;
+  for (const auto& binding : bindings_) {
+    if (binding->control().container == container) inside.push_back(binding.get());
+  }
+  const auto key = [this](const Binding* binding) {
+    const QRectF rect = PlaceOf(binding->control());
+    const bool frame = dynamic_cast<const Frame*>(&binding->control()) != nullptr;
+    if (layout_.tab_by_column && frame) return std::tuple(0, rect.left(), rect.top());
+    return std::tuple(layout_.tab_by_column ? 1 : 0, rect.top(), rect.left());
+  };
+  std::stable_sort(inside.begin(), inside.end(),
+                   [&key](const Binding* a, const Binding* b) { return key(a) < key(b); });
+  for (const Binding* binding : inside) {
+    if (binding->widget().focusPolicy() != Qt::NoFocus) order.push_back(&binding->widget());
+    CollectTabs(&binding->control(), order);
+  }
+}
+
+void Page::Deliver(const EventLoop::Handler& handler) {
+  if (form_ != nullptr) loop_.Deliver(handler);
+}
+
+void Page::Release() {
+  form_ = nullptr;
+  bindings_.clear();
+  by_control_.clear();
+}
+
+Binding* Page::BindingOf(const std::string& id) const {
+  if (form_ == nullptr) return nullptr;
+  const auto found = by_control_.find(FindControl(*form_, id));
+  return found == by_control_.end() ? nullptr : found->second;
+}
+
+Pressable* Page::PressableOf(const std::string& id) const {
+  Binding* const binding = BindingOf(id);
+  return binding == nullptr ? nullptr : dynamic_cast<Pressable*>(&binding->control());
+}
+
+bool Page::HandleKey(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_F1) return true;
+  if (form_ == nullptr || !form_->visible || event.isAutoRepeat()) return false;
+  std::vector<std::string> ids;
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (enter && !layout_.default_control.empty()) ids = {layout_.default_control};
+  const QKeySequence pressed(event.key() |
+                             static_cast<int>(event.modifiers().toInt() & ~Qt::KeypadModifier));
+  for (const KeyBinding& key : layout_.keys) {
+    if (key.keys == pressed) ids = key.controls;
+  }
+  for (const std::string& id : ids) {
+    Pressable* const control = PressableOf(id);
+    if (control == nullptr || !control->Reachable()) continue;
+    Deliver([control] { control->Press(); });
+    return true;
+  }
+  return false;
+}
+
+void Page::keyPressEvent(QKeyEvent* event) {
+  if (!HandleKey(*event)) event->ignore();
+}
+
+// --- the focus
+
+void Page::SetKeyboard(bool keyboard) {
+  if (style_.keyboard == keyboard) return;
+  style_.keyboard = keyboard;
+  if (QWidget* focus = window()->focusWidget()) focus->update();
+}
+
+bool Page::CanFocus(const QWidget& widget) const {
+  return widget.isEnabled() && widget.isVisibleTo(this);
+}
+
+bool Page::MoveFocus(const Control& from, int key) {
+  if (form_ == nullptr || from.index() == Control::kNoIndex) return false;
+  const QPointF start = PlaceOf(from).center();
+  QWidget* best = nullptr;
+  double best_distance = std::numeric_limits<double>::infinity();
+  for (const auto& binding : bindings_) {
+    if (binding->control().name() != from.name() || !CanFocus(binding->widget())) continue;
+    const double distance = Distance(start, PlaceOf(binding->control()).center(), key);
+    if (distance >= best_distance) continue;
+    best = &binding->widget();
+    best_distance = distance;
+  }
+  if (best != nullptr) best->setFocus(Qt::OtherFocusReason);
+  return true;
+}
+
+/// The first control of an array that can have the focus, counted from the one that had it last.
+QWidget* Page::RefugeIn(const std::string& name) const {
+  const auto last = last_index_.find(name);
+  const int from = last == last_index_.end() ? 0 : last->second;
+  QWidget* lowest = nullptr;
+  for (const auto& binding : bindings_) {
+    if (binding->control().name() != name || !CanFocus(binding->widget())) continue;
+    if (binding->control().index() >= from) return &binding->widget();
+    if (lowest == nullptr) lowest = &binding->widget();
+  }
+  return lowest;
+}
+
+QWidget* Page::Refuge() const {
+  for (const std::string& name : layout_.refuge) {
+    if (QWidget* widget = RefugeIn(name)) return widget;
+  }
+  return nullptr;
+}
+
+/// A control that is switched off hands the focus on to whatever comes next in the order of tabs,
+/// which may well be the way out. So it goes to where the user goes on, or waits on the page until
+/// there is such a place.
+void Page::KeepFocus(QWidget* before) {
+  if (form_ == nullptr || !form_->visible || !isVisible()) return;
+  const bool waiting = before == nullptr || before == this;
+  if (!waiting && isAncestorOf(before) && CanFocus(*before)) {
+    RememberFocus(before);
+    return;
+  }
+  if (!waiting && !isAncestorOf(before)) return;
+  QWidget* const refuge = Refuge();
+  QWidget* const target = refuge != nullptr ? refuge : this;
+  if (target != window()->focusWidget()) target->setFocus(Qt::OtherFocusReason);
+}
+
+void Page::RememberFocus(QWidget* focus) {
+  if (focus == last_focus_) return;
+  last_focus_ = focus;
+  for (const auto& binding : bindings_) {
+    if (&binding->widget() != focus) continue;
+    last_index_[binding->control().name()] = binding->control().index();
+  }
+}
+
+void Page::TakeFocus() {
+  if (form_ == nullptr) return;
+  QWidget* target = last_focus_;
+  if (target == nullptr || !CanFocus(*target)) {
+    Binding* const first = BindingOf(layout_.focus_first);
+    target = first != nullptr && CanFocus(first->widget()) ? &first->widget() : Refuge();
+  }
+  if (target == nullptr) target = this;
+  target->setFocus(Qt::OtherFocusReason);
+}
+
+// --- painting
+
+bool Page::TitleFits() const {
+  return layout_.title.isEmpty() ||
+         look::SetText(QString::fromStdString(title_), Pixels(layout_.title).size(),
+                       layout_.title_text * style_.factor, look::Weight::kBold)
+             .fits;
+}
+
+void Page::PaintBanner(QPainter& painter) const {
+  if (layout_.banner.isEmpty()) return;
+  const QRectF banner(Pixels(layout_.banner));
+  const double radius = look::kCardRadius * style_.factor;
+  QPainterPath path;  // round above, where the card is
+  path.setFillRule(Qt::WindingFill);
+  path.addRoundedRect(banner, radius, radius);
+  path.addRect(banner.adjusted(0, radius, 0, 0));
+  QLinearGradient ground(banner.topLeft(), banner.bottomRight());
+  ground.setColorAt(0, look::kAccentDark.darker(125));
+  ground.setColorAt(1, look::kAccent);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.fillPath(path, ground);
+  DrawStaff(painter, banner, QColor(255, 255, 255, 46));
+}
+
+void Page::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), look::kPage);
+  for (const Card& card : cards_) {
+    look::DrawCard(painter, QRectF(card.rect), card.fill, style_.factor);
+  }
+  PaintBanner(painter);
+  if (layout_.title.isEmpty()) return;
+  const QString title = QString::fromStdString(title_);
+  const QRectF box(Pixels(layout_.title));
+  look::DrawText(
+      painter, box, title,
+      look::SetText(title, box.size(), layout_.title_text * style_.factor, look::Weight::kBold),
+      layout_.title_color, layout_.title_align);
+}
+
+}  // namespace vmod17

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/qt_message_box.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+
+namespace vmod17 {
+namespace {
+
+void Label(QMessageBox& box, QMessageBox::StandardButton button, const std::string& word) {
+  if (!word.empty()) box.button(button)->setText(QString::fromStdString(word));
+}
+
+/// Shows the box; the keyboard comes back to the window even where no window manager sees to it.
+int Show(QMessageBox& box) {
+  const int answer = box.exec();
+  if (QWidget* window = box.parentWidget(); window != nullptr && window->isVisible()) {
+    window->activateWindow();
+  }
+  return answer;
+}
+
+}  // namespace
+
+void QtMessageBox::Warn(const std::string& text, const std::string& title) {
+  QMessageBox box(QMessageBox::Warning, QString::fromStdString(title), QString::fromStdString(text),
+                  QMessageBox::Ok, Window());
+  box.setTextFormat(Qt::PlainText);
+  Label(box, QMessageBox::Ok, CurrentWords().ok);
+  Show(box);
+}
+
+MessageBox::Answer QtMessageBox::Ask(const std::string& text, const std::string& title) {
+  QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
+                  QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, Window());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Yes);
+  box.setEscapeButton(QMessageBox::No);
+  const Words words_now = CurrentWords();
+  Label(box, QMessageBox::Yes, words_now.yes);
+  Label(box, QMessageBox::No, words_now.no);
+  return Show(box) == QMessageBox::Yes ? Answer::kYes : Answer::kNo;
+}
+
+}  // namespace vmod17

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/qt_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <algorithm>
+
+#include "platform/qt/look.h"
+#include "platform/qt/page.h"
+#include "platform/qt/qt_event_loop.h"
+
+namespace vmod17 {
+
+/// The window: a page in a view that scrolls only where the screen is smaller than the page.
+class QtView::MainWindow : public QWidget {
+ public:
+  explicit MainWindow(QtView& view) : view_(view), scroll_(this), stage_(new QWidget) {
+    setObjectName("melvado_window");
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(480, 360);
+    scroll_.setFrameShape(QFrame::NoFrame);
+    scroll_.setFocusPolicy(Qt::NoFocus);
+    scroll_.setWidget(stage_);
+    qApp->installEventFilter(this);
+  }
+
+  QWidget* stage() { return stage_; }
+
+  /// Gives the stage the room there is, or what the page needs at the least.
+  void FitStage(const QSize& least) {
+    scroll_.setGeometry(rect());
+    stage_->resize(size().expandedTo(least));
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), look::kPage); }
+  void resizeEvent(QResizeEvent*) override { view_.Resized(); }
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    view_.CloseAsked();
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (view_.page_ == nullptr || !view_.page_->HandleKey(*event)) event->ignore();
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (view_.page_ != nullptr) {
+      if (event->type() == QEvent::KeyPress) view_.page_->SetKeyboard(true);
+      if (event->type() == QEvent::MouseButtonPress) view_.page_->SetKeyboard(false);
+    }
+    // Where no window manager passes the focus around, keys can reach a window that has none.
+    if (event->type() == QEvent::KeyPress && QApplication::activeWindow() == nullptr) {
+      activateWindow();
+    }
+    return false;
+  }
+
+ private:
+  QtView& view_;
+  QScrollArea scroll_;
+  QWidget* stage_;
+};
+
+QtView::QtView(QtEventLoop& loop) : loop_(loop), window_(std::make_unique<MainWindow>(*this)) {
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+QtView::~QtView() { SetPointer(nullptr); }
+
+QWidget* QtView::Window() const { return window_.get(); }
+
+void QtView::Attach(Form& form) { screens_.push_back({&form}); }
+
+void QtView::Detach(Form& form) {
+  Screen* const screen = Find(&form);
+  if (screen == nullptr) return;
+  if (Page* page = screen->page) {
+    page->Release();
+    if (page != page_) page->deleteLater();
+  }
+  if (page_form_ == &form) page_form_ = nullptr;
+  screens_.erase(screens_.begin() + (screen - screens_.data()));
+  if (!screens_.empty()) return;
+  SetPointer(nullptr);
+  window_->hide();
+  if (page_ != nullptr) page_->deleteLater();
+  page_ = nullptr;
+}
+
+QtView::Screen* QtView::Find(const Form* form) {
+  const auto found = std::find_if(screens_.begin(), screens_.end(),
+                                  [form](const Screen& screen) { return screen.form == form; });
+  return found == screens_.end() ? nullptr : &*found;
+}
+
+QtView::Screen* QtView::Front() {
+  const auto found = std::find_if(screens_.rbegin(), screens_.rend(),
+                                  [](const Screen& screen) { return screen.form->visible; });
+  return found == screens_.rend() ? nullptr : &*found;
+}
+
+void QtView::Refresh() {
+  // Showing a window or moving the focus sends events at once, some of which come back here.
+  if (refreshing_) return;
+  refreshing_ = true;
+  Screen* const front = Front();
+  if (front == nullptr) {
+    if (page_ != nullptr) page_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  } else if (front->page == nullptr || front->page != page_) {
+    Show(*front);
+  } else {
+    page_->setAttribute(Qt::WA_TransparentForMouseEvents, !front->form->enabled);
+    page_->Refresh();
+  }
+  if (front != nullptr) {
+    const QString title = QString::fromStdString(front->form->caption);
+    if (window_->windowTitle() != title) window_->setWindowTitle(title);
+    if (!window_->isVisible()) ShowWindow();
+  }
+  SetPointer(page_form_);
+  refreshing_ = false;
+}
+
+void QtView::Show(Screen& screen) {
+  if (screen.page == nullptr) {
+    screen.page = new Page(*screen.form, loop_, pictures_, window_->stage());
+  }
+  Page* const last = page_;
+  const bool last_is_gone = last != nullptr && page_form_ == nullptr;
+  page_ = screen.page;
+  page_form_ = screen.form;
+  ArrangePage();
+  page_->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+  page_->show();
+  page_->raise();
+  page_->Refresh();
+  page_->TakeFocus();
+  if (last != nullptr) last->hide();
+  if (last_is_gone) last->deleteLater();
+}
+
+void QtView::ArrangePage() {
+  if (page_ == nullptr) return;
+  window_->FitStage(page_->LeastSize());
+  page_->setGeometry(window_->stage()->rect());
+  page_->Arrange(page_->size());
+}
+
+void QtView::ShowWindow() {
+  // Without a window manager nothing else would make it large.
+  if (const QScreen* screen = window_->screen()) window_->setGeometry(screen->availableGeometry());
+  window_->showMaximized();
+  window_->activateWindow();
+  ArrangePage();
+  if (page_ != nullptr) page_->TakeFocus();
+}
+
+void QtView::Resized() {
+  ArrangePage();
+  Form* const form = page_form_;
+  if (form == nullptr || !form->visible) return;
+  loop_.Post([this, form] {
+    if (page_form_ != form) return;
+    form->Form_Resize();
+    const bool wanted = form->window_state == Form::WindowState::kMaximised;
+    if (wanted && window_->isVisible() && !window_->isMinimized() && !window_->isMaximized()) {
+      window_->showMaximized();
+    }
+  });
+}
+
+void QtView::CloseAsked() {
+  Screen* const front = Front();
+  if (front == nullptr || !front->form->enabled) return;
+  Form* const form = front->form;
+  loop_.Deliver([form] { form->Form_Close(); });
+}
+
+void QtView::SetPointer(const Form* form) {
+  const bool busy = form != nullptr && form->pointer == Form::Pointer::kHourglass;
+  if (busy == busy_pointer_) return;
+  busy_pointer_ = busy;
+  if (busy) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+}  // namespace vmod17

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/signs.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <array>
+
+#include "platform/qt/look.h"
+
+namespace vmod17 {
+namespace {
+
+QRectF Square(const QRectF& box) {
+  const double side = std::min(box.width(), box.height());
+  return QRectF(box.center().x() - side / 2, box.center().y() - side / 2, side, side);
+}
+
+void DrawQuestionMark(QPainter& painter, const QRectF& box, const QColor& color) {
+  painter.setFont(look::Type(box.height() * 0.72, look::Weight::kBold));
+  painter.setPen(color);
+  painter.drawText(box, Qt::AlignCenter, "?");
+}
+
+/// Bars that rise: practice that adds up.
+void DrawBars(QPainter& painter, const QRectF& box, const QColor& color) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(color);
+  const double unit = box.width() / 10;
+  for (int i = 0; i < 3; ++i) {
+    const double height = unit * (3.2 + 2.4 * i);
+    painter.drawRoundedRect(
+        QRectF(box.left() + unit * (1 + 2.9 * i), box.bottom() - unit - height, unit * 2.2, height),
+        unit * 0.5, unit * 0.5);
+  }
+}
+
+void DrawStopWatch(QPainter& painter, const QRectF& box, const QColor& color) {
+  const double unit = box.width() / 10;
+  const QPointF centre(box.center().x(), box.center().y() + unit * 0.6);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(color, unit, Qt::SolidLine, Qt::RoundCap));
+  painter.drawEllipse(centre, unit * 3.4, unit * 3.4);
+  painter.drawLine(centre, centre + QPointF(unit * 1.3, -unit * 1.5));
+  painter.drawLine(QPointF(centre.x() - unit, box.top() + unit * 0.8),
+                   QPointF(centre.x() + unit, box.top() + unit * 0.8));
+}
+
+}  // namespace
+
+void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const QColor& color) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  switch (kind) {
+    case PictureId::Kind::kHelp:
+      return DrawQuestionMark(painter, Square(box), color);
+    case PictureId::Kind::kTraining:
+      return DrawBars(painter, Square(box), color);
+    case PictureId::Kind::kTest:
+      return DrawStopWatch(painter, Square(box), color);
+    case PictureId::Kind::kNone:
+    case PictureId::Kind::kNotation:
+    case PictureId::Kind::kSymbol:
+      return;
+  }
+}
+
+void DrawStaff(QPainter& painter, const QRectF& box, const QColor& color) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double gap = box.height() / 8;
+  const double first = box.top() + 2 * gap;
+  QColor clear = color;
+  clear.setAlpha(0);
+  QLinearGradient fade(box.topLeft(), box.topRight());
+  fade.setColorAt(0.35, clear);
+  fade.setColorAt(0.75, color);
+  painter.setPen(QPen(fade, gap * 0.10));
+  for (int line = 0; line < 5; ++line) {
+    painter.drawLine(QPointF(box.left(), first + line * gap),
+                     QPointF(box.right(), first + line * gap));
+  }
+  // Three chords, each as steps above the lowest line.
+  constexpr std::array<std::array<int, 4>, 3> kChords{{{-1, 1, 3, 5}, {0, 2, 4, 7}, {1, 3, 5, 7}}};
+  painter.setPen(QPen(color, gap * 0.2));
+  painter.setBrush(Qt::NoBrush);
+  for (std::size_t chord = 0; chord < kChords.size(); ++chord) {
+    const double x = box.left() + box.width() * (0.76 + 0.085 * static_cast<double>(chord));
+    for (const int step : kChords[chord]) {
+      painter.save();
+      painter.translate(x, first + (4 - step / 2.0) * gap);
+      painter.rotate(-18);
+      painter.drawEllipse(QPointF(0, 0), gap * 0.62, gap * 0.40);
+      painter.restore();
+    }
+  }
+}
+
+}  // namespace vmod17

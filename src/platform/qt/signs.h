@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+
+#include "platform/controls.h"
+
+class QPainter;
+
+namespace vmod17 {
+
+/// Draws the sign of help, training or test, as large as the box allows; nothing for other kinds.
+void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const QColor& color);
+
+/// A quiet ornament: five lines of a staff that come forth from the left, with a few chords on
+/// them.
+void DrawStaff(QPainter& painter, const QRectF& box, const QColor& color);
+
+}  // namespace vmod17

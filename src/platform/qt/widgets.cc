@@ -1,0 +1,434 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/widgets.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "platform/qt/signs.h"
+
+namespace vmod17 {
+namespace {
+
+bool IsEnter(const QKeyEvent* event) {
+  return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+bool IsArrow(const QKeyEvent* event) {
+  return event->key() == Qt::Key_Left || event->key() == Qt::Key_Right ||
+         event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+}
+
+std::optional<QColor> Optional(const std::optional<Color>& color) {
+  if (!color) return std::nullopt;
+  return look::ToQ(*color);
+}
+
+}  // namespace
+
+// --- Dressed
+
+void Dressed::SetCaption(const QString& caption) {
+  caption_ = caption;
+  self_.update();
+}
+
+void Dressed::SetColors(const std::optional<Color>& back, const std::optional<Color>& fore) {
+  back_ = Optional(back);
+  fore_ = Optional(fore);
+  self_.update();
+}
+
+const look::Setting& Dressed::Set() {
+  const QSizeF box = TextBox();
+  const double pixels = Px(place_.text);
+  if (set_pixels_ != pixels || set_box_ != box || set_caption_ != caption_) {
+    setting_ = look::SetText(caption_, box, pixels,
+                             place_.bold ? look::Weight::kBold : look::Weight::kNormal);
+    set_pixels_ = pixels;
+    set_box_ = box;
+    set_caption_ = caption_;
+  }
+  return setting_;
+}
+
+QColor Dressed::TextColor(const QColor& otherwise) const {
+  if (!self_.isEnabled()) return look::kDisabledText;
+  return fore_.value_or(otherwise);
+}
+
+// --- PressWidget
+
+PressWidget::PressWidget(QWidget* parent, const PageStyle& style, const Placement& place)
+    : QAbstractButton(parent), Dressed(*this, style, place) {
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+void PressWidget::SetImage(const PictureId& image) {
+  image_ = image;
+  update();
+}
+
+QSizeF PressWidget::TextBox() const {
+  const double side = place_.look == Look::kTile ? 4 : 20;
+  return QSizeF(width() - Px(side), height() - Px(6));
+}
+
+QColor PressWidget::Fill() const {
+  if (back_) return isDown() ? back_->darker(112) : underMouse() ? back_->darker(104) : *back_;
+  if (!isEnabled()) return look::kDisabledFill;
+  if (place_.look == Look::kPrimary) {
+    return isDown() || underMouse() ? look::kAccentDark : look::kAccent;
+  }
+  if (isDown()) return look::kPressed;
+  return underMouse() ? look::kHover : look::kButton;
+}
+
+QColor PressWidget::Edge(const QColor& fill) const {
+  if (back_) return back_->darker(130);
+  if (!isEnabled()) return look::kLine;
+  return place_.look == Look::kPrimary ? fill : look::kButtonLine;
+}
+
+QColor PressWidget::Ink(const QColor& fill) const {
+  if (fore_) return *fore_;
+  if (back_) return look::TextOn(*back_);
+  if (!isEnabled()) return look::kDisabledText;
+  if (place_.look == Look::kQuiet) return look::kAccent;
+  return place_.look == Look::kPrimary ? look::TextOn(fill) : look::kText;
+}
+
+void PressWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (place_.look == Look::kTile) {
+    PaintTile(painter);
+  } else {
+    PaintButton(painter);
+  }
+}
+
+void PressWidget::PaintTile(QPainter& painter) {
+  const QColor ground = back_.value_or(QColor(Qt::white));
+  painter.fillRect(rect(), ground);
+  const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
+  if (picture.isNull()) {
+    look::DrawText(painter, QRectF(rect()), caption(), Set(), Qt::black, Qt::AlignCenter);
+  } else {
+    const QSizeF size = picture.deviceIndependentSize();
+    const QPoint corner(qRound((width() - size.width()) / 2),
+                        qRound((height() - size.height()) / 2));
+    // White of the picture takes the colour of the ground, black stays black.
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    painter.drawPixmap(corner, picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+  }
+  if (isEnabled() && (isDown() || underMouse())) {
+    painter.fillRect(rect(), QColor(0x2B, 0x5C, 0xB8, isDown() ? 60 : 22));
+  }
+  if (ShowsFocus()) look::DrawFocusRing(painter, QRectF(rect()), Px(2), style_.factor);
+}
+
+void PressWidget::PaintButton(QPainter& painter) {
+  const QRectF box(rect());
+  const bool round = place_.look == Look::kQuiet;
+  const double radius = round ? box.height() / 2 : Px(look::kRadius);
+  const QColor fill = Fill();
+  look::DrawPlate(painter, box, fill, Edge(fill), radius, Px(1.2));
+  const QRectF inside = box.adjusted(Px(10), Px(3), -Px(10), -Px(3));
+  const QColor ink = Ink(fill);
+  if (image_.kind == PictureId::Kind::kNone) {
+    look::DrawText(painter, inside, caption(), Set(), ink, place_.align);
+  } else {
+    DrawSign(painter, image_.kind, box, ink);
+  }
+  if (ShowsFocus()) look::DrawFocusRing(painter, box, radius, style_.factor);
+}
+
+void PressWidget::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(event)) {
+    if (!event->isAutoRepeat()) click();
+    return;
+  }
+  if (IsArrow(event)) {
+    if (!move_focus || !move_focus(event->key())) event->ignore();
+    return;
+  }
+  if (event->key() == Qt::Key_Escape) {  // the base class would only release a held button
+    event->ignore();
+    return;
+  }
+  QAbstractButton::keyPressEvent(event);
+}
+
+void PressWidget::enterEvent(QEnterEvent* event) {
+  QAbstractButton::enterEvent(event);
+  update();
+}
+
+void PressWidget::leaveEvent(QEvent* event) {
+  QAbstractButton::leaveEvent(event);
+  update();
+}
+
+// --- TextWidget
+
+TextWidget::TextWidget(QWidget* parent, const PageStyle& style, const Placement& place)
+    : QLabel(parent), Dressed(*this, style, place) {
+  setTextFormat(Qt::PlainText);
+}
+
+void TextWidget::SetImage(const PictureId& image) {
+  image_ = image;
+  update();
+}
+
+QSizeF TextWidget::TextBox() const {
+  const double side = place_.look == Look::kMark || back_ ? 8 : 0;
+  return QSizeF(width() - Px(side), height());
+}
+
+QColor TextWidget::Ink() const {
+  if (place_.look == Look::kMark && back_) return fore_.value_or(look::TextOn(*back_));
+  if (place_.look == Look::kPrimary) return TextColor(look::kAccent);
+  return TextColor(place_.look == Look::kQuiet ? look::kQuietText : look::kText);
+}
+
+void TextWidget::PaintImage(QPainter& painter) {
+  const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
+  if (picture.isNull()) {
+    DrawSign(painter, image_.kind, QRectF(rect()), look::kAccent);
+    if (place_.look == Look::kMark) painter.fillRect(rect(), Qt::white);
+    look::DrawText(painter, QRectF(rect()), caption(), Set(), Qt::black, place_.align);
+    return;
+  }
+  const QSizeF size = picture.deviceIndependentSize();
+  const double free = width() - size.width();
+  const QPointF corner(place_.look == Look::kMark ? qRound(free / 2) : 0,
+                       qRound((height() - size.height()) / 2));
+  if (place_.look == Look::kMark) {
+    painter.fillRect(rect(), Qt::white);
+  } else {
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+  }
+  painter.drawPixmap(corner, picture);
+}
+
+void TextWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (image_.kind != PictureId::Kind::kNone) return PaintImage(painter);
+  QRectF box(rect());
+  if (back_) {
+    const bool mark = place_.look == Look::kMark;
+    look::DrawPlate(painter, box, *back_, back_->darker(120), Px(mark ? 3 : look::kRadius), Px(1));
+    box.adjust(Px(4), 0, -Px(4), 0);
+  } else if (place_.look == Look::kPrimary) {
+    look::DrawPlate(painter, box, look::kHover, look::kAccent, Px(look::kRadius), Px(1.2));
+    box.adjust(Px(4), 0, -Px(4), 0);
+  }
+  look::DrawText(painter, box, caption(), Set(), Ink(), place_.align);
+}
+
+// --- PlateWidget
+
+PlateWidget::PlateWidget(QWidget* parent, const PageStyle& style, const Placement& place)
+    : QGroupBox(parent), Dressed(*this, style, place) {
+  setFlat(true);
+}
+
+void PlateWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRectF box(rect());
+  switch (place_.look) {
+    case Look::kTile:
+      if (back_) look::DrawPlate(painter, box, *back_, {}, Px(4), 0);
+      return;
+    case Look::kCard:
+      look::DrawCard(painter, box, look::kCard, style_.factor);
+      if (back_) look::DrawCardHead(painter, box, Px(kCardHead), *back_, style_.factor);
+      return;
+    case Look::kStrip:
+      return look::DrawCard(painter, box, back_.value_or(look::kCard), style_.factor);
+    case Look::kNotice:
+      look::DrawPlate(painter, box, back_.value_or(look::kCard), look::kAccent,
+                      Px(look::kCardRadius), Px(2));
+      return;
+    case Look::kPlain:
+    case Look::kHeading:
+    case Look::kQuiet:
+    case Look::kPrimary:
+    case Look::kLarge:
+    case Look::kMark:
+      return;
+  }
+}
+
+// --- OptionWidget
+
+OptionWidget::OptionWidget(QWidget* parent, const PageStyle& style, const Placement& place)
+    : QRadioButton(parent), Dressed(*this, style, place) {
+  setAttribute(Qt::WA_Hover);
+}
+
+QSizeF OptionWidget::TextBox() const { return QSizeF(width() - Px(34), height()); }
+
+void OptionWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF box(rect());
+  if (isEnabled() && (underMouse() || isDown())) {
+    look::DrawPlate(painter, box, isDown() ? look::kPressed : look::kHover, {}, Px(6), 0);
+  }
+  const double side = Px(18);
+  const QRectF circle(Px(6), (height() - side) / 2, side, side);
+  const QColor line = !isEnabled() ? look::kLine : isChecked() ? look::kAccent : look::kButtonLine;
+  painter.setPen(QPen(line, Px(isChecked() ? 2 : 1.5)));
+  painter.setBrush(isEnabled() ? look::kButton : look::kDisabledFill);
+  painter.drawEllipse(circle.adjusted(Px(1), Px(1), -Px(1), -Px(1)));
+  if (isChecked()) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isEnabled() ? look::kAccent : look::kDisabledText);
+    painter.drawEllipse(circle.center(), Px(4.5), Px(4.5));
+  }
+  look::DrawText(painter, box.adjusted(Px(32), 0, -Px(2), 0), caption(), Set(),
+                 TextColor(look::kText), Qt::AlignLeft | Qt::AlignVCenter);
+  if (ShowsFocus()) look::DrawFocusRing(painter, box, Px(6), style_.factor);
+}
+
+// --- DropDownWidget
+
+DropDownWidget::DropDownWidget(QWidget* parent, const PageStyle& style, const Placement& place)
+    : QComboBox(parent), Dressed(*this, style, place) {
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+  setMaxVisibleItems(16);
+}
+
+QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(42), height()); }
+
+void DropDownWidget::showPopup() {
+  const QFont font = look::Type(Px(place_.text), look::Weight::kNormal);
+  view()->setFont(font);
+  // Long entries show whole, beyond the closed list's width.
+  view()->setMinimumWidth(std::max(width(), view()->sizeHintForColumn(0) + qRound(Px(28))));
+  QComboBox::showPopup();
+}
+
+void DropDownWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRectF box(rect());
+  const QColor fill = !isEnabled()   ? look::kDisabledFill
+                      : underMouse() ? look::kHover
+                                     : back_.value_or(look::kButton);
+  const QColor edge = isEnabled() ? look::kButtonLine : look::kLine;
+  look::DrawPlate(painter, box, fill, edge, Px(6), Px(1.2));
+  look::DrawText(painter, box.adjusted(Px(12), 0, -Px(30), 0), caption(), Set(),
+                 TextColor(look::kText), Qt::AlignLeft | Qt::AlignVCenter);
+  painter.setPen(QPen(isEnabled() ? look::kQuietText : look::kDisabledText, Px(1.8), Qt::SolidLine,
+                      Qt::RoundCap, Qt::RoundJoin));
+  const QPointF tip(width() - Px(17), height() / 2.0 + Px(2.5));
+  painter.drawPolyline(
+      QPolygonF{{tip + QPointF(-Px(5), -Px(5)), tip, tip + QPointF(Px(5), -Px(5))}});
+  if (ShowsFocus()) look::DrawFocusRing(painter, box, Px(6), style_.factor);
+}
+
+void DropDownWidget::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(event)) {
+    event->ignore();
+    return;
+  }
+  QComboBox::keyPressEvent(event);
+}
+
+/// A wheel over a closed list would change the exercise by accident.
+void DropDownWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+// --- ListWidget
+
+ListWidget::ListWidget(QWidget* parent, const PageStyle& style, const Placement& place)
+    : QListWidget(parent), Dressed(*this, style, place) {
+  setFrameShape(QFrame::NoFrame);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  viewport()->setAutoFillBackground(false);
+  connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+    if (choose) choose(row(item));
+  });
+}
+
+void ListWidget::paintEvent(QPaintEvent* event) {
+  {
+    QPainter painter(viewport());
+    const QRectF box(viewport()->rect());
+    look::DrawPlate(painter, box, back_.value_or(look::kButton), look::kButtonLine, Px(6), Px(1.2));
+    if (ShowsFocus()) look::DrawFocusRing(painter, box, Px(6), style_.factor);
+  }
+  setFont(look::Type(Px(place_.text), look::Weight::kNormal));
+  QListWidget::paintEvent(event);
+}
+
+void ListWidget::keyPressEvent(QKeyEvent* event) {
+  if (!IsEnter(event) && event->key() != Qt::Key_Space) return QListWidget::keyPressEvent(event);
+  if (!event->isAutoRepeat() && currentRow() >= 0 && choose) choose(currentRow());
+}
+
+// --- GaugeWidget
+
+GaugeWidget::GaugeWidget(QWidget* parent, const PageStyle& style, const Placement& place)
+    : QProgressBar(parent), Dressed(*this, style, place) {
+  setRange(0, 100);
+}
+
+void GaugeWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRectF box(rect());
+  const double radius = box.height() / 2;
+  look::DrawPlate(painter, box, back_.value_or(look::kDisabledFill), look::kLine, radius, Px(1));
+  const double share = std::clamp(value(), 0, 100) / 100.0;
+  if (share <= 0) return;
+  QRectF filled = box;
+  filled.setWidth(std::max(box.height(), box.width() * share));
+  look::DrawPlate(painter, filled, fore_.value_or(look::kAccent), {}, radius, 0);
+}
+
+// --- SliderWidget
+
+SliderWidget::SliderWidget(QWidget* parent, const PageStyle& style, const Placement& place)
+    : QSlider(Qt::Horizontal, parent), Dressed(*this, style, place) {
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+void SliderWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const double knob = Px(9);
+  const double range = std::max(1, maximum() - minimum());
+  const double x = knob + (width() - 2 * knob) * (value() - minimum()) / range;
+  QRectF groove(knob, height() / 2.0 - Px(3), width() - 2 * knob, Px(6));
+  look::DrawPlate(painter, groove, look::kLine, {}, Px(3), 0);
+  groove.setRight(x);
+  const QColor color = isEnabled() ? look::kAccent : look::kDisabledText;
+  look::DrawPlate(painter, groove, color, {}, Px(3), 0);
+  painter.setPen(QPen(Qt::white, Px(2)));
+  painter.setBrush(color);
+  painter.drawEllipse(QPointF(x, height() / 2.0), knob - Px(1), knob - Px(1));
+  if (ShowsFocus()) look::DrawFocusRing(painter, QRectF(rect()), Px(6), style_.factor);
+}
+
+void SliderWidget::GoTo(double x) {
+  const double knob = Px(9);
+  const double share = std::clamp((x - knob) / std::max(1.0, width() - 2 * knob), 0.0, 1.0);
+  setValue(minimum() + qRound(share * (maximum() - minimum())));
+}
+
+void SliderWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) GoTo(event->position().x());
+}
+
+void SliderWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (event->buttons().testFlag(Qt::LeftButton)) GoTo(event->position().x());
+}
+
+}  // namespace vmod17

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QRadioButton>
+#include <QSlider>
+#include <functional>
+#include <optional>
+
+#include "platform/controls.h"
+#include "platform/qt/layout.h"
+#include "platform/qt/look.h"
+#include "platform/qt/picture_source.h"
+
+// The widgets that the controls are shown with. They paint themselves; what a reader of the screen
+// is told comes from the toolkit's classes that they derive from. None of them has signals or slots
+// of its own, so that they are to the toolkit what their base class is.
+
+namespace vmod17 {
+
+/// What the widgets of one page share.
+struct PageStyle {
+  PictureSource& pictures;
+  double factor = 1;     ///< pixels of a unit
+  bool keyboard = true;  ///< the user works by keyboard: the focus is shown
+};
+
+/// What all widgets have: a caption, colours that the program sets, and a dress.
+class Dressed {
+ public:
+  Dressed(QWidget& self, const PageStyle& style, const Placement& place)
+      : self_(self), style_(style), place_(place) {}
+  virtual ~Dressed() = default;
+
+  void SetCaption(const QString& caption);
+  void SetColors(const std::optional<Color>& back, const std::optional<Color>& fore);
+  const QString& caption() const { return caption_; }
+  /// False when the caption is larger than its place allows.
+  bool CaptionFits() { return caption_.isEmpty() || Set().fits; }
+
+ protected:
+  virtual QSizeF TextBox() const { return self_.size(); }
+  double Px(double units) const { return units * style_.factor; }
+  bool ShowsFocus() const { return style_.keyboard && self_.hasFocus(); }
+  /// The caption as it is set into its box, kept until one of the two changes.
+  const look::Setting& Set();
+  QColor TextColor(const QColor& otherwise) const;
+
+  QWidget& self_;
+  const PageStyle& style_;
+  const Placement place_;
+  std::optional<QColor> back_;
+  std::optional<QColor> fore_;
+
+ private:
+  QString caption_;
+  look::Setting setting_;
+  QString set_caption_;
+  QSizeF set_box_;
+  double set_pixels_ = 0;
+};
+
+/// A control that is pressed: by mouse, Space, Enter or an assistive technology.
+class PressWidget : public QAbstractButton, public Dressed {
+ public:
+  PressWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+
+  /// Moves the focus from this widget in the direction of an arrow key; returns whether it could.
+  std::function<bool(int key)> move_focus;
+
+  void SetImage(const PictureId& image);
+
+ protected:
+  QSizeF TextBox() const override;
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  void PaintTile(QPainter& painter);
+  void PaintButton(QPainter& painter);
+  QColor Fill() const;
+  QColor Edge(const QColor& fill) const;
+  QColor Ink(const QColor& fill) const;
+
+  PictureId image_;
+};
+
+/// A label, or a panel that shows a result.
+class TextWidget : public QLabel, public Dressed {
+ public:
+  TextWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+  void SetImage(const PictureId& image);
+
+ protected:
+  QSizeF TextBox() const override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor Ink() const;
+  void PaintImage(QPainter& painter);
+
+  PictureId image_;
+};
+
+/// An area that other controls stand in.
+class PlateWidget : public QGroupBox, public Dressed {
+ public:
+  PlateWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+class OptionWidget : public QRadioButton, public Dressed {
+ public:
+  OptionWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+
+ protected:
+  QSizeF TextBox() const override;
+  void paintEvent(QPaintEvent* event) override;
+  bool hitButton(const QPoint& point) const override { return rect().contains(point); }
+};
+
+class DropDownWidget : public QComboBox, public Dressed {
+ public:
+  DropDownWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+  void showPopup() override;
+
+ protected:
+  QSizeF TextBox() const override;
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+class ListWidget : public QListWidget, public Dressed {
+ public:
+  ListWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+  /// The user means this entry.
+  std::function<void(int row)> choose;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+class GaugeWidget : public QProgressBar, public Dressed {
+ public:
+  GaugeWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+class SliderWidget : public QSlider, public Dressed {
+ public:
+  SliderWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  void GoTo(double x);
+};
+
+}  // namespace vmod17

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/event_loop.h"
+#include "platform/host_service.h"
+#include "platform/notice.h"
+#include "platform/store/log_entry.h"
+
+namespace vmod17 {
+
+class SqlConnection;
+class SqlError;
+class StoreTables;
+struct RecordKey;
+struct StoreAddress;
+
+struct StoreUser {
+  std::string id;  ///< matriculation number; "" for nobody, whatever the names
+  std::string name;
+  std::string first_name;
+
+  bool operator==(const StoreUser&) const = default;
+};
+
+/// What a `HostStore` is made with. A function that is not given never has an answer.
+struct StoreOptions {
+  /// See `ParseStoreAddress`; "" is the user's own file.
+  std::string address;
+  /// Whose settings these are among those of one store. "" stands for the one user of a file, and
+  /// on a server for this machine and the name under which the user is logged in on it.
+  std::string seat;
+  /// The language of the desktop, if it is installed.
+  std::function<std::optional<std::string>()> desktop_language;
+  /// Whether a language is installed. Without it, the language of the settings is trusted.
+  std::function<bool(const std::string&)> language_installed;
+  /// The number that the MIDI output of this name has at present.
+  std::function<std::optional<int>(const std::string&)> midi_number;
+  /// Returns to the host. Returns false when no host started the program.
+  std::function<bool()> menue;
+  Notify notify;
+  /// Date and time for log lines and for the names of what is put aside. By default the system's.
+  std::function<DateTime()> clock;
+  /// How long a store that another process holds is waited for.
+  int busy_timeout_ms = 5000;
+  /// Size above which the oldest lines of the log go. The tables add a quarter to it at most.
+  std::int64_t log_limit_bytes = 7'500'000;
+};
+
+/// The host's services over an SQL database: the store by user, program and key, the log, the user,
+/// the language, the MIDI output. One object a process; it is used on the program's one thread and
+/// needs a QCoreApplication from its first command on. Nothing is opened before that.
+///
+/// Each "STORE" and each setter is one transaction, on the disk when the call returns. Log lines
+/// are handed to the system and may be lost with the power, not with the process. The settings are
+/// read once, when the store is opened: a process belongs to the user for whom it was started.
+///
+/// A store that is missing is made. Of a store that does not work the user is told once:
+///
+/// | the store is             | reading                   | storing                              |
+/// |--------------------------|---------------------------|--------------------------------------|
+/// | held by another process  | false                     | waits, then RunTimeError kStore      |
+/// | read-only                | works                     | in memory until the process ends     |
+/// | on a full disk           | works                     | in memory, and tried again with the  |
+/// |                          |                           | next "STORE" and at the end          |
+/// | cut off after the start  | false                     | the same                             |
+/// | broken                   | put aside, a new one made | in the new one                       |
+/// | of a newer version       | nothing stored            | in memory; the store is left alone   |
+/// | not to be opened         | nothing stored            | in memory                            |
+///
+/// What is in memory is read back by "READ" as if it were stored. After a lock was waited for in
+/// vain, only "STORE" and the setters wait again until it is gone, so that the program does not
+/// stand still with every call. A single record that is damaged is put aside under another key, its
+/// "READ" returns false. The log never raises.
+class HostStore {
+ public:
+  explicit HostStore(StoreOptions options);
+  ~HostStore();
+  HostStore(const HostStore&) = delete;
+  HostStore& operator=(const HostStore&) = delete;
+
+  /// Another host object on this store, which must outlive it.
+  std::unique_ptr<HostService> Service();
+
+  /// The settings, for the host's window. Setters: RunTimeError kStore while the store is locked.
+  std::optional<StoreUser> User();
+  void SetUser(const StoreUser& user);
+  /// "" for the language of the desktop.
+  std::string Language();
+  void SetLanguage(const std::string& language);
+  /// Name of the MIDI output, "" for the last of the list.
+  std::string MidiDevice();
+  void SetMidiDevice(const std::string& name);
+
+  /// The newest `count` log lines, oldest first; none when the store cannot be read.
+  std::vector<LogEntry> Log(int count);
+
+ private:
+  class Front;
+  enum class State { kClosed, kOpen, kMemoryOnly };
+  enum class Patience { kWait, kOnlyOnce };
+  using Settings = std::map<std::string, std::string>;
+  using Work = std::function<void(StoreTables&)>;
+
+  bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result);
+  bool Midi(TaggedValue& result);
+  bool Read(const TaggedValue& args, TaggedValue& result);
+  bool Store(const TaggedValue& args);
+  bool Login(TaggedValue& result);
+  bool Lang(TaggedValue& result);
+  bool AppendLog(LogEntry entry);
+
+  /// Runs `work` on the open store, on a new one if it proves broken, and again if the connection
+  /// was lost. Returns false, without running it, when there is none. Errors: SqlError.
+  bool WithStore(Patience patience, const Work& work);
+  bool Open(Patience patience);
+  bool OpenAnew(int wait_ms);
+  bool Recover(const SqlError& error);
+  bool Repair();
+  bool IsFile() const;
+  bool WasReplaced() const;
+
+  RecordKey KeyOf(const TaggedValue& args, Patience patience);
+  bool WriteRecord(const RecordKey& key, const std::string& value);
+  void WritePending();
+  void PutAside(const RecordKey& key, const std::string& value);
+  void ChangeSettings(const Settings& changes);
+  const Settings& CurrentSettings();
+  std::string Setting(const std::string& name);
+
+  void Tell(const Notice& notice);
+  void TellUnreadable(const SqlError& error);
+  void WriteFailed(const SqlError& error);
+
+  StoreOptions options_;
+  std::unique_ptr<StoreAddress> address_;
+  std::unique_ptr<SqlConnection> connection_;
+  std::unique_ptr<StoreTables> tables_;
+  State state_ = State::kClosed;
+  bool was_open_ = false;
+  bool read_only_ = false;
+  bool waited_in_vain_ = false;
+  int wait_ms_ = 0;                                   // as set in the connection
+  std::pair<std::uint64_t, std::uint64_t> identity_;  // of the file that is open
+  Settings settings_;
+  std::map<RecordKey, std::string> pending_;  // what the database did not take
+  std::int64_t log_bytes_to_trim_ = 0;        // 0: before the next line
+  std::set<int> told_;
+};
+
+}  // namespace vmod17

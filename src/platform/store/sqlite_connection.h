@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QString>
+
+#include "platform/store/sql_connection.h"
+
+namespace vmod17 {
+
+/// An SQLite file, which must exist (see `PrepareStoreFile`).
+///
+/// It is kept with a write-ahead log: a reader never waits for a writer, a commit is one append,
+/// and a process that is killed leaves the file as its last commit left it. Where the file system
+/// offers no shared memory for that, SQLite's rollback journal takes its place with the same
+/// promises.
+class SqliteConnection : public SqlConnection {
+ public:
+  explicit SqliteConnection(const QString& path);
+
+  void Open(int wait_ms) override;
+  bool HasTable(const QString& name) override;
+  /// A writing transaction holds the whole file already.
+  void LockSchema() override {}
+  void SetWait(int wait_ms) override;
+  void SetSync(Sync sync) override;
+  void Prepare() override;
+  bool IsReadOnly() const override { return read_only_; }
+  QString BytesType() const override { return QStringLiteral("BLOB"); }
+  QString RowNumberType() const override {
+    return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
+  }
+
+ protected:
+  SqlFailure Classify(const QSqlError& error) const override;
+  QString BeginStatement() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
+
+ private:
+  void OpenAs(const QString& name, const QString& options, int wait_ms);
+  void OpenReadOnly(int wait_ms);
+
+  QString path_;
+  bool read_only_ = false;
+};
+
+}  // namespace vmod17

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QString>
+#include <QUrl>
+#include <string>
+
+namespace vmod17 {
+
+/// The folder for what the program keeps of a user, UTF-8: `$XDG_DATA_HOME/melvado`, where an unset
+/// or relative XDG_DATA_HOME stands for `~/.local/share`. The folder need not exist.
+std::string UserDataFolder();
+
+/// Where a store is.
+struct StoreAddress {
+  enum class Kind { kFile, kServer };
+
+  Kind kind = Kind::kFile;
+  bool is_default = false;  ///< the file that is taken when nothing else is said
+  QString path;             ///< kFile: path of the SQLite file
+  QUrl server;              ///< kServer: postgresql://user@host:port/database?option=value
+
+  /// Name of the place for the user's eyes: the path, or the address without its password.
+  std::string Display() const;
+};
+
+/// Reads an address: "" is the file `store.sqlite` in `UserDataFolder()`, what begins with
+/// "postgresql://" or "postgres://" is a server, everything else is the path of a file.
+/// The options of a server's address are those of its client library, such as `sslmode=require`;
+/// `host` and `port` may stand there as well, `host` also for the folder of a socket. A user
+/// without a host means this machine.
+StoreAddress ParseStoreAddress(const std::string& address);
+
+}  // namespace vmod17

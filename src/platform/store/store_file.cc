@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/store/store_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <array>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+namespace vmod17 {
+namespace {
+
+constexpr QFileDevice::Permissions kOwnerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+constexpr QFileDevice::Permissions kOwnerFolder = kOwnerFile | QFileDevice::ExeOwner;
+constexpr std::array<const char*, 3> kSideFiles = {"-wal", "-shm", "-journal"};
+
+bool MakeFolder(const QString& folder) {
+  if (QFileInfo(folder).isDir()) return true;
+  if (!MakeFolder(QFileInfo(folder).absolutePath())) return false;
+  // Another process may have made it meanwhile.
+  if (!QDir().mkdir(folder, kOwnerFolder)) return QFileInfo(folder).isDir();
+  return QFile::setPermissions(folder, kOwnerFolder);
+}
+
+void Narrow(const QString& path, QFileDevice::Permissions allowed) {
+  constexpr QFileDevice::Permissions kOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
+                                               QFileDevice::ExeGroup | QFileDevice::ReadOther |
+                                               QFileDevice::WriteOther | QFileDevice::ExeOther;
+  if ((QFile::permissions(path) & kOthers) != 0) QFile::setPermissions(path, allowed);
+}
+
+}  // namespace
+
+FileIdentity IdentityOf(const QString& path) {
+#ifdef Q_OS_UNIX
+  struct stat facts {};
+  if (::stat(QFile::encodeName(path).constData(), &facts) != 0) return {};
+  return {facts.st_dev, facts.st_ino};
+#else
+  return {0, 0};
+#endif
+}
+
+QString PrepareStoreFile(const QString& path, Privacy privacy) {
+  const QString folder = QFileInfo(path).absolutePath();
+  if (!MakeFolder(folder)) return QStringLiteral("the folder cannot be made");
+  QFile file(path);
+  if (!file.exists()) {
+    // Not truncating: of two programs that start at once the second finds the first one's file.
+    if (!file.open(QIODevice::ReadWrite, kOwnerFile)) return file.errorString();
+    file.setPermissions(kOwnerFile);
+  } else if (!QFileInfo(path).isFile()) {
+    return QStringLiteral("it is not a file");
+  }
+  if (privacy == Privacy::kEnforced) {
+    Narrow(folder, kOwnerFolder);
+    Narrow(path, kOwnerFile);
+  }
+  return {};
+}
+
+bool IsWritableStore(const QString& path) {
+  return QFileInfo(path).isWritable() && QFileInfo(QFileInfo(path).absolutePath()).isWritable();
+}
+
+QString BrokenSuffix(const DateTime& now) {
+  const auto digits = [](int number, int count) {
+    return QString::number(number).rightJustified(count, '0');
+  };
+  return ".broken-" + digits(now.year, 4) + digits(now.month, 2) + digits(now.day, 2) + '-' +
+         digits(now.hour, 2) + digits(now.minute, 2) + digits(now.second, 2);
+}
+
+QString MoveStoreAside(const QString& path, const DateTime& now) {
+  const QString wanted = path + BrokenSuffix(now);
+  QString aside = wanted;
+  for (int i = 2; QFileInfo::exists(aside); ++i) aside = wanted + '-' + QString::number(i);
+  // The side files first: left under the old name they would be taken for those of the new file.
+  for (const char* side : kSideFiles) {
+    if (QFileInfo::exists(path + side) && !QFile::rename(path + side, aside + side)) return {};
+  }
+  return QFile::rename(path, aside) ? aside : QString();
+}
+
+}  // namespace vmod17

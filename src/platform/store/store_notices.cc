@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/store/store_notices.h"
+
+namespace vmod17 {
+
+Notice NewerStoreNotice(const std::string& place) {
+  return {9101,
+          "Your stored trainings in %1 were written by a newer version of this program. They have "
+          "been left exactly as they are. You can practise, but what you store now is lost when "
+          "the program ends. Please install the newer version.",
+          {place}};
+}
+
+Notice UnusableStoreNotice(const std::string& place, const std::string& reason) {
+  return {9102,
+          "The place for your stored trainings, %1, cannot be used (%2). You can practise, but "
+          "what you store now is lost when the program ends. Please check that the folder exists "
+          "and that you may write in it, then start the program again.",
+          {place, reason}};
+}
+
+Notice LockedStoreNotice(const std::string& place) {
+  return {9103,
+          "Another program is using your stored trainings in %1 and did not let go of them in "
+          "time. Nothing has been changed. Please close the other program and try again.",
+          {place}};
+}
+
+Notice ReadOnlyStoreNotice(const std::string& place) {
+  return {9104,
+          "Your stored trainings in %1 can be read but not changed. They have been left as they "
+          "are. You can practise, but what you store now is lost when the program ends. Please "
+          "make the file and its folder writable, then start the program again.",
+          {place}};
+}
+
+Notice FullStoreNotice(const std::string& place, const std::string& reason) {
+  return {9105,
+          "What you stored could not be written to %1: the disk is probably full (%2). What was "
+          "stored before is still there, and the new is kept until the program ends. Please make "
+          "room on the disk and store it again.",
+          {place, reason}};
+}
+
+Notice BrokenStoreNotice(const std::string& place, const std::string& aside) {
+  return {9106,
+          "The file with your stored trainings, %1, is damaged and could not be read. It has been "
+          "kept under the name %2, and a new, empty file has been started. If you have a backup "
+          "copy of the file, you can put it back in its place.",
+          {place, aside}};
+}
+
+Notice DamagedRecordNotice(const std::string& key, const std::string& aside) {
+  return {9107,
+          "One stored record (%1) is damaged and could not be read. It has been kept under the "
+          "name %2. The settings start with their usual values; all else that is stored is still "
+          "there.",
+          {key, aside}};
+}
+
+Notice UnreachableServerNotice(const std::string& place, const std::string& reason) {
+  return {9108,
+          "The server with the stored trainings, %1, cannot be used (%2). You can practise, but "
+          "what you store now is lost when the program ends. Please tell the person who looks "
+          "after the computers, or start the program again later.",
+          {place, reason}};
+}
+
+Notice UnreadableStoreNotice(const std::string& place, const std::string& reason) {
+  return {9109,
+          "Your stored trainings in %1 cannot be read at the moment (%2). Nothing has been "
+          "changed. You can practise; please start the program again later to go on with them.",
+          {place, reason}};
+}
+
+}  // namespace vmod17

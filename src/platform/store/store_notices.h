@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <string>
+
+#include "platform/notice.h"
+
+namespace vmod17 {
+
+/// What the user is told of a store that cannot do its work. `place` is the file or the server,
+/// `reason` what the system said.
+Notice NewerStoreNotice(const std::string& place);
+Notice UnusableStoreNotice(const std::string& place, const std::string& reason);
+Notice LockedStoreNotice(const std::string& place);
+Notice ReadOnlyStoreNotice(const std::string& place);
+Notice FullStoreNotice(const std::string& place, const std::string& reason);
+/// `aside` is where the broken file is now.
+Notice BrokenStoreNotice(const std::string& place, const std::string& aside);
+/// `key` is the record's key, `aside` the key under which it was put aside.
+Notice DamagedRecordNotice(const std::string& key, const std::string& aside);
+Notice UnreachableServerNotice(const std::string& place, const std::string& reason);
+Notice UnreadableStoreNotice(const std::string& place, const std::string& reason);
+
+}  // namespace vmod17

@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/store/store_tables.h"
+
+#include <QByteArray>
+#include <algorithm>
+
+namespace vmod17 {
+namespace {
+
+// What a line takes beside its text: the numbers, the date, and its share of table and index.
+constexpr std::int64_t kRowOverhead = 80;
+// One line alone must not fill the log.
+constexpr std::size_t kLongestLine = 16 * 1024;
+
+// A server refuses NUL in a text, and both kinds would cut it there.
+QString Text(const std::string& bytes) {
+  return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()))
+      .replace(QChar(u'\0'), QChar(QChar::ReplacementCharacter));
+}
+
+// Binds without a copy: the string outlives the statement.
+QByteArray Bytes(const std::string& bytes) {
+  return QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+QVariantList KeyValues(const RecordKey& key) {
+  return {Text(key.user), Text(key.program), Text(key.key)};
+}
+
+LogEntry EntryOf(const QSqlQuery& row) {
+  const auto text = [&row](int column) { return row.value(column).toString().toStdString(); };
+  LogEntry entry;
+  entry.at = text(0);
+  entry.user = text(1);
+  entry.kind = text(2) == "ERR" ? LogEntry::Kind::kError : LogEntry::Kind::kMessage;
+  entry.place = text(3);
+  entry.number = row.value(4).toLongLong();
+  entry.text = text(5);
+  entry.source = text(6);
+  return entry;
+}
+
+}  // namespace
+
+std::optional<std::int64_t> StoreTables::Version() {
+  if (!connection_.HasTable(QStringLiteral("melvado_meta"))) return {};
+  QSqlQuery row = connection_.Run(
+      QStringLiteral("SELECT value FROM melvado_meta WHERE name = 'schema_version'"));
+  bool is_number = false;
+  std::int64_t version = 0;
+  if (row.next()) version = row.value(0).toString().toLongLong(&is_number);
+  // Tables of ours without a version that we can read were not written by any version up to ours.
+  return is_number ? version : kStoreVersion + 1;
+}
+
+void StoreTables::Create() {
+  const QString statements[] = {
+      QStringLiteral("CREATE TABLE melvado_meta (name TEXT PRIMARY KEY, value TEXT NOT NULL)"),
+      QStringLiteral("CREATE TABLE melvado_record (user_id TEXT NOT NULL, program TEXT NOT NULL, "
+                     "record_key TEXT NOT NULL, value %1 NOT NULL, "
+                     "PRIMARY KEY (user_id, program, record_key))")
+          .arg(connection_.BytesType()),
+      QStringLiteral("CREATE TABLE melvado_setting (seat TEXT NOT NULL, name TEXT NOT NULL, "
+                     "value TEXT NOT NULL, PRIMARY KEY (seat, name))"),
+      QStringLiteral("CREATE TABLE melvado_log (id %1, at TEXT NOT NULL, user_id TEXT NOT NULL, "
+                     "kind TEXT NOT NULL, place TEXT NOT NULL, number BIGINT NOT NULL, "
+                     "text TEXT NOT NULL, source TEXT NOT NULL, total BIGINT NOT NULL)")
+          .arg(connection_.RowNumberType()),
+      QStringLiteral("CREATE INDEX melvado_log_total ON melvado_log (total)"),
+  };
+  connection_.InTransaction([&] {
+    connection_.LockSchema();
+    if (connection_.HasTable(QStringLiteral("melvado_meta"))) return;
+    for (const QString& statement : statements) connection_.Run(statement);
+    connection_.Run(QStringLiteral("INSERT INTO melvado_meta VALUES ('schema_version', ?)"),
+                    {QString::number(kStoreVersion)});
+  });
+}
+
+std::optional<std::string> StoreTables::Read(const RecordKey& key) {
+  QSqlQuery row =
+      connection_.Run(QStringLiteral("SELECT value FROM melvado_record "
+                                     "WHERE user_id = ? AND program = ? AND record_key = ?"),
+                      KeyValues(key));
+  if (!row.next()) return {};
+  return row.value(0).toByteArray().toStdString();
+}
+
+void StoreTables::Write(const RecordKey& key, const std::string& value) {
+  connection_.SetSync(SqlConnection::Sync::kToDisk);
+  connection_.Run(QStringLiteral("INSERT INTO melvado_record (user_id, program, record_key, value) "
+                                 "VALUES (?, ?, ?, ?) ON CONFLICT (user_id, program, record_key) "
+                                 "DO UPDATE SET value = excluded.value"),
+                  KeyValues(key) << Bytes(value));
+}
+
+void StoreTables::Rename(const RecordKey& key, const std::string& value,
+                         const std::string& new_key) {
+  connection_.Run(
+      QStringLiteral("UPDATE melvado_record SET record_key = ? "
+                     "WHERE user_id = ? AND program = ? AND record_key = ? AND value = ?"),
+      QVariantList{Text(new_key)} + KeyValues(key) + QVariantList{Bytes(value)});
+}
+
+std::map<std::string, std::string> StoreTables::Settings(const std::string& seat) {
+  std::map<std::string, std::string> settings;
+  QSqlQuery row = connection_.Run(
+      QStringLiteral("SELECT name, value FROM melvado_setting WHERE seat = ?"), {Text(seat)});
+  while (row.next()) {
+    settings[row.value(0).toString().toStdString()] = row.value(1).toString().toStdString();
+  }
+  return settings;
+}
+
+void StoreTables::SetSettings(const std::string& seat,
+                              const std::map<std::string, std::string>& settings) {
+  connection_.SetSync(SqlConnection::Sync::kToDisk);
+  connection_.InTransaction([&] {
+    for (const auto& [name, value] : settings) {
+      connection_.Run(QStringLiteral("INSERT INTO melvado_setting (seat, name, value) "
+                                     "VALUES (?, ?, ?) ON CONFLICT (seat, name) "
+                                     "DO UPDATE SET value = excluded.value"),
+                      {Text(seat), Text(name), Text(value)});
+    }
+  });
+}
+
+std::int64_t StoreTables::AppendLog(const LogEntry& entry) {
+  const QString text = Text(entry.text.substr(0, kLongestLine));
+  const QString place = Text(entry.place.substr(0, kLongestLine));
+  const QString source = Text(entry.source.substr(0, kLongestLine));
+  const std::int64_t size = text.toUtf8().size() + place.toUtf8().size() + source.toUtf8().size() +
+                            static_cast<std::int64_t>(entry.user.size()) + kRowOverhead;
+  // A log line may be lost with the power, so it does not wait for the disk.
+  connection_.SetSync(SqlConnection::Sync::kToSystem);
+  connection_.Run(
+      QStringLiteral("INSERT INTO melvado_log (at, user_id, kind, place, number, text, source, "
+                     "total) VALUES (?, ?, ?, ?, ?, ?, ?, "
+                     "COALESCE((SELECT total FROM melvado_log ORDER BY id DESC LIMIT 1), 0) + ?)"),
+      {Text(entry.at), Text(entry.user),
+       entry.kind == LogEntry::Kind::kError ? QStringLiteral("ERR") : QStringLiteral("MESS"), place,
+       QVariant::fromValue<qlonglong>(entry.number), text, source,
+       QVariant::fromValue<qlonglong>(size)});
+  return size;
+}
+
+void StoreTables::TrimLog(std::int64_t limit) {
+  connection_.SetSync(SqlConnection::Sync::kToSystem);
+  connection_.Run(QStringLiteral("DELETE FROM melvado_log WHERE total <= "
+                                 "(SELECT total FROM melvado_log ORDER BY id DESC LIMIT 1) - ?"),
+                  {QVariant::fromValue<qlonglong>(limit)});
+}
+
+std::vector<LogEntry> StoreTables::Log(int count) {
+  std::vector<LogEntry> entries;
+  QSqlQuery row = connection_.Run(
+      QStringLiteral("SELECT at, user_id, kind, place, number, text, source FROM melvado_log "
+                     "ORDER BY id DESC LIMIT ?"),
+      {count});
+  while (row.next()) entries.push_back(EntryOf(row));
+  std::reverse(entries.begin(), entries.end());
+  return entries;
+}
+
+}  // namespace vmod17

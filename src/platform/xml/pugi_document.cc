@@ -1,0 +1,247 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/xml/pugi_document.h"
+
+#include <exception>
+#include <pugixml.hpp>
+#include <utility>
+
+#include "platform/run_time_error.h"
+#include "platform/xml/whole_file.h"
+#include "platform/xml/xml_text.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr const char* kSource = "vmod17.XmlDocument";
+
+std::string CheckedName(std::string_view name) {
+  if (IsXmlName(name)) return std::string(name);
+  throw RunTimeError(ErrorNumber::kInvalidCall, "no name for a node: " + std::string(name),
+                     kSource);
+}
+
+[[noreturn]] void ThrowNoItem(int index) {
+  throw RunTimeError(ErrorNumber::kOutOfRange, "no node " + std::to_string(index), kSource);
+}
+
+// The lists of an attribute.
+class NoNodes : public XmlNodeList {
+ public:
+  std::unique_ptr<XmlElement> Add(const std::optional<std::string>&, std::string_view) override {
+    throw RunTimeError(ErrorNumber::kInvalidCall, "an attribute has no nodes", kSource);
+  }
+  std::unique_ptr<XmlNodeList> ByName(std::string_view) const override {
+    return std::make_unique<NoNodes>();
+  }
+  std::unique_ptr<XmlElement> Item(int index) const override { ThrowNoItem(index); }
+  int Count() const override { return 0; }
+};
+
+class AttributeNode : public XmlElement {
+ public:
+  explicit AttributeNode(pugi::xml_attribute attribute) : attribute_(attribute) {}
+
+  std::string Name() const override { return attribute_.name(); }
+  std::string Text() const override { return attribute_.value(); }
+  std::unique_ptr<XmlNodeList> Attributes() override { return std::make_unique<NoNodes>(); }
+  std::unique_ptr<XmlNodeList> Children() override { return std::make_unique<NoNodes>(); }
+
+ private:
+  pugi::xml_attribute attribute_;
+};
+
+class ElementNode : public XmlElement {
+ public:
+  explicit ElementNode(pugi::xml_node node) : node_(node) {}
+
+  std::string Name() const override { return node_.name(); }
+  std::string Text() const override { return node_.text().get(); }
+  std::unique_ptr<XmlNodeList> Attributes() override;
+  std::unique_ptr<XmlNodeList> Children() override;
+
+ private:
+  pugi::xml_node node_;
+};
+
+// The nodes of `parent`, all or those of one name. `Access` says which nodes and how one is added.
+template <typename Access>
+class NodeList : public XmlNodeList {
+ public:
+  explicit NodeList(pugi::xml_node parent, std::optional<std::string> only = {})
+      : parent_(parent), only_(std::move(only)) {}
+
+  std::unique_ptr<XmlElement> Add(const std::optional<std::string>& value,
+                                  std::string_view name) override {
+    return Access::Add(parent_, CheckedName(name), XmlText(value.value_or("")));
+  }
+
+  std::unique_ptr<XmlNodeList> ByName(std::string_view name) const override {
+    // Of the nodes of one name none has another one.
+    if (only_ && *only_ != name) return std::make_unique<NoNodes>();
+    return std::make_unique<NodeList>(parent_, std::string(name));
+  }
+
+  std::unique_ptr<XmlElement> Item(int index) const override {
+    int place = 0;
+    for (const auto& node : Access::All(parent_)) {
+      if (Shows(node) && ++place == index) return Access::Handle(node);
+    }
+    ThrowNoItem(index);
+  }
+
+  int Count() const override {
+    int count = 0;
+    for (const auto& node : Access::All(parent_)) count += Shows(node) ? 1 : 0;
+    return count;
+  }
+
+ private:
+  template <typename Node>
+  bool Shows(const Node& node) const {
+    return Access::IsNode(node) && (!only_ || *only_ == node.name());
+  }
+
+  pugi::xml_node parent_;
+  std::optional<std::string> only_;
+};
+
+struct ChildAccess {
+  static auto All(pugi::xml_node parent) { return parent.children(); }
+  // The text of an element is a child of its own in the library.
+  static bool IsNode(pugi::xml_node node) { return node.type() == pugi::node_element; }
+  static std::unique_ptr<XmlElement> Handle(pugi::xml_node node) {
+    return std::make_unique<ElementNode>(node);
+  }
+  static std::unique_ptr<XmlElement> Add(pugi::xml_node parent, const std::string& name,
+                                         const std::string& text) {
+    pugi::xml_node node = parent.append_child(name.c_str());
+    if (!text.empty()) node.append_child(pugi::node_pcdata).set_value(text.c_str());
+    return Handle(node);
+  }
+};
+
+struct AttributeAccess {
+  static auto All(pugi::xml_node parent) { return parent.attributes(); }
+  static bool IsNode(pugi::xml_attribute) { return true; }
+  static std::unique_ptr<XmlElement> Handle(pugi::xml_attribute attribute) {
+    return std::make_unique<AttributeNode>(attribute);
+  }
+  static std::unique_ptr<XmlElement> Add(pugi::xml_node parent, const std::string& name,
+                                         const std::string& text) {
+    pugi::xml_attribute attribute = parent.attribute(name.c_str());
+    if (!attribute) attribute = parent.append_attribute(name.c_str());
+    attribute.set_value(text.c_str());
+    return Handle(attribute);
+  }
+};
+
+std::unique_ptr<XmlNodeList> ElementNode::Attributes() {
+  return std::make_unique<NodeList<AttributeAccess>>(node_);
+}
+
+std::unique_ptr<XmlNodeList> ElementNode::Children() {
+  return std::make_unique<NodeList<ChildAccess>>(node_);
+}
+
+struct StringWriter : pugi::xml_writer {
+  void write(const void* data, std::size_t size) override {
+    text.append(static_cast<const char*>(data), size);
+  }
+  std::string text;
+};
+
+// A file name in its two parts. Only the backslash before the base name is the separator's sign:
+// the folder stands as it came, with whatever characters and separators of its own it has.
+struct FileName {
+  explicit FileName(const std::string& name) {
+    const std::size_t backslash = name.rfind('\\');
+    if (backslash != std::string::npos) folder = name.substr(0, backslash);
+    base = backslash == std::string::npos ? name : name.substr(backslash + 1);
+  }
+
+  std::string folder;
+  std::string base;
+};
+
+Notice SavedElsewhereNotice(const std::string& folder, const std::string& reason,
+                            const std::string& path) {
+  return {9201,
+          "The record of your exercise could not be saved in the folder %1 (%2). It has been saved "
+          "as %3 instead. Please check that the folder exists, that you may write in it and that "
+          "the disk is not full.",
+          {folder, reason, path}};
+}
+
+Notice NotSavedNotice(const std::string& folder, const std::string& reason) {
+  return {9202,
+          "The record of your exercise could not be saved, neither in the folder %1 (%2) nor in "
+          "the program's own folder. Your results are still shown. Please make room on the disk or "
+          "check the folder before the next exercise.",
+          {folder, reason}};
+}
+
+class PugiDocument : public XmlDocument {
+ public:
+  PugiDocument(std::string fallback_folder, Notify notify)
+      : fallback_folder_(std::move(fallback_folder)), notify_(std::move(notify)) {
+    pugi::xml_node declaration = document_.append_child(pugi::node_declaration);
+    declaration.append_attribute("version") = "1.0";
+    declaration.append_attribute("encoding") = "UTF-8";
+    root_ = document_.append_child("document");
+  }
+
+  void SetRootName(std::string_view name) override { root_.set_name(CheckedName(name).c_str()); }
+  void SetFileName(std::string_view name) override { file_name_ = name; }
+  std::unique_ptr<XmlNodeList> RootAttributes() override { return ElementNode(root_).Attributes(); }
+  std::unique_ptr<XmlNodeList> RootChildren() override { return ElementNode(root_).Children(); }
+
+  bool Save() override {
+    try {
+      return SaveSomewhere();
+    } catch (const std::exception& error) {
+      Tell(NotSavedNotice(FileName(file_name_).folder, error.what()));
+      return false;
+    }
+  }
+
+ private:
+  bool SaveSomewhere() {
+    StringWriter writer;
+    document_.save(writer, "  ", pugi::format_indent, pugi::encoding_utf8);
+    const FileName name(file_name_);
+    const std::string refusal = name.folder.empty()
+                                    ? "no folder is named"
+                                    : WriteWholeFile(name.folder + '/' + name.base, writer.text);
+    if (refusal.empty()) return true;
+    const std::string elsewhere = fallback_folder_ + '/' + name.base;
+    if (MakePrivateFolder(fallback_folder_).empty() &&
+        WriteWholeFile(elsewhere, writer.text).empty()) {
+      Tell(SavedElsewhereNotice(name.folder, refusal, elsewhere));
+      return true;
+    }
+    Tell(NotSavedNotice(name.folder, refusal));
+    return false;
+  }
+
+  void Tell(const Notice& notice) const {
+    if (notify_) notify_(notice);
+  }
+
+  std::string fallback_folder_;
+  Notify notify_;
+  std::string file_name_;
+  pugi::xml_document document_;
+  pugi::xml_node root_;
+};
+
+}  // namespace
+
+XmlDocumentFactory PugiDocumentFactory(std::string fallback_folder, Notify notify) {
+  return [folder = std::move(fallback_folder), notify = std::move(notify)] {
+    return std::make_unique<PugiDocument>(folder, notify);
+  };
+}
+
+}  // namespace vmod17
