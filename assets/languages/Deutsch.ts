@@ -237,7 +237,7 @@
     <message id="287s">
         <source></source>
         <extracomment>window title of the first screen, after 347 and 700; begins with the blank after 700</extracomment>
-        <translation> Übungsart</translation>
+        <translation> Start</translation>
     </message>
     <message id="297s">
         <source></source>
