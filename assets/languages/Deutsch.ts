@@ -655,7 +655,7 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Das Protokoll Ihrer Übung konnte nicht gespeichert werden, weder im Ordner %1 (%2) noch im eigenen Ordner des Programms. Ihre Ergebnisse werden trotzdem angezeigt. Bitte schaffen Sie vor der nächsten Übung Platz auf der Festplatte oder prüfen Sie den Ordner.</translation>
+        <translation>Das Protokoll Ihrer Übung konnte nicht gespeichert werden, weder im Ordner %1 (%2) noch im eigenen Ordner des Programms. Bitte schaffen Sie vor der nächsten Übung Platz auf der Festplatte oder prüfen Sie den Ordner.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -655,7 +655,7 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>The record of your exercise could not be saved, neither in the folder %1 (%2) nor in the program's own folder. Your results are still shown. Please make room on the disk or check the folder before the next exercise.</translation>
+        <translation>The record of your exercise could not be saved, neither in the folder %1 (%2) nor in the program's own folder. Please make room on the disk or check the folder before the next exercise.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -5,29 +5,23 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <algorithm>
 #include <exception>
 #include <utility>
 #include <vector>
 
+#include "platform/store/store_address.h"
 #include "platform/xml/pugi_document.h"
 #include "version.h"
 
 namespace vmod17 {
 namespace {
 
-/// The user's folder for what the suite keeps: records that found no place, languages of one's own.
-std::string DataFolder() {
-  return (QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/melvado")
-      .toStdString();
-}
-
 /// Beside the program in a build, under share/ where it is installed, and the user's own.
 std::vector<std::filesystem::path> LanguageFolders() {
   const std::string program = QCoreApplication::applicationDirPath().toStdString();
   return {program + "/../languages", program + "/../share/melvado/languages",
-          DataFolder() + "/languages"};
+          UserDataFolder() + "/languages"};
 }
 
 ProgramIdentity Identity() {
@@ -123,7 +117,7 @@ Platform Desktop::MakePlatform() {
           random_,
           [this] { return store_.Service(); },
           [this] { return std::make_unique<SharedLanguages>(languages_); },
-          PugiDocumentFactory(DataFolder(), [this](const Notice& notice) { Tell(notice); })};
+          PugiDocumentFactory(UserDataFolder(), [this](const Notice& notice) { Tell(notice); })};
 }
 
 /// The output is remembered by the host. The variable sets it from outside, by a part of its name;

@@ -39,8 +39,12 @@ void PostgresConnection::Open(int wait_ms) {
 }
 
 bool PostgresConnection::HasTable(const QString& name) {
-  QSqlQuery query = Run(QStringLiteral("SELECT to_regclass(?) IS NOT NULL"), {name});
-  return query.next() && query.value(0).toBool();
+  // From the catalogue as a table: the name's own cache may not yet know of a table that another
+  // process has made while this one waited in `LockSchema`.
+  return Run(QStringLiteral("SELECT 1 FROM pg_tables WHERE tablename = ? "
+                            "AND schemaname = ANY (current_schemas(false))"),
+             {name})
+      .next();
 }
 
 void PostgresConnection::LockSchema() {

@@ -177,7 +177,7 @@ Notice SavedElsewhereNotice(const std::string& folder, const std::string& reason
 Notice NotSavedNotice(const std::string& folder, const std::string& reason) {
   return {9202,
           "The record of your exercise could not be saved, neither in the folder %1 (%2) nor in "
-          "the program's own folder. Your results are still shown. Please make room on the disk or "
+          "the program's own folder. Please make room on the disk or "
           "check the folder before the next exercise.",
           {folder, reason}};
 }
