@@ -41,7 +41,8 @@ double ResidentMb(pid_t process) {
   QFile status(QStringLiteral("/proc/%1/status").arg(process));
   if (!status.open(QIODevice::ReadOnly)) return 0;
   for (const QByteArray& line : status.readAll().split('\n')) {
-    if (line.startsWith("VmRSS:")) return line.mid(6).simplified().split(' ').first().toDouble() / 1024;
+    if (line.startsWith("VmRSS:"))
+      return line.mid(6).simplified().split(' ').first().toDouble() / 1024;
   }
   return 0;
 }

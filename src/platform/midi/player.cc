@@ -15,9 +15,9 @@ namespace {
 constexpr double kNever = std::numeric_limits<double>::infinity();
 constexpr double kLongestWait = 1500;   // for the synthesiser to be loaded
 constexpr double kPresenceCheck = 500;  // how often a port that plays is looked for
-constexpr double kAudioCheck = 250;     // how often the audio thread is looked after,
-constexpr double kAudioDead =
-    2000;  // and how long it may stand still: sound servers buffer as much
+constexpr double kAudioCheck = 250;     // how often the audio thread is looked after
+// How long it may stand still: sound servers buffer up to 2 s, and a busy machine adds to that.
+constexpr double kAudioDead = 4000;
 
 }  // namespace
 

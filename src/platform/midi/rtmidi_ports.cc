@@ -175,6 +175,9 @@ class RtMidiPorts : public MidiPorts {
 
 }  // namespace
 
-std::unique_ptr<MidiPorts> MakeSystemMidiPorts() { return std::make_unique<RtMidiPorts>(); }
+std::unique_ptr<MidiPorts> MakeSystemMidiPorts() {
+  SilenceSoundLibraries();
+  return std::make_unique<RtMidiPorts>();
+}
 
 }  // namespace vmod17
