@@ -21,13 +21,24 @@ vmod17_test(
           sound/chord_playback_test.cc
           sound/instrument_list_test.cc
           sound/mod_midi_test.cc
+          settings/settings_record_test.cc
+          settings/settings_screen_test.cc
+          settings/settings_summary_test.cc
+          platform/store/memory_host_test.cc
+          platform/xml/memory_xml_document_test.cc
   LIBRARIES vmod17_program test_support rapidcheck)
 
 # Records, the worksheet and whole runs.
 target_sources(
   core_tests
-  PRIVATE results/counters_test.cc
+  PRIVATE app/free_practice_simulation_test.cc
+          app/lesson_record_golden_test.cc
+          results/counters_test.cc
           results/lesson_record_test.cc
+          worksheet/answers_test.cc
+          worksheet/run_flow_test.cc
           worksheet/run_state_test.cc
           worksheet/task_selection_test.cc
           worksheet/worksheet_screen_test.cc)
+target_compile_definitions(
+  core_tests PRIVATE VMOD17_GOLDEN_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}/golden")

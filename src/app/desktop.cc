@@ -51,7 +51,7 @@ Desktop::Desktop()
       store_(HostOptions()),
       program_(std::make_unique<Program>(MakePlatform(), Identity())) {
   notices_ = std::make_unique<Notices>(loop_, messages_, program_->texts(),
-                                       [this] { return screen_was_shown_; });
+                                       [this] { return program_->Quiet(); });
   loop_.after_event = [this] { AfterEvent(); };
   loop_.on_error = [this](std::exception_ptr error) { RunTimeReport(error); };
   messages_.words = [this] {

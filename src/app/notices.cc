@@ -22,7 +22,7 @@ Notices::Notices(EventLoop& loop, MessageBox& messages, const TextLookup& texts,
     : loop_(loop), messages_(messages), texts_(texts), ready_(std::move(ready)) {}
 
 void Notices::Tell(const Notice& notice) {
-  if (!told_.insert(notice.text_id).second) return;
+  if (!told_.emplace(notice.text_id, notice.details).second) return;
   pending_.push_back(notice);
   Arm();
 }

@@ -5,6 +5,8 @@
 
 #include <functional>
 #include <set>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/event_loop.h"
@@ -14,11 +16,11 @@
 
 namespace vmod17 {
 
-/// Tells the user what the platform has to say, each notice once in a process: as soon as a screen
-/// stands and no handler is running, so that no message comes up inside a playing.
+/// Tells the user what the platform has to say, the same once in a process: as soon as no handler
+/// is running and the program is in a moment that a message does not spoil.
 class Notices {
  public:
-  /// `ready` tells whether a screen stands.
+  /// `ready` tells whether this is such a moment.
   Notices(EventLoop& loop, MessageBox& messages, const TextLookup& texts,
           std::function<bool()> ready);
 
@@ -34,7 +36,7 @@ class Notices {
   MessageBox& messages_;
   const TextLookup& texts_;
   std::function<bool()> ready_;
-  std::set<int> told_;
+  std::set<std::pair<int, std::vector<std::string>>> told_;
   std::vector<Notice> pending_;
   bool armed_ = false;
 };

@@ -3,6 +3,7 @@
 
 #include "app/program.h"
 
+#include <exception>
 #include <utility>
 
 namespace vmod17 {
@@ -27,9 +28,18 @@ Program::~Program() {
 
 void Program::Start() { Load(grd_einst_, shell_); }
 
+bool Program::Quiet() const {
+  if (arbeitsblatt1_ && arbeitsblatt1_->visible) return arbeitsblatt1_->Wartet();
+  return (grd_einst_ && grd_einst_->visible) || (einstellung1_ && einstellung1_->visible);
+}
+
 void Program::Leave() {
   // A run that is cut off from outside ends as if it were left, so that its record is saved.
-  if (arbeitsblatt1_ && arbeitsblatt1_->visible) arbeitsblatt1_->Form_Close();
+  try {
+    if (arbeitsblatt1_ && arbeitsblatt1_->visible) arbeitsblatt1_->Form_Close();
+  } catch (const std::exception&) {
+    // On the way out nothing may stand in the way.
+  }
   server_.HostBeenden("MENUE", screens_);
 }
 
@@ -55,7 +65,9 @@ void Program::ShowFirstScreen() {
 }
 
 void Program::ShowSettings() {
-  if (einstellung1_) einstellung1_->visible = true;
+  if (!einstellung1_) return;
+  einstellung1_->pointer = Form::Pointer::kDefault;
+  einstellung1_->visible = true;
 }
 
 template <typename Screen, typename... Args>

@@ -51,6 +51,10 @@ class Program : private Navigation {
   /// Told when the last screen has gone.
   std::function<void()> OnEnd;
 
+  /// True in a moment that a message would not spoil: a screen stands, and no task is being played
+  /// or answered.
+  bool Quiet() const;
+
   /// Unloads all screens and takes leave of the host, from any state.
   void Leave();
 

@@ -43,7 +43,7 @@ inline constexpr Color kMagenta = Rgb(255, 0, 255);
 
 /// Which ready-made picture a control shows.
 struct PictureId {
-  enum class Kind { kNone, kNotation, kSymbol, kTraining, kTest, kHelp };
+  enum class Kind { kNone, kNotation, kSymbol, kTraining, kTest };
   Kind kind = Kind::kNone;
   int klang = 0;  ///< the Klang number of a kNotation or kSymbol, otherwise 0
   bool operator==(const PictureId&) const = default;
@@ -76,7 +76,7 @@ class Form {
   virtual void Form_Unload() {}
   virtual void Form_Close() = 0;
 
-  /// Runs `Form_Unload` and puts the screen out of reach for good.
+  /// Puts the screen out of reach for good and runs `Form_Unload`.
   void Unload();
 
   std::string caption;
@@ -240,9 +240,6 @@ class OptionGroup {
     chosen_ = index;
     if (Click) Click(index);
   }
-  /// Marks an option as checked without an event, as a form's design does.
-  void Mark(int index) { chosen_ = index; }
-
   /// The user checks an option; one that stands checked stays so without an event.
   bool Choose(int index) {
     if (!(*this)[index].Reachable()) return false;
@@ -433,10 +430,10 @@ class Timer : public Control {
 
 inline void Form::Unload() {
   if (!loaded_) return;
-  Form_Unload();
   loaded_ = false;
   visible = false;
   for (Timer* timer : timers_) timer->Disable();
+  Form_Unload();
 }
 
 }  // namespace vmod17

@@ -11,21 +11,23 @@
 
 namespace vmod17 {
 
+// clang-format off
 /// The one object through which the program reaches its host. It holds no state of its own: any
 /// number of instances may exist, and all see the same store.
 ///
-/// The commands, with their arguments and answers:
+/// The commands, with their arguments and what they answer in `result`:
 ///
-/// | command   | args                                | answer in `result`                        |
-/// |-----------|-------------------------------------|-------------------------------------------|
-/// | "MIDI"    | empty                               | string, the number of the output to use   |
-/// | "READ"    | array: program, key                 | the stored array; element 0 "NIL" if none |
-/// | "STORE"   | array: program, key, value          | untouched; committed when it returns      |
-/// | "LOGIN"   | ""                                  | array: matriculation number, name, first
-/// name | | "LANG"    | ""                                  | string, the name of an installed
-/// language | | "LOGMESS" | string, one line                    | untouched | | "LOGERR"  | array:
-/// place, number, text, source  | untouched                                 | | "MENUE"   | "" |
-/// untouched                                 |
+/// | command   | args                               | answer                                |
+/// |-----------|------------------------------------|---------------------------------------|
+/// | "MIDI"    | empty                              | string: number of the output to use   |
+/// | "READ"    | array: program, key                | the stored array; ["NIL"] for none    |
+/// | "STORE"   | array: program, key, value         | untouched; committed on return        |
+/// | "LOGIN"   | ""                                 | array: number, name, first name of the user |
+/// | "LANG"    | ""                                 | string: name of an installed language |
+/// | "LOGMESS" | string: one line                   | untouched                             |
+/// | "LOGERR"  | array: place, number, text, source | untouched                             |
+/// | "MENUE"   | ""                                 | untouched                             |
+// clang-format on
 class HostService {
  public:
   virtual ~HostService() = default;

@@ -16,8 +16,8 @@ struct Notice {
   std::vector<std::string> details;  ///< UTF-8: names, folders, what the system said
 };
 
-/// Takes a notice on the program's thread. Each text id is shown once in a process; a call never
-/// blocks.
+/// Takes a notice on the program's thread. The same notice, by id and details, is shown once in a
+/// process; a call never blocks.
 using Notify = std::function<void(const Notice&)>;
 
 }  // namespace vmod17

@@ -100,13 +100,15 @@ void LessonRecord::LessonEigenschaft(XmlElement& element, const std::string& key
 
 void LessonRecord::LessonEnde(Form& form, Control& WaitMeldung,
                               const TaggedValue::Array& einst_liste) {
+  // Read before events are served: in them the first screen may go.
+  const std::string ueb_typ = ueb_typ_caption_();
   form.enabled = false;
   form.pointer = Form::Pointer::kHourglass;
   WaitMeldung.visible = true;
   shell_.loop.Yield();
 
   const auto properties = RootChild("properties");
-  Append(*properties, "exercise", ueb_typ_caption_());
+  Append(*properties, "exercise", ueb_typ);
   Append(*properties, "timestamp", StampForRecord(shell_.loop.Now()));
   xml_dok->RootAttributes()->Add(
       "Untersuchung: " + shell_.texts.ueb_typ_name_ar.at(shell_.state.uebTyp), "description");

@@ -193,7 +193,8 @@ void Einstellung1::FuelleAuswahlListen() {
   grdeinst[2].visible = false;
   for (int i = 1; i <= 4; ++i) akkzahl_cmb.Add(SignedText(i), i);
   akkzahl_cmb.Select(0);
-  for (int n = 2; n <= 5; ++n) {
+  // A screen that is opened anew finds the material of the time before.
+  for (int n = parts_.settings.akk_form == 1 ? 3 : 2; n <= 5; ++n) {
     oktav_cmb.Add(SignedText(n) + " " + texts.Sprachtext(41), n - 2);
   }
   oktav_cmb.Select(0);
@@ -344,7 +345,6 @@ void Einstellung1::cmdOK_Click() {
         pointer = Pointer::kHourglass;
         shell_.loop.Yield();
         if (!loaded()) return;  // left in the meantime
-        pointer = Pointer::kDefault;
         cmdOK.enabled = true;
         visible = false;
         shell_.navigation.OpenWorksheet();
@@ -371,6 +371,7 @@ void Einstellung1::SichereAuswahl() {
 }
 
 void Einstellung1::cmdZurueck_Click() {
+  if (!loaded()) return;
   delay_abbruch = true;
   cmdZurueck.enabled = false;
   parts_.midi.MidiReset();

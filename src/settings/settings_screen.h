@@ -15,8 +15,8 @@
 
 namespace vmod17 {
 
-/// `einstellung1`, the settings screen: what a run is made of and how it sounds. It owns the output
-/// for the whole program and waits hidden while a run goes on.
+/// `einstellung1`, the settings screen: what a run is made of and how it sounds. It opens
+/// the output for the whole program, and waits hidden while a run goes on.
 class Einstellung1 : public Form {
  public:
   /// What the screen works on.

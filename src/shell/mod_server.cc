@@ -32,7 +32,7 @@ int ModServer::FrageMidiGeraet() {
   try {
     TaggedValue answer = "";
     // An answer without digits is device 0; only a host without an answer gives kKeinGeraet.
-    if (!hostService->Action("MIDI", TaggedValue(), answer)) return kKeinGeraet;
+    if (!Host().Action("MIDI", TaggedValue(), answer)) return kKeinGeraet;
     return LeadingNumber(answer.String());
   } catch (const std::exception&) {
     return kKeinGeraet;
@@ -42,7 +42,7 @@ int ModServer::FrageMidiGeraet() {
 std::string ModServer::HostSprache() {
   hostResult = "Deutsch";
   try {
-    hostService->Action("LANG", "", hostResult);
+    Host().Action("LANG", "", hostResult);
     return hostResult.String();
   } catch (const std::exception&) {
     return "Deutsch";
@@ -52,7 +52,7 @@ std::string ModServer::HostSprache() {
 TaggedValue ModServer::LoginDaten() {
   TaggedValue answer = TaggedValue::Array{"unbekannt"};
   try {
-    hostService->Action("LOGIN", "", answer);
+    Host().Action("LOGIN", "", answer);
     answer[0].String();
     return answer;
   } catch (const std::exception&) {
@@ -103,11 +103,15 @@ void ModServer::HostBeenden(const std::string& befehl, LoadedScreens& screens) {
   hostService.reset();
 }
 
-void ModServer::Send(std::string_view command, const TaggedValue& args) {
+HostService& ModServer::Host() const {
   if (!hostService) {
     throw RunTimeError(ErrorNumber::kInvalidCall, "the host is not connected", "vmod17.ModServer");
   }
-  hostService->Action(command, args, hostResult);
+  return *hostService;
+}
+
+void ModServer::Send(std::string_view command, const TaggedValue& args) {
+  Host().Action(command, args, hostResult);
 }
 
 }  // namespace vmod17

@@ -50,6 +50,8 @@ class ModServer {
   TaggedValue::Array einst_satz;  ///< the stored settings last read or built
 
  private:
+  /// Errors: kInvalidCall while no host is connected.
+  HostService& Host() const;
   int FrageMidiGeraet();
   bool Lese(const std::string& key, TaggedValue::Array& target);
   /// Sends a command whose answer nobody reads.

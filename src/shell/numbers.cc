@@ -3,9 +3,11 @@
 
 #include "shell/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include "platform/run_time_error.h"
@@ -24,8 +26,9 @@ std::string DecimalText(int value) { return std::to_string(value); }
 std::string SignedText(int value) { return (value < 0 ? "" : " ") + DecimalText(value); }
 
 std::string SingleText(float value) {
-  std::array<char, 48> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value);
+  std::array<char, 200> text{};  // the smallest Single has 149 decimals
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
   return {text.data(), end.ptr};
 }
 
@@ -40,19 +43,24 @@ int LeadingNumber(std::string_view text) {
   const std::size_t start = text.find_first_not_of(" \t");
   if (start == std::string_view::npos) return 0;
   text.remove_prefix(start);
-  if (text.front() == '+') text.remove_prefix(1);
+  const bool negative = text.front() == '-';
+  if (negative || text.front() == '+') text.remove_prefix(1);
+  // Only digits and a full stop, so that no "inf" and no second sign is taken for a number.
+  text = text.substr(0, text.find_first_not_of("0123456789."));
   double value = 0;
   const auto result =
       std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
   if (result.ec == std::errc::invalid_argument) return 0;
-  constexpr double kLow = std::numeric_limits<short>::min();
-  constexpr double kHigh = std::numeric_limits<short>::max();
-  // The negation catches what is not a number at all.
-  if (result.ec != std::errc() || !(value >= kLow && value <= kHigh)) {
+  constexpr int kLow = std::numeric_limits<std::int16_t>::min();
+  constexpr int kHigh = std::numeric_limits<std::int16_t>::max();
+  constexpr double kFarBeyond = 1e6;  // still an int when rounded
+  const double cut = result.ec == std::errc() ? std::min(value, kFarBeyond) : kFarBeyond;
+  const int rounded = RoundHalfEven(negative ? -cut : cut);
+  if (rounded < kLow || rounded > kHigh) {
     throw RunTimeError(ErrorNumber::kOutOfRange, "a number does not fit into 16 bits",
                        "vmod17.LeadingNumber");
   }
-  return RoundHalfEven(value);
+  return rounded;
 }
 
 }  // namespace vmod17

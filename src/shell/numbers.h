@@ -16,7 +16,7 @@ std::string DecimalText(int value);
 /// A whole number with the blank that stands in the sign's place before a value that is not
 /// negative: " 3", "-3".
 std::string SignedText(int value);
-/// A Single in its shortest decimal form, with a full stop: "2.5", "23".
+/// A Single in its shortest plain decimal form, with a full stop: "2.5", "23", "100000".
 std::string SingleText(float value);
 /// The last `digits` digits of a value that is not negative, filled up with zeros from the left.
 std::string PaddedText(int value, int digits);

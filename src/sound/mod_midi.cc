@@ -51,16 +51,16 @@ void ModMIDI::MidiReset() {
 
 void ModMIDI::MidiNote(int note, double start, double dauer, int kanal, int marke,
                        std::optional<int> staerke) {
-  midiPort->Set(MidiMember::Status, kNoteAn + kanal);
-  midiPort->Set(MidiMember::Daten2, staerke.value_or(midiVelocity));
-  midiPort->Set(MidiMember::Daten1, note);
-  midiPort->Set(MidiMember::Zeit, start);
-  midiPort->Set(MidiMember::Marke, marke);
+  Port().Set(MidiMember::Status, kNoteAn + kanal);
+  Port().Set(MidiMember::Daten2, staerke.value_or(midiVelocity));
+  Port().Set(MidiMember::Daten1, note);
+  Port().Set(MidiMember::Zeit, start);
+  Port().Set(MidiMember::Marke, marke);
   Befehl(MidiBefehl::kEinreihen);
-  midiPort->Set(MidiMember::Status, kNoteAus + kanal);
-  midiPort->Set(MidiMember::Daten1, note);
-  midiPort->Set(MidiMember::Zeit, start + dauer);
-  midiPort->Set(MidiMember::Marke, marke + kMarkeNoteAus);
+  Port().Set(MidiMember::Status, kNoteAus + kanal);
+  Port().Set(MidiMember::Daten1, note);
+  Port().Set(MidiMember::Zeit, start + dauer);
+  Port().Set(MidiMember::Marke, marke + kMarkeNoteAus);
   Befehl(MidiBefehl::kEinreihen);
 }
 
@@ -80,10 +80,10 @@ void ModMIDI::MidiStart() {
 
 void ModMIDI::MidiAusblenden() {
   Befehl(MidiBefehl::kStopp);
-  const int links = static_cast<int>(midiPort->Get(MidiMember::VolumeLinks));
+  const int links = static_cast<int>(Port().Get(MidiMember::VolumeLinks));
   if (links <= 0) return;
   midiVolumeLeft = links;
-  midiVolumeRight = static_cast<int>(midiPort->Get(MidiMember::VolumeRechts));
+  midiVolumeRight = static_cast<int>(Port().Get(MidiMember::VolumeRechts));
   for (int lautstaerke = links; lautstaerke >= 0; lautstaerke -= kRampenschritt) {
     SetzeLautstaerken(lautstaerke, lautstaerke);
     loop_.Yield();
@@ -91,23 +91,27 @@ void ModMIDI::MidiAusblenden() {
   SetzeLautstaerken(0, 0);
 }
 
-void ModMIDI::Befehl(MidiBefehl befehl) {
+MidiOutput& ModMIDI::Port() {
   if (midiPort == nullptr) {
     throw RunTimeError(ErrorNumber::kInvalidCall, "no output was opened", "vmod17.modMIDI");
   }
-  midiPort->Set(MidiMember::Befehl, static_cast<int>(befehl));
+  return *midiPort;
+}
+
+void ModMIDI::Befehl(MidiBefehl befehl) {
+  Port().Set(MidiMember::Befehl, static_cast<int>(befehl));
 }
 
 void ModMIDI::SetzeLautstaerken(int links, int rechts) {
-  midiPort->Set(MidiMember::VolumeLinks, links);
-  midiPort->Set(MidiMember::VolumeRechts, rechts);
+  Port().Set(MidiMember::VolumeLinks, links);
+  Port().Set(MidiMember::VolumeRechts, rechts);
 }
 
 void ModMIDI::Sende(int status, int daten1, int daten2) {
-  midiPort->Set(MidiMember::Status, status);
-  midiPort->Set(MidiMember::Daten1, daten1);
-  midiPort->Set(MidiMember::Daten2, daten2);
-  midiPort->Set(MidiMember::Zeit, 0);
+  Port().Set(MidiMember::Status, status);
+  Port().Set(MidiMember::Daten1, daten1);
+  Port().Set(MidiMember::Daten2, daten2);
+  Port().Set(MidiMember::Zeit, 0);
   Befehl(MidiBefehl::kSenden);
 }
 

@@ -57,6 +57,8 @@ class ModMIDI {
   int midiVolumeRight = 0;
 
  private:
+  /// The output in use. Errors: kInvalidCall before `MidiOeffnen`.
+  MidiOutput& Port();
   void Befehl(MidiBefehl befehl);
   void SetzeLautstaerken(int links, int rechts);
   void Sende(int status, int daten1, int daten2);

@@ -31,7 +31,7 @@ void Arbeitsblatt1::AntwortenFreigeben() {
     }
   } else {
     for (const int g : parts_.settings.Gruppen()) {
-      if (run_.aus_ar[g] == 0) akk_group[g].enabled = true;
+      if (run_.aus_ar.at(g) == 0) akk_group[g].enabled = true;
     }
   }
 }

@@ -16,6 +16,7 @@ constexpr float kRuheVorWiederholung = 50;  // ms
 
 void Arbeitsblatt1::Bewache(const std::string& tag, const std::function<void()>& body) {
   shell_.errors.Guard(tag, *this, body, [this] {
+    pointer = Pointer::kDefault;
     zurueck.tag = "ERROR";
     zurueck_Click();
   });
@@ -51,6 +52,11 @@ void Arbeitsblatt1::BieteWeiterAn() {
   } else {
     CmdNextAufg.enabled = true;
   }
+}
+
+bool Arbeitsblatt1::Wartet() const {
+  const bool aufgabe_offen = run_.akk_nr >= 1 && run_.akk_nr <= parts_.settings.akk_anzahl;
+  return loaded() && !aufgabe_offen && !spieltimer.enabled;
 }
 
 void Arbeitsblatt1::NimmAngebotZurueck() {
@@ -136,6 +142,8 @@ void Arbeitsblatt1::spieltimer_Timer() {
   });
 }
 
+// The repeats are no routines of weight: an error in them goes to the run-time report, since what
+// they play has sounded before.
 void Arbeitsblatt1::wieder_Click() {
   wieder.enabled = false;
   // The tiles close before the pause and not after it: an answer that came in the pause would end
@@ -175,6 +183,9 @@ void Arbeitsblatt1::testtimer_Timer() {
 }
 
 void Arbeitsblatt1::zurueck_Click() {
+  // Left once: an error's way out may come after the user or the system has taken it already, and a
+  // record that is completed twice is none.
+  if (!loaded() || run_.abbruch) return;
   zurueck.enabled = false;
   run_.abbruch = true;
   Uhrzeit.Disable();

@@ -60,6 +60,12 @@ struct TestRest {
   int rest_sek = 0;  ///< seconds, a multiple of 10
 };
 
+/// Which chord opened a task; -1 before the first one.
+struct LastChord {
+  int klangtyp = -1;
+  int row = -1;
+};
+
 /// The state of a run. It starts anew with each worksheet.
 struct RunState {
   PlaybackTask task;
@@ -73,8 +79,7 @@ struct RunState {
   int grundton = 0;               ///< root of the chord last built, a MIDI note
   int ton_bereich = 0;            ///< width of the range of roots, in semitones
   std::array<int, 4> oktav_ar{};  ///< octaves of the Tonraum by `oktav_ber`
-  int letzt_klangtyp = -1;        ///< of the first chord of the previous task
-  int letzt_row = -1;             ///< the same
+  LastChord letzt_akk;            ///< the first chord of the previous task
   int letzt_ton = 0;              ///< its lowest note
 
   int akk_nr = 0;  ///< the open slot; one more than `akk_anzahl` when the task is finished

@@ -3,6 +3,8 @@
 
 #include "worksheet/task_selection.h"
 
+#include <cmath>
+
 #include "platform/run_time_error.h"
 
 namespace vmod17 {
@@ -37,6 +39,7 @@ void TaskSelection::BereiteVor(RunState& run) {
 }
 
 void TaskSelection::Ziehe(RunState& run) {
+  if (board_.akk_zahl < 1) NichtsZuZiehen("the board holds no chord");
   for (int slot = 1; slot <= settings_.akk_anzahl; ++slot) {
     int versuche = 0;
     do {
@@ -52,8 +55,7 @@ void TaskSelection::Ziehe(RunState& run) {
     } while (IstWiederholung(run, slot));
   }
   const BoardEntry& erster = board_[run.task.aufg_akk_ar[1]];
-  run.letzt_klangtyp = erster.klangtyp;
-  run.letzt_row = erster.row;
+  run.letzt_akk = {erster.klangtyp, erster.row};
   run.letzt_ton = run.task.akk_ton_ar[1][0];
 }
 
@@ -62,8 +64,8 @@ void TaskSelection::ZieheGrundton(RunState& run) {
   int versuche = 0;
   do {
     if (++versuche > kVersuche) NichtsZuZiehen("no root lies in the range of the notes");
-    run.grundton = static_cast<int>(static_cast<float>(run.ton_bereich + 1) * random_.Rnd()) +
-                   settings_.ton_unten;
+    const float abstand = static_cast<float>(run.ton_bereich + 1) * random_.Rnd();
+    run.grundton = static_cast<int>(std::floor(abstand)) + settings_.ton_unten;
   } while (run.grundton % kHalbtoene == 0);
 }
 
@@ -85,7 +87,7 @@ bool TaskSelection::IstWiederholung(const RunState& run, int slot) const {
            entry.row == voriger.row;
   }
   return settings_.akk_anzahl == 1 && ton == run.letzt_ton &&
-         entry.klangtyp == run.letzt_klangtyp && entry.row == run.letzt_row;
+         entry.klangtyp == run.letzt_akk.klangtyp && entry.row == run.letzt_akk.row;
 }
 
 }  // namespace vmod17

@@ -131,8 +131,10 @@ void Arbeitsblatt1::start_Timer() {
   start.Disable();
   zurueck.tag = "OK";
   pointer = Pointer::kHourglass;
-  Bewache("start_timer.", [this] { BaueAuf(); });
-  pointer = Pointer::kDefault;
+  Bewache("start_timer.", [this] {
+    BaueAuf();
+    pointer = Pointer::kDefault;
+  });
 }
 
 void Arbeitsblatt1::BaueAuf() {

@@ -80,6 +80,8 @@ class Arbeitsblatt1 : public Form {
   Timer tonart_Timer;
 
   const RunState& run() const { return run_; }
+  /// True between two tasks: none is being played or answered.
+  bool Wartet() const;
 
   void Form_Load() override;
   void Form_Unload() override;

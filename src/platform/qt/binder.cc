@@ -257,11 +257,17 @@ void Binding::RefreshTexts() {
     caption_ = control_.caption;
     if (!OwnCaption()) dressed_.SetCaption(Text(control_.caption));
   }
-  WriteName(named_by_ != nullptr ? named_by_->caption : control_.caption);
-  if (description_ != control_.description) {
-    description_ = control_.description;
-    widget_.setAccessibleDescription(Text(description_));
-  }
+  // What has words of its own is called by them, and the label that belongs to it explains them.
+  const bool own_words = named_by_ == nullptr || !control_.caption.empty();
+  WriteName(own_words ? control_.caption : named_by_->caption);
+  const bool explained = own_words && named_by_ != nullptr && control_.description.empty();
+  WriteDescription(explained ? named_by_->caption : control_.description);
+}
+
+void Binding::WriteDescription(const std::string& description) {
+  if (description_ == description) return;
+  description_ = description;
+  widget_.setAccessibleDescription(Text(description));
 }
 
 void Binding::WriteName(const std::string& name) {

@@ -41,7 +41,8 @@ class Binding {
   Control& control() const { return control_; }
   QWidget& widget() const { return widget_; }
   Dressed& dressed() const { return dressed_; }
-  /// The control whose caption names this one; none: its own caption does.
+  /// The control whose caption names this one where it has no caption of its own, and describes it
+  /// where it has one; null for none.
   void NameBy(const Control* other) { named_by_ = other; }
   /// The key that presses it, for its tool tip.
   void SetKey(const QString& key) { key_ = key; }
@@ -60,6 +61,7 @@ class Binding {
 
   void RefreshTexts();
   void WriteName(const std::string& name);
+  void WriteDescription(const std::string& description);
   bool RefreshPlace();
 
   Control& control_;

@@ -23,7 +23,6 @@ namespace vmod17 {
 enum class Look {
   kPlain,    ///< a label without ground, a button like the others, a frame that is not seen
   kCard,     ///< a frame as a white card
-  kStrip,    ///< the header strip
   kHeading,  ///< a label above its group
   kQuiet,    ///< a label or button that steps back
   kPrimary,  ///< the button that leads on
@@ -42,7 +41,7 @@ struct Placement {
   double text = 14;  ///< height of the type
   Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter;
   bool bold = false;
-  std::string named_by{};  ///< the control whose caption names this one to a reader of the screen
+  std::string named_by{};  ///< the control whose caption names or explains this one
 };
 
 /// What a key does: it presses the first of the controls that can be reached.

@@ -11,6 +11,7 @@ constexpr double kWidth = 520;
 constexpr double kBanner = 132;
 constexpr double kHeight = 440;  // the panel, with the banner as its head
 constexpr double kMargin = 40;
+constexpr double kOrnament = 100;  // right of the title
 
 }  // namespace
 
@@ -21,7 +22,7 @@ Layout LayoutFirstScreen(const Form&, const QSizeF& page) {
   const double inside = kWidth - 2 * kMargin;
 
   layout.banner = QRectF(x, y, kWidth, kBanner);
-  layout.title = QRectF(x + kMargin, y + 12, inside, kBanner - 24);
+  layout.title = QRectF(x + kMargin, y + 12, inside - kOrnament, kBanner - 24);
   layout.title_text = 25;
   layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
   layout.title_color = Qt::white;

@@ -9,7 +9,7 @@
 namespace vmod17 {
 namespace {
 
-constexpr double kWidth = 989;  // answer area and action box together
+constexpr double kWidth = 983;  // answer area and action box together
 constexpr double kTop = 10;
 constexpr double kStrip = 56;
 constexpr double kBoxHeight = 545;
@@ -23,7 +23,7 @@ constexpr int kSlots = 4;
 
 constexpr double kTileWidth = 100;
 constexpr double kTileGap = 28;
-constexpr double kTileMargin = 24;
+constexpr double kTileMargin = 21;
 constexpr double kTileEdge = 5;  // of the coloured frame around the picture
 constexpr double kSymbolHeight = 40;
 
@@ -46,7 +46,7 @@ void FillStrip(Layout& layout, const QRectF& strip) {
   auto& places = layout.places;
   const double middle = strip.center().x();
   const double y = strip.top();
-  places["PicUebTyp"] = {.rect = strip, .look = Look::kStrip};
+  places["PicUebTyp"] = {.rect = strip};
   places["cmdHilfe"] = {.rect = QRectF(strip.left() + 10, y + 8, 40, 40),
                         .look = Look::kQuiet,
                         .text = 19,
@@ -141,8 +141,11 @@ void FillSlots(Layout& layout, const QRectF& box, const Form& form) {
     const double height = HeightOf(form, IdOf("ergebnis", i), 46);
     const double y = box.top() + 38 + (i - 1) * step;
     const double label = right - width - 6 - left;
+    const bool alone = Visible(form, "jzakk_box(1)");  // nothing will stand under the slot's label
     layout.places[IdOf("nrakk", i)] = {
-        .rect = QRectF(left, y + 2, label, 22), .text = 15, .bold = true};
+        .rect = QRectF(left, alone ? y : y + 2, label, alone ? height : 22),
+        .text = 15,
+        .bold = true};
     layout.places[IdOf("akk_lfdnr", i)] = {
         .rect = QRectF(left, y + 25, label, 18), .look = Look::kQuiet, .text = 12};
     layout.places[IdOf("ergebnis", i)] = {.rect = QRectF(right - width, y, width, height),
@@ -165,8 +168,11 @@ void FillCounters(Layout& layout, const QRectF& box, double middle) {
                                             .look = Look::kQuiet,
                                             .text = 14,
                                             .align = Qt::AlignCenter};
-    layout.places[IdOf("zaehler", i)] = {
-        .rect = QRectF(left, y + 20, 74, 32), .text = 24, .align = Qt::AlignCenter, .bold = true};
+    layout.places[IdOf("zaehler", i)] = {.rect = QRectF(left, y + 20, 74, 32),
+                                         .text = 24,
+                                         .align = Qt::AlignCenter,
+                                         .bold = true,
+                                         .named_by = IdOf("true_false", i)};
   }
 }
 
@@ -178,15 +184,18 @@ void FillButtons(Layout& layout, const QRectF& box, double middle) {
   for (const char* id : {"CmdNextAufg", "LbNextAufg"}) {
     layout.places[id] = {.rect = row(198, 52),
                          .look = Look::kPrimary,
-                         .text = 17,
+                         .text = 15,
                          .align = Qt::AlignCenter,
                          .bold = true};
   }
   for (const char* id : {"wieder", "wieder2"}) {
     layout.places[id] = {.rect = row(134, 42), .text = 15, .align = Qt::AlignCenter};
   }
-  layout.places["whlgzaehler"] = {
-      .rect = row(90, 22), .look = Look::kQuiet, .text = 14, .align = Qt::AlignCenter};
+  layout.places["whlgzaehler"] = {.rect = row(90, 22),
+                                  .look = Look::kQuiet,
+                                  .text = 14,
+                                  .align = Qt::AlignCenter,
+                                  .named_by = "wieder"};
   layout.places["zurueck"] = {.rect = row(50, 42), .text = 15, .align = Qt::AlignCenter};
 }
 
@@ -203,19 +212,23 @@ void FillKeys(Layout& layout) {
 
 Layout LayoutWorksheet(const Form& form, const QSizeF& page) {
   Layout layout;
-  const double x = (page.width() - kWidth) / 2;
-  FillStrip(layout, QRectF(x, kTop, kWidth, kStrip));
-
+  const std::string box = Visible(form, "jzakk_box(1)") ? "jzakk_box(1)" : "jzakk_box(0)";
   const double action_width = WidthOf(form, "aktionsbox", 193);
   const double action_height = HeightOf(form, "aktionsbox", kBoxHeight);
+  const double answer_width = WidthOf(form, box, kWidth - action_width);
+  const double width = answer_width + action_width;
+  const double x = (page.width() - width) / 2;
+  FillStrip(layout, QRectF(x, kTop, width, kStrip));
+
   const double below = kTop + kStrip;
   const double y = below + (page.height() - below - kBoxHeight) / 2;
-  const QRectF action(x + kWidth - action_width, y, action_width, action_height);
-  const QRectF answers(x, y, kWidth - action_width, kBoxHeight);
+  const QRectF action(x + answer_width, y, action_width, action_height);
+  const QRectF answers(x, y, answer_width, kBoxHeight);
   layout.places["jzakk_box(0)"] = {.rect = answers};
   layout.places["jzakk_box(1)"] = {.rect = answers, .named_by = "LbAkkGrp"};
   layout.places["aktionsbox"] = {.rect = action};
-  layout.backdrops = {{"jzakk_box(0)", QMarginsF(0, kBeyond, -kHalfGap, kBeyond)},
+  layout.backdrops = {{"PicUebTyp", QMarginsF()},
+                      {"jzakk_box(0)", QMarginsF(0, kBeyond, -kHalfGap, kBeyond)},
                       {"jzakk_box(1)", QMarginsF(0, kBeyond, -kHalfGap, kBeyond)},
                       {"aktionsbox", QMarginsF(-kHalfGap, kBeyond, 0, kBeyond)}};
 

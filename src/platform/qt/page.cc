@@ -171,7 +171,9 @@ void Page::CollectTabs(const Control* container, std::vector<QWidget*>& order) c
     const QRectF rect = PlaceOf(binding->control());
     const bool frame = dynamic_cast<const Frame*>(&binding->control()) != nullptr;
     if (layout_.tab_by_column && frame) return std::tuple(0, rect.left(), rect.top());
-    return std::tuple(layout_.tab_by_column ? 1 : 0, rect.top(), rect.left());
+    // Controls of one row may differ in height; frames side by side begin at one height.
+    return std::tuple(layout_.tab_by_column ? 1 : 0, frame ? rect.top() : rect.center().y(),
+                      rect.left());
   };
   std::stable_sort(inside.begin(), inside.end(),
                    [&key](const Binding* a, const Binding* b) { return key(a) < key(b); });

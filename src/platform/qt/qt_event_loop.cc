@@ -138,7 +138,8 @@ void QtEventLoop::Run() {
 
 void QtEventLoop::Quit() {
   quit_ = true;
-  if (running_) QCoreApplication::exit();
+  // Ends the loops of open message boxes too, also before `Run`.
+  QCoreApplication::exit();
 }
 
 }  // namespace vmod17

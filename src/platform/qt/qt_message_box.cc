@@ -15,6 +15,7 @@ void Label(QMessageBox& box, QMessageBox::StandardButton button, const std::stri
 
 /// Shows the box; the keyboard comes back to the window even where no window manager sees to it.
 int Show(QMessageBox& box) {
+  if (box.parentWidget() != nullptr) box.setFont(box.parentWidget()->font());
   const int answer = box.exec();
   if (QWidget* window = box.parentWidget(); window != nullptr && window->isVisible()) {
     window->activateWindow();

@@ -9,13 +9,20 @@
 #include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
+#include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/look.h"
 #include "platform/qt/page.h"
 #include "platform/qt/qt_event_loop.h"
 
 namespace vmod17 {
+namespace {
+
+constexpr double kTextOfMessages = 14;
+
+}  // namespace
 
 /// The window: a page in a view that scrolls only where the screen is smaller than the page.
 class QtView::MainWindow : public QWidget {
@@ -142,6 +149,7 @@ void QtView::Show(Screen& screen) {
   page_->TakeFocus();
   if (last != nullptr) last->hide();
   if (last_is_gone) last->deleteLater();
+  if (std::exchange(close_wanted_, false)) loop_.Post([this] { CloseAsked(); });
 }
 
 void QtView::ArrangePage() {
@@ -149,6 +157,11 @@ void QtView::ArrangePage() {
   window_->FitStage(page_->LeastSize());
   page_->setGeometry(window_->stage()->rect());
   page_->Arrange(page_->size());
+  // What stands in front of the window takes its type from it.
+  const QFont type = look::Type(kTextOfMessages * page_->factor(), look::Weight::kNormal);
+  if (window_->font() == type) return;
+  window_->setFont(type);
+  QToolTip::setFont(type);
 }
 
 void QtView::ShowWindow() {
@@ -176,7 +189,12 @@ void QtView::Resized() {
 
 void QtView::CloseAsked() {
   Screen* const front = Front();
-  if (front == nullptr || !front->form->enabled) return;
+  if (front == nullptr) {
+    // Between two screens the wish waits for the one that comes.
+    close_wanted_ = true;
+    return;
+  }
+  if (!front->form->enabled) return;
   Form* const form = front->form;
   loop_.Deliver([form] { form->Form_Close(); });
 }

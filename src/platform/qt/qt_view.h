@@ -62,6 +62,7 @@ class QtView : public FormView {
   Page* page_ = nullptr;  // on display; its form may be gone already
   Form* page_form_ = nullptr;
   bool busy_pointer_ = false;
+  bool close_wanted_ = false;
   bool refreshing_ = false;
 };
 

@@ -18,12 +18,6 @@ QRectF Square(const QRectF& box) {
   return QRectF(box.center().x() - side / 2, box.center().y() - side / 2, side, side);
 }
 
-void DrawQuestionMark(QPainter& painter, const QRectF& box, const QColor& color) {
-  painter.setFont(look::Type(box.height() * 0.72, look::Weight::kBold));
-  painter.setPen(color);
-  painter.drawText(box, Qt::AlignCenter, "?");
-}
-
 /// Bars that rise: practice that adds up.
 void DrawBars(QPainter& painter, const QRectF& box, const QColor& color) {
   painter.setPen(Qt::NoPen);
@@ -53,8 +47,6 @@ void DrawStopWatch(QPainter& painter, const QRectF& box, const QColor& color) {
 void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const QColor& color) {
   painter.setRenderHint(QPainter::Antialiasing);
   switch (kind) {
-    case PictureId::Kind::kHelp:
-      return DrawQuestionMark(painter, Square(box), color);
     case PictureId::Kind::kTraining:
       return DrawBars(painter, Square(box), color);
     case PictureId::Kind::kTest:

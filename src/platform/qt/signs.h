@@ -12,7 +12,7 @@ class QPainter;
 
 namespace vmod17 {
 
-/// Draws the sign of help, training or test, as large as the box allows; nothing for other kinds.
+/// Draws the sign of training or test, as large as the box allows; nothing for other kinds.
 void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const QColor& color);
 
 /// A quiet ornament: five lines of a staff that come forth from the left, with a few chords on

@@ -251,8 +251,6 @@ void PlateWidget::paintEvent(QPaintEvent*) {
       look::DrawCard(painter, box, look::kCard, style_.factor);
       if (back_) look::DrawCardHead(painter, box, Px(kCardHead), *back_, style_.factor);
       return;
-    case Look::kStrip:
-      return look::DrawCard(painter, box, back_.value_or(look::kCard), style_.factor);
     case Look::kNotice:
       look::DrawPlate(painter, box, back_.value_or(look::kCard), look::kAccent,
                       Px(look::kCardRadius), Px(2));

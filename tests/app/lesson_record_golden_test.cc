@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// One run in German, click by click, against the record that it must leave.
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "worksheet/worksheet_fixture.h"
+
+namespace vmod17 {
+namespace {
+
+std::string Golden(const std::string& name) {
+  std::ifstream file(std::string(VMOD17_GOLDEN_FOLDER) + "/" + name);
+  EXPECT_TRUE(file) << name;
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void SpeakGerman(FakeLanguages& languages) {
+  languages.languages[0].second.words = {
+      {"154s", "bestimmen"},
+      {"348s", "Jazz-Akkorde bestimmen"},
+      {"136s", "freies Üben"},
+      {"277s", "gleichbleibend"},
+      {"238s", "fest (a'440 Hz)"},
+      {"383s", "manuell"},
+      {"97s", "Akkord"},
+      {"507s", "Struktur + Symbol"},
+      {"49s", "3-7 - Klänge"},
+      {"51s", "Dreiklänge"},
+      {"41s", "Oktaven"},
+      {"672s", "c"},
+      {"674s", "c''"},
+      {"702s", "bis"},
+      {"278s", "alle zugleich"},
+      {"588s", "unbetont"},
+      {"623s", "wechselnd"},
+  };
+}
+
+/// Scripts the draw of one of the ten triads and its root, `above` semitones over the C.
+void ScriptTriad(ScriptedRandom& random, int entry, int above) {
+  random.Script({(static_cast<float>(entry) - 0.5f) / 10, (static_cast<float>(above) + 0.5f) / 17});
+}
+
+TEST(LessonRecord, TellsARunOfTwoTasksClickByClick) {
+  WorksheetFixture p;
+  SpeakGerman(p.languages);
+  p.host.language = "Deutsch";
+  p.host.user = {"4711", "Berg", "Anna"};
+  p.loop.date = {2026, 11, 21, 14, 3, 22};
+  p.ToSettings();
+  p.settings_screen().akkzahl_cmb.Choose(1);
+  p.StartRun();
+  const auto click = [&](int tile, double ms) {
+    p.loop.Advance(ms);
+    EXPECT_TRUE(p.worksheet().jz_kl[tile].Press());
+  };
+
+  ScriptTriad(p.random, 2, 5);
+  ScriptTriad(p.random, 7, 9);
+  p.PlayTask();
+  click(2, 2299);  // right after 2.3 seconds
+  click(1, 1120);  // wrong
+  p.loop.Advance(500);
+  EXPECT_TRUE(p.Repeat());
+  click(7, 769);  // right after 0.5 seconds, a pause of 0.05 and 0.77 seconds
+
+  ScriptTriad(p.random, 10, 1);
+  ScriptTriad(p.random, 10, 2);
+  p.PlayTask();
+  EXPECT_TRUE(p.Repeat());
+  EXPECT_TRUE(p.Repeat());
+  for (const int tile : {1, 2, 3, 4}) click(tile, 310);  // lost
+  click(9, 40);
+  click(10, 12000);
+  EXPECT_TRUE(p.ControlRepeat());
+
+  p.loop.date = {2026, 11, 21, 14, 9, 5};
+  EXPECT_TRUE(p.worksheet().zurueck.Press());
+  EXPECT_EQ(p.documents.Latest().file_name, "/tmp\\MVX261121140322.xml");
+  EXPECT_EQ(p.documents.Latest().saved, Golden("lesson_record.outline"));
+}
+
+}  // namespace
+}  // namespace vmod17

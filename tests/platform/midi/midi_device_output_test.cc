@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/midi/midi_device_output.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include "fake_ports.h"
+#include "rendered_output.h"
+
+namespace vmod17 {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+float Peak(const std::vector<float>& samples) {
+  float peak = 0;
+  for (const float sample : samples) peak = std::max(peak, std::abs(sample));
+  return peak;
+}
+
+MidiOptions NoPorts() { return RenderedOptions(std::make_shared<FakePorts>()); }
+
+/// A file of our own in a folder that goes with the test.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::string& content) {
+    path_ = (fs::temp_directory_path() /
+             ("melvado-midi-test-" + std::to_string(std::random_device()()) + ".sf2"))
+                .string();
+    std::ofstream(path_, std::ios::binary) << content;
+  }
+  ~TemporaryFile() { fs::remove(path_); }
+  const std::string& path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+std::string RandomBytes(std::size_t count) {
+  std::mt19937 random(17);
+  std::string bytes(count, '\0');
+  std::ranges::generate(bytes, [&] { return static_cast<char>(random()); });
+  return bytes;
+}
+
+/// Begins like a soundfont and goes on like none.
+std::string DamagedSoundfont() { return "RIFF\x10\x27\x01\x01sfbk" + RandomBytes(70000); }
+
+float PlayOneNote(RenderedOutput& rendered) {
+  rendered.Open(-1);
+  rendered.QueueNote(60, 0, 300);
+  rendered.Do(MidiBefehl::kStart);
+  return Peak(rendered.Render(400));
+}
+
+TEST(MidiDeviceOutput, SoundsOnAMachineWithoutAnyMidiDevice) {
+  RenderedOutput rendered(NoPorts());
+  EXPECT_EQ(rendered.output.Get(MidiMember::GeraeteZahl), 1);
+  EXPECT_GT(PlayOneNote(rendered), 0.02f);
+  EXPECT_THAT(rendered.notices, IsEmpty());
+}
+
+TEST(MidiDeviceOutput, OpensTheSynthesizerAsTheDefaultMapper) {
+  auto ports = std::make_shared<FakePorts>();
+  ports->names = {"Expander"};
+  RenderedOutput rendered(RenderedOptions(ports));
+  EXPECT_GT(PlayOneNote(rendered), 0.02f);
+  EXPECT_THAT(ports->got, IsEmpty());
+}
+
+TEST(MidiDeviceOutput, SeesADeviceThatIsPluggedInWhenTheListIsReadAgain) {
+  auto ports = std::make_shared<FakePorts>();
+  RenderedOutput rendered(RenderedOptions(ports));
+  EXPECT_EQ(rendered.output.Get(MidiMember::GeraeteZahl), 1);
+  ports->names = {"Expander"};
+  EXPECT_EQ(rendered.output.Get(MidiMember::GeraeteZahl), 2);
+  rendered.output.Set(MidiMember::GeraetNr, 0);
+  EXPECT_EQ(rendered.output.GeraetName(), "Expander");
+}
+
+TEST(MidiDeviceOutput, TellsThatANumberNamesNoDeviceAndPlaysInTime) {
+  RenderedOutput rendered(NoPorts());
+  rendered.Open(4);
+  rendered.Reset();
+  rendered.QueueNote(60, 0, 300);
+  rendered.Do(MidiBefehl::kStart);
+  EXPECT_EQ(Peak(rendered.Render(290)), 0);
+  EXPECT_EQ(rendered.queue_empty, 0);
+  rendered.Render(20);
+  EXPECT_EQ(rendered.queue_empty, 1);
+  ASSERT_THAT(rendered.notices, SizeIs(1));
+  EXPECT_EQ(rendered.notices[0].text_id, 9156);
+  EXPECT_THAT(rendered.notices[0].details, ::testing::ElementsAre("4", "1"));
+}
+
+TEST(MidiDeviceOutput, KeepsTimeInSilenceWithoutASoundfontAndTellsItOnce) {
+  MidiOptions options = NoPorts();
+  options.soundfont = "/nowhere/soundfont.sf2";
+  options.usual_soundfonts = {"/nowhere/other.sf2", ""};
+  RenderedOutput rendered(options);
+  EXPECT_EQ(PlayOneNote(rendered), 0);
+  EXPECT_EQ(rendered.queue_empty, 1);
+  rendered.Reset();
+  rendered.QueueNote(60, 0, 300);
+  rendered.Do(MidiBefehl::kStart);
+  EXPECT_EQ(Peak(rendered.Render(298)), 0);
+  EXPECT_EQ(rendered.queue_empty, 1);
+  rendered.Render(4);
+  EXPECT_EQ(rendered.queue_empty, 2);
+  ASSERT_THAT(rendered.notices, SizeIs(1));
+  EXPECT_EQ(rendered.notices[0].text_id, 9152);
+  EXPECT_THAT(rendered.notices[0].english, ::testing::HasSubstr("fluid-soundfont-gm"));
+}
+
+TEST(MidiDeviceOutput, NamesTheDamagedSoundfontWhenThereIsNoOther) {
+  const TemporaryFile damaged(DamagedSoundfont());
+  MidiOptions options = NoPorts();
+  options.soundfont = damaged.path();
+  options.usual_soundfonts = {};
+  RenderedOutput rendered(options);
+  EXPECT_EQ(PlayOneNote(rendered), 0);
+  EXPECT_EQ(rendered.queue_empty, 1);
+  ASSERT_THAT(rendered.notices, SizeIs(1));
+  EXPECT_EQ(rendered.notices[0].text_id, 9151);
+  EXPECT_THAT(rendered.notices[0].details, ::testing::ElementsAre(damaged.path()));
+}
+
+TEST(MidiDeviceOutput, TakesTheNextSoundfontAfterADamagedOne) {
+  const TemporaryFile damaged(DamagedSoundfont());
+  const TemporaryFile noise(RandomBytes(5000));
+  MidiOptions options = NoPorts();
+  options.soundfont = damaged.path();
+  options.usual_soundfonts.insert(options.usual_soundfonts.begin(), noise.path());
+  RenderedOutput rendered(options);
+  EXPECT_GT(PlayOneNote(rendered), 0.02f);
+  EXPECT_THAT(rendered.notices, IsEmpty());
+}
+
+TEST(MidiDeviceOutput, TakesASoundfontThatIsBrokenOffForDamaged) {
+  const auto existing = ExistingSoundfonts(UsualSoundfonts());
+  ASSERT_THAT(existing, ::testing::Not(IsEmpty()));
+  std::string head(1 << 20, '\0');
+  std::ifstream(existing[0], std::ios::binary).read(head.data(), 1 << 20);
+  const TemporaryFile broken(head);
+  MidiOptions options = NoPorts();
+  options.soundfont = broken.path();
+  options.usual_soundfonts = {};
+  RenderedOutput rendered(options);
+  EXPECT_EQ(PlayOneNote(rendered), 0);
+  ASSERT_THAT(rendered.notices, SizeIs(1));
+  EXPECT_EQ(rendered.notices[0].text_id, 9151);
+}
+
+TEST(MidiDeviceOutput, KeepsAQueueThatWasDroppedBetweenItsEndAndTheDeliveryQuiet) {
+  RenderedOutput rendered(NoPorts());
+  rendered.Open(-1);
+  rendered.QueueNote(60, 0, 10);
+  rendered.Do(MidiBefehl::kStart);
+  std::vector<float> left(4800);
+  std::vector<float> right(4800);
+  rendered.output.Render(left.data(), right.data(), 4800);  // the end is posted, not delivered
+  rendered.Do(MidiBefehl::kStopp);
+  rendered.loop.Yield();
+  EXPECT_EQ(rendered.queue_empty, 0);
+}
+
+TEST(MidiDeviceOutput, LeavesNoEventBehindWhenItGoes) {
+  PostingLoop loop;
+  int events = 0;
+  {
+    MidiDeviceOutput output(NoPorts(), loop, [&](const Notice&) { ++events; });
+    output.QueueEmpty = [&] { ++events; };
+    output.Set(MidiMember::GeraetNr, 5);
+    output.Set(MidiMember::Befehl, static_cast<int>(MidiBefehl::kOeffnen));
+    output.Set(MidiMember::Befehl, static_cast<int>(MidiBefehl::kStart));
+  }
+  loop.Yield();
+  EXPECT_EQ(events, 0);
+}
+
+TEST(MidiDeviceOutput, DropsTheCollectedQueueWithAStop) {
+  RenderedOutput rendered(NoPorts());
+  rendered.Open(-1);
+  rendered.QueueNote(60, 0, 300);
+  rendered.Do(MidiBefehl::kStopp);
+  rendered.Do(MidiBefehl::kStart);
+  EXPECT_EQ(Peak(rendered.Render(400)), 0);
+}
+
+TEST(MidiDeviceOutput, LoadsAheadOfTheFirstOpening) {
+  RenderedOutput rendered(NoPorts());
+  rendered.Program(0, 73);
+  rendered.output.BeginLoading();
+  rendered.output.BeginLoading();
+  EXPECT_GT(PlayOneNote(rendered), 0.02f);
+}
+
+TEST(MidiDeviceOutput, FindsEachSoundfontOnce) {
+  const auto existing = ExistingSoundfonts(UsualSoundfonts());
+  std::vector<std::string> twice = existing;
+  twice.insert(twice.end(), existing.begin(), existing.end());
+  EXPECT_EQ(ExistingSoundfonts(twice), existing);
+}
+
+}  // namespace
+}  // namespace vmod17

@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/midi/midi_ports.h"
+
+#include <gmock/gmock.h>
+
+#include "fake_ports.h"
+#include "rendered_output.h"
+
+namespace vmod17 {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class PortOutput : public ::testing::Test {
+ protected:
+  PortOutput() {
+    ports_->names = {"Expander", "Organ"};
+    rendered_.output.Get(MidiMember::GeraeteZahl);
+  }
+
+  std::vector<int> NotesOn(const std::string& port) const {
+    std::vector<int> notes;
+    for (const MidiBytes& message : ports_->Of(port, 0x90)) notes.push_back(message.data1);
+    return notes;
+  }
+  std::vector<int> NotesOff(const std::string& port) const {
+    std::vector<int> notes;
+    for (const MidiBytes& message : ports_->Of(port, 0x80)) notes.push_back(message.data1);
+    return notes;
+  }
+
+  std::shared_ptr<FakePorts> ports_ = std::make_shared<FakePorts>();
+  RenderedOutput rendered_{RenderedOptions(ports_)};
+};
+
+TEST_F(PortOutput, ComesBeforeTheSynthesizerInTheList) {
+  const std::vector<std::string> names = rendered_.output.DeviceNames();
+  ASSERT_THAT(names, SizeIs(3));
+  EXPECT_EQ(names[0], "Expander");
+  EXPECT_EQ(names[1], "Organ");
+}
+
+TEST_F(PortOutput, GetsTheQueueInTime) {
+  rendered_.Open(1);
+  rendered_.QueueNote(60, 0, 900);
+  rendered_.QueueNote(64, 100, 800);
+  rendered_.Do(MidiBefehl::kStart);
+  EXPECT_THAT(NotesOn("Organ"), ElementsAre(60));
+  rendered_.Render(98);
+  EXPECT_THAT(NotesOn("Organ"), ElementsAre(60));
+  rendered_.Render(4);
+  EXPECT_THAT(NotesOn("Organ"), ElementsAre(60, 64));
+  EXPECT_THAT(NotesOff("Organ"), IsEmpty());
+  rendered_.Render(900);
+  EXPECT_THAT(NotesOff("Organ"), ElementsAre(60, 64));
+  EXPECT_EQ(rendered_.queue_empty, 1);
+}
+
+TEST_F(PortOutput, IsCentredByOpeningAndGetsTheProgramsThatWereSentBefore) {
+  rendered_.Program(3, 71);
+  rendered_.Open(0);
+  EXPECT_THAT(ports_->Of("Expander", 0xE0), SizeIs(16));
+  for (const MidiBytes& bend : ports_->Of("Expander", 0xE0)) {
+    EXPECT_EQ(bend.data1, 0);
+    EXPECT_EQ(bend.data2, 64);
+  }
+  const std::vector<MidiBytes> programs = ports_->Of("Expander", 0xC0);
+  ASSERT_THAT(programs, SizeIs(1));
+  EXPECT_EQ(programs[0].status, 0xC3);
+  EXPECT_EQ(programs[0].data1, 71);
+}
+
+TEST_F(PortOutput, StaysConnectedThroughAResetAndIsCentredAgain) {
+  rendered_.Open(0);
+  rendered_.Program(0, 71);
+  rendered_.Send(0xE0, 0, 70);
+  ports_->got.clear();
+  rendered_.Reset();
+  EXPECT_EQ(ports_->opened, 1);
+  EXPECT_THAT(ports_->Of("Expander", 0xC0), IsEmpty());
+  ASSERT_THAT(ports_->Of("Expander", 0xE0), SizeIs(16));
+  EXPECT_EQ(ports_->Of("Expander", 0xE0)[0].data2, 64);
+}
+
+TEST_F(PortOutput, FallsSilentWhenClosedWhileNotesSound) {
+  rendered_.Open(0);
+  rendered_.QueueNote(60, 0, 1000);
+  rendered_.QueueNote(67, 0, 1000, 2);
+  rendered_.QueueNote(72, 500, 500);
+  rendered_.Do(MidiBefehl::kStart);
+  rendered_.Render(100);
+  rendered_.Reset();
+  EXPECT_THAT(NotesOff("Expander"), ElementsAre(60, 67));
+  EXPECT_EQ(ports_->Of("Expander", 0x80)[1].status, 0x82);
+  rendered_.Render(2000);
+  EXPECT_THAT(NotesOn("Expander"), ElementsAre(60, 67));
+}
+
+TEST_F(PortOutput, ThatVanishesWhileItPlaysIsToldOnceAndTheQueueGoesOn) {
+  rendered_.Open(0);
+  rendered_.QueueNote(60, 0, 1000);
+  rendered_.QueueNote(64, 300, 700);
+  rendered_.Do(MidiBefehl::kStart);
+  rendered_.Render(100);
+  EXPECT_THAT(rendered_.notices, IsEmpty());
+  ports_->names = {"Organ"};
+  rendered_.Render(500);
+  ASSERT_THAT(rendered_.notices, SizeIs(1));
+  EXPECT_EQ(rendered_.notices[0].text_id, 9155);
+  EXPECT_THAT(rendered_.notices[0].details, ElementsAre("Expander"));
+  EXPECT_EQ(rendered_.queue_empty, 0);
+  rendered_.Render(1000);
+  EXPECT_EQ(rendered_.queue_empty, 1);
+  EXPECT_THAT(rendered_.notices, SizeIs(1));
+}
+
+TEST_F(PortOutput, ThatVanishesInALongNoteIsNoticedBeforeTheNextMessage) {
+  rendered_.Open(0);
+  rendered_.QueueNote(60, 0, 4000);
+  rendered_.Do(MidiBefehl::kStart);
+  rendered_.Render(100);
+  ports_->names.clear();
+  rendered_.Render(1000);
+  EXPECT_THAT(rendered_.notices, SizeIs(1));
+}
+
+TEST_F(PortOutput, ThatComesBackSoundsAgainAfterAResetWithItsPrograms) {
+  rendered_.Open(0);
+  rendered_.Program(1, 68);
+  ports_->names = {"Organ"};
+  rendered_.Reset();
+  rendered_.Render(10);
+  EXPECT_THAT(rendered_.notices, SizeIs(1));
+  ports_->names = {"Organ", "Expander"};
+  ports_->got.clear();
+  rendered_.Reset();
+  EXPECT_THAT(ports_->Of("Expander", 0xC0), SizeIs(1));
+  rendered_.QueueNote(60, 0, 100);
+  rendered_.Do(MidiBefehl::kStart);
+  EXPECT_THAT(NotesOn("Expander"), ElementsAre(60));
+}
+
+TEST_F(PortOutput, HandsThePlayingOverWhenAnotherDeviceIsOpened) {
+  rendered_.Open(0);
+  rendered_.QueueNote(60, 0, 1000);
+  rendered_.Do(MidiBefehl::kStart);
+  rendered_.Do(MidiBefehl::kStopp);
+  rendered_.Do(MidiBefehl::kSchliessen);
+  rendered_.Open(1);
+  rendered_.QueueNote(62, 0, 1000);
+  rendered_.Do(MidiBefehl::kStart);
+  EXPECT_THAT(NotesOff("Expander"), ElementsAre(60));
+  EXPECT_THAT(NotesOn("Organ"), ElementsAre(62));
+}
+
+TEST_F(PortOutput, GetsNothingThatIsNoChannelMessage) {
+  rendered_.Open(0);
+  ports_->got.clear();
+  rendered_.Send(0xF8, 0, 0);
+  rendered_.Send(60, 0, 0);
+  EXPECT_THAT(ports_->got, IsEmpty());
+}
+
+TEST(SystemMidiPorts, CanBeListedOnAnyMachine) {
+  testing::internal::CaptureStderr();
+  const std::unique_ptr<MidiPorts> ports = MakeSystemMidiPorts();
+  ports->Prepare();
+  const std::vector<std::string> names = ports->Names();
+  EXPECT_EQ(ports->Open("there is no port of this name"), nullptr);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+  EXPECT_THAT(names, ::testing::Each(::testing::Not(IsEmpty())));
+}
+
+}  // namespace
+}  // namespace vmod17

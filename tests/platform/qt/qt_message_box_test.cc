@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/qt_message_box.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <functional>
+
+namespace vmod17 {
+namespace {
+
+/// What the user does once the box stands.
+void Then(const std::function<void(QMessageBox&)>& act) {
+  QTimer::singleShot(0, [act] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    act(*box);
+  });
+}
+
+TEST(QtMessageBox, WarnsInPlainWordsUntilTheUserAgrees) {
+  QtMessageBox messages(nullptr);
+  messages.words = [] { return QtMessageBox::Words{"Gut", "", ""}; };
+  QString text, title, button;
+  Then([&](QMessageBox& box) {
+    text = box.text();
+    title = box.windowTitle();
+    button = box.button(QMessageBox::Ok)->text();
+    box.button(QMessageBox::Ok)->click();
+  });
+  messages.Warn("Zeile 1\n<b>Zeile 2</b>", "Melvado 2000");
+  EXPECT_EQ(text, "Zeile 1\n<b>Zeile 2</b>");
+  EXPECT_EQ(title, "Melvado 2000");
+  EXPECT_EQ(button, "Gut");
+}
+
+TEST(QtMessageBox, TellsYesFromNo) {
+  QtMessageBox messages(nullptr);
+  messages.words = [] { return QtMessageBox::Words{"", "Ja", "Nein"}; };
+  Then([](QMessageBox& box) {
+    EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "Ja");
+    EXPECT_EQ(box.button(QMessageBox::No)->text(), "Nein");
+    box.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_EQ(messages.Ask("Speichern?", "Melvado"), MessageBox::Answer::kYes);
+  Then([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
+  EXPECT_EQ(messages.Ask("Speichern?", "Melvado"), MessageBox::Answer::kNo);
+}
+
+TEST(QtMessageBox, TakesAClosedQuestionAsNo) {
+  QtMessageBox messages(nullptr);
+  Then([](QMessageBox& box) { box.close(); });
+  EXPECT_EQ(messages.Ask("Speichern?", "Melvado"), MessageBox::Answer::kNo);
+}
+
+}  // namespace
+}  // namespace vmod17

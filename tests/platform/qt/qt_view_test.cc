@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/qt_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QTest>
+#include <QWidget>
+
+#include "platform/qt/page.h"
+#include "platform/qt/qt_event_loop.h"
+#include "support/program_fixture.h"
+
+namespace vmod17 {
+namespace {
+
+/// The screens of the program on fakes, shown in a real window.
+class QtViewTest : public testing::Test {
+ protected:
+  QtViewTest() {
+    qt_loop_.after_event = [this] { view_.Refresh(); };
+  }
+  ~QtViewTest() override {
+    for (Form* form : attached_) view_.Detach(*form);
+  }
+
+  void Attach(Form& form) {
+    view_.Attach(form);
+    attached_.push_back(&form);
+    view_.Refresh();
+  }
+  void ToWorksheet() {
+    p_.ToWorksheet();
+    Attach(p_.worksheet());
+  }
+  QWidget& Window() { return *view_.Window(); }
+  std::string Focus() {
+    QWidget* const focus = Window().focusWidget();
+    return focus == nullptr ? "" : focus->objectName().toStdString();
+  }
+  void Key(int key) { QTest::keyClick(Window().focusWidget(), static_cast<Qt::Key>(key)); }
+  void Play() {
+    p_.loop.Advance(p_.PlayingTime());
+    view_.Refresh();
+  }
+
+  ProgramFixture p_;
+  QtEventLoop qt_loop_;
+  QtView view_{qt_loop_};
+  std::vector<Form*> attached_;
+};
+
+TEST_F(QtViewTest, ShowsNoWindowBeforeTheFirstScreen) {
+  p_.program.Start();
+  Attach(p_.first());
+  EXPECT_FALSE(Window().isVisible());
+  p_.loop.Advance(100);
+  view_.Refresh();
+  EXPECT_TRUE(Window().isVisible());
+  EXPECT_EQ(Window().windowTitle().toStdString(), p_.first().caption);
+}
+
+TEST_F(QtViewTest, KeepsTheLastPageOutOfReachBetweenTwoScreens) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  Page* const page = view_.page();
+  p_.first().visible = false;
+  view_.Refresh();
+  EXPECT_TRUE(page->isVisible());
+  EXPECT_TRUE(page->testAttribute(Qt::WA_TransparentForMouseEvents));
+  Key(Qt::Key_Return);
+  EXPECT_EQ(p_.program.einstellung1(), nullptr);
+  p_.first().visible = true;
+  view_.Refresh();
+  EXPECT_FALSE(page->testAttribute(Qt::WA_TransparentForMouseEvents));
+}
+
+TEST_F(QtViewTest, ShowsTheScreenThatIsVisible) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  p_.first().cmdOK.Press();
+  Attach(p_.settings_screen());
+  p_.loop.Advance(200);
+  view_.Refresh();
+  EXPECT_EQ(view_.page()->objectName(), "einstellung1");
+  p_.settings_screen().cmdZurueck.Press();
+  view_.Detach(p_.settings_screen());
+  attached_.pop_back();
+  view_.Refresh();
+  EXPECT_EQ(view_.page()->objectName(), "grd_einst");
+}
+
+TEST_F(QtViewTest, HidesTheWindowWhenNoScreenIsLeft) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  view_.Detach(p_.first());
+  attached_.clear();
+  EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(QtViewTest, AsksTheScreenToCloseAndStaysOpenByItself) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  GrdEinst& first = p_.first();
+  EXPECT_FALSE(Window().close());
+  EXPECT_FALSE(first.loaded());
+  EXPECT_TRUE(p_.ended);
+}
+
+TEST_F(QtViewTest, ShowsTheHourglassAsLongAsTheScreenAsksForIt) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  p_.first().pointer = Form::Pointer::kHourglass;
+  view_.Refresh();
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  p_.first().pointer = Form::Pointer::kDefault;
+  view_.Refresh();
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(QtViewTest, GoesOnByEnterWhereverTheFocusIs) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  EXPECT_EQ(Focus(), "cmdOK");
+  Window().findChild<QWidget*>("ueb_typ(1)")->setFocus();
+  Key(Qt::Key_Return);
+  EXPECT_NE(p_.program.einstellung1(), nullptr);
+}
+
+TEST_F(QtViewTest, LeavesTheSettingsByEscape) {
+  p_.ToSettings();
+  Attach(p_.settings_screen());
+  EXPECT_EQ(Focus(), "cmdOK");
+  Einstellung1& settings = p_.settings_screen();
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(settings.visible);
+  EXPECT_TRUE(p_.first().visible);
+}
+
+TEST_F(QtViewTest, TakesTheFocusToTheTilesWhenTheyOpenAndBackToTheNextTask) {
+  ToWorksheet();
+  EXPECT_EQ(Focus(), "CmdNextAufg");
+  Key(Qt::Key_N);
+  EXPECT_EQ(Focus(), "arbeitsblatt1");  // nothing to press but the way out
+  Play();
+  EXPECT_EQ(Focus(), "jz_kl(1)");
+  EXPECT_TRUE(p_.ClickRight());
+  view_.Refresh();
+  EXPECT_EQ(Focus(), "CmdNextAufg");
+}
+
+TEST_F(QtViewTest, LeavesTheFocusWhereItIsAsLongAsItCanStay) {
+  ToWorksheet();
+  Key(Qt::Key_N);
+  Window().findChild<QWidget*>("zurueck")->setFocus();
+  Play();
+  EXPECT_EQ(Focus(), "zurueck");
+}
+
+TEST_F(QtViewTest, MovesAmongTheTilesByArrowKeysAndAnswersByEnter) {
+  ToWorksheet();
+  Key(Qt::Key_N);
+  Play();
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Focus(), "jz_kl(2)");
+  Key(Qt::Key_Down);
+  EXPECT_EQ(Focus(), "jz_kl(8)");
+  Key(Qt::Key_Up);
+  EXPECT_EQ(Focus(), "jz_kl(2)");
+  Key(Qt::Key_Left);
+  Key(Qt::Key_Left);
+  EXPECT_EQ(Focus(), "jz_kl(1)");
+  const int asked = p_.Asked(1);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(p_.worksheet().zaehler[asked == 1 ? 0 : 1].caption, "1");
+}
+
+TEST_F(QtViewTest, RepeatsByKeyAndLeavesByEscape) {
+  ToWorksheet();
+  Key(Qt::Key_N);
+  Play();
+  Key(Qt::Key_R);
+  EXPECT_EQ(p_.worksheet().whlgzaehler.caption, "1");
+  Key(Qt::Key_Escape);
+  EXPECT_TRUE(p_.settings_screen().visible);
+}
+
+TEST_F(QtViewTest, WalksTheWorksheetByTabAsTheEyeDoes) {
+  ToWorksheet();
+  Key(Qt::Key_N);
+  Play();
+  Window().findChild<QWidget*>("cmdHilfe")->setFocus();
+  const auto next = [&] {
+    Key(Qt::Key_Tab);
+    return Focus();
+  };
+  EXPECT_EQ(next(), "jz_kl(1)");
+  EXPECT_EQ(next(), "jz_kl(2)");
+  Window().findChild<QWidget*>("jz_kl(10)")->setFocus();
+  EXPECT_EQ(next(), "wieder");
+  EXPECT_EQ(next(), "zurueck");
+}
+
+TEST_F(QtViewTest, TakesTheHelpKeyWithoutAnyEffectOnTheExercise) {
+  ToWorksheet();
+  Key(Qt::Key_F1);
+  EXPECT_TRUE(p_.worksheet().visible);
+  EXPECT_EQ(Focus(), "CmdNextAufg");
+}
+
+}  // namespace
+}  // namespace vmod17

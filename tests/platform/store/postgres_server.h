@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QString>
+#include <memory>
+
+#include "store_testing.h"
+
+namespace vmod17 {
+
+/// A PostgreSQL server of the test's own, in a folder of its own, which listens on a socket there
+/// and nowhere else. It runs for the whole test program, and ends with it even if that is killed.
+/// The server refuses to run for the administrator; for that one it runs for another account.
+class PostgresServer : public ::testing::Environment {
+ public:
+  void SetUp() override;
+  void TearDown() override;
+
+  void Start();
+  void Stop();
+
+  /// Address of an empty database.
+  std::string NewDatabase();
+  /// The same for another user of a database, or with anything else behind the name.
+  std::string Address(const QString& database, const QString& user = "melvado") const;
+  /// Runs one statement as the server's owner.
+  void Run(const QString& database, const QString& statement);
+  QString LatestDatabase() const { return "test" + QString::number(databases_); }
+
+ private:
+  void RunTool(const QString& tool, const QStringList& arguments);
+  void Prepare(QProcess& process) const;
+
+  QString programs_;
+  std::unique_ptr<ScratchFolder> folder_;
+  std::unique_ptr<QProcess> server_;
+  int databases_ = 0;
+};
+
+}  // namespace vmod17

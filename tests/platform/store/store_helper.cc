@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// A program with a store of its own, which does what it reads from its input, a line a command, and
+// answers each with a line. Tests start it to have a second process at a store, one without rights,
+// one on a full disk, and one to kill.
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <csignal>
+#include <iostream>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "platform/store/host_store.h"
+
+namespace vmod17 {
+namespace {
+
+using Array = TaggedValue::Array;
+
+class Helper {
+ public:
+  std::string Answer(const std::string& line) {
+    std::istringstream words(line);
+    std::string command;
+    words >> command;
+    if (command == "open") return Open(words);
+    if (command == "store") return StoreCopies(words);
+    if (command == "read") return Read(words);
+    if (command == "log") return Log(words);
+    if (command == "notices") return Notices();
+    if (command == "nobody") return BecomeNobody();
+    if (command == "limit") return LimitFiles(words);
+    if (command == "loop") StoreForEver(words);
+    return "unknown";
+  }
+
+ private:
+  // open ADDRESS MILLISECONDS
+  std::string Open(std::istringstream& words) {
+    StoreOptions options;
+    words >> options.address >> options.busy_timeout_ms;
+    options.notify = [this](const Notice& notice) { notices_.push_back(notice.text_id); };
+    options.clock = [] { return DateTime{2026, 3, 9, 8, 5, 1}; };
+    store_.reset();
+    store_ = std::make_unique<HostStore>(std::move(options));
+    return "open";
+  }
+
+  // store KEY TEXT COUNT: an array of so many copies of a text
+  std::string StoreCopies(std::istringstream& words) {
+    std::string key;
+    std::string text;
+    std::size_t count = 0;
+    words >> key >> text >> count;
+    return Store(key, Array(count, TaggedValue(text)));
+  }
+
+  std::string Store(const std::string& key, const TaggedValue& value) {
+    TaggedValue result;
+    try {
+      store_->Service()->Action("STORE", Array{"vmod17", key, value}, result);
+      return "stored";
+    } catch (const RunTimeError& error) {
+      return "raised " + std::to_string(error.number());
+    }
+  }
+
+  // read KEY: first element and number of elements
+  std::string Read(std::istringstream& words) {
+    std::string key;
+    words >> key;
+    TaggedValue result;
+    if (!store_->Service()->Action("READ", Array{"vmod17", key}, result)) return "false";
+    return result[0].String() + ' ' + std::to_string(result.Elements().size());
+  }
+
+  std::string Log(std::istringstream& words) {
+    std::string text;
+    words >> text;
+    TaggedValue result;
+    return store_->Service()->Action("LOGMESS", text, result) ? "kept" : "lost";
+  }
+
+  std::string Notices() const {
+    std::string all;
+    for (const int notice : notices_) all += std::to_string(notice) + ' ';
+    return all;
+  }
+
+  static std::string BecomeNobody() {
+    constexpr uid_t kNobody = 65534;
+    const bool done = ::getuid() != 0 || (::setgid(kNobody) == 0 && ::setuid(kNobody) == 0);
+    return done ? "nobody" : "refused";
+  }
+
+  // A file that may not grow refuses like a disk that is full.
+  static std::string LimitFiles(std::istringstream& words) {
+    rlim_t bytes = 0;
+    words >> bytes;
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = bytes == 0 ? limit.rlim_max : bytes;
+    std::signal(SIGXFSZ, SIG_IGN);
+    return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 ? "limited" : "refused";
+  }
+
+  // Stores arrays of one number repeated, counting up, and says each number once it is stored.
+  [[noreturn]] void StoreForEver(std::istringstream& words) {
+    std::string key;
+    int number = 0;
+    words >> key >> number;
+    for (;;) {
+      const std::string text = std::to_string(++number);
+      if (Store(key, Array(2000, TaggedValue(text))) != "stored") std::exit(1);
+      std::cout << text << std::endl;
+    }
+  }
+
+  std::unique_ptr<HostStore> store_;
+  std::vector<int> notices_;
+};
+
+}  // namespace
+}  // namespace vmod17
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  vmod17::Helper helper;
+  for (std::string line; std::getline(std::cin, line);) {
+    std::cout << helper.Answer(line) << std::endl;
+  }
+}

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <stdexcept>
+
+namespace vmod17 {
+
+/// A second process with a store of its own, which carries out commands; see store_helper.cc.
+class StoreProcess {
+ public:
+  StoreProcess() {
+    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_.start(QStringLiteral(STORE_HELPER), QStringList());
+    if (!process_.waitForStarted()) throw std::runtime_error("the helper program does not start");
+  }
+  ~StoreProcess() {
+    process_.closeWriteChannel();
+    process_.waitForFinished();
+  }
+
+  void Say(const QString& command) {
+    process_.write(command.toUtf8() + '\n');
+    while (process_.bytesToWrite() > 0 && process_.waitForBytesWritten()) {
+    }
+  }
+
+  /// The next line of its answers, or "" when it has ended or is silent for half a minute.
+  QString Hear() {
+    while (!process_.canReadLine() && process_.waitForReadyRead(30'000)) {
+    }
+    return QString::fromUtf8(process_.readLine()).trimmed();
+  }
+
+  QString Ask(const QString& command) {
+    Say(command);
+    return Hear();
+  }
+
+  /// True when it says nothing for so long.
+  bool IsSilentFor(int ms) { return !process_.canReadLine() && !process_.waitForReadyRead(ms); }
+
+  /// Ends it as the system would, without a chance to tidy up, and gives what it had said by then.
+  QString Kill() {
+    process_.kill();
+    process_.waitForFinished();
+    return QString::fromUtf8(process_.readAll());
+  }
+
+ private:
+  QProcess process_;
+};
+
+}  // namespace vmod17

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QString>
+#include <QTemporaryDir>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/store/host_store.h"
+
+namespace vmod17 {
+
+/// A folder that is there for one test. Anyone may go through it, for the tests that give up the
+/// rights of the administrator.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    QFile::setPermissions(folder_.path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                              QFileDevice::ExeOwner | QFileDevice::ReadOther |
+                                              QFileDevice::ExeOther);
+  }
+  QString operator/(const QString& name) const { return folder_.filePath(name); }
+  QStringList Names() const {
+    return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+/// What a store is made with in a test: no language, no device, a clock that stands still.
+inline StoreOptions TestOptions(const std::string& address,
+                                std::vector<Notice>* notices = nullptr) {
+  StoreOptions options;
+  options.address = address;
+  options.clock = [] { return DateTime{2026, 3, 9, 8, 5, 1}; };
+  if (notices) options.notify = [notices](const Notice& notice) { notices->push_back(notice); };
+  return options;
+}
+
+inline std::vector<int> Ids(const std::vector<Notice>& notices) {
+  std::vector<int> ids;
+  for (const Notice& notice : notices) ids.push_back(notice.text_id);
+  return ids;
+}
+
+inline bool StoreValue(HostStore& store, const std::string& key, const TaggedValue& value) {
+  TaggedValue result;
+  return store.Service()->Action("STORE", TaggedValue::Array{"vmod17", key, value}, result);
+}
+
+/// What "READ" answers, or no value when it returns false.
+inline std::optional<TaggedValue> ReadValue(HostStore& store, const std::string& key) {
+  TaggedValue result = "untouched";
+  if (!store.Service()->Action("READ", TaggedValue::Array{"vmod17", key}, result)) {
+    EXPECT_EQ(result, TaggedValue("untouched"));
+    return {};
+  }
+  return result;
+}
+
+inline bool LogLine(HostStore& store, const std::string& line) {
+  TaggedValue result;
+  return store.Service()->Action("LOGMESS", line, result);
+}
+
+inline TaggedValue NothingStored() { return TaggedValue::Array{"NIL"}; }
+
+}  // namespace vmod17

@@ -1,0 +1,355 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <memory>
+
+#include "platform/store/host_store.h"
+#include "store_process.h"
+#include "store_testing.h"
+
+namespace vmod17 {
+namespace {
+
+using Array = TaggedValue::Array;
+
+// A store that cannot do its work: what is kept, what the user is told, and that the program goes
+// on.
+class TroubledStore : public ::testing::Test {
+ protected:
+  QString Path() const { return folder_ / "store.sqlite"; }
+
+  StoreOptions Options() {
+    StoreOptions options = TestOptions(Path().toStdString(), &notices_);
+    options.busy_timeout_ms = 20;
+    return options;
+  }
+
+  void MakeStoreWith(const TaggedValue& value) {
+    HostStore store(Options());
+    StoreValue(store, "E1", value);
+  }
+
+  QByteArray Content(const QString& path) const {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  void Overwrite(qint64 at, const QByteArray& bytes) {
+    QFile file(Path());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.seek(at));
+    file.write(bytes);
+  }
+
+  ScratchFolder folder_;
+  std::vector<Notice> notices_;
+};
+
+// Another program's hand on the file.
+class OtherHand {
+ public:
+  explicit OtherHand(const QString& path) {
+    database_ = QSqlDatabase::addDatabase("QSQLITE", "other hand");
+    database_.setDatabaseName(path);
+    if (!database_.open()) throw std::runtime_error("the file cannot be opened");
+  }
+  ~OtherHand() {
+    database_ = QSqlDatabase();
+    QSqlDatabase::removeDatabase("other hand");
+  }
+  void Run(const QString& statement) {
+    QSqlQuery query(database_);
+    if (!query.exec(statement)) throw std::runtime_error(query.lastError().text().toStdString());
+  }
+
+ private:
+  QSqlDatabase database_;
+};
+
+int NumberRaisedByStore(HostStore& store, const std::string& key, const TaggedValue& value) {
+  try {
+    StoreValue(store, key, value);
+  } catch (const RunTimeError& error) {
+    return error.number();
+  }
+  return 0;
+}
+
+// ---- Newer
+
+TEST_F(TroubledStore, LeavesAStoreOfANewerVersionUntouched) {
+  MakeStoreWith(Array{"from the future"});
+  {
+    OtherHand hand(Path());
+    hand.Run("UPDATE melvado_meta SET value = '2' WHERE name = 'schema_version'");
+    hand.Run("ALTER TABLE melvado_record ADD COLUMN more TEXT");
+  }
+  const QByteArray before = Content(Path());
+  {
+    HostStore store(Options());
+    EXPECT_EQ(ReadValue(store, "E1"), NothingStored());
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"now"}));
+    EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"now"}));
+    LogLine(store, "line");
+    store.SetLanguage("English");
+    EXPECT_EQ(store.Language(), "English");
+  }
+  EXPECT_EQ(Content(Path()), before);
+  EXPECT_EQ(folder_.Names(), QStringList{"store.sqlite"});
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9101});
+  EXPECT_EQ(notices_[0].details, std::vector<std::string>{Path().toStdString()});
+}
+
+// ---- Locked
+
+TEST_F(TroubledStore, RaisesWhenALockIsNotReleasedInTimeAndLosesNothing) {
+  MakeStoreWith(Array{"old"});
+  HostStore store(Options());
+  EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"old"}));
+  OtherHand hand(Path());
+  hand.Run("BEGIN IMMEDIATE");
+  EXPECT_EQ(NumberRaisedByStore(store, "E1", Array{"new"}), ErrorNumber::kStore);
+  EXPECT_EQ(NumberRaisedByStore(store, "E1", Array{"new"}), ErrorNumber::kStore);
+  EXPECT_FALSE(LogLine(store, "line"));
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9103});
+  EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"old"}));
+  hand.Run("COMMIT");
+  EXPECT_EQ(NumberRaisedByStore(store, "E1", Array{"new"}), 0);
+  EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"new"}));
+  EXPECT_TRUE(LogLine(store, "line"));
+}
+
+TEST_F(TroubledStore, AnswersNothingWhileItIsLockedFromTheStartAndWorksAfterwards) {
+  {
+    HostStore store(Options());
+    store.SetUser({"4711", "Berg", "Anna"});
+    StoreValue(store, "E1", Array{"Anna's"});
+  }
+  HostStore store(Options());
+  auto hand = std::make_unique<OtherHand>(Path());
+  hand->Run("PRAGMA locking_mode = EXCLUSIVE");
+  hand->Run("BEGIN EXCLUSIVE");
+  EXPECT_EQ(ReadValue(store, "E1"), std::nullopt);
+  EXPECT_EQ(NumberRaisedByStore(store, "E1", Array{"new"}), ErrorNumber::kStore);
+  TaggedValue result = Array{"unbekannt"};
+  EXPECT_FALSE(store.Service()->Action("LOGIN", "", result));
+  EXPECT_EQ(result, TaggedValue(Array{"unbekannt"}));
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9103});
+  hand.reset();
+  EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"Anna's"}));
+  EXPECT_EQ(NumberRaisedByStore(store, "E1", Array{"new"}), 0);
+}
+
+TEST_F(TroubledStore, WaitsForAnotherProcessToLetGo) {
+  MakeStoreWith(Array{"old"});
+  StoreProcess other;
+  ASSERT_EQ(other.Ask("open " + Path() + " 30000"), "open");
+  ASSERT_EQ(other.Ask("read E1"), "old 1");
+  OtherHand hand(Path());
+  hand.Run("BEGIN IMMEDIATE");
+  other.Say("store E1 new 3");
+  EXPECT_TRUE(other.IsSilentFor(300));
+  hand.Run("COMMIT");
+  EXPECT_EQ(other.Hear(), "stored");
+  EXPECT_EQ(other.Ask("read E1"), "new 3");
+  EXPECT_EQ(other.Ask("notices"), "");
+}
+
+// ---- Broken
+
+TEST_F(TroubledStore, PutsAsideWhatIsNoStore) {
+  const QByteArray letter(5000, 'x');
+  Overwrite(0, letter);
+  {
+    HostStore store(Options());
+    EXPECT_EQ(ReadValue(store, "E1"), NothingStored());
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"new"}));
+  }
+  EXPECT_EQ(Content(folder_ / "store.sqlite.broken-20260309-080501"), letter);
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9106});
+  EXPECT_EQ(
+      notices_[0].details,
+      (std::vector<std::string>{Path().toStdString(),
+                                (folder_ / "store.sqlite.broken-20260309-080501").toStdString()}));
+  HostStore next(Options());
+  EXPECT_EQ(ReadValue(next, "E1"), TaggedValue(Array{"new"}));
+  EXPECT_EQ(folder_.Names().filter("repair"), QStringList());
+}
+
+TEST_F(TroubledStore, PutsAsideAFileThatWasCutOff) {
+  MakeStoreWith(Array{std::string(50'000, 'x')});
+  QFile::resize(Path(), 6000);
+  const QByteArray before = Content(Path());
+  HostStore store(Options());
+  ReadValue(store, "E1");
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"new"}));
+  EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"new"}));
+  EXPECT_EQ(Content(folder_ / "store.sqlite.broken-20260309-080501"), before);
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9106});
+}
+
+TEST_F(TroubledStore, KeepsSettingsWhenTheFileBreaksWhileItIsOpen) {
+  HostStore store(Options());
+  store.SetUser({"4711", "Berg", "Anna"});
+  StoreValue(store, "E1", Array{std::string(100'000, 'x')});
+  {
+    // Emptied of its log and then overwritten under the feet of the open store.
+    OtherHand hand(Path());
+    hand.Run("PRAGMA wal_checkpoint(TRUNCATE)");
+    Overwrite(0, QByteArray(QFileInfo(Path()).size(), 'x'));
+    hand.Run("PRAGMA user_version");
+  }
+  ReadValue(store, "E1");
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"new"}));
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9106});
+  HostStore next(Options());
+  EXPECT_EQ(next.User(), (StoreUser{"4711", "Berg", "Anna"}));
+  EXPECT_EQ(ReadValue(next, "E1"), TaggedValue(Array{"new"}));
+}
+
+TEST_F(TroubledStore, NeverTakesTheNameOfWhatWasPutAsideBefore) {
+  Overwrite(0, QByteArray(5000, '1'));
+  { ReadValue(*std::make_unique<HostStore>(Options()), "E1"); }
+  Overwrite(0, QByteArray(50000, '2'));
+  { ReadValue(*std::make_unique<HostStore>(Options()), "E1"); }
+  EXPECT_EQ(Content(folder_ / "store.sqlite.broken-20260309-080501").at(0), '1');
+  EXPECT_EQ(Content(folder_ / "store.sqlite.broken-20260309-080501-2").at(0), '2');
+}
+
+TEST_F(TroubledStore, PutsAsideARecordThatIsDamagedAndKeepsTheOthers) {
+  MakeStoreWith(Array{"E"});
+  {
+    HostStore store(Options());
+    StoreValue(store, "A1", Array{"A"});
+  }
+  {
+    OtherHand hand(Path());
+    hand.Run(
+        "UPDATE melvado_record SET value = CAST('mv1 00000000 a1:s1:X' AS BLOB) "
+        "WHERE record_key = 'E1'");
+  }
+  HostStore store(Options());
+  EXPECT_EQ(ReadValue(store, "E1"), std::nullopt);
+  EXPECT_EQ(ReadValue(store, "E1"), NothingStored());
+  EXPECT_EQ(ReadValue(store, "A1"), TaggedValue(Array{"A"}));
+  EXPECT_EQ(ReadValue(store, "E1.broken-20260309-080501"), std::nullopt);
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9107});
+  ASSERT_FALSE(store.Log(10).empty());
+  EXPECT_EQ(store.Log(10)[0].number, ErrorNumber::kStore);
+}
+
+// ---- Not to be opened or written
+
+TEST_F(TroubledStore, WorksInMemoryWhereNoStoreCanBeMade) {
+  QFile file(folder_ / "file");
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.close();
+  for (const QString& path : {folder_ / "file/melvado/store.sqlite", folder_ / "."}) {
+    notices_.clear();
+    StoreOptions options = Options();
+    options.address = path.toStdString();
+    HostStore store(std::move(options));
+    EXPECT_EQ(ReadValue(store, "E1"), NothingStored());
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"kept"}));
+    EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"kept"}));
+    EXPECT_FALSE(LogLine(store, "line"));
+    store.SetUser({"4711", "Berg", "Anna"});
+    EXPECT_EQ(store.User(), (StoreUser{"4711", "Berg", "Anna"}));
+    EXPECT_EQ(Ids(notices_), std::vector<int>{9102}) << path.toStdString();
+  }
+}
+
+class StoreWithoutRights : public TroubledStore {
+ protected:
+  void SetUp() override {
+    MakeStoreWith(Array{"old"});
+    Restrict(Path(), QFileDevice::ReadOwner | QFileDevice::ReadOther);
+  }
+  void TearDown() override {
+    Restrict(folder_ / "",
+             QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+  }
+
+  static void Restrict(const QString& path, QFileDevice::Permissions permissions) {
+    ASSERT_TRUE(QFile::setPermissions(path, permissions));
+  }
+  void RestrictFolder() {
+    Restrict(folder_ / "", QFileDevice::ReadOwner | QFileDevice::ExeOwner | QFileDevice::ReadOther |
+                               QFileDevice::ExeOther);
+  }
+
+  void ExpectThatItReadsAndKeepsTheRestInMemory() {
+    const QByteArray before = Content(Path());
+    StoreProcess process;
+    ASSERT_EQ(process.Ask("nobody"), "nobody");
+    process.Ask("open " + Path() + " 20");
+    EXPECT_EQ(process.Ask("read E1"), "old 1");
+    EXPECT_EQ(process.Ask("log line"), "lost");
+    EXPECT_EQ(process.Ask("store E1 new 2"), "stored");
+    EXPECT_EQ(process.Ask("read E1"), "new 2");
+    EXPECT_EQ(process.Ask("notices"), "9104");
+    EXPECT_EQ(Content(Path()), before);
+  }
+};
+
+TEST_F(StoreWithoutRights, ReadsAReadOnlyFileAndKeepsTheRestInMemory) {
+  ExpectThatItReadsAndKeepsTheRestInMemory();
+}
+
+TEST_F(StoreWithoutRights, ReadsAFileInAReadOnlyFolderAndKeepsTheRestInMemory) {
+  RestrictFolder();
+  ExpectThatItReadsAndKeepsTheRestInMemory();
+}
+
+TEST_F(StoreWithoutRights, WorksInMemoryWhenAReadOnlyFolderHasNoStore) {
+  QFile::remove(Path());
+  RestrictFolder();
+  StoreProcess process;
+  ASSERT_EQ(process.Ask("nobody"), "nobody");
+  process.Ask("open " + Path() + " 20");
+  EXPECT_EQ(process.Ask("read E1"), "NIL 1");
+  EXPECT_EQ(process.Ask("store E1 new 2"), "stored");
+  EXPECT_EQ(process.Ask("read E1"), "new 2");
+  EXPECT_EQ(process.Ask("notices"), "9102");
+}
+
+TEST_F(TroubledStore, LosesNothingOnAFullDiskAndStoresWhenThereIsRoomAgain) {
+  MakeStoreWith(Array{"old"});
+  {
+    StoreProcess process;
+    process.Ask("open " + Path() + " 20");
+    EXPECT_EQ(process.Ask("read E1"), "old 1");
+    ASSERT_EQ(process.Ask("limit 150000"), "limited");
+    EXPECT_EQ(process.Ask("store E1 long 100000"), "stored");
+    EXPECT_EQ(process.Ask("read E1"), "long 100000");
+    EXPECT_EQ(process.Ask("notices"), "9105");
+    {
+      HostStore other(Options());
+      EXPECT_EQ(ReadValue(other, "E1"), TaggedValue(Array{"old"}));
+    }
+    ASSERT_EQ(process.Ask("limit 0"), "limited");
+    EXPECT_EQ(process.Ask("store A1 short 1"), "stored");
+  }
+  HostStore next(Options());
+  EXPECT_EQ(ReadValue(next, "A1"), TaggedValue(Array{"short"}));
+  EXPECT_TRUE(ReadValue(next, "E1") == TaggedValue(Array(100'000, TaggedValue("long"))));
+}
+
+TEST_F(TroubledStore, WorksInMemoryWhenTheDiskIsFullFromTheStart) {
+  StoreProcess process;
+  ASSERT_EQ(process.Ask("limit 1"), "limited");
+  process.Ask("open " + Path() + " 20");
+  EXPECT_EQ(process.Ask("read E1"), "NIL 1");
+  EXPECT_EQ(process.Ask("store E1 new 2"), "stored");
+  EXPECT_EQ(process.Ask("read E1"), "new 2");
+  EXPECT_EQ(process.Ask("notices"), "9102");
+}
+
+}  // namespace
+}  // namespace vmod17

@@ -1,0 +1,265 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/xml/pugi_document.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <pugixml.hpp>
+#include <set>
+
+#include "support/xml_contract.h"
+
+namespace vmod17 {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A folder that is there for one test. Anyone may go through it, for the tests that give up the
+// rights of the administrator.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    std::string name = (fs::temp_directory_path() / "vmod17-xml-XXXXXX").string();
+    if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    path_ = name;
+    fs::permissions(path_, fs::perms(0755));
+  }
+  ~ScratchFolder() { fs::remove_all(path_); }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+
+ private:
+  fs::path path_;
+};
+
+std::string Content(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+int Entries(const std::string& folder) {
+  return static_cast<int>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+}
+
+class PugiDocumentUnderTest : public DocumentUnderTest {
+ public:
+  XmlDocument& Document() override { return *document_; }
+  void SetGoodFileName() override { document_->SetFileName((folder_ / ".") + "\\a.xml"); }
+  void MakeSavingFail() override {
+    std::ofstream(folder_ / "file") << "in the way of both folders";
+    document_->SetFileName((folder_ / "file") + "\\a.xml");
+  }
+
+ private:
+  ScratchFolder folder_;
+  std::unique_ptr<XmlDocument> document_ =
+      PugiDocumentFactory(folder_ / "file/fallback", Notify())();
+};
+
+INSTANTIATE_TEST_SUITE_P(PugiDocument, XmlContract, ::testing::Values([] {
+                           return std::make_unique<PugiDocumentUnderTest>();
+                         }));
+
+class PugiDocument : public ::testing::Test {
+ protected:
+  std::unique_ptr<XmlDocument> Make(const std::string& fallback) {
+    return PugiDocumentFactory(fallback,
+                               [this](const Notice& notice) { notices_.push_back(notice); })();
+  }
+
+  std::unique_ptr<XmlDocument> MakeLesson(const std::string& fallback) {
+    std::unique_ptr<XmlDocument> document = Make(fallback);
+    document->SetRootName("exercise");
+    document->RootAttributes()->Add("Untersuchung: bestimmen", "description");
+    const auto properties = document->RootChildren()->Add({}, "properties");
+    properties->Children()->Add("VMOD17", "programm");
+    properties->Children()->Add("", "ukey");
+    return document;
+  }
+
+  ScratchFolder folder_;
+  std::vector<Notice> notices_;
+};
+
+TEST_F(PugiDocument, WritesAnIndentedUtf8FileWithADeclaration) {
+  const auto document = MakeLesson(folder_ / "fallback");
+  document->RootChildren()->Add("Übung ♭9", "key");
+  document->SetFileName((folder_ / "") + "\\MVX260101120000.xml");
+  ASSERT_TRUE(document->Save());
+  EXPECT_EQ(Content(folder_ / "MVX260101120000.xml"),
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+            "<exercise description=\"Untersuchung: bestimmen\">\n"
+            "  <properties>\n"
+            "    <programm>VMOD17</programm>\n"
+            "    <ukey />\n"
+            "  </properties>\n"
+            "  <key>Übung ♭9</key>\n"
+            "</exercise>\n");
+  EXPECT_TRUE(notices_.empty());
+}
+
+TEST_F(PugiDocument, TakesTheFolderAsItStands) {
+  const std::string folders[] = {folder_ / "mit Leerzeichen", folder_ / "Übungen ♪",
+                                 folder_ / "ends with a separator/", folder_ / "back\\slash",
+                                 folder_ / "ends with a backslash\\"};
+  for (const std::string& folder : folders) {
+    fs::create_directory(folder.back() == '/' ? folder.substr(0, folder.size() - 1) : folder);
+    const auto document = MakeLesson(folder_ / "fallback");
+    document->SetFileName(folder + "\\MVX260101120000.xml");
+    EXPECT_TRUE(document->Save());
+    EXPECT_TRUE(fs::exists(folder + "/MVX260101120000.xml")) << folder;
+  }
+  EXPECT_TRUE(notices_.empty());
+}
+
+TEST_F(PugiDocument, KeepsTheFileToItsOwnerAndLeavesNothingElseBehind) {
+  const auto document = MakeLesson(folder_ / "fallback");
+  fs::create_directory(folder_ / "temp");
+  document->SetFileName((folder_ / "temp") + "\\a.xml");
+  ASSERT_TRUE(document->Save());
+  EXPECT_EQ(fs::status(folder_ / "temp/a.xml").permissions(), fs::perms(0600));
+  EXPECT_EQ(Entries(folder_ / "temp"), 1);
+}
+
+TEST_F(PugiDocument, ReplacesTheFileWhenSavedAgain) {
+  const auto document = MakeLesson(folder_ / "fallback");
+  document->SetFileName((folder_ / "") + "\\a.xml");
+  ASSERT_TRUE(document->Save());
+  document->RootChildren()->Add("later", "more");
+  ASSERT_TRUE(document->Save());
+  EXPECT_NE(Content(folder_ / "a.xml").find("<more>later</more>"), std::string::npos);
+}
+
+TEST_F(PugiDocument, CanBeReadBackWhateverItsTextsHold) {
+  std::string every_byte;
+  for (int byte = 0; byte < 256; ++byte) every_byte += static_cast<char>(byte);
+  const auto document = MakeLesson(folder_ / "fallback");
+  document->RootChildren()->Add("\x01 a\x1B" + every_byte, "key");
+  document->RootAttributes()->Add("\x02<&\"\n" + every_byte, "note");
+  document->RootChildren()->Add(std::string("one\0two", 7), "nul");
+  document->RootChildren()->Add("\xEF\xBF\xBE|\xED\xA0\x80|\xC0\x80", "bad");
+  document->SetFileName((folder_ / "") + "\\a.xml");
+  ASSERT_TRUE(document->Save());
+
+  const std::string content = Content(folder_ / "a.xml");
+  for (const char c : content) {
+    EXPECT_TRUE(static_cast<unsigned char>(c) >= 0x20 || c == '\n' || c == '\t' || c == '\r')
+        << int{c};
+  }
+  // Nor may a reference bring in what may not stand there itself.
+  const std::set<std::string> allowed = {"&#09;", "&#10;", "&#13;"};
+  for (std::size_t at = content.find("&#"); at != std::string::npos;
+       at = content.find("&#", at + 1)) {
+    EXPECT_TRUE(allowed.contains(content.substr(at, 5))) << content.substr(at, 5);
+  }
+  pugi::xml_document read;
+  ASSERT_TRUE(read.load_buffer(content.data(), content.size()));
+  EXPECT_STREQ(read.child("exercise").child_value("nul"), "one\xEF\xBF\xBDtwo");
+  // One sign for each byte that is not well-formed, one for a whole character that is not allowed.
+  EXPECT_STREQ(read.child("exercise").child_value("bad"),
+               "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD|\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD|"
+               "\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+TEST_F(PugiDocument, GoesToItsOwnFolderWhenTheNamedOneIsMissing) {
+  const auto document = MakeLesson(folder_ / "data/melvado");
+  document->SetFileName((folder_ / "missing") + "\\MVX260101120000.xml");
+  EXPECT_TRUE(document->Save());
+  const std::string elsewhere = folder_ / "data/melvado/MVX260101120000.xml";
+  EXPECT_NE(Content(elsewhere).find("<programm>VMOD17</programm>"), std::string::npos);
+  EXPECT_EQ(fs::status(folder_ / "data/melvado").permissions(), fs::perms(0700));
+  ASSERT_EQ(notices_.size(), 1u);
+  EXPECT_EQ(notices_[0].text_id, 9201);
+  ASSERT_EQ(notices_[0].details.size(), 3u);
+  EXPECT_EQ(notices_[0].details[0], folder_ / "missing");
+  EXPECT_EQ(notices_[0].details[2], elsewhere);
+  EXPECT_FALSE(fs::exists(folder_ / "missing"));
+}
+
+TEST_F(PugiDocument, GoesToItsOwnFolderWhenNoneIsNamed) {
+  const auto document = MakeLesson(folder_ / "data");
+  document->SetFileName("\\MVX260101120000.xml");
+  EXPECT_TRUE(document->Save());
+  EXPECT_TRUE(fs::exists(folder_ / "data/MVX260101120000.xml"));
+  EXPECT_FALSE(fs::exists("/MVX260101120000.xml"));
+  ASSERT_EQ(notices_.size(), 1u);
+  EXPECT_EQ(notices_[0].text_id, 9201);
+}
+
+TEST_F(PugiDocument, TellsWhenItCanBeSavedNowhere) {
+  std::ofstream(folder_ / "file") << "no folder";
+  const auto document = MakeLesson(folder_ / "file/fallback");
+  document->SetFileName((folder_ / "file/temp") + "\\a.xml");
+  EXPECT_FALSE(document->Save());
+  ASSERT_EQ(notices_.size(), 1u);
+  EXPECT_EQ(notices_[0].text_id, 9202);
+  EXPECT_EQ(notices_[0].details[0], folder_ / "file/temp");
+}
+
+// What a child process found, as its exit code.
+enum Finding { kAsExpected = 10, kOtherNotice = 11, kOtherResult = 12, kNoRights = 13 };
+
+// The administrator may write everywhere, so a test of rights becomes nobody.
+void GiveUpRights() {
+  constexpr uid_t kNobody = 65534;
+  if (::getuid() == 0 && ::setuid(kNobody) != 0) ::_exit(kNoRights);
+}
+
+// A file that may not grow refuses like a disk that is full, after some of it was written.
+void LetNoFileGrowAbove(rlim_t bytes) {
+  const rlimit small{bytes, bytes};
+  if (::setrlimit(RLIMIT_FSIZE, &small) != 0) ::_exit(kNoRights);
+  std::signal(SIGXFSZ, SIG_IGN);
+}
+
+TEST_F(PugiDocument, GoesToItsOwnFolderWhenTheNamedOneIsReadOnly) {
+  fs::create_directory(folder_ / "temp");
+  fs::create_directory(folder_ / "data");
+  fs::permissions(folder_ / "temp", fs::perms(0555));
+  fs::permissions(folder_ / "data", fs::perms(0777));
+  const auto save = [this] {
+    GiveUpRights();
+    const auto document = MakeLesson(folder_ / "data");
+    document->SetFileName((folder_ / "temp") + "\\a.xml");
+    if (!document->Save()) ::_exit(kOtherResult);
+    ::_exit(notices_.size() == 1 && notices_[0].text_id == 9201 ? kAsExpected : kOtherNotice);
+  };
+  EXPECT_EXIT(save(), ::testing::ExitedWithCode(kAsExpected), "");
+  EXPECT_TRUE(fs::exists(folder_ / "data/a.xml"));
+  EXPECT_EQ(Entries(folder_ / "temp"), 0);
+}
+
+TEST_F(PugiDocument, LeavesTheEarlierFileWholeWhenTheDiskIsFull) {
+  fs::create_directory(folder_ / "temp");
+  const auto first = MakeLesson(folder_ / "data");
+  first->SetFileName((folder_ / "temp") + "\\a.xml");
+  ASSERT_TRUE(first->Save());
+  const std::string earlier = Content(folder_ / "temp/a.xml");
+  const auto save = [this] {
+    LetNoFileGrowAbove(1024);
+    const auto document = MakeLesson(folder_ / "data");
+    document->RootChildren()->Add(std::string(100'000, 'x'), "long");
+    document->SetFileName((folder_ / "temp") + "\\a.xml");
+    if (document->Save()) ::_exit(kOtherResult);
+    ::_exit(notices_.size() == 1 && notices_[0].text_id == 9202 ? kAsExpected : kOtherNotice);
+  };
+  EXPECT_EXIT(save(), ::testing::ExitedWithCode(kAsExpected), "");
+  EXPECT_EQ(Content(folder_ / "temp/a.xml"), earlier);
+  EXPECT_EQ(Entries(folder_ / "temp"), 1);
+  EXPECT_EQ(Entries(folder_ / "data"), 0);
+}
+
+}  // namespace
+}  // namespace vmod17
