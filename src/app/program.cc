@@ -46,7 +46,8 @@ void Program::Leave() {
 void Program::OpenSettings() {
   if (!einstellung1_) {
     Load(einstellung1_, shell_,
-         Einstellung1::Parts{settings_, midi_, platform_.output, counters_, record_});
+         Einstellung1::Parts{settings_, midi_, platform_.output, counters_, record_,
+                             platform_.random, platform_.dialog, platform_.test_files});
   }
   einstellung1_->visible = false;
 }

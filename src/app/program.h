@@ -33,6 +33,8 @@ struct Platform {
   FormView& view;
   MidiOutput& output;
   Random& random;
+  FileDialog& dialog;
+  TestFiles& test_files;
   HostServiceFactory make_host_service;
   LanguageListFactory make_language_list;
   XmlDocumentFactory make_document;

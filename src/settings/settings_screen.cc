@@ -6,7 +6,7 @@
 #include <initializer_list>
 #include <utility>
 
-#include "catalogue/chord_board.h"
+#include "catalogue/chord_table.h"
 #include "shell/delay.h"
 #include "shell/numbers.h"
 #include "sound/instrument_list.h"
@@ -17,17 +17,11 @@ namespace {
 constexpr int kStartIntervall = 200;
 constexpr int kTestIntervall = 2000;
 constexpr int kBestimmen = 1;
-constexpr int kNeuesTraining = 1;
-constexpr int kFortsetzung = 2;
-constexpr int kTest = 3;
 constexpr int kPruefungen = 5;
 constexpr int kLautstaerke = 100;
 
-constexpr Color kRahmen = Bgr(0xC0FFFF);
 constexpr Color kRahmenLevel = Bgr(0xC0FFC0);
 constexpr Color kRahmenKlang = Bgr(0xFFFFC0);
-constexpr Color kBereitFarbe = Bgr(0x80FF80);
-constexpr Color kTempoFarbe = Bgr(0xFF0000);
 
 void SetzeContainer(Control& frame, std::initializer_list<Control*> controls) {
   for (Control* control : controls) control->container = &frame;
@@ -37,23 +31,18 @@ void SetzeContainer(Control& frame, const OptionGroup& group) {
   for (int i = group.first(); i <= group.last(); ++i) group[i].container = &frame;
 }
 
-/// Inserts an entry before the first one of a greater value.
-void ReiheEin(ItemList& ziel, const ItemList::Entry& entry) {
-  int j = 0;
-  while (j < ziel.count() && ziel.entry(j).item_data <= entry.item_data) ++j;
-  ziel.Insert(j, entry);
-}
-
 }  // namespace
 
 Einstellung1::Einstellung1(Shell& shell, const Parts& parts)
     : Form("einstellung1"),
       start(*this, shell.loop, "start", kStartIntervall),
       testtimer(*this, shell.loop, "testtimer", kTestIntervall),
+      klangprobe(*this, shell.loop, "klangprobe", 0),
       shell_(shell),
       parts_(parts) {
   caption = "Grundeinstellung : Jazz-Akkorde bestimmen";
   StelleInRahmen();
+  SetzeMarken();
   Verdrahte();
   cmdHilfe.caption = "?";
   prfnr_Comb.enabled = false;
@@ -64,12 +53,15 @@ Einstellung1::Einstellung1(Shell& shell, const Parts& parts)
 void Einstellung1::StelleInRahmen() {
   for (const int i : grdeinst.indexes()) {
     grdeinst[i].container = &aktionsbox;
-    grdeinst[i].back_color = i == 8 ? kRahmenLevel : i == 14 || i == 15 ? kRahmenKlang : kRahmen;
+    grdeinst[i].back_color = i == 8               ? kRahmenLevel
+                             : i == 14 || i == 15 ? kRahmenKlang
+                                                  : kRahmenFarbe;
   }
   for (const int i : geinst_lb.indexes()) geinst_lb[i].container = &grdeinst[i];
   SetzeContainer(grdeinst[0], frequenz);
   SetzeContainer(grdeinst[1], {&oktav_cmb, &lb1, &Combo_tonraum});
-  SetzeContainer(grdeinst[2], {&grplst[0], &grplst[1], &lb2[0], &lb2[1], &lb2[2], &lb2[3]});
+  SetzeContainer(grdeinst[2], {&grplst[0], &grplst[1], &lb2[0], &lb2[1], &lb2[2], &lb2[3],
+                               &grp_alle[0], &grp_alle[1]});
   SetzeContainer(grdeinst[3], akk_grp);
   SetzeContainer(grdeinst[4], {&akkzahl_cmb});
   SetzeContainer(grdeinst[5], abfrage);
@@ -77,13 +69,37 @@ void Einstellung1::StelleInRahmen() {
   SetzeContainer(grdeinst[8], {&training_Combo, &prfnr_Comb});
   SetzeContainer(grdeinst[9], Tonart);
   SetzeContainer(grdeinst[10], {&arpeg_cmb, &lb10, &cmb_arpTmp});
-  SetzeContainer(grdeinst[11], {&klanglst[0], &klanglst[1], &lb11[0], &lb11[1], &lb11[2]});
+  SetzeContainer(grdeinst[11], {&klanglst[0], &klanglst[1], &lb11[0], &lb11[1], &lb11[2],
+                                &klang_alle[0], &klang_alle[1]});
   SetzeContainer(grdeinst[12], akk_anzg);
   SetzeContainer(grdeinst[14], {&klang_contr, &HSliderVolume, &lb14[0], &lb14[1]});
   SetzeContainer(grdeinst[15], kl_farb);
   SetzeContainer(grdeinst[15],
                  {&Channel_Combo, &ComboPatch, &temp_Combo, &lb15[0], &lb15[1], &lb15[2]});
   SetzeContainer(grdeinst[17], betonung);
+}
+
+/// The keys under which the controls stand in a test.
+void Einstellung1::SetzeMarken() {
+  const auto marke = [](const OptionGroup& group, const char* tag) {
+    for (int i = group.first(); i <= group.last(); ++i) group[i].tag = tag;
+  };
+  marke(akk_grp, "Bestimmen");
+  marke(Tonart, "Grundton");
+  marke(aus_w, "Akk-Form");
+  marke(akk_anzg, "Akk.-Anzeige");
+  marke(betonung, "Akkord-Grundton");
+  marke(abfrage, "Abfolge");
+  marke(frequenz, "Frequenz");
+  kl_farb[0].tag = "Klangfarbe";
+  cmb_arpTmp.tag = "Arpeggio-Tempo#var";
+  arpeg_cmb.tag = "Richtung#var";
+  akkzahl_cmb.tag = "Akkord-Anzahl#var";
+  oktav_cmb.tag = "Tonraum#var";
+  Combo_tonraum.tag = "Oktav-Bereichvar#";
+  Channel_Combo.tag = "channel#var";
+  ComboPatch.tag = "cmbPatch#var";
+  temp_Combo.tag = "Tempo#var";
 }
 
 void Einstellung1::Verdrahte() {
@@ -107,11 +123,28 @@ void Einstellung1::Verdrahte() {
   oktav_cmb.Click = [this] { oktav_cmb_Click(); };
   Combo_tonraum.Click = [&] { settings.SetzeTonraum(Combo_tonraum.list_index()); };
   akkzahl_cmb.Click = [&] { settings.akk_anzahl = akkzahl_cmb.list_index() + 1; };
-  prfnr_Comb.Click = [&] { settings.pruef_nr = prfnr_Comb.list_index() + 1; };
-  training_Combo.Click = [&] { settings.uebmodus = training_Combo.list_index(); };
+  akk_grp.Click = [this](int index) { akk_grp_Click(index); };
+  aus_w.Click = [this](int index) { aus_w_Click(index); };
+  kl_farb.Click = [this](int index) { kl_farb_Click(index); };
+  training_Combo.Click = [this] { training_Combo_Click(); };
+  prfnr_Comb.Click = [this] { prfnr_Comb_Click(); };
+  Channel_Combo.Click = [this] { Channel_Combo_Click(); };
   ComboPatch.Click = [this] { ComboPatch_Click(); };
   HSliderVolume.Change = [this] { HSliderVolume_Change(); };
-  for (int i : {0, 1}) klanglst[i].Click = [this, i] { klanglst_Click(i); };
+  klang_contr.Click = [this] { klang_contr_Click(); };
+  klangprobe.Fire = [this] { BeendeProbe(); };
+  cmdOptionSave.Click = [this] { cmdOptionSave_Click(); };
+  cmdOptionRead.Click = [this] { cmdOptionRead_Click(); };
+  popPruefung.Click = [this] { popExamToggle_Click(); };
+  for (int i : {0, 1}) {
+    klanglst[i].Click = [this, i] { klanglst_Click(i); };
+    grplst[i].Click = [this, i] { grplst_Click(i); };
+    klang_alle[i].Click = [this, i] { klang_alle_Click(i); };
+    grp_alle[i].Click = [this, i] { grp_alle_Click(i); };
+  }
+  for (const int i : grdeinst.indexes()) {
+    grdeinst[i].MenuAsked = [this, i] { grdeinst_RechteTaste(i); };
+  }
 }
 
 void Einstellung1::Form_Load() {
@@ -169,7 +202,7 @@ void Einstellung1::FuelleKlangListen() {
   arpeg_cmb.Select(kArpOhne);
   fill(cmb_arpTmp, texts.arp_tempo_name_ar);
   cmb_arpTmp.Select(2);
-  FuelleTraining();
+  FuelleTraining(GespeichertesTraining());
   training_Combo.Select(0);
   parts_.settings.klang_kanal = 0;
   parts_.settings.patch_ar = kPatchVorgabe;
@@ -194,22 +227,16 @@ void Einstellung1::FuelleAuswahlListen() {
   for (int i = 1; i <= 4; ++i) akkzahl_cmb.Add(SignedText(i), i);
   akkzahl_cmb.Select(0);
   // A screen that is opened anew finds the material of the time before.
-  for (int n = parts_.settings.akk_form == 1 ? 3 : 2; n <= 5; ++n) {
-    oktav_cmb.Add(SignedText(n) + " " + texts.Sprachtext(41), n - 2);
-  }
-  oktav_cmb.Select(0);
+  FuelleOktaven(parts_.settings.akk_form == 1 ? 3 : 2);
 }
 
-void Einstellung1::FuelleTraining() {
-  const std::string typ = DecimalText(shell_.state.uebTyp);
-  ModServer& server = shell_.server;
-  const bool fortsetzbar = server.LeseEinstellung("E" + typ) && server.LeseAblage("A" + typ) &&
-                           server.ablage_ar.at(0) == TaggedValue("true");
-  for (int i = 0; i < static_cast<int>(shell_.texts.modus_name_ar.size()); ++i) {
-    const bool leer = i == kFortsetzung && !fortsetzbar;
-    training_Combo.Add(leer ? "---------------" : shell_.texts.modus_name_ar[i],
-                       ItemList::kValueIsIndex);
+/// Offers the widths of the Tonraum from `von` to 5 octaves, and selects the first.
+void Einstellung1::FuelleOktaven(int von) {
+  oktav_cmb.Clear();
+  for (int n = von; n <= 5; ++n) {
+    oktav_cmb.Add(SignedText(n) + " " + shell_.texts.Sprachtext(41), n - 2);
   }
+  oktav_cmb.Select(0);
 }
 
 void Einstellung1::SetzeTexte() {
@@ -257,7 +284,9 @@ void Einstellung1::SetzeTexte() {
   lb15[0].caption = text(547);
   lb15[1].caption = "=MM";
   lb15[2].caption = text(615);
-  temp_Combo.fore_color = kTempoFarbe;
+  cmdOptionRead.caption = "Einlesen Test";
+  cmdOptionSave.caption = "Einstellungen Speichern";
+  popPruefung.caption = kMarke;
 }
 
 void Einstellung1::arpeg_cmb_Click() {
@@ -288,48 +317,11 @@ void Einstellung1::oktav_cmb_Click() {
   Combo_tonraum.Select(settings.oktav_ber == 3 ? 0 : 1);
 }
 
-void Einstellung1::ComboPatch_Click() {
-  ExerciseSettings& settings = parts_.settings;
-  settings.patch_ar.at(settings.klang_kanal) = ComboPatch.list_index();
-  SetzeKlangfarbe(ComboPatch.list_index(), settings.klang_kanal);
-}
-
-void Einstellung1::HSliderVolume_Change() {
-  parts_.midi.midiVelocity = HSliderVolume.value();
-  lb14[1].caption = DecimalText(HSliderVolume.value());
-}
-
-void Einstellung1::klanglst_Click(int index) {
-  ItemList& quelle = klanglst[index];
-  const int gewaehlt = quelle.list_index();
-  ReiheEin(klanglst[1 - index], quelle.entry(gewaehlt));
-  quelle.Remove(gewaehlt);
-
-  const ItemList& auswahl = klanglst[1];
-  const bool nur_triaden = auswahl.count() == 1 && auswahl.entry(0).item_data == kTriade;
-  lb11[2].visible = auswahl.count() == 0;
-  SetzeOk(nur_triaden ? Bereitschaft::kBereit : Bereitschaft::kGesperrt);
-  klang_contr.enabled = nur_triaden;
-}
-
-void Einstellung1::SetzeOk(Bereitschaft zustand) {
-  const bool bereit = zustand == Bereitschaft::kBereit;
-  cmdOK.enabled = bereit;
-  cmdOK.back_color = bereit ? kBereitFarbe : Colors::kRed;
-  cmdOK.caption = shell_.texts.Sprachtext(bereit ? 432 : 139);
-}
-
-void Einstellung1::MIDI_QueueEmpty() {
-  const Form* top = shell_.screens.top();
-  if (top == nullptr || top->caption != caption) return;
-  klang_contr.enabled = true;
-  cmdOK.enabled = true;
-}
-
 void Einstellung1::cmdOK_Click() {
   shell_.errors.Guard(
       "cmdOK_click.", *this,
       [this] {
+        BeendeProbe();
         cmdOK.enabled = false;
         parts_.record.LessonNeu();
         SichereAuswahl();
@@ -337,9 +329,9 @@ void Einstellung1::cmdOK_Click() {
         EinstDatSave();
         // Saving that failed has led back to the first screen by itself.
         if (!loaded()) return;
-        if (parts_.settings.uebmodus == kNeuesTraining && shell_.state.uebTyp == kBestimmen) {
+        if (parts_.settings.uebmodus == kModusNeuesTraining && shell_.state.uebTyp == kBestimmen) {
           BaueEinstSatz();
-        } else if (parts_.settings.uebmodus == kTest) {
+        } else if (parts_.settings.uebmodus == kModusTest) {
           abfrage.Check(1);
         }
         pointer = Pointer::kHourglass;
@@ -350,24 +342,6 @@ void Einstellung1::cmdOK_Click() {
         shell_.navigation.OpenWorksheet();
       },
       [this] { cmdZurueck_Click(); });
-}
-
-void Einstellung1::SichereAuswahl() {
-  ExerciseSettings& settings = parts_.settings;
-  if (settings.akk_form == 0) {
-    settings.klang_anzahl = klanglst[1].count();
-    for (int i = 1; i <= 5; ++i) {
-      settings.klang_ausw_ar[i] =
-          i <= settings.klang_anzahl ? klanglst[1].entry(i - 1).item_data : 0;
-    }
-  } else {
-    settings.klang_anzahl = 1;
-    settings.klang_ausw_ar[1] = kVoicing;
-  }
-  settings.grp_anzahl = grplst[1].count();
-  for (int i = 1; i <= kGruppen; ++i) {
-    settings.grp_ausw_ar[i] = i <= settings.grp_anzahl ? grplst[1].entry(i - 1).item_data : 0;
-  }
 }
 
 void Einstellung1::cmdZurueck_Click() {

@@ -7,6 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/file_dialog.h"
+#include "platform/random.h"
+#include "platform/test_file.h"
 #include "results/counters.h"
 #include "results/lesson_record.h"
 #include "settings/settings_record.h"
@@ -26,6 +29,9 @@ class Einstellung1 : public Form {
     MidiOutput& output;
     RunCounters& counters;
     LessonRecord& record;
+    Random& random;
+    FileDialog& dialog;
+    TestFiles& test_files;
   };
 
   Einstellung1(Shell& shell, const Parts& parts);
@@ -65,14 +71,20 @@ class Einstellung1 : public Form {
   ItemList ComboPatch{*this, "ComboPatch"};
   ItemList temp_Combo{*this, "temp_Combo"};
   ControlArray<Label> lb15{*this, "lb15", 0, 2};
+  ControlArray<Button> klang_alle{*this, "klang_alle", 0, 1};
+  ControlArray<Button> grp_alle{*this, "grp_alle", 0, 1};
   Button klang_contr{*this, "klang_contr"};
   Slider HSliderVolume{*this, "HSliderVolume", 0, ModMIDI::kHoechsteStaerke};
   ControlArray<Label> lb14{*this, "lb14", 0, 1};
   Button cmdOK{*this, "cmdOK"};
   Button cmdZurueck{*this, "cmdZurueck"};
   Button cmdHilfe{*this, "cmdHilfe"};
+  Button cmdOptionSave{*this, "cmdOptionSave"};
+  Button cmdOptionRead{*this, "cmdOptionRead"};
+  PopupMenu popPruefung{*this, "popPruefung"};
   Timer start;
   Timer testtimer;
+  Timer klangprobe;  ///< takes the sound check as over when the output does not say so
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -86,10 +98,37 @@ class Einstellung1 : public Form {
   void temp_Combo_Click();
   void cmb_arpTmp_Click();
   void oktav_cmb_Click();
-  void ComboPatch_Click();
-  void klanglst_Click(int index);
-  void HSliderVolume_Change();
   void MIDI_QueueEmpty();
+
+  // settings_selection.cc
+  void klanglst_Click(int index);
+  void grplst_Click(int index);
+  void klang_alle_Click(int index);
+  void grp_alle_Click(int index);
+  void akk_grp_Click(int index);
+  void aus_w_Click(int index);
+
+  // settings_levels.cc
+  void training_Combo_Click();
+  void prfnr_Comb_Click();
+  void grdeinst_RechteTaste(int rahmen);
+  void popExamToggle_Click();
+
+  // sound_check.cc
+  void kl_farb_Click(int index);
+  void Channel_Combo_Click();
+  void ComboPatch_Click();
+  void HSliderVolume_Change();
+  void klang_contr_Click();
+
+  // settings_test_file.cc
+  void cmdOptionSave_Click();
+  void cmdOptionRead_Click();
+
+  /// Whether a training is stored that can be taken up again.
+  enum class Fortsetzung { kKeine, kVorhanden };
+  /// Fills `training_Combo` anew.
+  void FuelleTraining(Fortsetzung fortsetzung);
 
   /// Builds the settings in words.
   void EinstDatSave();
@@ -98,17 +137,58 @@ class Einstellung1 : public Form {
   void SetzeKlangfarbe(int patch, int kanal) { parts_.midi.SetzeKlangfarbe(patch, kanal); }
 
  private:
-  enum class Bereitschaft { kBereit, kGesperrt };
+  static constexpr Color kRahmenFarbe = Bgr(0xC0FFFF);
+  static constexpr Color kBereitFarbe = Bgr(0x80FF80);
+  static constexpr Color kTempoFarbe = Bgr(0xFF0000);
+  static constexpr int kModusNeuesTraining = 1;
+  static constexpr int kModusFortsetzung = 2;
+  static constexpr int kModusTest = 3;
+  static constexpr int kModusPruefung = 4;
+  /// The tag of a frame that is marked for a test.
+  static constexpr const char* kMarke = "Prüfung";
 
   void Verdrahte();
   void StelleInRahmen();
+  void SetzeMarken();
   void SetzeTexte();
   void BaueAuf();
   void FuelleKlangListen();
   void FuelleAuswahlListen();
-  void FuelleTraining();
-  void SetzeOk(Bereitschaft zustand);
+  void FuelleOktaven(int von);
+
+  void ok_bereit();
+  void ok_gesperrt();
+  void SetzeOk(bool vollstaendig);
+  void VerlangeGruppen(int hinweis);
+  void WerteGruppen(bool genug);
+  void LeereKlaenge();
+  void LeereGruppen();
+  void FuelleKlaenge(int list);
+  void FuelleGruppen(int list);
+  int KleinsterKlangtypMitGruppe() const;
   void SichereAuswahl();
+
+  Fortsetzung GespeichertesTraining();
+  void GibRahmenFrei();
+  void SperreRahmen(int rahmen);
+  void StelleWiederHer();
+  void SetzePruefung();
+
+  void SpieleProbe();
+  int ProbenNoten() const;
+  bool ProbeGilt() const;
+  void SendeKlangfarben();
+  void BeendeProbe();
+
+  OptionGroup* GruppeVon(const Control& control);
+  std::vector<TestControl> SammleMarkierte();
+  std::string RahmenTitel(const Control& rahmen) const;
+  void EinlesenTest();
+  void WendeAn(const TestDocument& dokument);
+  Control* SucheTagged(const TestControl& eintrag);
+  bool Setze(Control& control, const TestControl& eintrag);
+  static void SperreVomTest(Control& control);
+
   void BaueEinstSatz();
   void EinstEintrag(const std::string& key, const std::string& value);
   void TrageKlangfarbenEin();
@@ -118,6 +198,9 @@ class Einstellung1 : public Form {
   Parts parts_;
   bool form_bereit = false;
   bool delay_abbruch = false;
+  int popup_rahmen = 0;
+  bool auswahl_vollstaendig_ = false;
+  bool probe_laeuft_ = false;
 };
 
 }  // namespace vmod17

@@ -23,7 +23,11 @@ constexpr int kVersuche = 100000;
 
 ChordPlayback::ChordPlayback(EventLoop& loop, ModMIDI& midi, const AppState& state,
                              const ExerciseSettings& settings, const ChordBoard& board)
-    : loop_(loop), midi_(midi), state_(state), settings_(settings), board_(board) {}
+    : loop_(loop),
+      midi_(midi),
+      settings_(settings),
+      board_(board),
+      queue_(midi, state, settings, kAkzent) {}
 
 void ChordPlayback::SpieleAufgabe(PlaybackTask& task, const bool& abbruch) {
   midi_.MidiReset();
@@ -35,43 +39,13 @@ void ChordPlayback::SpieleAufgabe(PlaybackTask& task, const bool& abbruch) {
     }
   }
   if (settings_.klangfarb_art == 0) task.kanal = 0;
-  for (int slot = 1; slot <= settings_.akk_anzahl; ++slot) ReiheSlotEin(task, slot);
+  for (int slot = 1; slot <= settings_.akk_anzahl; ++slot) {
+    const auto noten = static_cast<std::size_t>(board_.LetzteNote(task.aufg_akk_ar.at(slot))) + 1;
+    queue_.ReiheEin(slot, std::span(task.akk_ton_ar[slot]).first(noten), task.arp_folge_ar[slot],
+                    task.kanal);
+  }
   Delay(loop_, kRuheVorDemStart, abbruch);
   if (!abbruch) midi_.MidiStart();
-}
-
-void ChordPlayback::ReiheSlotEin(PlaybackTask& task, int slot) {
-  const int n = board_.LetzteNote(task.aufg_akk_ar.at(slot));
-  for (int k = 0; k <= n; ++k) {
-    switch (settings_.arp_richtung) {
-      case kArpAufwaerts:
-      case kArpOhne:
-        ReiheNoteEin(task, slot, k, k);
-        break;
-      case kArpAbwaerts:
-        ReiheNoteEin(task, slot, n - k, k);
-        break;
-      case kArpZufall:
-        ReiheNoteEin(task, slot, task.arp_folge_ar[slot].at(k), k);
-        break;
-    }
-  }
-}
-
-/// Queues note `j` of a slot as the `k`-th to sound, both from 0.
-void ChordPlayback::ReiheNoteEin(PlaybackTask& task, int slot, int j, int k) {
-  // Each note of a chord keeps its channel, and through it its timbre, in every order.
-  if (settings_.klangfarb_art != 0) task.kanal = j + 1;
-  const int laenge = state_.tempo_dauer_ar.at(settings_.tempo_idx);
-  const int versatz = settings_.arp_richtung == kArpOhne ? 0 : settings_.arp_dauer * k;
-  const double dauer = laenge - versatz - 0.1 * laenge;
-
-  const int staerke = midi_.midiVelocity;
-  if (settings_.grundton_betont == 1 && j == 0) {
-    midi_.midiVelocity = std::min(staerke + kAkzent, ModMIDI::kHoechsteStaerke);
-  }
-  midi_.MidiNote(task.akk_ton_ar[slot].at(j), laenge * (slot - 1) + versatz, dauer, task.kanal, 0);
-  midi_.midiVelocity = staerke;
 }
 
 void ChordPlayback::TonhoeheWuerfeln(PlaybackTask& task, Random& random) {

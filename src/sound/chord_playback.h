@@ -11,6 +11,7 @@
 #include "settings/settings_record.h"
 #include "shell/app_state.h"
 #include "sound/mod_midi.h"
+#include "sound/note_queue.h"
 
 namespace vmod17 {
 
@@ -44,14 +45,11 @@ class ChordPlayback {
   static void ArpeggioMischen(PlaybackTask& task, int slot, int letzte_note, Random& random);
 
  private:
-  void ReiheSlotEin(PlaybackTask& task, int slot);
-  void ReiheNoteEin(PlaybackTask& task, int slot, int j, int k);
-
   EventLoop& loop_;
   ModMIDI& midi_;
-  const AppState& state_;
   const ExerciseSettings& settings_;
   const ChordBoard& board_;
+  NoteQueue queue_;
 };
 
 }  // namespace vmod17

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The training level: what it frees and locks, the training that is taken up again, the exams.
+
+#include <array>
+#include <charconv>
+#include <exception>
+
+#include "catalogue/chord_table.h"
+#include "settings/settings_screen.h"
+#include "shell/numbers.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr const char* kKeinTraining = "---------------";
+
+constexpr Color kGesperrterRahmen = Bgr(0xC0C0FF);
+constexpr std::array kRahmenDesTrainings = {5, 4, 10, 7, 3, 12, 9, 11, 2, 1, 0, 17};
+constexpr std::array kRahmenDerPruefung = {5, 7, 3, 11, 2};
+
+struct Pruefung {
+  int akk_form;
+  int best_art;
+  std::array<int, 2> klangtypen;  // 0 for none
+};
+
+// By number, from 1.
+constexpr std::array<Pruefung, 6> kPruefungen = {
+    {{}, {0, 0, {3, 0}}, {0, 0, {4, 5}}, {0, 0, {6, 7}}, {1, 0, {}}, {1, 1, {}}}};
+
+[[noreturn]] void Unbrauchbar(const std::string& what) {
+  throw RunTimeError(ErrorNumber::kTypeMismatch, "the stored settings hold " + what, "vmod17.E1");
+}
+
+/// Walks through a stored record. Each step gives the next element, or raises a run-time error if
+/// it is not there or not of the kind that belongs there.
+class Leser {
+ public:
+  explicit Leser(const TaggedValue::Array& satz) : satz_(satz) {}
+
+  const TaggedValue& Naechstes() {
+    if (at_ >= satz_.size()) Unbrauchbar("too few elements");
+    return satz_[at_++];
+  }
+  const std::string& Text() { return Naechstes().String(); }
+  /// A whole number from `low` to `high`, stored as a number or as its decimal text.
+  int Zahl(int low, int high) {
+    const TaggedValue& value = Naechstes();
+    double zahl = 0;
+    if (value.IsInteger()) {
+      zahl = static_cast<double>(value.Integer());
+    } else if (value.IsFloat()) {
+      zahl = value.Float();
+    } else {
+      const std::string& text = value.String();
+      const auto result = std::from_chars(text.data(), text.data() + text.size(), zahl);
+      if (result.ec != std::errc() || result.ptr != text.data() + text.size()) {
+        Unbrauchbar("a word where a number belongs");
+      }
+    }
+    // Written so that what is not a number at all is refused too.
+    if (!(zahl >= low && zahl <= high)) Unbrauchbar("a number outside of its range");
+    return RoundHalfEven(zahl);
+  }
+
+ private:
+  const TaggedValue::Array& satz_;
+  std::size_t at_ = 0;
+};
+
+/// Selects the first entry with that text, if there is one.
+void WaehleText(ItemList& list, const std::string& text) {
+  for (int i = 0; i < list.count(); ++i) {
+    if (list.entry(i).text != text) continue;
+    list.Select(i);
+    return;
+  }
+}
+
+void WaehleWert(ItemList& list, int item_data) {
+  for (int i = 0; i < list.count(); ++i) {
+    if (list.entry(i).item_data != item_data) continue;
+    list.Select(i);
+    return;
+  }
+}
+
+}  // namespace
+
+void Einstellung1::FuelleTraining(Fortsetzung fortsetzung) {
+  training_Combo.Clear();
+  for (int i = 0; i < static_cast<int>(shell_.texts.modus_name_ar.size()); ++i) {
+    const bool leer = i == kModusFortsetzung && fortsetzung == Fortsetzung::kKeine;
+    training_Combo.Add(leer ? kKeinTraining : shell_.texts.modus_name_ar[i],
+                       ItemList::kValueIsIndex);
+  }
+}
+
+Einstellung1::Fortsetzung Einstellung1::GespeichertesTraining() {
+  const std::string typ = DecimalText(shell_.state.uebTyp);
+  ModServer& server = shell_.server;
+  const bool da = server.LeseEinstellung("E" + typ) && server.LeseAblage("A" + typ) &&
+                  !server.ablage_ar.empty() && server.ablage_ar[0] == TaggedValue("true");
+  return da ? Fortsetzung::kVorhanden : Fortsetzung::kKeine;
+}
+
+void Einstellung1::training_Combo_Click() {
+  ExerciseSettings& settings = parts_.settings;
+  settings.uebmodus = training_Combo.list_index();
+  prfnr_Comb.enabled = false;
+  if (settings.uebmodus != kModusFortsetzung) {
+    GibRahmenFrei();
+  }
+  if (settings.uebmodus == kModusPruefung) {
+    prfnr_Comb.enabled = true;
+    prfnr_Comb_Click();
+  }
+  if (settings.uebmodus != kModusFortsetzung) return;
+  if (training_Combo.text() == kKeinTraining) {
+    training_Combo.Select(kModusNeuesTraining);
+    return;
+  }
+  try {
+    StelleWiederHer();
+  } catch (const std::exception&) {
+    shell_.messages.Warn(shell_.texts.Sprachtext(196),
+                         shell_.texts.modus_name_ar[kModusFortsetzung]);
+    training_Combo.Select(kModusNeuesTraining);
+    return;
+  }
+  for (const int i : kRahmenDesTrainings) SperreRahmen(i);
+  temp_Combo.enabled = false;
+  temp_Combo.fore_color = kGesperrterRahmen;
+}
+
+void Einstellung1::GibRahmenFrei() {
+  for (const int i : kRahmenDesTrainings) {
+    grdeinst[i].enabled = true;
+    grdeinst[i].back_color = kRahmenFarbe;
+  }
+  temp_Combo.enabled = true;
+  temp_Combo.fore_color = kTempoFarbe;
+}
+
+void Einstellung1::SperreRahmen(int rahmen) {
+  grdeinst[rahmen].enabled = false;
+  grdeinst[rahmen].back_color = kGesperrterRahmen;
+}
+
+void Einstellung1::StelleWiederHer() {
+  shell_.server.LeseEinstellung("E" + DecimalText(shell_.state.uebTyp));
+  if (shell_.state.uebTyp != 1) return;
+  const TaggedValue::Array satz = shell_.server.einst_satz;
+  Leser leser(satz);
+  constexpr int kMaxIndex = 32767;  // the lists know their own bounds
+  abfrage.Check(leser.Zahl(0, 1));
+  temp_Combo.Select(leser.Zahl(0, kMaxIndex));
+  akkzahl_cmb.Select(leser.Zahl(1, kMaxIndex) - 1);
+  arpeg_cmb.Select(leser.Zahl(0, kMaxIndex));
+  aus_w.Check(leser.Zahl(0, 1));
+  akk_grp.Check(leser.Zahl(0, 1));
+  akk_anzg.Check(leser.Zahl(0, 1));
+  Tonart.Check(leser.Zahl(0, 1));
+  // The stored value is the width and not the place in the list, which begins one octave wider for
+  // voicings.
+  oktav_cmb.Select(leser.Zahl(0, kMaxIndex));
+  Combo_tonraum.Select(leser.Zahl(0, kMaxIndex));
+  frequenz.Check(leser.Zahl(0, 1));
+  leser.Naechstes();
+  betonung.Check(leser.Zahl(0, 1));
+  cmb_arpTmp.Select(leser.Zahl(0, kMaxIndex));
+
+  const int klaenge = leser.Zahl(0, 5);
+  for (int i = 0; i < klaenge; ++i) WaehleText(klanglst[0], leser.Text());
+  parts_.settings.klang_anzahl = klaenge;
+
+  const int klangfarb_art = leser.Zahl(0, 1);
+  const int erste = klangfarb_art == 0 ? 0 : 1;
+  const int letzte = klangfarb_art == 0 ? 0 : 7;
+  for (int i = erste; i <= letzte; ++i) parts_.settings.patch_ar[i] = leser.Zahl(0, 127);
+  kl_farb.Check(klangfarb_art);
+  HSliderVolume.Set(leser.Zahl(HSliderVolume.low(), HSliderVolume.high()));
+
+  const int gruppen = leser.Zahl(0, kGruppen);
+  parts_.settings.grp_anzahl = gruppen;
+  for (int i = 0; i < gruppen; ++i) WaehleText(grplst[0], leser.Text());
+}
+
+void Einstellung1::prfnr_Comb_Click() {
+  parts_.settings.pruef_nr = prfnr_Comb.list_index() + 1;
+  if (form_bereit) SetzePruefung();
+}
+
+void Einstellung1::SetzePruefung() {
+  ExerciseSettings& settings = parts_.settings;
+  settings.pruef_seed = 0;
+  const Pruefung& pruefung = kPruefungen.at(settings.pruef_nr);
+  abfrage.Check(1);
+  aus_w.Check(pruefung.akk_form);
+  akk_grp.Check(pruefung.best_art);
+  if (pruefung.best_art == 0) {
+    for (const int k : pruefung.klangtypen) WaehleWert(klanglst[0], k);
+  }
+  if (settings.pruef_nr > 1) grp_alle_Click(0);
+  for (const int i : kRahmenDerPruefung) SperreRahmen(i);
+}
+
+void Einstellung1::grdeinst_RechteTaste(int rahmen) {
+  popup_rahmen = rahmen;
+  popPruefung.checked = grdeinst[rahmen].tag == kMarke;
+  popPruefung.OpenAt(grdeinst[rahmen]);
+}
+
+void Einstellung1::popExamToggle_Click() {
+  popPruefung.checked = !popPruefung.checked;
+  Frame& rahmen = grdeinst[popup_rahmen];
+  rahmen.tag = popPruefung.checked ? kMarke : "";
+  rahmen.back_color = popPruefung.checked ? kBereitFarbe : kRahmenFarbe;
+}
+
+}  // namespace vmod17
