@@ -91,11 +91,13 @@ class Stage {
   ScriptedMessageBox messages_;
   RecordingMidiOutput output_;
   UniformRandom random_;
+  ScriptedFileDialog dialog_;
+  MemoryTestFiles test_files_;
   MemoryHost host_;
   FakeLanguages languages_;
   MemoryXmlLibrary documents_;
-  Program program_{{loop_, system_, messages_, view_, output_, random_, host_.Factory(),
-                    languages_.Factory(), documents_.Factory()},
+  Program program_{{loop_, system_, messages_, view_, output_, random_, dialog_, test_files_,
+                    host_.Factory(), languages_.Factory(), documents_.Factory()},
                    {"vmod17", 1, 0, 0}};
 };
 

@@ -589,6 +589,38 @@
         <source></source>
         <translation>Im Programm ist ein Fehler aufgetreten, den es nicht beheben kann; es wird beendet.</translation>
     </message>
+    <message id="9011s">
+        <source></source>
+        <translation>Es ist kein Rahmen für einen Test markiert. Klicken Sie mit der rechten Maustaste auf die Rahmen, deren Einstellungen der Test festlegen soll, und wählen Sie „Prüfung“.</translation>
+    </message>
+    <message id="9012s">
+        <source></source>
+        <translation>Die Test-Datei konnte nicht geschrieben werden.</translation>
+    </message>
+    <message id="9013s">
+        <source></source>
+        <translation>Die Test-Datei kann nicht gelesen werden. Die Einstellungen sind unverändert.</translation>
+    </message>
+    <message id="9014s">
+        <source></source>
+        <translation>Zeile</translation>
+    </message>
+    <message id="9015s">
+        <source></source>
+        <translation>Spalte</translation>
+    </message>
+    <message id="9016s">
+        <source></source>
+        <translation>Diese Einstellungen der Test-Datei gibt es hier nicht; sie wurden übergangen:</translation>
+    </message>
+    <message id="9017s">
+        <source></source>
+        <translation>alle auswählen</translation>
+    </message>
+    <message id="9018s">
+        <source></source>
+        <translation>alle zurücknehmen</translation>
+    </message>
     <message id="9101s">
         <source></source>
         <translation>Ihre gespeicherten Trainings in %1 stammen von einer neueren Fassung dieses Programms. Sie bleiben genau so, wie sie sind. Sie können üben, aber was Sie jetzt speichern, geht verloren, wenn das Programm endet. Bitte installieren Sie die neuere Fassung.</translation>

@@ -589,6 +589,38 @@
         <source></source>
         <translation>The program has met an error that it cannot deal with, and ends.</translation>
     </message>
+    <message id="9011s">
+        <source></source>
+        <translation>No frame is marked for a test. Right-click the frames whose settings the test is to fix, and choose “Prüfung”.</translation>
+    </message>
+    <message id="9012s">
+        <source></source>
+        <translation>The test file could not be written.</translation>
+    </message>
+    <message id="9013s">
+        <source></source>
+        <translation>The test file cannot be read. The settings are unchanged.</translation>
+    </message>
+    <message id="9014s">
+        <source></source>
+        <translation>Line</translation>
+    </message>
+    <message id="9015s">
+        <source></source>
+        <translation>column</translation>
+    </message>
+    <message id="9016s">
+        <source></source>
+        <translation>These settings of the test file do not exist here and were passed over:</translation>
+    </message>
+    <message id="9017s">
+        <source></source>
+        <translation>select all</translation>
+    </message>
+    <message id="9018s">
+        <source></source>
+        <translation>take all back</translation>
+    </message>
     <message id="9101s">
         <source></source>
         <translation>Your stored trainings in %1 were written by a newer version of this program. They have been left exactly as they are. You can practise, but what you store now is lost when the program ends. Please install the newer version.</translation>

@@ -287,6 +287,12 @@ void Einstellung1::SetzeTexte() {
   cmdOptionRead.caption = "Einlesen Test";
   cmdOptionSave.caption = "Einstellungen Speichern";
   popPruefung.caption = kMarke;
+  for (const ControlArray<Button>* alle : {&klang_alle, &grp_alle}) {
+    (*alle)[0].caption = "»";
+    (*alle)[0].description = text(9017);
+    (*alle)[1].caption = "«";
+    (*alle)[1].description = text(9018);
+  }
 }
 
 void Einstellung1::arpeg_cmb_Click() {

@@ -11,11 +11,13 @@
 #include <utility>
 #include <vector>
 
+#include "platform/file_dialog.h"
 #include "platform/form_view.h"
 #include "platform/language.h"
 #include "platform/message_box.h"
 #include "platform/run_time_error.h"
 #include "platform/system.h"
+#include "platform/test_file.h"
 
 namespace vmod17 {
 
@@ -40,6 +42,42 @@ class ScriptedMessageBox : public MessageBox {
   Answer Ask(const std::string& text, const std::string& title) override {
     questions.push_back({text, title});
     return answer;
+  }
+};
+
+/// Answers with the files that a test names; none at first, as a user who gives up.
+class ScriptedFileDialog : public FileDialog {
+ public:
+  std::optional<std::string> to_save;
+  std::optional<std::string> to_open;
+  std::vector<std::string> proposals;
+  int opened = 0;
+
+  std::optional<std::string> AskToSave(const std::string&, const std::string& proposal) override {
+    proposals.push_back(proposal);
+    return to_save;
+  }
+  std::optional<std::string> AskToOpen(const std::string&, const std::string&) override {
+    ++opened;
+    return to_open;
+  }
+};
+
+/// Test files in memory, by name.
+class MemoryTestFiles : public TestFiles {
+ public:
+  std::map<std::string, TestDocument> files;
+  std::optional<TestFileError> trouble;  ///< raised by each call while it is set
+
+  void Write(const std::string& file, const TestDocument& document) override {
+    if (trouble) throw *trouble;
+    files[file] = document;
+  }
+  TestDocument Read(const std::string& file) override {
+    if (trouble) throw *trouble;
+    const auto found = files.find(file);
+    if (found == files.end()) throw TestFileError("no file " + file, 0, 0);
+    return found->second;
   }
 };
 

@@ -27,11 +27,13 @@ class ProgramFixture {
   NoView view;
   RecordingMidiOutput output{&loop};
   ScriptedRandom random;
+  ScriptedFileDialog dialog;
+  MemoryTestFiles test_files;
   MemoryHost host;
   FakeLanguages languages;
   MemoryXmlLibrary documents;
   bool ended = false;
-  Program program{{loop, system, messages, view, output, random, host.Factory(),
+  Program program{{loop, system, messages, view, output, random, dialog, test_files, host.Factory(),
                    languages.Factory(), documents.Factory()},
                   {"vmod17", 1, 0, 0}};
 
