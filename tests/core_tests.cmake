@@ -21,9 +21,17 @@ vmod17_test(
           sound/chord_playback_test.cc
           sound/instrument_list_test.cc
           sound/mod_midi_test.cc
+          sound/note_queue_test.cc
+          sound/sample_playback_test.cc
           settings/settings_record_test.cc
+          settings/restoring_test.cc
+          settings/settings_levels_test.cc
           settings/settings_screen_test.cc
+          settings/settings_selection_test.cc
           settings/settings_summary_test.cc
+          settings/settings_test_file_test.cc
+          settings/settings_walk_test.cc
+          settings/sound_check_test.cc
           platform/store/memory_host_test.cc
           platform/xml/memory_xml_document_test.cc
   LIBRARIES vmod17_program test_support rapidcheck)

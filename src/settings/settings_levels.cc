@@ -16,7 +16,6 @@ namespace {
 
 constexpr const char* kKeinTraining = "---------------";
 
-constexpr Color kGesperrterRahmen = Bgr(0xC0C0FF);
 constexpr std::array kRahmenDesTrainings = {5, 4, 10, 7, 3, 12, 9, 11, 2, 1, 0, 17};
 constexpr std::array kRahmenDerPruefung = {5, 7, 3, 11, 2};
 

@@ -138,6 +138,7 @@ class Einstellung1 : public Form {
 
  private:
   static constexpr Color kRahmenFarbe = Bgr(0xC0FFFF);
+  static constexpr Color kGesperrterRahmen = Bgr(0xC0C0FF);
   static constexpr Color kBereitFarbe = Bgr(0x80FF80);
   static constexpr Color kTempoFarbe = Bgr(0xFF0000);
   static constexpr int kModusNeuesTraining = 1;
@@ -178,6 +179,7 @@ class Einstellung1 : public Form {
   int ProbenNoten() const;
   bool ProbeGilt() const;
   void SendeKlangfarben();
+  void ErlaubeProbe(bool erlaubt);
   void BeendeProbe();
 
   OptionGroup* GruppeVon(const Control& control);
@@ -201,6 +203,7 @@ class Einstellung1 : public Form {
   int popup_rahmen = 0;
   bool auswahl_vollstaendig_ = false;
   bool probe_laeuft_ = false;
+  bool probe_erlaubt_ = false;
 };
 
 }  // namespace vmod17

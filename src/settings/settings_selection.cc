@@ -68,20 +68,20 @@ void Einstellung1::klanglst_Click(int index) {
   lb11[2].visible = gewaehlt.count() == 0;
   if (gewaehlt.count() == 0) {
     ok_gesperrt();
-    klang_contr.enabled = false;
+    ErlaubeProbe(false);
     grdeinst[2].visible = false;
     return;
   }
   if (gewaehlt.count() == 1 && gewaehlt.entry(0).item_data == kTriade) {
     ok_bereit();
-    klang_contr.enabled = true;
+    ErlaubeProbe(true);
     LeereGruppen();
     grdeinst[2].visible = false;
     return;
   }
   VerlangeGruppen(gewaehlt.entry(0).item_data == kTriade ? kMindestensEine : kMindestensZwei);
   ok_gesperrt();
-  klang_contr.enabled = false;
+  ErlaubeProbe(false);
   FuelleGruppen(0);
 }
 
@@ -106,7 +106,7 @@ void Einstellung1::klang_alle_Click(int index) {
     lb11[2].visible = true;
     grdeinst[2].visible = false;
     ok_gesperrt();
-    klang_contr.enabled = false;
+    ErlaubeProbe(false);
     return;
   }
   // OK keeps its state: after triads alone it stays ready, without any group.
@@ -135,7 +135,7 @@ void Einstellung1::akk_grp_Click(int index) {
   LeereKlaenge();
   FuelleKlaenge(0);
   ok_gesperrt();
-  klang_contr.enabled = false;
+  ErlaubeProbe(false);
 }
 
 void Einstellung1::aus_w_Click(int index) {
@@ -157,7 +157,7 @@ void Einstellung1::aus_w_Click(int index) {
     FuelleGruppen(0);
   }
   ok_gesperrt();
-  klang_contr.enabled = false;
+  ErlaubeProbe(false);
 }
 
 /// Shows the frame of the groups and the hint that tells how many are needed.
@@ -171,7 +171,7 @@ void Einstellung1::VerlangeGruppen(int hinweis) {
 void Einstellung1::WerteGruppen(bool genug) {
   lb2[2].visible = !genug;
   SetzeOk(genug);
-  klang_contr.enabled = genug;
+  ErlaubeProbe(genug);
 }
 
 void Einstellung1::LeereKlaenge() {

@@ -101,7 +101,9 @@ void Einstellung1::BaueEinstSatz() {
   zahl(cmb_arpTmp.list_index());
   zahl(n);
   for (int i = 0; i < n; ++i) {
-    satz.emplace_back(i < klanglst[1].count() ? klanglst[1].entry(i).text : "");
+    // The list of kinds is out of sight for voicings, and may hold what was chosen before.
+    const bool gewaehlt = s.akk_form == 0 && i < klanglst[1].count();
+    satz.emplace_back(gewaehlt ? klanglst[1].entry(i).text : "");
   }
   zahl(s.klangfarb_art);
   const int erster = s.klangfarb_art == 0 ? 0 : 1;

@@ -136,18 +136,21 @@ void Einstellung1::EinlesenTest() {
   }
 }
 
-/// Applies what a file holds, in its order, and tells what this screen has no place for.
+/// Applies what a file holds, in its order, and tells what this screen has no place for. The frames
+/// are locked at the end, since one frame may hold several controls of the file.
 void Einstellung1::WendeAn(const TestDocument& dokument) {
   std::string uebergangen;
+  std::vector<Control*> gesetzt;
   for (const TestControl& eintrag : dokument.controls) {
     Control* control = SucheTagged(eintrag);
-    if (control == nullptr || !Setze(*control, eintrag)) {
-      uebergangen += "\n" + (eintrag.title.empty() ? eintrag.cname : eintrag.title) +
-                     (eintrag.words.empty() ? "" : ": " + eintrag.words);
+    if (control != nullptr && Setze(*control, eintrag)) {
+      gesetzt.push_back(control);
       continue;
     }
-    SperreVomTest(*control);
+    uebergangen += "\n" + (eintrag.title.empty() ? eintrag.cname : eintrag.title) +
+                   (eintrag.words.empty() ? "" : ": " + eintrag.words);
   }
+  for (Control* control : gesetzt) SperreVomTest(*control);
   if (!uebergangen.empty()) {
     shell_.messages.Warn(shell_.texts.Sprachtext(9016) + uebergangen, cmdOptionRead.caption);
   }
@@ -160,10 +163,15 @@ Control* Einstellung1::SucheTagged(const TestControl& eintrag) {
   return found == controls().end() ? nullptr : *found;
 }
 
-/// Sets a control as a test says. Returns false if it has no such option or entry.
+/// Sets a control as a test says. Returns false if it has no such option or entry, or if a level
+/// holds it.
 bool Einstellung1::Setze(Control& control, const TestControl& eintrag) {
+  if (control.container->back_color == kGesperrterRahmen) return false;
+  // The list of voices says nothing where there is one timbre for all.
+  if (&control == &Channel_Combo && parts_.settings.klangfarb_art == 0) return true;
   if (OptionGroup* group = GruppeVon(control)) {
     if (eintrag.index < group->first() || eintrag.index > group->last()) return false;
+    if (!(*group)[eintrag.index].enabled) return false;
     group->Check(eintrag.index);
     return true;
   }
@@ -180,7 +188,6 @@ bool Einstellung1::Setze(Control& control, const TestControl& eintrag) {
 }
 
 void Einstellung1::SperreVomTest(Control& control) {
-  if (control.container == nullptr) return;
   control.container->enabled = false;
   control.container->back_color = kVomTestGesperrt;
 }

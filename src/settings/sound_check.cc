@@ -96,13 +96,20 @@ void Einstellung1::SendeKlangfarben() {
   }
 }
 
+/// What the rules of the selection say of the sound check. While the sample plays its button stays
+/// off all the same.
+void Einstellung1::ErlaubeProbe(bool erlaubt) {
+  probe_erlaubt_ = erlaubt;
+  klang_contr.enabled = erlaubt && !probe_laeuft_;
+}
+
 void Einstellung1::BeendeProbe() {
   if (!probe_laeuft_) return;
   probe_laeuft_ = false;
   klangprobe.Disable();
   // Both come back in the state that the selection has by now.
   cmdOK.enabled = auswahl_vollstaendig_;
-  klang_contr.enabled = cmdOK.enabled;
+  klang_contr.enabled = probe_erlaubt_;
 }
 
 void Einstellung1::MIDI_QueueEmpty() {

@@ -207,7 +207,11 @@ struct SingleScreen : ShellFixture {
   RunCounters counters;
   MemoryXmlLibrary documents;
   LessonRecord record{shell, documents.Factory(), [] { return "bestimmen"; }};
-  Einstellung1 screen{shell, {settings, midi, output, counters, record}};
+  ScriptedRandom random;
+  ScriptedFileDialog dialog;
+  MemoryTestFiles test_files;
+  Einstellung1 screen{shell,
+                      {settings, midi, output, counters, record, random, dialog, test_files}};
 };
 
 TEST(SettingsScreenSetUp, MakesRoomForTheResultsOf24Chords) {
@@ -789,7 +793,8 @@ TEST_F(SettingsScreen, HasATestTimerThatPressesTheButton) {
 class WithDocuments : public ProgramFixture {
  public:
   std::function<void()> on_document;
-  Program hooked{{loop, system, messages, view, output, random, host.Factory(), languages.Factory(),
+  Program hooked{{loop, system, messages, view, output, random, dialog, test_files, host.Factory(),
+                  languages.Factory(),
                   [this, make = documents.Factory()] {
                     on_document();
                     return make();
@@ -1060,34 +1065,39 @@ TEST_F(SettingsScreen, CanBeClosedAfterARun) {
 
 // --- QueueEmpty -----------------------------------------------------------------------------
 
-class QueueEmpty : public SettingsScreen {
- protected:
-  void Lock() { screen().klang_contr.enabled = screen().cmdOK.enabled = false; }
-};
+using QueueEmpty = SettingsScreen;
 
-TEST_F(QueueEmpty, FreesTheButtonsWhileTheScreenIsOnTop) {
+TEST_F(QueueEmpty, FreesTheButtonsOfTheSoundCheckWhileTheScreenIsOnTop) {
   ToSettings();
-  Lock();
-  output.QueueEmpty();
+  screen().klang_contr.Press();
+  EXPECT_FALSE(screen().klang_contr.enabled);
+  EXPECT_FALSE(screen().cmdOK.enabled);
+  output.FinishQueue();
   EXPECT_TRUE(screen().klang_contr.enabled);
   EXPECT_TRUE(screen().cmdOK.enabled);
 }
 
 TEST_F(QueueEmpty, ChangesNothingUnderTheWorksheet) {
   ToWorksheet();
-  Lock();
+  screen().klang_contr.enabled = screen().cmdOK.enabled = false;
   output.QueueEmpty();
   EXPECT_FALSE(screen().klang_contr.enabled);
   EXPECT_FALSE(screen().cmdOK.enabled);
 }
 
-TEST_F(QueueEmpty, GoesByTheTitleOfTheTopScreen) {
-  ToWorksheet();
-  Lock();
-  worksheet().caption = screen().caption;
-  output.QueueEmpty();
-  EXPECT_TRUE(screen().klang_contr.enabled);
-  EXPECT_TRUE(screen().cmdOK.enabled);
+TEST(QueueEmptyUnderAnotherScreen, GoesByTheTitleOfTheTopScreen) {
+  SingleScreen f;
+  f.Build();
+  PlainScreen other("other");
+  f.screens.Load(other);
+  f.screen.klang_contr.Press();
+  f.output.QueueEmpty();
+  EXPECT_FALSE(f.screen.klang_contr.enabled);
+  EXPECT_FALSE(f.screen.cmdOK.enabled);
+  other.caption = f.screen.caption;
+  f.output.QueueEmpty();
+  EXPECT_TRUE(f.screen.klang_contr.enabled);
+  EXPECT_TRUE(f.screen.cmdOK.enabled);
 }
 
 TEST_F(QueueEmpty, IsHeardByNobodyOnceTheScreenIsGone) {

@@ -60,7 +60,10 @@ class Stage : public ShellHarness {
   ModMIDI midi{loop, server};
   MemoryXmlLibrary documents;
   LessonRecord record{shell, documents.Factory(), [] { return std::string("bestimmen"); }};
-  Einstellung1 einstellung{shell, {settings, midi, output, counters, record}};
+  ScriptedFileDialog dialog;
+  MemoryTestFiles test_files;
+  Einstellung1 einstellung{shell,
+                           {settings, midi, output, counters, record, random, dialog, test_files}};
   Arbeitsblatt1 sheet{
       shell, {settings, table, board, pictures, midi, random, counters, record, einstellung}};
 

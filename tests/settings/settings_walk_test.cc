@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Random walks of a user over the whole screen.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "settings/settings_fixture.h"
+#include "settings/settings_invariants.h"
+#include "settings/stored_training.h"
+
+namespace vmod17 {
+namespace {
+
+class Walk : public SettingsTest {
+ protected:
+  void Begin(unsigned seed) {
+    engine_.seed(seed);
+    StoreTraining(VollesTraining());
+    ToSettings();
+  }
+  int Below(int n) { return static_cast<int>(engine_() % static_cast<unsigned>(n)); }
+
+  /// Tries one event; what it was goes into `event_`. Returns whether it was delivered.
+  bool Step() {
+    if (Below(16) == 0) {
+      event_ = "time";
+      loop.Advance(Below(2000));
+      return true;
+    }
+    const auto& controls = screen().controls();
+    Control& control =
+        *controls[static_cast<std::size_t>(Below(static_cast<int>(controls.size())))];
+    event_ = control.Id();
+    if (auto* list = dynamic_cast<ItemList*>(&control)) return ChooseIn(*list);
+    if (auto* option = dynamic_cast<Option*>(&control)) {
+      return option->group().Choose(option->index());
+    }
+    if (auto* slider = dynamic_cast<Slider*>(&control)) return slider->Slide(Below(140));
+    if (auto* frame = dynamic_cast<Frame*>(&control)) return Mark(*frame);
+    if (auto* button = dynamic_cast<Pressable*>(&control)) return PressIt(*button);
+    return false;
+  }
+
+  bool ChooseIn(ItemList& list) {
+    const bool level = &list == &screen().training_Combo || &list == &screen().prfnr_Comb;
+    // The levels come often, but not so often that they undo all else.
+    if (list.count() == 0 || (level && Below(3) != 0)) return false;
+    return list.Choose(Below(list.count()));
+  }
+  bool Mark(Frame& frame) {
+    if (Below(3) != 0 || !frame.AskMenu()) return false;
+    if (Below(3) == 0) {
+      screen().popPruefung.Dismiss();
+    } else {
+      screen().popPruefung.Choose();
+    }
+    return true;
+  }
+  bool PressIt(Pressable& button) {
+    if (&button == &screen().cmdZurueck) {
+      return Below(10) == 0 && button.Reachable() && LeaveAndReturn();
+    }
+    if (&button == &screen().cmdOK) return Below(4) == 0 && RunAndReturn();
+    if (&button == &screen().cmdOptionSave) {
+      dialog.to_save = Below(2) == 0 ? std::optional<std::string>("walk.xml") : std::nullopt;
+    } else if (&button == &screen().cmdOptionRead) {
+      const bool file = Below(4) == 0 && test_files.files.contains("walk.xml");
+      dialog.to_open = file ? std::optional<std::string>("walk.xml") : std::nullopt;
+    }
+    // The state that the button's colour tells holds while a sample plays too.
+    const bool ready = screen().cmdOK.back_color == kOkBereit;
+    if (!button.Press()) return false;
+    if (&button == &screen().klang_alle[0]) alle_ = ready;
+    return true;
+  }
+  bool LeaveAndReturn() {
+    Reopen();
+    reopened_ = true;
+    return true;
+  }
+  bool RunAndReturn() {
+    if (!screen().cmdOK.Press()) return false;
+    ++runs_;
+    loop.Advance(200);
+    if (program.arbeitsblatt1() == nullptr) throw std::runtime_error("no run was started");
+    worksheet().zurueck.Press();
+    loop.Advance(1000);
+    slot_moved_ = true;
+    return true;
+  }
+  bool Sampling() { return output.IsRunning() || screen().klangprobe.enabled; }
+
+  /// Whether a run can start from what is chosen. `alle_`: all kinds were taken by the button while
+  /// OK was ready. The other exception is a screen that was opened anew and shows the other
+  /// material.
+  bool CanStart() {
+    alle_ = alle_ && KindsOffered().empty() && Groups().empty();
+    if (alle_ || settings().akk_form != screen().aus_w.chosen()) return true;
+    const std::size_t groups = Groups().size();
+    if (settings().akk_form == 1) return groups >= 2;
+    const std::vector<int> kinds = Kinds();
+    if (kinds.empty()) return false;
+    if (kinds == std::vector<int>{3}) return true;
+    return groups >= (kinds[0] == 3 ? 1u : 2u);
+  }
+  std::string OkTrouble() {
+    const Button& ok = screen().cmdOK;
+    if (ok.enabled && !CanStart()) return "OK is ready without a selection";
+    if (ok.enabled && ok.back_color != kOkBereit) return "OK is ready and red";
+    if (!Sampling() && ok.enabled != (ok.back_color == kOkBereit)) return "OK is locked and green";
+    if (ok.caption != (ok.back_color == kOkBereit ? Wort(432) : Wort(139))) return "caption of OK";
+    return "";
+  }
+  /// Fields that a screen opened anew does not show keep their values until their option is taken;
+  /// a run leaves `klang_kanal` at its last channel.
+  std::string OptionTrouble() {
+    const std::pair<int, const OptionGroup*> pairs[] = {
+        {settings().frequenz_art, &screen().frequenz},
+        {settings().grundton_betont, &screen().betonung},
+        {settings().klangfarb_art, &screen().kl_farb},
+        {settings().akk_form, &screen().aus_w}};
+    for (const auto& [field, group] : pairs) {
+      if (field != group->chosen() && (group->chosen() != 0 || !reopened_)) return "an option";
+    }
+    if (screen().ComboPatch.list_index() == settings().patch_ar.at(settings().klang_kanal)) {
+      slot_moved_ = false;
+    } else if (!slot_moved_) {
+      return "ComboPatch";
+    }
+    return "";
+  }
+  std::string LockTrouble() {
+    for (const Control* control : screen().controls()) {
+      if (!control->Reachable()) continue;
+      const Control* frame = control->container;
+      if (frame != nullptr && !frame->enabled) return control->Id() + " in a locked frame";
+      const int f = frame != nullptr && frame->name() == "grdeinst" ? frame->index() : -1;
+      const bool exam = f == 2 || f == 3 || f == 5 || f == 7 || f == 11;
+      if (settings().uebmodus == 4 && exam) return control->Id() + " in an exam";
+      if (settings().uebmodus == 2 && f >= 0 && f != 8 && f != 14 && f != 15) {
+        return control->Id() + " in a training that was taken up";
+      }
+      if (settings().uebmodus == 2 && control == &screen().temp_Combo) return "tempo";
+    }
+    return "";
+  }
+  std::string Trouble() {
+    for (std::string trouble :
+         {RangeTrouble(settings()), ListTrouble(screen()), StepTrouble(screen(), settings()),
+          OkTrouble(), OptionTrouble(), LockTrouble()}) {
+      if (!trouble.empty()) return trouble;
+    }
+    return "";
+  }
+  void Go(unsigned seed, int events) {
+    Begin(seed);
+    for (int delivered = 0; delivered < events;) {
+      ASSERT_NO_THROW(delivered += Step() ? 1 : 0) << seed << ' ' << delivered << ' ' << event_;
+      ASSERT_NE(program.einstellung1(), nullptr) << seed << ' ' << delivered << ' ' << event_;
+      ASSERT_EQ(Trouble(), "") << seed << ' ' << delivered << ' ' << event_;
+    }
+    EXPECT_GT(runs_, 0);
+    EXPECT_TRUE(host.errors.empty());
+  }
+
+  std::mt19937 engine_;
+  std::string event_;
+  bool alle_ = false;
+  bool reopened_ = false;
+  bool slot_moved_ = false;
+  int runs_ = 0;
+};
+
+class WalkFrom : public Walk, public ::testing::WithParamInterface<unsigned> {};
+
+TEST_P(WalkFrom, KeepsListsFieldsAndButtonsInOrderForTwelveThousandEvents) {
+  Go(GetParam(), 12000);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, WalkFrom, ::testing::Range(1u, 11u));
+
+}  // namespace
+}  // namespace vmod17
