@@ -115,6 +115,8 @@ Platform Desktop::MakePlatform() {
           view_,
           *output_,
           random_,
+          dialog_,
+          test_files_,
           [this] { return store_.Service(); },
           [this] { return std::make_unique<SharedLanguages>(languages_); },
           PugiDocumentFactory(UserDataFolder(), [this](const Notice& notice) { Tell(notice); })};

@@ -11,11 +11,13 @@
 #include "app/program.h"
 #include "platform/midi/midi_device_output.h"
 #include "platform/qt/qt_event_loop.h"
+#include "platform/qt/qt_file_dialog.h"
 #include "platform/qt/qt_language.h"
 #include "platform/qt/qt_message_box.h"
 #include "platform/qt/qt_system.h"
 #include "platform/qt/qt_view.h"
 #include "platform/store/host_store.h"
+#include "platform/xml/pugi_test_files.h"
 #include "shell/uniform_random.h"
 
 namespace vmod17 {
@@ -53,6 +55,8 @@ class Desktop {
   QtLanguageList languages_;
   QtView view_{loop_};
   QtMessageBox messages_{[this] { return view_.Window(); }};
+  QtFileDialog dialog_{[this] { return view_.Window(); }};
+  PugiTestFiles test_files_;
   std::unique_ptr<Notices> notices_;  // before those that tell, so that it goes after them
   std::unique_ptr<MidiDeviceOutput> output_;
   HostStore store_;

@@ -67,7 +67,7 @@ class TestFileError : public RunTimeError {
 ///       </setting>
 ///     </test>
 ///
-/// The `value` of an option is True; that of a list is the entry's own value, or its place.
+/// The content of `value` is a list entry's own value, or True where the index says it all.
 class TestFiles {
  public:
   virtual ~TestFiles() = default;

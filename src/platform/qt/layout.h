@@ -21,19 +21,25 @@ namespace vmod17 {
 
 /// How a control is dressed. What does not suit the control's kind is taken as kPlain.
 enum class Look {
-  kPlain,    ///< a label without ground, a button like the others, a frame that is not seen
-  kCard,     ///< a frame as a white card
-  kHeading,  ///< a label above its group
-  kQuiet,    ///< a label or button that steps back
-  kPrimary,  ///< the button that leads on
-  kLarge,    ///< a button to be hit quickly
-  kTile,     ///< the picture of a tile, in the tile's frame
-  kMark,     ///< a panel that shows a result
-  kNotice    ///< a frame that stands above all others
+  kPlain,      ///< a label without ground, a button like the others, a frame that is not seen
+  kCard,       ///< a frame as a white card
+  kSmallCard,  ///< the same with a lower head, which tells when the frame is locked
+  kHeading,    ///< a label above its group
+  kHint,       ///< a label that tells what is missing
+  kQuiet,      ///< a label or button that steps back
+  kPrimary,    ///< the button that leads on
+  kLarge,      ///< a button to be hit quickly
+  kTile,       ///< the picture of a tile, in the tile's frame
+  kMark,       ///< a panel that shows a result
+  kNotice      ///< a frame that stands above all others
 };
 
 /// The head of a card, which shows the colour that the program gives it.
 inline constexpr double kCardHead = 38;
+inline constexpr double kSmallCardHead = 30;
+
+/// The height of an entry in a list box.
+inline constexpr double kListRow = 23;
 
 struct Placement {
   QRectF rect;
@@ -62,6 +68,9 @@ struct Layout {
   std::map<std::string, Placement> places;  ///< by Id; a control without a place is not shown
   std::vector<KeyBinding> keys;
   std::vector<Backdrop> backdrops;
+  std::vector<QRectF> sections;  ///< grounds on which what belongs together stands
+  std::vector<std::string>
+      vacancies;  ///< frames that leave a quiet empty place while they are hidden
   /// Where the keyboard's focus goes when its control cannot keep it, best first; a name without
   /// index stands for all of the array.
   std::vector<std::string> refuge;

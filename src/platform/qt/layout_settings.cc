@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <algorithm>
-#include <set>
+#include <array>
+#include <string>
 #include <vector>
 
 #include "platform/qt/layout.h"
@@ -11,239 +12,278 @@
 namespace vmod17 {
 namespace {
 
-constexpr double kTitle = 56;
-constexpr double kBar = 84;
-constexpr double kGap = 14;
-constexpr double kColumnGap = 16;
-constexpr double kWidest = 360;  // of a column
-constexpr double kContent = 1000;
+constexpr double kTitle = 44;
+constexpr double kBar = 72;
+constexpr double kGap = 10;         // between two cards
+constexpr double kRing = 7;         // of a section's ground around its cards
+constexpr double kSectionGap = 10;  // between two sections
 
-constexpr double kMargin = 18;  // within a frame
-constexpr double kHeading = 22;
-constexpr double kRow = 34;
-constexpr double kRowStep = 42;
-constexpr double kFirstRow = kCardHead + 10;
-constexpr double kLists = 116;
+constexpr double kMargin = 10;  // within a card
+constexpr double kHead = kSmallCardHead;
+constexpr double kOption = 34;
+constexpr double kRow = 36;
+constexpr double kNote = 20;
+constexpr double kMover = 30;  // the buttons between two lists
 
-// What the program does not offer yet. Its place is planned, so that the rest need not move.
-const std::set<std::string> kNichtAngeboten = {
-    "grdeinst(2)",   "grdeinst(3)", "grdeinst(7)", "grdeinst(8)",   "grdeinst(11)", "grdeinst(14)",
-    "geinst_lb(15)", "kl_farb(0)",  "kl_farb(1)",  "Channel_Combo", "ComboPatch",   "lb15(2)"};
+// The columns of cards. The first two tell what is asked, the next two how it sounds, the last one
+// how a run goes: each of these stands on a ground of its own.
+constexpr double kBasics = 172;
+constexpr double kLists = 330;
+constexpr double kLoudness = 134;
+constexpr double kManner = 148;
+constexpr double kRun = 138;
 
-bool Offered(const std::string& id) { return !kNichtAngeboten.contains(id); }
+// All columns end at one height, and so do the cards beside each other.
+constexpr double kTotal = 528;
+constexpr double kOptions = kHead + 2 * kOption + 18;
+constexpr double kLast = kTotal - kOptions;
+constexpr double kLastButOne = kLast - kGap - kOptions;
+constexpr double kKinds = 208;
+constexpr double kSoundCheck = 160;
+constexpr double kChords = kHead + 10 + kRow + 14;
 
-// The frames by column, in the order in which one decides: what is to be named and out of what, how
-// it sounds, how a run goes.
-const std::vector<std::vector<int>> kColumns = {
-    {8, 3, 7, 12}, {11, 2}, {15, 14, 10, 17, 0}, {4, 1, 9, 5}};
+struct Card {
+  int frame;
+  QRectF rect;
+};
 
-/// Puts the controls of a frame into its rows.
-class FrameBuilder {
+constexpr double Sum(double a, double b) { return a + kGap + b; }
+
+/// The cards of each section, in the order in which one decides; places count from the upper left
+/// corner of the first.
+std::vector<std::vector<Card>> Sections() {
+  const double lists = Sum(kBasics, 0);
+  const double sound = Sum(kBasics, kLists) + 2 * kRing + kSectionGap;
+  const double manner = Sum(sound + kLoudness, 0);
+  const double run = manner + kManner + 2 * kRing + kSectionGap;
+  const double check = kLast - kGap - kSoundCheck;
+  const double range = kChords + kGap;
+  return {{{8, {0, 0, kBasics, kLastButOne - kGap - kOptions - kGap}},
+           {3, {0, kLastButOne - kGap - kOptions, kBasics, kOptions}},
+           {7, {0, kLastButOne, kBasics, kOptions}},
+           {12, {0, kLast, kBasics, kOptions}},
+           {11, {lists, 0, kLists, kKinds}},
+           {2, {lists, kKinds + kGap, kLists, kTotal - kKinds - kGap}}},
+          {{15, {sound, 0, Sum(kLoudness, kManner), check - kGap}},
+           {14, {sound, check, kLoudness, kSoundCheck}},
+           {10, {manner, check, kManner, kSoundCheck}},
+           {17, {sound, kLast, kLoudness, kOptions}},
+           {0, {manner, kLast, kManner, kOptions}}},
+          {{4, {run, 0, kRun, kChords}},
+           {1, {run, range, kRun, kLastButOne - kGap - range}},
+           {9, {run, kLastButOne, kRun, kOptions}},
+           {5, {run, kLast, kRun, kOptions}}}};
+}
+
+/// Puts the controls of a frame into its card.
+class CardBuilder {
  public:
-  FrameBuilder(Layout& layout, int frame, double x, double y, double width)
-      : layout_(layout), frame_(frame), x_(x), y_(y), width_(width), next_(y + kFirstRow) {
-    Heading(IdOf("geinst_lb", frame));
-  }
-  /// Enters the frame itself. Returns where it ends.
-  double Close() {
-    layout_.places[IdOf("grdeinst", frame_)] = {
-        .rect = QRectF(x_, y_, width_, next_ + 6 - y_), .look = Look::kCard, .named_by = heading_};
-    return next_ + 6;
-  }
-
-  void Heading(const std::string& id) {
-    heading_ = id;
-    layout_.places[id] = {
-        .rect = QRectF(Left(), y_ + (kCardHead - kHeading) / 2, Inside(), kHeading),
+  CardBuilder(Layout& layout, const Card& card, const QPointF& corner)
+      : layout_(layout), card_(card.rect.translated(corner)), next_(card_.top() + kHead + 8) {
+    // The loudness has no caption but that of its slider.
+    heading_ = card.frame == 14 ? "lb14(0)" : IdOf("geinst_lb", card.frame);
+    layout_.places[IdOf("grdeinst", card.frame)] = {
+        .rect = card_, .look = Look::kSmallCard, .named_by = heading_};
+    layout_.places[heading_] = {
+        .rect = QRectF(Left(), card_.top() + 3, Inside() - kLock, kHead - 4),
         .look = Look::kHeading,
-        .text = 15,
+        .text = 14,
         .bold = true};
   }
-  void Options(const std::string& name) {
-    const double half = Inside() / 2;
+
+  void Options(const std::string& name) { Options(name, Inside()); }
+  void Options(const std::string& name, double width) {
     for (int i = 0; i < 2; ++i) {
-      layout_.places[IdOf(name, i)] = {.rect = QRectF(Left() + i * half, next_, half - 6, kRow),
-                                       .text = 15};
+      layout_.places[IdOf(name, i)] = {.rect = QRectF(Left() - 2, next_, width + 4, kOption),
+                                       .text = 14};
+      next_ += kOption;
     }
-    next_ += kRowStep;
   }
-  void List(const std::string& id) { Place(id, Left(), Inside(), heading_); }
+  void List(const std::string& id) { List(id, heading_); }
+  /// With room for two lines.
+  void LongList(const std::string& id) {
+    List(id, heading_);
+    layout_.places[id].rect.setHeight(kRow + 8);
+    next_ += 8;
+  }
   void NamedList(const std::string& label, const std::string& id) {
-    const double side = Inside() * 0.38;
-    Text(label, Left(), side - 8);
-    Place(id, Left() + side, Inside() - side, label);
+    next_ += 6;
+    Note(label, Left(), Inside());
+    next_ += kNote;
+    List(id, label);
   }
-  void ListWithUnit(const std::string& id, const std::string& unit) {
-    constexpr double kUnit = 52;
-    Text(unit, Left() + Inside() - kUnit + 8, kUnit - 8);
-    Place(id, Left(), Inside() - kUnit, heading_);
-  }
-  void TwoLists(const std::string& name, const std::string& labels) {
-    const double half = (Inside() - 12) / 2;
+  /// Two lists with their buttons between them, and the hint under the second one.
+  void ListPair(const std::string& lists, const std::string& labels, const std::string& buttons,
+                int entries) {
+    const double width = (Inside() - kMover - 12) / 2;
+    const double height = entries * kListRow + 4;
+    const double top = next_ + kNote;
     for (int i = 0; i < 2; ++i) {
-      const double left = Left() + i * (half + 12);
-      layout_.places[IdOf(labels, i)] = {
-          .rect = QRectF(left, next_, half, 20), .look = Look::kQuiet, .text = 13};
-      layout_.places[IdOf(name, i)] = {.rect = QRectF(left, next_ + 22, half, kLists),
-                                       .named_by = IdOf(labels, i)};
+      const double left = i == 0 ? Left() : card_.right() - kMargin - width;
+      Note(IdOf(labels, i), left, width);
+      layout_.places[IdOf(lists, i)] = {
+          .rect = QRectF(left, top, width, height), .text = 13, .named_by = IdOf(labels, i)};
+      layout_.places[IdOf(buttons, i)] = {
+          .rect = QRectF(Left() + width + 6, top + height / 2 - 38 + i * 40, kMover, 36),
+          .text = 18,
+          .align = Qt::AlignCenter};
     }
-    next_ += 22 + kLists + 8;
+    layout_.places[IdOf(labels, 2)] = {
+        .rect = QRectF(card_.right() - kMargin - width, top + height + 3, width, kNote),
+        .look = Look::kHint,
+        .text = 14,
+        .bold = true};
   }
-  void Hint(const std::string& id) {
-    layout_.places[id] = {.rect = QRectF(Left(), next_, Inside(), 20), .text = 13, .bold = true};
-    next_ += 24;
+  void Groups() {
+    Note("lb2(3)", Left(), Inside());
+    next_ += kNote + 4;
+    ListPair("grplst", "lb2", "grp_alle", 8);
   }
-  void Button(const std::string& id) {
-    layout_.places[id] = {
-        .rect = QRectF(Left(), next_, Inside(), kRow), .text = 15, .align = Qt::AlignCenter};
-    next_ += kRowStep;
+  void Loudness() {
+    constexpr double kNumber = 30;
+    layout_.places["HSliderVolume"] = {
+        .rect = QRectF(Left() - 4, next_ + 4, Inside() - kNumber, kRow), .named_by = heading_};
+    layout_.places["lb14(1)"] = {
+        .rect = QRectF(Left() + Inside() - kNumber, next_ + 4, kNumber, kRow),
+        .text = 14,
+        .align = Qt::AlignRight | Qt::AlignVCenter};
+    layout_.places["klang_contr"] = {.rect = QRectF(Left(), card_.bottom() - 16 - 44, Inside(), 44),
+                                     .text = 14,
+                                     .align = Qt::AlignCenter};
   }
-  void Slider(const std::string& label, const std::string& id, const std::string& value) {
-    const double side = Inside() * 0.34;
-    Text(label, Left(), side - 8);
-    Text(value, Left() + Inside() - 38, 38);
-    Place(id, Left() + side, Inside() - side - 46, label);
+  void Timbre() {
+    const double half = (Inside() - 8) / 2;
+    const double right = Left() + half + 8;
+    layout_.places["Channel_Combo"] = {
+        .rect = QRectF(right, next_ + 2, half, kRow), .text = 14, .named_by = "lb15(2)"};
+    Note("lb15(2)", right, half, next_ + 2 + kRow + 4);
+    Options("kl_farb", half);
+    next_ += 8;
+    List("ComboPatch");
+    next_ += 12;
+    constexpr double kUnit = 44;
+    const double label = 62;
+    layout_.places["lb15(0)"] = {.rect = QRectF(Left(), next_, label, kRow), .text = 14};
+    layout_.places["lb15(1)"] = {
+        .rect = QRectF(Left() + Inside() - kUnit + 6, next_, kUnit - 6, kRow), .text = 14};
+    layout_.places["temp_Combo"] = {
+        .rect = QRectF(Left() + label, next_, Inside() - label - kUnit, kRow),
+        .text = 14,
+        .named_by = "lb15(0)"};
   }
 
  private:
-  double Left() const { return x_ + kMargin; }
-  double Inside() const { return width_ - 2 * kMargin; }
-  void Text(const std::string& id, double left, double width) {
-    layout_.places[id] = {.rect = QRectF(left, next_, width, kRow), .text = 15};
+  static constexpr double kLock = 15;  // room for the sign of a locked card
+
+  double Left() const { return card_.left() + kMargin; }
+  double Inside() const { return card_.width() - 2 * kMargin; }
+  void List(const std::string& id, const std::string& name) {
+    layout_.places[id] = {
+        .rect = QRectF(Left(), next_ + 2, Inside(), kRow), .text = 14, .named_by = name};
+    next_ += kRow + 6;
   }
-  void Place(const std::string& id, double left, double width, const std::string& name) {
-    layout_.places[id] = {.rect = QRectF(left, next_, width, kRow), .text = 15, .named_by = name};
-    next_ += kRowStep;
+  void Note(const std::string& id, double left, double width) { Note(id, left, width, next_); }
+  void Note(const std::string& id, double left, double width, double top) {
+    layout_.places[id] = {
+        .rect = QRectF(left, top, width, kNote), .look = Look::kQuiet, .text = 13};
   }
 
   Layout& layout_;
-  int frame_;
-  double x_, y_, width_, next_;
+  QRectF card_;
+  double next_;
   std::string heading_;
 };
 
-void FillSound(FrameBuilder& builder) {
-  if (!Offered("kl_farb(0)")) builder.Heading("lb15(0)");
-  builder.ListWithUnit("temp_Combo", "lb15(1)");
-  if (!Offered("kl_farb(0)")) return;
-  builder.Options("kl_farb");
-  builder.NamedList("lb15(2)", "Channel_Combo");
-  builder.List("ComboPatch");
+/// The option groups that fill a card alone, by frame.
+const std::map<int, std::string>& OptionCards() {
+  static const std::map<int, std::string> cards = {
+      {0, "frequenz"}, {3, "akk_grp"},   {5, "abfrage"},  {7, "aus_w"},
+      {9, "Tonart"},   {12, "akk_anzg"}, {17, "betonung"}};
+  return cards;
 }
 
-void FillFrame(FrameBuilder& builder, int frame) {
+void FillCard(CardBuilder& card, int frame) {
+  if (const auto options = OptionCards().find(frame); options != OptionCards().end()) {
+    return card.Options(options->second);
+  }
   switch (frame) {
-    case 0:
-      return builder.Options("frequenz");
     case 1:
-      builder.List("oktav_cmb");
-      return builder.NamedList("lb1", "Combo_tonraum");
+      card.List("oktav_cmb");
+      return card.NamedList("lb1", "Combo_tonraum");
     case 2:
-      builder.Hint("lb2(3)");
-      builder.TwoLists("grplst", "lb2");
-      return builder.Hint("lb2(2)");
-    case 3:
-      return builder.Options("akk_grp");
+      return card.Groups();
     case 4:
-      return builder.List("akkzahl_cmb");
-    case 5:
-      return builder.Options("abfrage");
-    case 7:
-      return builder.Options("aus_w");
+      return card.List("akkzahl_cmb");
     case 8:
-      builder.List("training_Combo");
-      return builder.List("prfnr_Comb");
-    case 9:
-      return builder.Options("Tonart");
+      card.List("training_Combo");
+      return card.List("prfnr_Comb");
     case 10:
-      builder.List("arpeg_cmb");
-      return builder.NamedList("lb10", "cmb_arpTmp");
+      card.LongList("arpeg_cmb");
+      return card.NamedList("lb10", "cmb_arpTmp");
     case 11:
-      builder.TwoLists("klanglst", "lb11");
-      return builder.Hint("lb11(2)");
-    case 12:
-      return builder.Options("akk_anzg");
+      return card.ListPair("klanglst", "lb11", "klang_alle", 5);
     case 14:
-      builder.Slider("lb14(0)", "HSliderVolume", "lb14(1)");
-      return builder.Button("klang_contr");
+      return card.Loudness();
     case 15:
-      return FillSound(builder);
-    case 17:
-      return builder.Options("betonung");
+      return card.Timbre();
     default:
       return;
   }
 }
 
-std::vector<std::vector<int>> OfferedColumns() {
-  std::vector<std::vector<int>> columns;
-  for (std::vector<int> column : kColumns) {
-    std::erase_if(column, [](int frame) { return !Offered(IdOf("grdeinst", frame)); });
-    if (!column.empty()) columns.push_back(column);
-  }
-  return columns;
-}
-
-/// The columns, from the upper left corner of the block. Returns its size.
-QSizeF FillColumns(Layout& layout, const QPointF& corner) {
-  const std::vector<std::vector<int>> columns = OfferedColumns();
-  const auto count = static_cast<double>(columns.size());
-  const double width = std::min(kWidest, (kContent - (count - 1) * kColumnGap) / count);
-  double x = corner.x();
-  double bottom = corner.y();
-  for (const std::vector<int>& column : columns) {
-    double y = corner.y();
-    for (const int frame : column) {
-      FrameBuilder builder(layout, frame, x, y, width);
-      FillFrame(builder, frame);
-      y = builder.Close() + kGap;
+void FillCards(Layout& layout, const QPointF& corner) {
+  for (const std::vector<Card>& section : Sections()) {
+    QRectF ground;
+    for (const Card& card : section) {
+      CardBuilder builder(layout, card, corner);
+      FillCard(builder, card.frame);
+      ground |= card.rect;
     }
-    bottom = std::max(bottom, y - kGap);
-    x += width + kColumnGap;
+    layout.sections.push_back(ground.translated(corner).adjusted(-kRing, -kRing, kRing, kRing));
   }
-  return QSizeF(x - kColumnGap - corner.x(), bottom - corner.y());
 }
 
 void FillBar(Layout& layout, const QRectF& bar) {
-  const double middle = bar.center().y() + 8;
-  layout.places["cmdZurueck"] = {
-      .rect = QRectF(bar.left(), middle - 23, 140, 46), .text = 16, .align = Qt::AlignCenter};
-  layout.places["cmdHilfe"] = {.rect = QRectF(bar.left() + 156, middle - 22, 44, 44),
-                               .look = Look::kQuiet,
-                               .text = 20,
-                               .align = Qt::AlignCenter};
-  layout.places["cmdOK"] = {.rect = QRectF(bar.right() - 220, middle - 27, 220, 54),
-                            .look = Look::kPrimary,
-                            .text = 20,
-                            .align = Qt::AlignCenter,
-                            .bold = true};
+  const double middle = bar.center().y() + 6;
+  const auto button = [&](const std::string& id, double left, double width, double height,
+                          Look look, double text) {
+    layout.places[id] = {.rect = QRectF(left, middle - height / 2, width, height),
+                         .look = look,
+                         .text = text,
+                         .align = Qt::AlignCenter,
+                         .bold = look == Look::kPrimary};
+  };
+  button("cmdZurueck", bar.left(), 140, 46, Look::kPlain, 16);
+  button("cmdHilfe", bar.left() + 156, 44, 44, Look::kQuiet, 20);
+  button("cmdOptionRead", bar.right() - 260 - 24 - 210 - 12 - 150, 150, 40, Look::kQuiet, 14);
+  button("cmdOptionSave", bar.right() - 260 - 24 - 210, 210, 40, Look::kQuiet, 14);
+  button("cmdOK", bar.right() - 260, 260, 56, Look::kPrimary, 22);
 }
 
 }  // namespace
 
 Layout LayoutSettings(const Form&, const QSizeF& page) {
-  Layout measured;
-  const QSizeF columns = FillColumns(measured, QPointF(0, 0));
-  const double height = kTitle + columns.height() + kBar;
-  const double x = (page.width() - columns.width()) / 2;
+  Layout layout;
+  const QRectF last = Sections().back().back().rect;
+  const double width = last.right() + 2 * kRing;
+  const double height = kTitle + kTotal + 2 * kRing + kBar;
+  const double x = (page.width() - width) / 2;
   const double y = (page.height() - height) / 2;
 
-  Layout layout;
-  layout.title = QRectF(x, y, columns.width(), kTitle - 12);
+  layout.title = QRectF(x + kRing, y, width - 2 * kRing, kTitle - 8);
   layout.title_color = look::kText;
   layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
-  FillColumns(layout, QPointF(x, y + kTitle));
-  const QRectF bar(x, y + kTitle + columns.height(), columns.width(), kBar);
+  FillCards(layout, QPointF(x + kRing, y + kTitle + kRing));
+  const QRectF bar(x, y + height - kBar, width, kBar);
   FillBar(layout, bar);
-  layout.places["aktionsbox"] = {
-      .rect = QRectF(x, y + kTitle, columns.width(), columns.height() + kBar)};
-  std::erase_if(layout.places, [](const auto& place) { return !Offered(place.first); });
+  layout.places["aktionsbox"] = {.rect = QRectF(x, y + kTitle, width, height - kTitle)};
+  layout.vacancies = {"grdeinst(2)", "grdeinst(11)", "grdeinst(12)"};
 
   layout.keys = {{QKeySequence(Qt::Key_Escape), {"cmdZurueck"}}};
   layout.tab_by_column = true;
   layout.default_control = "cmdOK";
   layout.focus_first = "cmdOK";
-  layout.refuge = {"cmdOK", "temp_Combo", "cmdZurueck"};
+  layout.refuge = {"cmdOK", "HSliderVolume", "temp_Combo", "cmdZurueck"};
   return layout;
 }
 

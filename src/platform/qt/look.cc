@@ -100,6 +100,17 @@ void DrawCardHead(QPainter& painter, const QRectF& box, double height, const QCo
   painter.fillPath(path, fill);
 }
 
+void DrawSlot(QPainter& painter, const QRectF& box, double factor) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  QPen pen(kSlotLine, factor);
+  pen.setDashPattern({5, 4});
+  painter.setPen(pen);
+  painter.setBrush(kSlot);
+  const double half = factor / 2;
+  painter.drawRoundedRect(box.adjusted(half, half, -half, -half - 2 * factor), kCardRadius * factor,
+                          kCardRadius * factor);
+}
+
 void DrawFocusRing(QPainter& painter, const QRectF& box, double radius, double factor) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);

@@ -20,6 +20,11 @@ namespace vmod17::look {
 
 inline const QColor kPage{0xF2, 0xF4, 0xF8};
 inline const QColor kCard{0xFF, 0xFF, 0xFF};
+inline const QColor kSection{0xE4, 0xE9, 0xF2};
+inline const QColor kSlot{0xE9, 0xED, 0xF5};
+inline const QColor kSlotLine{0xCB, 0xD4, 0xE2};
+inline const QColor kLockedCard{0xF4, 0xF2, 0xF4};
+inline const QColor kHint{0xC0, 0x10, 0x20};
 inline const QColor kLine{0xD9, 0xDF, 0xE8};
 inline const QColor kText{0x1E, 0x26, 0x33};
 inline const QColor kQuietText{0x5A, 0x65, 0x75};
@@ -67,6 +72,8 @@ void DrawCard(QPainter& painter, const QRectF& box, const QColor& fill, double f
 /// The upper part of a card in a colour of its own; `box` is the card's.
 void DrawCardHead(QPainter& painter, const QRectF& box, double height, const QColor& fill,
                   double factor);
+/// Where a card would stand that is not there.
+void DrawSlot(QPainter& painter, const QRectF& box, double factor);
 /// The ring around what has the keyboard's focus, within `box`.
 void DrawFocusRing(QPainter& painter, const QRectF& box, double radius, double factor);
 

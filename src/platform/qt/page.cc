@@ -4,6 +4,7 @@
 #include "platform/qt/page.h"
 
 #include <QButtonGroup>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -33,7 +34,12 @@ double Distance(const QPointF& from, const QPointF& to, int key) {
 }  // namespace
 
 Page::Page(Form& form, QtEventLoop& loop, PictureSource& pictures, QWidget* parent)
-    : QWidget(parent), form_(&form), loop_(loop), style_{pictures}, site_{style_, {}, {}, {}} {
+    : QWidget(parent),
+      form_(&form),
+      loop_(loop),
+      style_{pictures},
+      site_{style_, {}, {}, {}},
+      menu_(*this, [this](const EventLoop::Handler& handler) { Deliver(handler); }) {
   setObjectName(QString::fromStdString(form.name()));
   setFocusPolicy(Qt::ClickFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -96,6 +102,10 @@ void Page::Refresh() {
     update();
   }
   KeepFocus(before);
+  constexpr double kMenuText = 15;
+  menu_.Refresh(
+      *form_, [this](const Control& control) { return MenuPlace(control); },
+      kMenuText * style_.factor);
 }
 
 void Page::Arrange(const QSize& size) {
@@ -130,9 +140,15 @@ void Page::PlaceBackdrops() {
     cards.push_back(
         {Pixels(place), control->back_color ? look::ToQ(*control->back_color) : look::kCard});
   }
+  std::vector<QRect> vacancies;
+  for (const std::string& id : layout_.vacancies) {
+    const Control* const control = FindControl(*form_, id);
+    if (control != nullptr && !control->visible) vacancies.push_back(Pixels(PlaceOf(*control)));
+  }
   const QRect title_place = Pixels(layout_.title);
-  if (cards == cards_ && title_place == title_place_) return;
+  if (cards == cards_ && vacancies == vacancies_ && title_place == title_place_) return;
   cards_ = std::move(cards);
+  vacancies_ = std::move(vacancies);
   title_place_ = title_place;
   update();
 }
@@ -188,6 +204,7 @@ void Page::Deliver(const EventLoop::Handler& handler) {
 }
 
 void Page::Release() {
+  menu_.Close();
   form_ = nullptr;
   bindings_.clear();
   by_control_.clear();
@@ -207,6 +224,9 @@ Pressable* Page::PressableOf(const std::string& id) const {
 bool Page::HandleKey(const QKeyEvent& event) {
   if (event.key() == Qt::Key_F1) return true;
   if (form_ == nullptr || !form_->visible || event.isAutoRepeat()) return false;
+  const bool menu_key = event.key() == Qt::Key_Menu ||
+                        (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+  if (menu_key) return AskMenuOf(FrameWithFocus(), QPoint(-1, -1));
   std::vector<std::string> ids;
   const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
   if (enter && !layout_.default_control.empty()) ids = {layout_.default_control};
@@ -226,6 +246,49 @@ bool Page::HandleKey(const QKeyEvent& event) {
 
 void Page::keyPressEvent(QKeyEvent* event) {
   if (!HandleKey(*event)) event->ignore();
+}
+
+// --- the menu of a frame
+
+void Page::contextMenuEvent(QContextMenuEvent* event) {
+  const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
+  Frame* const frame = by_key ? FrameWithFocus() : FrameAt(event->pos());
+  if (!AskMenuOf(frame, by_key ? QPoint(-1, -1) : event->pos())) event->ignore();
+}
+
+/// Goes by places and not by widgets, since a widget that is locked takes no events.
+Frame* Page::FrameAt(const QPoint& point) const {
+  for (const auto& binding : bindings_) {
+    auto* const frame = dynamic_cast<Frame*>(&binding->control());
+    if (frame == nullptr || !frame->visible || !frame->MenuAsked) continue;
+    if (Pixels(PlaceOf(*frame)).contains(point)) return frame;
+  }
+  return nullptr;
+}
+
+Frame* Page::FrameWithFocus() const {
+  const QWidget* const focus = window()->focusWidget();
+  for (const auto& binding : bindings_) {
+    auto* const frame = dynamic_cast<Frame*>(&binding->control());
+    if (frame != nullptr && frame->MenuAsked && binding->widget().isAncestorOf(focus)) return frame;
+  }
+  return nullptr;
+}
+
+bool Page::AskMenuOf(Frame* frame, const QPoint& at) {
+  if (form_ == nullptr || frame == nullptr) return false;
+  menu_at_ = at;
+  menu_.Close();  // the one before it
+  Deliver([frame] { frame->AskMenu(); });
+  return true;
+}
+
+/// Under the pointer, or under the head of the frame.
+QPoint Page::MenuPlace(const Control& control) const {
+  const QRect place = Pixels(PlaceOf(control));
+  if (place.contains(menu_at_)) return menu_at_;
+  const double f = style_.factor;
+  return place.topLeft() + QPoint(qRound(12 * f), qRound(kSmallCardHead * f));
 }
 
 // --- the focus
@@ -337,9 +400,19 @@ void Page::PaintBanner(QPainter& painter) const {
   DrawStaff(painter, banner, QColor(255, 255, 255, 46));
 }
 
+/// What stands behind all cards.
+void Page::PaintGround(QPainter& painter) const {
+  const double radius = (look::kCardRadius + 4) * style_.factor;
+  for (const QRectF& section : layout_.sections) {
+    look::DrawPlate(painter, QRectF(Pixels(section)), look::kSection, {}, radius, 0);
+  }
+  for (const QRect& slot : vacancies_) look::DrawSlot(painter, QRectF(slot), style_.factor);
+}
+
 void Page::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), look::kPage);
+  PaintGround(painter);
   for (const Card& card : cards_) {
     look::DrawCard(painter, QRectF(card.rect), card.fill, style_.factor);
   }

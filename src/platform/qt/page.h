@@ -15,6 +15,7 @@
 #include "platform/controls.h"
 #include "platform/qt/binder.h"
 #include "platform/qt/layout.h"
+#include "platform/qt/page_menu.h"
 
 namespace vmod17 {
 
@@ -51,6 +52,7 @@ class Page : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   void Build();
@@ -58,6 +60,10 @@ class Page : public QWidget {
   void NameAndKeys();
   void Place();
   void PlaceBackdrops();
+  Frame* FrameAt(const QPoint& point) const;
+  Frame* FrameWithFocus() const;
+  bool AskMenuOf(Frame* frame, const QPoint& at);
+  QPoint MenuPlace(const Control& control) const;
   QRectF PlaceOf(const Control& control) const;
   QRect Pixels(const QRectF& units) const;
   void OrderTabs();
@@ -72,6 +78,7 @@ class Page : public QWidget {
   void KeepFocus(QWidget* before);
   void RememberFocus(QWidget* focus);
   void PaintBanner(QPainter& painter) const;
+  void PaintGround(QPainter& painter) const;
 
   Form* form_;
   QtEventLoop& loop_;
@@ -85,7 +92,10 @@ class Page : public QWidget {
     bool operator==(const Card&) const = default;
   };
   std::vector<Card> cards_;
+  std::vector<QRect> vacancies_;  // of frames that are hidden
   QRect title_place_;
+  PageMenu menu_;
+  QPoint menu_at_;
   std::vector<std::unique_ptr<Binding>> bindings_;
   std::unordered_map<const Control*, Binding*> by_control_;
   std::map<std::string, QButtonGroup*> option_groups_;

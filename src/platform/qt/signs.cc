@@ -58,6 +58,23 @@ void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const 
   }
 }
 
+void DrawLock(QPainter& painter, const QRectF& box, const QColor& color) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF square = Square(box);
+  const double unit = square.width() / 10;
+  const QPointF corner = square.topLeft();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(color);
+  painter.drawRoundedRect(QRectF(corner + QPointF(1.4, 4.6) * unit, QSizeF(7.2, 5.2) * unit), unit,
+                          unit);
+  QPainterPath shackle(corner + QPointF(3, 5) * unit);
+  shackle.arcTo(QRectF(corner + QPointF(3, 0.9) * unit, QSizeF(4, 4) * unit), 180, -180);
+  shackle.lineTo(corner + QPointF(7, 5) * unit);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(color, 1.3 * unit));
+  painter.drawPath(shackle);
+}
+
 void DrawStaff(QPainter& painter, const QRectF& box, const QColor& color) {
   painter.setRenderHint(QPainter::Antialiasing);
   const double gap = box.height() / 8;

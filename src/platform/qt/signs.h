@@ -15,6 +15,9 @@ namespace vmod17 {
 /// Draws the sign of training or test, as large as the box allows; nothing for other kinds.
 void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const QColor& color);
 
+/// A closed padlock.
+void DrawLock(QPainter& painter, const QRectF& box, const QColor& color);
+
 /// A quiet ornament: five lines of a staff that come forth from the left, with a few chords on
 /// them.
 void DrawStaff(QPainter& painter, const QRectF& box, const QColor& color);

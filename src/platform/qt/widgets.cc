@@ -4,9 +4,11 @@
 #include "platform/qt/widgets.h"
 
 #include <QAbstractItemView>
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -195,6 +197,9 @@ QSizeF TextWidget::TextBox() const {
 QColor TextWidget::Ink() const {
   if (place_.look == Look::kMark && back_) return fore_.value_or(look::TextOn(*back_));
   if (place_.look == Look::kPrimary) return TextColor(look::kAccent);
+  if (place_.look == Look::kHint) return fore_.value_or(look::kHint);
+  // What a locked frame is about is still to be read.
+  if (place_.look == Look::kHeading) return fore_.value_or(look::kText);
   return TextColor(place_.look == Look::kQuiet ? look::kQuietText : look::kText);
 }
 
@@ -251,18 +256,36 @@ void PlateWidget::paintEvent(QPaintEvent*) {
       look::DrawCard(painter, box, look::kCard, style_.factor);
       if (back_) look::DrawCardHead(painter, box, Px(kCardHead), *back_, style_.factor);
       return;
+    case Look::kSmallCard:
+      return PaintSmallCard(painter);
     case Look::kNotice:
       look::DrawPlate(painter, box, back_.value_or(look::kCard), look::kAccent,
                       Px(look::kCardRadius), Px(2));
       return;
     case Look::kPlain:
     case Look::kHeading:
+    case Look::kHint:
     case Look::kQuiet:
     case Look::kPrimary:
     case Look::kLarge:
     case Look::kMark:
       return;
   }
+}
+
+void PlateWidget::PaintSmallCard(QPainter& painter) {
+  const QRectF box(rect());
+  look::DrawCard(painter, box, isEnabled() ? look::kCard : look::kLockedCard, style_.factor);
+  if (back_) look::DrawCardHead(painter, box, Px(kSmallCardHead), *back_, style_.factor);
+  if (isEnabled()) return;
+  const double side = Px(15);
+  DrawLock(painter, QRectF(width() - side - Px(9), (Px(kSmallCardHead) - side) / 2, side, side),
+           back_ ? look::TextOn(*back_) : look::kText);
+}
+
+void PlateWidget::changeEvent(QEvent* event) {
+  QGroupBox::changeEvent(event);
+  if (event->type() == QEvent::EnabledChange) update();
 }
 
 // --- OptionWidget
@@ -303,10 +326,13 @@ DropDownWidget::DropDownWidget(QWidget* parent, const PageStyle& style, const Pl
     : QComboBox(parent), Dressed(*this, style, place) {
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_Hover);
-  setMaxVisibleItems(16);
+  setMaxVisibleItems(15);
+  // Some styles would show all entries at once, from one edge of the screen to the other.
+  setStyleSheet("combobox-popup: 0");
+  setView(new DropDownEntries(this));
 }
 
-QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(42), height()); }
+QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(34), height()); }
 
 void DropDownWidget::showPopup() {
   const QFont font = look::Type(Px(place_.text), look::Weight::kNormal);
@@ -324,11 +350,11 @@ void DropDownWidget::paintEvent(QPaintEvent*) {
                                      : back_.value_or(look::kButton);
   const QColor edge = isEnabled() ? look::kButtonLine : look::kLine;
   look::DrawPlate(painter, box, fill, edge, Px(6), Px(1.2));
-  look::DrawText(painter, box.adjusted(Px(12), 0, -Px(30), 0), caption(), Set(),
+  look::DrawText(painter, box.adjusted(Px(10), 0, -Px(24), 0), caption(), Set(),
                  TextColor(look::kText), Qt::AlignLeft | Qt::AlignVCenter);
   painter.setPen(QPen(isEnabled() ? look::kQuietText : look::kDisabledText, Px(1.8), Qt::SolidLine,
                       Qt::RoundCap, Qt::RoundJoin));
-  const QPointF tip(width() - Px(17), height() / 2.0 + Px(2.5));
+  const QPointF tip(width() - Px(14), height() / 2.0 + Px(2.5));
   painter.drawPolyline(
       QPolygonF{{tip + QPointF(-Px(5), -Px(5)), tip, tip + QPointF(Px(5), -Px(5))}});
   if (ShowsFocus()) look::DrawFocusRing(painter, box, Px(6), style_.factor);
@@ -347,30 +373,106 @@ void DropDownWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 // --- ListWidget
 
+class ListWidget::Delegate : public QStyledItemDelegate {
+ public:
+  explicit Delegate(ListWidget& list) : QStyledItemDelegate(&list), list_(list) {}
+
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+    return QSize(10, static_cast<int>(list_.Px(kListRow)));
+  }
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    painter->save();
+    const double f = list_.style_.factor;
+    const QRectF row = QRectF(option.rect).adjusted(2 * f, f, -2 * f, -f);
+    const bool cursor = list_.hasFocus() && list_.currentRow() == index.row();
+    const bool hovered = list_.isEnabled() && (option.state & QStyle::State_MouseOver);
+    if (cursor || hovered) {
+      const QColor fill = cursor ? look::kPressed : look::kHover;
+      look::DrawPlate(*painter, row, fill, look::kAccent, 4 * f, cursor ? f : 0);
+    }
+    painter->setFont(list_.font());
+    painter->setPen(list_.isEnabled() ? list_.TextColor(look::kText) : look::kQuietText);
+    painter->drawText(row.adjusted(5 * f, -1, 0, 1), Qt::AlignLeft | Qt::AlignVCenter,
+                      index.data().toString());
+    painter->restore();
+  }
+
+ private:
+  ListWidget& list_;
+};
+
 ListWidget::ListWidget(QWidget* parent, const PageStyle& style, const Placement& place)
     : QListWidget(parent), Dressed(*this, style, place) {
   setFrameShape(QFrame::NoFrame);
   setSelectionMode(QAbstractItemView::SingleSelection);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setMouseTracking(true);
+  setItemDelegate(new Delegate(*this));
   viewport()->setAutoFillBackground(false);
+  viewport()->setCursor(Qt::PointingHandCursor);
   connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
     if (choose) choose(row(item));
   });
+}
+
+double ListWidget::RowWidth() const { return width() - Px(12); }
+
+QFont ListWidget::EntryType() const {
+  constexpr double kSmallest = 0.7;
+  const double pixels = Px(place_.text);
+  double widest = 0;
+  const QFontMetricsF metrics(look::Type(pixels, look::Weight::kNormal));
+  for (int i = 0; i < count(); ++i) {
+    widest = std::max(widest, metrics.horizontalAdvance(item(i)->text()));
+  }
+  const double share = widest <= RowWidth() ? 1.0 : std::max(kSmallest, RowWidth() / widest);
+  // Type comes in whole pixels, and smaller type is a little wider than its share.
+  return look::Type(share < 1 ? std::max(pixels * kSmallest, pixels * share - 0.8) : pixels,
+                    look::Weight::kNormal);
+}
+
+bool ListWidget::EntriesFit() const {
+  const QFontMetricsF metrics(EntryType());
+  for (int i = 0; i < count(); ++i) {
+    if (metrics.horizontalAdvance(item(i)->text()) > RowWidth() + 1) return false;
+  }
+  return count() * static_cast<int>(Px(kListRow)) <= height();
+}
+
+void ListWidget::resizeEvent(QResizeEvent* event) {
+  QListWidget::resizeEvent(event);
+  scheduleDelayedItemsLayout();  // the rows grow with the page
 }
 
 void ListWidget::paintEvent(QPaintEvent* event) {
   {
     QPainter painter(viewport());
     const QRectF box(viewport()->rect());
-    look::DrawPlate(painter, box, back_.value_or(look::kButton), look::kButtonLine, Px(6), Px(1.2));
+    const QColor fill = isEnabled() ? back_.value_or(look::kButton) : look::kDisabledFill;
+    look::DrawPlate(painter, box, fill, isEnabled() ? look::kButtonLine : look::kLine, Px(6),
+                    Px(1.2));
     if (ShowsFocus()) look::DrawFocusRing(painter, box, Px(6), style_.factor);
   }
-  setFont(look::Type(Px(place_.text), look::Weight::kNormal));
+  const QFont type = EntryType();
+  if (font() != type) setFont(type);
   QListWidget::paintEvent(event);
 }
 
 void ListWidget::keyPressEvent(QKeyEvent* event) {
   if (!IsEnter(event) && event->key() != Qt::Key_Space) return QListWidget::keyPressEvent(event);
   if (!event->isAutoRepeat() && currentRow() >= 0 && choose) choose(currentRow());
+}
+
+void ListWidget::keyboardSearch(const QString& text) {
+  const int row = search_.Type(text, RowTexts(*this), currentRow());
+  if (row >= 0) setCurrentRow(row);
+}
+
+/// The cursor has a place as soon as the keyboard comes.
+void ListWidget::focusInEvent(QFocusEvent* event) {
+  QListWidget::focusInEvent(event);
+  if (currentRow() < 0 && count() > 0) setCurrentRow(0);
 }
 
 // --- GaugeWidget

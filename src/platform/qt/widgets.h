@@ -15,6 +15,7 @@
 #include <optional>
 
 #include "platform/controls.h"
+#include "platform/qt/entry_list.h"
 #include "platform/qt/layout.h"
 #include "platform/qt/look.h"
 #include "platform/qt/picture_source.h"
@@ -118,6 +119,10 @@ class PlateWidget : public QGroupBox, public Dressed {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void PaintSmallCard(QPainter& painter);
 };
 
 class OptionWidget : public QRadioButton, public Dressed {
@@ -142,15 +147,29 @@ class DropDownWidget : public QComboBox, public Dressed {
   void wheelEvent(QWheelEvent* event) override;
 };
 
+/// A list box. The cursor is where the keyboard is; nothing in it stays chosen.
 class ListWidget : public QListWidget, public Dressed {
  public:
   ListWidget(QWidget* parent, const PageStyle& style, const Placement& place);
   /// The user means this entry.
   std::function<void(int row)> choose;
+  void keyboardSearch(const QString& text) override;
+  /// False when an entry is longer than its row allows at the smallest type.
+  bool EntriesFit() const;
 
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  class Delegate;
+  /// The largest type, up to that of the place, at which all entries fit.
+  QFont EntryType() const;
+  double RowWidth() const;
+
+  TypedSearch search_;
 };
 
 class GaugeWidget : public QProgressBar, public Dressed {

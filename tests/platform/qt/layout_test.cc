@@ -7,10 +7,12 @@
 
 #include <QImage>
 #include <cstdlib>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/qt/look.h"
 #include "platform/qt/page.h"
 #include "platform/qt/qt_event_loop.h"
 #include "spoken_program.h"
@@ -40,6 +42,7 @@ class Shown {
   QWidget& At(const std::string& id) const {
     return *page_.findChild<QWidget*>(QString::fromStdString(id));
   }
+  const QWidget* Find(const QString& name) const { return page_.findChild<QWidget*>(name); }
   QRect OnPage(const QWidget& widget) const {
     return QRect(widget.mapTo(&page_, QPoint(0, 0)), widget.size());
   }
@@ -95,12 +98,21 @@ void ExpectNoCaptionIsCut(Shown& shown) {
   }
 }
 
+void ExpectNoEntryIsCut(Shown& shown) {
+  for (const auto& binding : shown.page().bindings()) {
+    const auto* const list = dynamic_cast<const ListWidget*>(&binding->widget());
+    if (list == nullptr) continue;
+    EXPECT_TRUE(list->EntriesFit()) << binding->control().Id();
+  }
+}
+
 void ExpectWellLaidOut(Form& form) {
   for (const QSize& size : {kSmall, kLarge}) {
     Shown shown(form, size);
     ExpectAllIsOnThePage(shown);
     ExpectNothingCoversAnother(shown);
     ExpectNoCaptionIsCut(shown);
+    ExpectNoEntryIsCut(shown);
   }
 }
 
@@ -119,12 +131,49 @@ TEST_P(LayoutIn, ShowsTheSettingsWholeWithEveryEntryOfTheLists) {
   ExpectWellLaidOut(p.settings_screen());
   for (ItemList* list : {&p.settings_screen().temp_Combo, &p.settings_screen().arpeg_cmb,
                          &p.settings_screen().cmb_arpTmp, &p.settings_screen().oktav_cmb,
-                         &p.settings_screen().Combo_tonraum}) {
+                         &p.settings_screen().Combo_tonraum, &p.settings_screen().akkzahl_cmb,
+                         &p.settings_screen().Channel_Combo, &p.settings_screen().ComboPatch,
+                         &p.settings_screen().training_Combo, &p.settings_screen().prfnr_Comb}) {
     for (int i = 0; i < list->count(); ++i) {
       list->Select(i);
       Shown shown(p.settings_screen(), kSmall);
       ExpectNoCaptionIsCut(shown);
     }
+  }
+}
+
+/// Everything that the screen can show, at once and also in frames that are locked.
+TEST_P(LayoutIn, ShowsTheSettingsWholeInEachOfTheirStates) {
+  SpokenProgram p(GetParam());
+  p.ToSettings();
+  Einstellung1& screen = p.settings_screen();
+  screen.klanglst[1].Select(0);
+  ExpectWellLaidOut(screen);
+  screen.klang_alle[0].Press();
+  ExpectWellLaidOut(screen);
+  screen.grp_alle[0].Press();
+  screen.kl_farb.Check(1);
+  screen.arpeg_cmb.Select(1);
+  ExpectWellLaidOut(screen);
+  screen.aus_w.Check(1);
+  screen.akk_grp.Check(1);
+  ExpectWellLaidOut(screen);
+  screen.training_Combo.Select(4);
+  for (int i = 0; i < 5; ++i) {
+    screen.prfnr_Comb.Select(i);
+    ExpectWellLaidOut(screen);
+  }
+}
+
+TEST_P(LayoutIn, HasAPlaceForEveryControlOfTheSettings) {
+  SpokenProgram p(GetParam());
+  p.ToSettings();
+  const Shown shown(p.settings_screen(), kSmall);
+  for (const Control* control : p.settings_screen().controls()) {
+    const bool never_seen = dynamic_cast<const Timer*>(control) != nullptr ||
+                            dynamic_cast<const PopupMenu*>(control) != nullptr;
+    const QString name = QString::fromStdString(control->Id());
+    EXPECT_EQ(shown.Find(name) == nullptr, never_seen) << control->Id();
   }
 }
 
@@ -205,6 +254,43 @@ TEST(Layout, AlignsTheHeaderWithWhatStandsUnderIt) {
     EXPECT_EQ(header.right(), actions.right());
     EXPECT_LE(std::abs(header.left() - (size.width() - 1 - header.right())), 1);
   }
+}
+
+TEST(Layout, MovesNothingOfTheSettingsWhenFramesComeAndGo) {
+  ProgramFixture p;
+  p.ToSettings();
+  Einstellung1& screen = p.settings_screen();
+  const auto places = [&] {
+    const Shown shown(screen, kSmall);
+    std::map<int, QRect> frames;
+    for (const int i : screen.grdeinst.indexes()) {
+      frames[i] = shown.OnPage(shown.At(screen.grdeinst[i].Id()));
+    }
+    return frames;
+  };
+  const auto at_first = places();
+  screen.aus_w.Check(1);
+  screen.akk_grp.Check(1);
+  EXPECT_FALSE(screen.grdeinst[11].visible);
+  EXPECT_EQ(places(), at_first);
+}
+
+TEST(Layout, LeavesAQuietPlaceWhereAFrameIsHidden) {
+  ProgramFixture p;
+  p.ToSettings();
+  Shown shown(p.settings_screen(), kSmall);
+  EXPECT_FALSE(p.settings_screen().grdeinst[2].visible);
+  const QRect frame = shown.OnPage(shown.At("grdeinst(2)"));
+  const QImage image = shown.page().grab().toImage();
+  EXPECT_EQ(image.pixelColor(frame.center()), look::kSlot);
+  EXPECT_EQ(image.pixelColor(frame.center().x(), frame.top() - 5), look::kSection);
+}
+
+TEST(Layout, KeepsTheSettingsWithinASmallScreenLessItsBars) {
+  ProgramFixture p;
+  p.ToSettings();
+  Shown shown(p.settings_screen(), QSize(1016, 660));
+  ExpectAllIsOnThePage(shown);
 }
 
 TEST(Layout, ShowsATilesStateInTheColoursOfTheProgram) {

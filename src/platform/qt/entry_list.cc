@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/entry_list.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace vmod17 {
+namespace {
+
+constexpr int kPause = 1000;  // ms
+
+using Match = std::function<bool(const QString& entry)>;
+
+/// The first of the entries from `start` on, around the end, that matches; -1 for none.
+int Find(const QStringList& entries, int start, const Match& match) {
+  const int count = static_cast<int>(entries.size());
+  for (int i = 0; i < count; ++i) {
+    const int row = (start + i) % count;
+    if (match(entries[row])) return row;
+  }
+  return -1;
+}
+
+int FindBeginning(const QStringList& entries, int start, const QString& typed) {
+  return Find(entries, start, [&](const QString& entry) {
+    return entry.trimmed().startsWith(typed, Qt::CaseInsensitive);
+  });
+}
+
+int FindTyped(const QStringList& entries, int start, const QString& typed) {
+  const Match has_word = [&](const QString& entry) {
+    return entry.contains(" " + typed, Qt::CaseInsensitive) ||
+           entry.contains("(" + typed, Qt::CaseInsensitive);
+  };
+  const Match contains = [&](const QString& entry) {
+    return entry.contains(typed, Qt::CaseInsensitive);
+  };
+  if (const int row = FindBeginning(entries, start, typed); row >= 0) return row;
+  for (const Match& match : {has_word, contains}) {
+    if (const int row = Find(entries, start, match); row >= 0) return row;
+  }
+  return -1;
+}
+
+}  // namespace
+
+int TypedSearch::Type(const QString& text, const QStringList& entries, int current) {
+  if (!since_.isValid() || since_.elapsed() > kPause) typed_.clear();
+  since_.start();
+  typed_ += text;
+  const QString first = typed_.left(1);
+  const bool one_letter = typed_ == first.repeated(typed_.size());
+  const int start = std::max(0, current);
+  if (!one_letter) return FindTyped(entries, start, typed_);
+  if (typed_.size() > 1) {
+    if (const int row = FindBeginning(entries, start, typed_); row >= 0) return row;
+  }
+  return FindTyped(entries, start + 1, first);
+}
+
+QStringList RowTexts(const QAbstractItemView& view) {
+  QStringList texts;
+  for (int row = 0; row < view.model()->rowCount(); ++row) {
+    texts.push_back(view.model()->index(row, 0).data().toString());
+  }
+  return texts;
+}
+
+void DropDownEntries::keyboardSearch(const QString& text) {
+  const int row = search_.Type(text, RowTexts(*this), currentIndex().row());
+  if (row >= 0) setCurrentIndex(model()->index(row, 0));
+}
+
+}  // namespace vmod17

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QAbstractItemView>
+#include <QElapsedTimer>
+#include <QListView>
+#include <QString>
+#include <QStringList>
+
+namespace vmod17 {
+
+/// Finds entries by what is typed: letters that follow each other within a second belong together.
+class TypedSearch {
+ public:
+  /// Takes what was typed and answers which entry is meant: the next one from `current` that begins
+  /// with it, else one of whose words begins with it, else one that contains it; -1 for none. One
+  /// letter, also typed again and again, goes on from entry to entry.
+  int Type(const QString& text, const QStringList& entries, int current);
+
+ private:
+  QString typed_;
+  QElapsedTimer since_;
+};
+
+/// The texts of a list's rows.
+QStringList RowTexts(const QAbstractItemView& view);
+
+/// The list that a drop-down list shows, with a search that also finds within names. The closed
+/// list searches through it too.
+class DropDownEntries : public QListView {
+ public:
+  using QListView::QListView;
+  void keyboardSearch(const QString& text) override;
+
+ private:
+  TypedSearch search_;
+};
+
+}  // namespace vmod17
