@@ -40,6 +40,8 @@ class Page : public QWidget {
   void TakeFocus();
   /// A key that no control had a use for. Returns whether it means something here.
   bool HandleKey(const QKeyEvent& event);
+  /// The right mouse button at a point of the page. Returns whether a menu belongs there.
+  bool AskMenuAt(const QPoint& at) { return AskMenuOf(FrameAt(at), at); }
   /// Whether the focus is to be seen; a mouse press ends it, a key begins it.
   void SetKeyboard(bool keyboard);
 

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
@@ -55,7 +56,8 @@ class QtView::MainWindow : public QWidget {
   void keyPressEvent(QKeyEvent* event) override {
     if (view_.page_ == nullptr || !view_.page_->HandleKey(*event)) event->ignore();
   }
-  bool eventFilter(QObject*, QEvent* event) override {
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ContextMenu && AskMenuPast(watched, *event)) return true;
     if (view_.page_ != nullptr) {
       if (event->type() == QEvent::KeyPress) view_.page_->SetKeyboard(true);
       if (event->type() == QEvent::MouseButtonPress) view_.page_->SetKeyboard(false);
@@ -68,6 +70,16 @@ class QtView::MainWindow : public QWidget {
   }
 
  private:
+  /// A widget that is locked swallows the right mouse button; its frame has a menu all the same.
+  bool AskMenuPast(QObject* watched, const QEvent& event) {
+    const auto* const widget = qobject_cast<QWidget*>(watched);
+    Page* const page = view_.page_;
+    if (widget == nullptr || page == nullptr || widget->isEnabled()) return false;
+    if (!page->isAncestorOf(widget)) return false;
+    const auto& asked = static_cast<const QContextMenuEvent&>(event);
+    return page->AskMenuAt(page->mapFromGlobal(asked.globalPos()));
+  }
+
   QtView& view_;
   QScrollArea scroll_;
   QWidget* stage_;

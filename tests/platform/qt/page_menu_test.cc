@@ -103,6 +103,16 @@ TEST_F(PageMenuTest, OpensAlsoOnAFrameThatIsLocked) {
   EXPECT_EQ(screen().grdeinst[7].tag, "Prüfung");
 }
 
+TEST_F(PageMenuTest, OpensOnALockedFrameFromALockedControlThatStandsInIt) {
+  screen().training_Combo.Select(4);
+  view_.Refresh();
+  EXPECT_FALSE(At("akk_grp(1)").isEnabled());
+  RightButton("akk_grp(1)");
+  Settle();
+  EXPECT_EQ(screen().popPruefung.open_at, &screen().grdeinst[3]);
+  ASSERT_NE(Menu(), nullptr);
+}
+
 TEST_F(PageMenuTest, OpensOnAFrameFromAControlThatStandsInIt) {
   RightButton("geinst_lb(10)");
   Settle();
