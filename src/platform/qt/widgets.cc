@@ -459,6 +459,8 @@ void ListWidget::paintEvent(QPaintEvent* event) {
   QListWidget::paintEvent(event);
 }
 
+void ListWidget::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
+
 void ListWidget::keyPressEvent(QKeyEvent* event) {
   if (!IsEnter(event) && event->key() != Qt::Key_Space) return QListWidget::keyPressEvent(event);
   if (!event->isAutoRepeat() && currentRow() >= 0 && choose) choose(currentRow());

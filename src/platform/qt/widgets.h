@@ -161,6 +161,9 @@ class ListWidget : public QListWidget, public Dressed {
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  /// Does nothing: the first click of the two has moved the entry, and the second would meet the
+  /// one that has come up in its place.
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
 
  private:

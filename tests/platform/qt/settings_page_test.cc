@@ -80,6 +80,18 @@ TEST_F(SettingsPage, LeavesTheCursorInTheListSoThatTheKeyboardGoesOn) {
   EXPECT_TRUE(screen().visible);
 }
 
+TEST_F(SettingsPage, MovesOneEntryByADoubleClickAndNotTheNextOneToo) {
+  QWidget& viewport = *At<ListWidget>("klanglst(0)").viewport();
+  const QPoint at =
+      At<ListWidget>("klanglst(0)").visualItemRect(At<ListWidget>("klanglst(0)").item(1)).center();
+  QTest::mouseClick(&viewport, Qt::LeftButton, {}, at);
+  ASSERT_EQ(screen().klanglst[0].count(), 3);
+  QTest::mouseDClick(&viewport, Qt::LeftButton, {}, at);
+  QTest::mouseRelease(&viewport, Qt::LeftButton, {}, at);
+  EXPECT_EQ(screen().klanglst[0].count(), 3);
+  EXPECT_EQ(screen().klanglst[1].count(), 2);
+}
+
 TEST_F(SettingsPage, GoesToTheEndsOfAListAndToWhatIsTyped) {
   screen().aus_w.Check(1);
   view_.Refresh();
