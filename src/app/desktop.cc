@@ -94,14 +94,7 @@ StoreOptions Desktop::HostOptions() {
     return std::any_of(table.begin(), table.end(),
                        [&](const LanguageColumn& column) { return column[1] == name; });
   };
-  options.midi_number = [this](const std::string& name) -> std::optional<int> {
-    const auto names = output_->DeviceNames();
-    const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& device) {
-      return device.find(name) != std::string::npos;
-    });
-    if (found == names.end()) return std::nullopt;
-    return static_cast<int>(found - names.begin());
-  };
+  options.midi_number = [this](const std::string& name) { return output_->NumberOf(name); };
   options.menue = [this] { return system_.Environment("MELVADO_HOST").has_value(); };
   options.notify = [this](const Notice& notice) { Tell(notice); };
   options.clock = [this] { return loop_.Now(); };

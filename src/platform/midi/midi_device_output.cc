@@ -238,6 +238,15 @@ std::vector<std::string> MidiDeviceOutput::DeviceNames() const {
   return names_;
 }
 
+std::optional<int> MidiDeviceOutput::NumberOf(const std::string& part) const {
+  ports_->Await();
+  const std::vector<std::string> names = DeviceNames();
+  const auto found = std::ranges::find_if(
+      names, [&](const std::string& name) { return name.find(part) != std::string::npos; });
+  if (found == names.end()) return std::nullopt;
+  return static_cast<int>(found - names.begin());
+}
+
 const std::string* MidiDeviceOutput::NameOf(int number) const {
   if (names_.empty()) DeviceNames();
   const int count = static_cast<int>(names_.size());

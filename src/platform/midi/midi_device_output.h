@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,9 @@ class MidiDeviceOutput : public MidiOutput {
 
   /// All names in the order of their numbers, as the system has them now. Never empty.
   std::vector<std::string> DeviceNames() const;
+  /// The number of the first device whose name holds `part`, as the system has them now; none when
+  /// there is no such device. May wait for the system to tell its ports, half a second at most.
+  std::optional<int> NumberOf(const std::string& part) const;
 
   /// For SynthAudio::kRendered: moves the time by `frames` and writes what sounds.
   void Render(float* left, float* right, int frames);

@@ -27,6 +27,8 @@ class MidiPorts {
   virtual ~MidiPorts() = default;
   /// Connects to the system, so that a later `Names` knows all.
   virtual void Prepare() {}
+  /// Waits until the system has been asked for its ports, half a second at most.
+  virtual void Await() {}
   /// UTF-8, in the order of the system; two ports never have the same name. Where connecting takes
   /// long it goes on beside the program, and the ports are there at a later call.
   virtual std::vector<std::string> Names() = 0;

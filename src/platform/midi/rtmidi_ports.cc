@@ -138,6 +138,11 @@ class RtMidiPorts : public MidiPorts {
     TakeLister(std::chrono::milliseconds(0));
   }
 
+  void Await() override {
+    const std::lock_guard lock(mutex_);
+    TakeLister(std::chrono::milliseconds(500));
+  }
+
   std::vector<std::string> Names() override {
     const std::lock_guard lock(mutex_);
     if (lister_ && !lister_->IsAlive()) lister_.reset();

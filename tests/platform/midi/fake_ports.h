@@ -23,8 +23,10 @@ class FakePorts : public MidiPorts {
   std::vector<std::string> names;
   std::vector<Got> got;
   int opened = 0;
+  bool known = true;  ///< false for a system that has not answered yet; `Await` waits for it
 
-  std::vector<std::string> Names() override { return names; }
+  void Await() override { known = true; }
+  std::vector<std::string> Names() override { return known ? names : std::vector<std::string>(); }
 
   std::unique_ptr<MidiPort> Open(const std::string& name) override {
     if (!Has(name)) return nullptr;

@@ -44,6 +44,13 @@ TEST_F(PortOutput, ComesBeforeTheSynthesizerInTheList) {
   EXPECT_EQ(names[1], "Organ");
 }
 
+TEST_F(PortOutput, IsFoundByAPartOfItsNameOnceTheSystemHasAnswered) {
+  ports_->known = false;
+  EXPECT_EQ(rendered_.output.NumberOf("Org"), 1);
+  EXPECT_EQ(rendered_.output.NumberOf("Synth"), 2);
+  EXPECT_EQ(rendered_.output.NumberOf("Klavier"), std::nullopt);
+}
+
 TEST_F(PortOutput, GetsTheQueueInTime) {
   rendered_.Open(1);
   rendered_.QueueNote(60, 0, 900);
