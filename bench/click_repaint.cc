@@ -11,36 +11,23 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
-#include <QPixmap>
-#include <QScreen>
 #include <QWidget>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <vector>
 
-#include "app/program.h"
-#include "platform/qt/qt_event_loop.h"
-#include "platform/qt/qt_view.h"
-#include "shell/uniform_random.h"
-#include "support/fake_platform.h"
-#include "support/memory_host.h"
-#include "support/memory_xml_document.h"
-#include "support/recording_midi_output.h"
+#include "window_stage.h"
 
 namespace vmod17 {
 namespace {
 
-class Stage {
+class Stage : WindowStage {
  public:
   Stage() {
-    loop_.after_event = [this] { view_.Refresh(); };
-    loop_.Deliver([this] { program_.Start(); });
-    WaitUntil([this] { return program_.grd_einst()->visible; });
-    loop_.Deliver([this] { program_.grd_einst()->cmdOK.Press(); });
-    WaitUntil([this] { return program_.einstellung1()->visible; });
-    loop_.Deliver([this] { program_.einstellung1()->cmdOK.Press(); });
-    WaitUntil([this] { return program_.arbeitsblatt1() && program_.arbeitsblatt1()->visible; });
+    ToFirstScreen();
+    ToSettings();
+    ToWorksheet();
   }
 
   /// Plays a task and answers it; adds the time of each click in ms.
@@ -56,19 +43,6 @@ class Stage {
   }
 
  private:
-  template <typename Condition>
-  void WaitUntil(Condition condition) {
-    while (!condition()) loop_.WaitForEvent(50);
-    Settle();
-  }
-
-  /// All that is due is painted, and the display server has it.
-  static void Settle() {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-    QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 1, 1);
-  }
-
   double Click(int tile) {
     auto* widget = view_.Window()->findChild<QWidget*>(QStringLiteral("jz_kl(%1)").arg(tile));
     const QPointF at = widget->rect().center();
@@ -82,23 +56,8 @@ class Stage {
       QCoreApplication::sendEvent(widget, &event);
     }
     Settle();
-    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    return Ms(clock);
   }
-
-  QtEventLoop loop_;
-  QtView view_{loop_};
-  FakeSystem system_;
-  ScriptedMessageBox messages_;
-  RecordingMidiOutput output_;
-  UniformRandom random_;
-  ScriptedFileDialog dialog_;
-  MemoryTestFiles test_files_;
-  MemoryHost host_;
-  FakeLanguages languages_;
-  MemoryXmlLibrary documents_;
-  Program program_{{loop_, system_, messages_, view_, output_, random_, dialog_, test_files_,
-                    host_.Factory(), languages_.Factory(), documents_.Factory()},
-                   {"vmod17", 1, 0, 0}};
 };
 
 }  // namespace

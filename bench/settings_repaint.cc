@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QScreen>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -19,22 +18,14 @@
 #include <string>
 #include <vector>
 
-#include "app/program.h"
-#include "platform/qt/qt_event_loop.h"
-#include "platform/qt/qt_view.h"
-#include "shell/uniform_random.h"
-#include "support/fake_platform.h"
-#include "support/memory_host.h"
-#include "support/memory_xml_document.h"
-#include "support/recording_midi_output.h"
+#include "window_stage.h"
 
 namespace vmod17 {
 namespace {
 
-class Stage {
+class Stage : WindowStage {
  public:
   Stage() {
-    loop_.after_event = [this] { view_.Refresh(); };
     // A full training: all kinds, all groups, a timbre for each voice.
     TaggedValue::Array record = {"0", "1", "1", "3",           "0", "0", "0", "0",
                                  "0", "1", "0", TaggedValue(), "0", "2", "5"};
@@ -49,12 +40,10 @@ class Stage {
     }
     host_.SetStored("E1", record);
     host_.SetStored("A1", TaggedValue::Array{"true"});
-    loop_.Deliver([this] { program_.Start(); });
-    WaitUntil([this] { return program_.grd_einst()->visible; });
+    ToFirstScreen();
     QElapsedTimer clock;
     clock.start();
-    loop_.Deliver([this] { program_.grd_einst()->cmdOK.Press(); });
-    WaitUntil([this] { return program_.einstellung1()->visible; });
+    ToSettings();
     std::printf("from OK to the settings screen: %.1f ms\n", Ms(clock));
   }
 
@@ -93,23 +82,6 @@ class Stage {
   }
 
  private:
-  static double Ms(const QElapsedTimer& clock) {
-    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
-  }
-
-  template <typename Condition>
-  void WaitUntil(Condition condition) {
-    while (!condition()) loop_.WaitForEvent(50);
-    Settle();
-  }
-
-  /// All that is due is painted, and the display server has it.
-  static void Settle() {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-    QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 1, 1);
-  }
-
   void Time(const std::string& name, const std::function<void()>& event) {
     QElapsedTimer clock;
     clock.start();
@@ -124,20 +96,6 @@ class Stage {
                 times.size(), times[times.size() / 2], times[times.size() * 99 / 100]);
   }
 
-  QtEventLoop loop_;
-  QtView view_{loop_};
-  FakeSystem system_;
-  ScriptedMessageBox messages_;
-  RecordingMidiOutput output_;
-  UniformRandom random_;
-  ScriptedFileDialog dialog_;
-  MemoryTestFiles test_files_;
-  MemoryHost host_;
-  FakeLanguages languages_;
-  MemoryXmlLibrary documents_;
-  Program program_{{loop_, system_, messages_, view_, output_, random_, dialog_, test_files_,
-                    host_.Factory(), languages_.Factory(), documents_.Factory()},
-                   {"vmod17", 1, 0, 0}};
   std::map<std::string, std::vector<double>> times_;
 };
 
