@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -110,6 +111,7 @@ Platform Desktop::MakePlatform() {
           random_,
           dialog_,
           test_files_,
+          printer_,
           [this] { return store_.Service(); },
           [this] { return std::make_unique<SharedLanguages>(languages_); },
           PugiDocumentFactory(UserDataFolder(), [this](const Notice& notice) { Tell(notice); })};
@@ -133,11 +135,18 @@ void Desktop::AfterEvent() {
   const GrdEinst* first = program_->grd_einst();
   if (first == nullptr || !first->visible) return;
   screen_was_shown_ = true;
+  SpeakAsTheLanguage();
   // What takes time begins once the user has something to look at.
   loop_.Post([this] {
     output_->BeginLoading();
     TellOfLanguages();
   });
+}
+
+/// Numbers and dates are written as in the language of the texts, whatever the desktop speaks.
+void Desktop::SpeakAsTheLanguage() {
+  const std::string& name = program_->texts().Gebietsschema();
+  if (!name.empty()) QLocale::setDefault(QLocale(QString::fromStdString(name)));
 }
 
 void Desktop::TellOfLanguages() {

@@ -130,6 +130,9 @@ class Einstellung1 : public Form {
   /// Fills `training_Combo` anew.
   void FuelleTraining(Fortsetzung fortsetzung);
 
+  /// Whether a training can be taken up again, as the list says.
+  bool BietetFortsetzung() const;
+
   /// Builds the settings in words.
   void EinstDatSave();
   /// Waits, and stops early when the screen is being left.

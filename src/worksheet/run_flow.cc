@@ -3,6 +3,8 @@
 
 // From task to task: drawing, playing, repeating, and leaving.
 
+#include <utility>
+
 #include "shell/delay.h"
 #include "shell/numbers.h"
 #include "worksheet/worksheet_screen.h"
@@ -175,6 +177,7 @@ void Arbeitsblatt1::wieder2_Click() {
 void Arbeitsblatt1::Uhrzeit_Timer() {
   if (!Uhrzeit.enabled) return;
   ZeigeUhrzeit();
+  if (IstTest()) ZaehleTestzeit();
 }
 
 void Arbeitsblatt1::testtimer_Timer() {
@@ -186,15 +189,58 @@ void Arbeitsblatt1::zurueck_Click() {
   // Left once: an error's way out may come after the user or the system has taken it already, and a
   // record that is completed twice is none.
   if (!loaded() || run_.abbruch) return;
+  HalteAn();
+  if (run_.lauf_status == LaufStatus::kTrainingZuEnde ||
+      run_.lauf_status == LaufStatus::kTestZuEnde) {
+    wieder2.enabled = false;
+    zurueck.back_color = Colors::kMagenta;
+    zurueck.fore_color = Colors::kBlack;
+    zurueck.caption = shell_.texts.Sprachtext(640);
+    OeffneErgebnisse();
+    return;
+  }
+  if (IstZuSichern()) BieteSichernAn();
+  Verlasse();
+}
+
+/// Ends the run: nothing sounds or happens by itself any more.
+void Arbeitsblatt1::HalteAn() {
   zurueck.enabled = false;
   run_.abbruch = true;
   Uhrzeit.Disable();
   spieltimer.Disable();
   WahlAutomat.Disable();
   parts_.midi.MidiReset();
-  parts_.record.LessonEnde(*this, WaitMeldung, parts_.settings.einst_liste);
+}
+
+/// The results stand in front of the worksheet, which is out of reach meanwhile and leaves with
+/// them.
+void Arbeitsblatt1::OeffneErgebnisse() {
+  enabled = false;
+  shell_.navigation.OpenResults([this](const std::string& tag) {
+    if (tag != "OK") zurueck.tag = "ERROR";
+    Verlasse();
+  });
+}
+
+void Arbeitsblatt1::Verlasse() {
+  BeendeAufzeichnung();
+  if (!loaded()) return;
   shell_.navigation.ShowSettings();
   shell_.screens.Unload(*this);
+}
+
+/// Completes and saves the record, once for each run.
+void Arbeitsblatt1::BeendeAufzeichnung() {
+  if (!std::exchange(aufzeichnung_offen_, false)) return;
+  parts_.record.LessonEnde(*this, WaitMeldung, parts_.settings.einst_liste);
+}
+
+/// The way out tells that the run is over and waits for the click.
+void Arbeitsblatt1::MeldeEnde() {
+  zurueck.back_color = Colors::kYellow;
+  zurueck.fore_color = Colors::kRed;
+  zurueck.caption = shell_.texts.Sprachtext(625);
 }
 
 }  // namespace vmod17

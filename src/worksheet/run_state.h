@@ -4,9 +4,10 @@
 #pragma once
 
 #include <array>
-#include <vector>
 
 #include "sound/chord_playback.h"
+#include "worksheet/material.h"
+#include "worksheet/test_length.h"
 
 namespace vmod17 {
 
@@ -39,25 +40,6 @@ struct AnswerClock {
   int anz_whlg = 0;      ///< repeats since the last answer
   int antw_frei = 0;     ///< time that costs nothing, in tenths of a second
   int antw_lfd = 0;      ///< number of the present answer within the slot, from 1
-};
-
-/// The bag from which a training or test draws its chords, and the weights of a training. Free
-/// practice has none.
-struct Material {
-  int mat_posten = 0;                       ///< entries in the material
-  std::vector<std::array<int, 2>> mat_tab;  ///< board entry and weight, row 0 unused
-  int mat_soll = 0;                         ///< weight of every entry at the start
-  std::vector<int> mat_ar;                  ///< the bag, from 1; 0 a used copy
-  int mat_anzahl = 0;                       ///< last index of `mat_ar`
-  int mat_index = 0;                        ///< place drawn last
-  int mat_rest = 0;                         ///< sum of the positive weights
-};
-
-/// What is left of a test.
-struct TestRest {
-  int test_aufgaben = 0;  ///< tasks of the test, even
-  int rest_aufgaben = 0;
-  int rest_sek = 0;  ///< seconds, a multiple of 10
 };
 
 /// Which chord opened a task; -1 before the first one.

@@ -17,13 +17,15 @@
 #include "sound/chord_playback.h"
 #include "sound/mod_midi.h"
 #include "worksheet/run_state.h"
+#include "worksheet/scoring.h"
+#include "worksheet/stored_training.h"
 #include "worksheet/task_selection.h"
 
 namespace vmod17 {
 
 /// `arbeitsblatt1`, the worksheet: the screen of a run, and the run itself. Its routines stand in
 /// several files: worksheet_screen.cc builds it, run_flow.cc leads from task to task and out,
-/// answers.cc judges the clicks.
+/// answers.cc judges the clicks, training.cc and test_run.cc hold what is theirs alone.
 class Arbeitsblatt1 : public Form {
  public:
   /// What the screen works on.
@@ -101,17 +103,26 @@ class Arbeitsblatt1 : public Form {
   void cmd_test_ein_Click();
   void midi_QueueEmpty() {}
 
+  /// Leaves a run that is cut off from outside, where nobody can be asked: its record is completed,
+  /// and a training is stored unless it would take another one's place.
+  void Abbrechen();
+
   /// Draws the next task, enters it in the record and plays it.
   void mat_wahl();
   /// Judges a click: on tile `index` of the board, or on group `index`.
   void akk_antw(int index);
 
  private:
+  static constexpr int kNeuesTraining = 1;
+  static constexpr int kFortsetzung = 2;
+
   // worksheet_screen.cc
   void Verdrahte();
   void StelleInRahmen();
   void TexteSetzen();
   void BaueAuf();
+  void BereiteModusVor();
+  BoardSelection Auswahl() const;
   void BaueAntwortfeld();
   void BaueKacheln();
   void BaueGruppen();
@@ -127,6 +138,11 @@ class Arbeitsblatt1 : public Form {
   void NaechsteAufgabeAnbieten();
   void BieteWeiterAn();
   void NimmAngebotZurueck();
+  void HalteAn();
+  void OeffneErgebnisse();
+  void BeendeAufzeichnung();
+  void Verlasse();
+  void MeldeEnde();
   /// Adds 1 to the number that a counter shows.
   static void Erhoehe(Label& zaehler);
   /// Runs a routine of weight; an error in it ends the run.
@@ -141,6 +157,8 @@ class Arbeitsblatt1 : public Form {
   void ZeigeLoesung(int slot, Color rahmen);
   void Streiche(int clicked);
   void NaechsterAkkord();
+  void BeendeAufgabe();
+  void SchliesseAufgabeAb();
   void OeffneAlle();
   void SperreAntworten();
   void Oeffne(int kachel);
@@ -148,6 +166,31 @@ class Arbeitsblatt1 : public Form {
   /// Appends an answer to the record, with the attribute that tells the slot.
   void NeueAntwort(int lfd, const char* slot_attribute);
 
+  // training.cc
+  void BeginneTraining();
+  void NimmTrainingAuf();
+  void SetzeTrainingFort();
+  void ZeigeTraining();
+  void ZeigeMaterial();
+  void WerteTraining();
+  void BeendeTraining();
+  bool IstZuSichern() const;
+  void BieteSichernAn();
+  void SichereTraining();
+  StoredTraining Trainingsstand() const;
+
+  // test_run.cc
+  void BeginneTest();
+  void ZaehleTestaufgabe();
+  void ZaehleTestzeit();
+  void ZeigeRestzeit();
+  void BeendeTestNachZeit();
+
+  bool IstTraining() const {
+    return parts_.settings.uebmodus == kNeuesTraining || IstFortsetzung();
+  }
+  bool IstFortsetzung() const { return parts_.settings.uebmodus == kFortsetzung; }
+  bool IstTest() const { return parts_.settings.uebmodus > kFortsetzung; }
   bool NachAkkorden() const { return parts_.settings.best_art == 0; }
   const BoardEntry& Gefragt(int slot) const { return parts_.board[run_.task.aufg_akk_ar.at(slot)]; }
 
@@ -156,6 +199,9 @@ class Arbeitsblatt1 : public Form {
   RunState run_;
   TaskSelection selection_;
   ChordPlayback playback_;
+  Scoring scoring_;
+  StoredTraining fortsetzung_;      ///< what a continued training was stored as
+  bool aufzeichnung_offen_ = true;  ///< the record still waits for its end
   std::unique_ptr<MidiEvent> midi_ereignis;
 };
 
