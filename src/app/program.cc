@@ -69,7 +69,7 @@ void Program::OpenWorksheet() {
 }
 
 void Program::OpenResults(std::function<void(const std::string&)> closed) {
-  if (testergebnis_) return;
+  if (testergebnis_ || !einstellung1_ || !grd_einst_) return;
   Load(testergebnis_, shell_,
        Testergebnis::Parts{settings_, board_, pictures_, counters_, *einstellung1_, *grd_einst_,
                            platform_.printer},

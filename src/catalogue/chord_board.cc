@@ -28,7 +28,9 @@ int Grenze(const BoardSelection& selection) {
 }
 
 /// The order of a board.
-int Rang(const BoardEntry& entry) { return entry.klangtyp * 100 + entry.row; }
+bool Vor(const BoardEntry& a, const BoardEntry& b) {
+  return a.klangtyp * 100 + a.row < b.klangtyp * 100 + b.row;
+}
 
 }  // namespace
 
@@ -162,8 +164,7 @@ ChordBoard::Kandidat& ChordBoard::Wuerfle(Random& random) {
 }
 
 void ChordBoard::Sortiere(int letzter) {
-  std::sort(akk_tab_.begin() + 1, akk_tab_.begin() + 1 + letzter,
-            [](const BoardEntry& a, const BoardEntry& b) { return Rang(a) < Rang(b); });
+  std::sort(akk_tab_.begin() + 1, akk_tab_.begin() + 1 + letzter, Vor);
 }
 
 void ChordBoard::Uebernimm(const BoardSelection& selection,
@@ -191,9 +192,6 @@ bool ChordBoard::KannHaben(const BoardSelection& selection,
   const int vorrat = static_cast<int>(kandidat_ar_.size());
   const int grenze = Grenze(selection);
   if (static_cast<int>(entries.size()) != std::min(vorrat, grenze)) return false;
-  const auto aufsteigend = [](const BoardEntry& a, const BoardEntry& b) {
-    return Rang(a) < Rang(b);
-  };
   const auto ist_kandidat = [this](const BoardEntry& entry) {
     return std::ranges::any_of(kandidat_ar_, [&](const Kandidat& kandidat) {
       return kandidat.klangtyp == entry.klangtyp && kandidat.row == entry.row &&
@@ -202,7 +200,7 @@ bool ChordBoard::KannHaben(const BoardSelection& selection,
   };
   for (std::size_t e = 0; e < entries.size(); ++e) {
     if (!ist_kandidat(entries[e])) return false;
-    if (e > 0 && !aufsteigend(entries[e - 1], entries[e])) return false;
+    if (e > 0 && !Vor(entries[e - 1], entries[e])) return false;
   }
   if (vorrat <= grenze) return true;
   if (selection.akk_form == 1) {

@@ -7,12 +7,11 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "settings/settings_record.h"
 #include "shell/numbers.h"
 
 namespace vmod17 {
 namespace {
-
-constexpr int kBesteNote = -16;  // the score of a right first click, in time and without a repeat
 
 /// What wrong choices of an item cost. The divisor grows with the first of them; what the fewer of
 /// them give back, the mark keeps.
@@ -35,25 +34,25 @@ ItemErgebnis ItemBewerten(int uebmodus, const Auswertung& auswertung, int i) {
   float a1 = 0;
   float a2 = 0;
   float a3 = 0;
-  auswertung.read(i, 0, a0);
-  auswertung.read(i, 1, a1);
-  auswertung.read(i, 2, a2);
-  auswertung.read(i, 3, a3);
+  auswertung.read(i, kGefragt, a0);
+  auswertung.read(i, kNoten, a1);
+  auswertung.read(i, kFalschGewaehlt, a2);
+  auswertung.read(i, kImMaterial, a3);
   if (!(a3 > 0)) return {};
   const auto [f, m] = FehlwahlVon(a2);
   const auto fm = static_cast<float>(m);
   switch (uebmodus) {
-    case 0:
+    case kModusFrei:
       return {true, false, 0};
-    case 1:
-    case 2: {
+    case kModusNeuesTraining:
+    case kModusFortsetzung: {
       if (a0 <= 0 && a2 <= 0) return {true, false, 0};
       const int d = RoundHalfEven((static_cast<float>(f) + a0) * kBesteNote);
       return {true, true, Bruch(RoundHalfEven(fm + a1), d)};
     }
     default: {
       // The two best scores count, and a wrong choice as a third one.
-      const int d = (f == 1 ? 3 : 2) * kBesteNote;
+      const auto d = static_cast<int>((f == 1 ? 3 : 2) * kBesteNote);
       return {true, true, Bruch(RoundHalfEven(a1 + a0 + fm), d)};
     }
   }

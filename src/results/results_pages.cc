@@ -35,7 +35,7 @@ void Testergebnis::LbGrdEinst() {
         const TextLookup& texts = shell_.texts;
         const int typ = shell_.state.uebTyp;
         grd_einst_head.caption = texts.Sprachtext(347);
-        ZeigeGrundZeile(0, texts.Sprachtext(189) + " " + texts.Sprachtext(700),
+        ZeigeGrundZeile(0, Wort(189, "Datum:", " " + texts.Sprachtext(700)),
                         Zeitpunkt(shell_.loop.Now()));
         ZeigeGrundZeile(1, parts_.grd_einst.grdeinst_lb[0].caption + " ",
                         parts_.grd_einst.ueb_typ[typ].caption);
@@ -44,16 +44,17 @@ void Testergebnis::LbGrdEinst() {
         }
         if (!shell_.state.loginKnown) return;
         const TaggedValue anwender = shell_.server.LoginDaten();
-        ZeigeGrundZeile(2, texts.Sprachtext(109) + " " + texts.Sprachtext(700),
+        // Of a user whom the host could not tell there is one word alone.
+        const auto feld = [&](std::size_t i) {
+          return i < anwender.Elements().size() ? anwender[i].String() : "";
+        };
+        ZeigeGrundZeile(2, Wort(109, "Anwender:", " " + texts.Sprachtext(700)),
                         texts.Rechnername());
-        ZeigeGrundZeile(3, "Name:", anwender[1].String());
-        ZeigeGrundZeile(4, "Vorname:", anwender[2].String());
-        ZeigeGrundZeile(5, "Matrikel-Nr.:", anwender[0].String());
+        ZeigeGrundZeile(3, "Name:", feld(1));
+        ZeigeGrundZeile(4, "Vorname:", feld(2));
+        ZeigeGrundZeile(5, "Matrikel-Nr.:", feld(0));
       },
-      [this] {
-        cmdOK[1].tag = "ERROR";
-        cmdOK_Click(1);
-      });
+      [this] { SchliesseMitFehler(); });
 }
 
 void Testergebnis::ZeigeGrundZeile(int k, const std::string& name, const std::string& wert) {
@@ -73,7 +74,7 @@ void Testergebnis::LbEinst() {
           einst_lab[k].visible = einst_Inh[k].visible = false;
         }
         einst_head.caption = shell_.texts.titel_ar[1];
-        const std::string pruefung = s.uebmodus == 4 ? " " + e.prfnr_Comb.text() : "";
+        const std::string pruefung = s.uebmodus == kModusPruefung ? " " + e.prfnr_Comb.text() : "";
         ZeigeZeile(0, rahmen(8), e.training_Combo.text() + pruefung);
         KlangfarbenZeile();
         ZeigeZeile(2, e.lb15[0].caption, e.temp_Combo.text());
@@ -92,10 +93,12 @@ void Testergebnis::LbEinst() {
           ZeigeZeile(14, rahmen(2), Verbunden(e.grplst[1].entries(), "; "));
         }
       },
-      [this] {
-        cmdOK[1].tag = "ERROR";
-        cmdOK_Click(1);
-      });
+      [this] { SchliesseMitFehler(); });
+}
+
+void Testergebnis::SchliesseMitFehler() {
+  cmdOK[1].tag = "ERROR";
+  cmdOK_Click(1);
 }
 
 void Testergebnis::ZeigeZeile(int k, const std::string& name, const std::string& wert) {

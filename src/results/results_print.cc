@@ -32,7 +32,7 @@ void Testergebnis::MacheGitterWeiss() {
   for (int e = 1; e <= parts_.board.akk_zahl; ++e) {
     akk_group[e].back_color = Colors::kWhite;
     ergebnis[e].back_color = Colors::kWhite;
-    if (klang_pan[e].visible) klang_pan[e].back_color = Colors::kWhite;
+    klang_pan[e].back_color = Colors::kWhite;
   }
 }
 

@@ -46,11 +46,6 @@ Testergebnis::Testergebnis(Shell& shell, const Parts& parts,
   datum.visible = false;
   gr_einst.visible = false;
   einst_cont.visible = false;
-  // The words that stand until the texts are set, and where a text is missing.
-  g_einst_lab[2].caption = "Anwender:";
-  g_einst_lab[3].caption = "Name:";
-  g_einst_lab[4].caption = "Vorname:";
-  g_einst_lab[5].caption = "Matrikel-Nr.:";
 }
 
 void Testergebnis::StelleInRahmen() {
@@ -179,8 +174,9 @@ void Testergebnis::ZeigeErgebnisse() {
   for (int i = 1; i <= kBrettGroesse; ++i) {
     const ItemErgebnis item =
         ItemBewerten(parts_.settings.uebmodus, parts_.counters.auswertung_obj, i);
-    gesamt.Nimm(item);
     ergebnis[i].visible = item.im_lauf;
+    if (!item.im_lauf) continue;
+    gesamt.Nimm(item);
     ergebnis[i].caption = item.zaehlt ? ProzentText(item.p * 100, punkt) : "";
     ergebnis[i].back_color = item.zaehlt ? std::optional(ErgebnisFarbe(item.p)) : std::nullopt;
     // What a reader of the screen says of the cell as a whole.
@@ -188,7 +184,7 @@ void Testergebnis::ZeigeErgebnisse() {
     if (item.zaehlt) klang_pan[i].description += ", " + ergebnis[i].caption;
   }
   if (gesamt.Leer()) {
-    ergebnis[0].caption = "0" + punkt + "0 %";
+    ergebnis[0].caption = "0.0 %";
     ergebnis[0].back_color = kOhneErgebnisFarbe;
   } else {
     const float t = gesamt.Prozent();
@@ -200,12 +196,16 @@ void Testergebnis::ZeigeErgebnisse() {
 }
 
 void Testergebnis::SetzeTexte() {
-  const auto text = [this](int id) { return shell_.texts.Sprachtext(id); };
-  lab_ges.caption = text(275);
+  lab_ges.caption = Wort(275, "Gesamt");
   for (int i : {0, 1}) {
-    cmdOK[i].caption = text(625);
-    cmdPrint[i].caption = text(1);
+    cmdOK[i].caption = Wort(625, "weiter");
+    cmdPrint[i].caption = Wort(1, "Drucken");
   }
+}
+
+std::string Testergebnis::Wort(int id, const char* eigenes, const std::string& danach) const {
+  const std::string wort = shell_.texts.Sprachtext(id);
+  return wort.empty() || wort == TextLookup::kOhneWort ? eigenes : wort + danach;
 }
 
 void Testergebnis::cmdOK_Click(int index) {

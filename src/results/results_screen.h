@@ -84,11 +84,14 @@ class Testergebnis : public Form {
   void BaueZelle(int e);
   void ZeigeErgebnisse();
   void SetzeTexte();
+  /// A word of the language in use with `danach` behind it, or the form's own where it has none.
+  std::string Wort(int id, const char* eigenes, const std::string& danach = "") const;
 
   // results_pages.cc
   void LbGrdEinst();
   void LbEinst();
   void KlangfarbenZeile();
+  void SchliesseMitFehler();
   void ZeigeZeile(int k, const std::string& name, const std::string& wert);
   void ZeigeGrundZeile(int k, const std::string& name, const std::string& wert);
 

@@ -54,17 +54,15 @@ void Arbeitsblatt1::akk_antw(int index) {
     const bool right = NachAkkorden() ? index == run_.task.aufg_akk_ar.at(run_.akk_nr)
                                       : index == Gefragt(run_.akk_nr).group;
     AntwortSetzen(index, right, *record);
-    SchliesseAufgabeAb();
+    FolgeDemStand();
   });
 }
 
 /// What follows from where the run stands after a click.
-void Arbeitsblatt1::SchliesseAufgabeAb() {
+void Arbeitsblatt1::FolgeDemStand() {
   switch (run_.lauf_status) {
     case LaufStatus::kAufgabeFertig:
-      wieder.visible = false;
-      wieder.enabled = false;
-      wieder2.visible = true;
+      BieteKontrolleAn();
       NaechsteAufgabeAnbieten();
       return;
     case LaufStatus::kTrainingZuEnde:
@@ -74,9 +72,7 @@ void Arbeitsblatt1::SchliesseAufgabeAb() {
       Uhrzeit.Disable();
       WahlAutomat.Disable();
       CmdNextAufg.enabled = false;
-      wieder.visible = false;
-      wieder.enabled = false;
-      wieder2.visible = true;
+      BieteKontrolleAn();
       return;
     case LaufStatus::kNochKeine:
     case LaufStatus::kNaechsterSlot:
@@ -103,7 +99,8 @@ void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
     ergebnis[slot].caption = akk_group[clicked].caption;
   }
   nrakk[slot].enabled = false;
-  Erhoehe(zaehler[0]);
+  Erhoehe(run_.count.richtig);
+  ZeigeZaehler();
   parts_.record.LessonEigenschaft(record, "Antwort", "true");
   float& punkte = run_.answers.fehl_ar.at(slot);
   if (punkte == 0 && parts_.settings.uebmodus >= 1) {
@@ -117,7 +114,8 @@ void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
 void Arbeitsblatt1::Falsch(int clicked, XmlElement& record) {
   const int slot = run_.akk_nr;
   TauscheFarben(ergebnis[slot]);
-  Erhoehe(zaehler[1]);
+  Erhoehe(run_.count.falsch);
+  ZeigeZaehler();
   float& punkte = run_.answers.fehl_ar.at(slot);
   punkte += SlotLimits::kFehlSchritt;
   if (NachAkkorden()) {

@@ -14,8 +14,7 @@ namespace {
 
 constexpr int kSoll = 4;
 constexpr int kKlaengeMindestens = 30;
-constexpr int kVolleTasche = 8;      // times the entries: above it the bag is left as it is
-constexpr int kPlatzBeimFragen = 3;  // the column that counts the places in the material
+constexpr int kVolleTasche = 8;  // times the entries: above it the bag is left as it is
 
 }  // namespace
 
@@ -29,7 +28,7 @@ void Material::BeginneTraining(Auswertung& auswertung) {
   mat_tab.assign(1, {0, 0});
   for (int i = 1; i <= mat_posten; ++i) {
     mat_tab.push_back({i, mat_soll});
-    auswertung.Increment(i, kPlatzBeimFragen);
+    auswertung.Increment(i, kImMaterial);
   }
   MaterialFuellen(0);
 }
@@ -40,7 +39,7 @@ void Material::SetzeFort(const std::vector<std::array<int, 2>>& posten, Auswertu
   mat_tab.assign(1, {0, 0});
   for (const auto& [entry, gewicht] : posten) {
     mat_tab.push_back({entry, gewicht});
-    auswertung.Increment(entry, kPlatzBeimFragen);
+    auswertung.Increment(entry, kImMaterial);
   }
   MaterialOrdnen();
 }
@@ -79,7 +78,7 @@ void Material::BeginneTest(int anzahl) {
 void Material::MaterialTest(Auswertung& auswertung, Random& random) {
   for (int i = 1; i <= mat_posten; ++i) {
     mat_ar.at(i) = i;
-    auswertung.Increment(i, kPlatzBeimFragen);
+    auswertung.Increment(i, kImMaterial);
   }
   for (int i = mat_posten + 1; i <= mat_anzahl; ++i) {
     mat_ar.at(i) = static_cast<int>(random.Rnd() * static_cast<float>(mat_posten)) + 1;

@@ -3,6 +3,7 @@
 
 // From task to task: drawing, playing, repeating, and leaving.
 
+#include <algorithm>
 #include <utility>
 
 #include "shell/delay.h"
@@ -13,19 +14,41 @@ namespace vmod17 {
 namespace {
 
 constexpr float kRuheVorWiederholung = 50;  // ms
+constexpr int kHoechsteZahl = 32767;        // of a stored Integer
 
 }  // namespace
 
 void Arbeitsblatt1::Bewache(const std::string& tag, const std::function<void()>& body) {
-  shell_.errors.Guard(tag, *this, body, [this] {
+  const auto angehalten = [&] {
+    try {
+      body();
+    } catch (...) {
+      // Timers are served while the message stands, and the run is over.
+      Uhrzeit.Disable();
+      spieltimer.Disable();
+      WahlAutomat.Disable();
+      throw;
+    }
+  };
+  shell_.errors.Guard(tag, *this, angehalten, [this] {
     pointer = Pointer::kDefault;
     zurueck.tag = "ERROR";
     zurueck_Click();
   });
 }
 
-void Arbeitsblatt1::Erhoehe(Label& zaehler) {
-  zaehler.caption = DecimalText(LeadingNumber(zaehler.caption) + 1);
+void Arbeitsblatt1::Erhoehe(int& zahl) { zahl = std::min(zahl + 1, kHoechsteZahl); }
+
+void Arbeitsblatt1::ZeigeZaehler() {
+  zaehler[0].caption = DecimalText(run_.count.richtig);
+  zaehler[1].caption = DecimalText(run_.count.falsch);
+  whlgzaehler.caption = DecimalText(run_.count.wiederholt);
+}
+
+bool Arbeitsblatt1::Wartet() const {
+  const bool aufgabe_offen = run_.akk_nr >= 1 && run_.akk_nr <= parts_.settings.akk_anzahl;
+  const bool zeit_laeuft = WahlAutomat.enabled || (IstTest() && Uhrzeit.enabled);
+  return loaded() && !aufgabe_offen && !spieltimer.enabled && !zeit_laeuft;
 }
 
 void Arbeitsblatt1::BieteErsteAufgabeAn() {
@@ -56,9 +79,10 @@ void Arbeitsblatt1::BieteWeiterAn() {
   }
 }
 
-bool Arbeitsblatt1::Wartet() const {
-  const bool aufgabe_offen = run_.akk_nr >= 1 && run_.akk_nr <= parts_.settings.akk_anzahl;
-  return loaded() && !aufgabe_offen && !spieltimer.enabled;
+void Arbeitsblatt1::BieteKontrolleAn() {
+  wieder.visible = false;
+  wieder.enabled = false;
+  wieder2.visible = true;
 }
 
 void Arbeitsblatt1::NimmAngebotZurueck() {
@@ -123,7 +147,7 @@ void Arbeitsblatt1::LegeLoesungBereit(int slot) {
 void Arbeitsblatt1::Spiele(SpielArt art) {
   run_.spiel_art = art;
   playback_.SpieleAufgabe(run_.task, run_.abbruch);
-  spieltimer.Enable();
+  if (!run_.abbruch) spieltimer.Enable();
 }
 
 void Arbeitsblatt1::spieltimer_Timer() {
@@ -155,7 +179,8 @@ void Arbeitsblatt1::wieder_Click() {
   parts_.midi.MidiReset();
   Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
   if (run_.abbruch) return;
-  Erhoehe(whlgzaehler);
+  Erhoehe(run_.count.wiederholt);
+  ZeigeZaehler();
   ++run_.answers.whlg_ar.at(run_.akk_nr);
   ++run_.clock.anz_whlg;
   run_.clock.antw_ende = shell_.loop.Clock();

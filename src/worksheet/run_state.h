@@ -42,6 +42,13 @@ struct AnswerClock {
   int antw_lfd = 0;      ///< number of the present answer within the slot, from 1
 };
 
+/// The counters of the run, as the student sees them.
+struct RunCount {
+  int richtig = 0;
+  int falsch = 0;
+  int wiederholt = 0;
+};
+
 /// Which chord opened a task; -1 before the first one.
 struct LastChord {
   int klangtyp = -1;
@@ -55,6 +62,7 @@ struct RunState {
   AnswerClock clock;
   Material material;
   TestRest test;
+  RunCount count;
   std::array<int, kBrettGroesse + 1>
       aus_ar{};  ///< 1 for each tile or group struck in the open slot
 

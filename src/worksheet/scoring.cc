@@ -8,14 +8,6 @@
 #include "shell/numbers.h"
 
 namespace vmod17 {
-namespace {
-
-constexpr float kBestePunkte = 8;  // taken from every score, so that none is above 0
-constexpr int kGefragt = 0;        // columns of the counters
-constexpr int kFalschGewaehlt = 2;
-
-}  // namespace
-
 float ZeitZuschlag(float t, int frei) {
   if (t <= static_cast<float>(frei)) return 0;
   const int x = RoundHalfEven(t - static_cast<float>(frei));
@@ -27,7 +19,7 @@ void Scoring::AufgabeWerten(RunState& run, int count) {
   for (int i = 1; i < count; ++i) {
     const int e = run.task.aufg_akk_ar.at(i);
     float s = Endpunkte(run.answers, i);
-    if (s != 0 && IstTraining()) {
+    if (s != 0 && settings_.IstTraining()) {
       if (int* gewicht = run.material.Gewicht(e)) {
         *gewicht = RoundHalfEven(static_cast<float>(*gewicht) + s);
       }
@@ -38,7 +30,7 @@ void Scoring::AufgabeWerten(RunState& run, int count) {
     TrefferBuchen(run, e, i);
     if (s > 0) Verwechselt(run, i);
   }
-  if (IstTraining()) run.material.MaterialOrdnen();
+  if (settings_.IstTraining()) run.material.MaterialOrdnen();
 }
 
 float Scoring::Endpunkte(const TaskAnswers& answers, int slot) const {
@@ -54,17 +46,17 @@ void Scoring::Verwechselt(RunState& run, int slot) {
     const int w = run.answers.falsch_ar.at(slot).at(k);
     if (w == 0) return;
     auswertung_.Increment(w, kFalschGewaehlt);
-    if (!IstTraining()) continue;
+    if (!settings_.IstTraining()) continue;
     if (int* gewicht = run.material.Gewicht(w)) ++*gewicht;
   }
 }
 
 void Scoring::TrefferBuchen(const RunState& run, int entry, int slot) {
-  const float v = run.answers.fehl_ar.at(slot) - kBestePunkte;
-  if (IstTraining()) {
+  const float v = run.answers.fehl_ar.at(slot) - kNotenAbzug;
+  if (settings_.IstTraining()) {
     auswertung_.Increment(entry, kGefragt);
     auswertung_.Add(entry, v);
-  } else if (settings_.uebmodus > 2) {
+  } else if (settings_.IstTest()) {
     auswertung_.SaveBest(entry, v);
   }
 }

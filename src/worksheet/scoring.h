@@ -35,7 +35,6 @@ class Scoring {
   float Endpunkte(const TaskAnswers& answers, int slot) const;
   void Verwechselt(RunState& run, int slot);
   void TrefferBuchen(const RunState& run, int entry, int slot);
-  bool IstTraining() const { return settings_.uebmodus == 1 || settings_.uebmodus == 2; }
 
   const ExerciseSettings& settings_;
   const ChordBoard& board_;

@@ -4,6 +4,7 @@
 #include "worksheet/stored_training.h"
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 #include "shell/numbers.h"
@@ -15,8 +16,6 @@ namespace {
 
 constexpr int kHoechsteZahl = 32767;           // of a stored Integer
 constexpr float kHoechsterZaehler = 16777215;  // up to here a Single counts by ones
-constexpr float kBesteNote = -16;
-constexpr float kBestePunkte = 8;
 constexpr int kAbnahmeJeFrage = 4;  // what a right answer takes from a weight at the most
 
 /// The number of entries, from the length of the list, as it follows when material and board have
@@ -76,9 +75,10 @@ class Pruefer {
     for (const auto& [a0, a1, a2] : training.auswertung) {
       gefragt += static_cast<int>(a0);
       gewaehlt += static_cast<int>(a2);
-      const float schlechteste = static_cast<float>(training.fehl_max) - kBestePunkte;
-      if (a1 < kBesteNote * a0 || a1 > schlechteste * a0)
+      const float schlechteste = static_cast<float>(training.fehl_max) - kNotenAbzug;
+      if (a1 < kBesteNote * a0 || a1 > schlechteste * a0 || (a1 == 0 && std::signbit(a1))) {
         reader_.Unusable("a score that no run has");
+      }
     }
     // It was saved after a finished task.
     if (gefragt < 1 || gefragt % settings_.akk_anzahl != 0) reader_.Unusable("half a task");

@@ -11,7 +11,6 @@
 namespace vmod17 {
 namespace {
 
-constexpr int kPruefung = 4;
 constexpr int kHalbtoene = 12;
 constexpr int kMitte = 50;  // per cent of the gauge at the start of a training
 
@@ -26,7 +25,7 @@ TaskSelection::TaskSelection(const ExerciseSettings& settings, const ChordBoard&
     : settings_(settings), board_(board), random_(random) {}
 
 void TaskSelection::Saeen(float clock) {
-  if (settings_.uebmodus < kPruefung || settings_.pruef_seed == 0) {
+  if (settings_.uebmodus < kModusPruefung || settings_.pruef_seed == 0) {
     random_.SeedFromClock(clock);
   } else {
     random_.Restart(-settings_.pruef_seed);
@@ -68,13 +67,13 @@ void TaskSelection::ZieheSlot(RunState& run, int slot) {
       ChordPlayback::ArpeggioMischen(run.task, slot, board_.LetzteNote(eintrag), random_);
     }
   } while (IstWiederholung(run, slot));
-  if (IstTest()) run.material.NimmHeraus(eintrag);
+  if (settings_.IstTest()) run.material.NimmHeraus(eintrag);
 }
 
 int TaskSelection::ZieheEintrag(RunState& run, bool gewichtet) {
   Material& material = run.material;
   if (!gewichtet) return Wuerfle(board_.akk_zahl);
-  material.mat_index = IstTest() ? ZieheAusDerTasche(material) : ZieheGewichtet(material);
+  material.mat_index = settings_.IstTest() ? ZieheAusDerTasche(material) : ZieheGewichtet(material);
   return material.mat_ar.at(material.mat_index);
 }
 

@@ -37,7 +37,6 @@ class TaskSelection {
   int ZieheGewichtet(const Material& material);
   /// A whole number from 1 to `n`.
   int Wuerfle(double n);
-  bool IstTest() const { return settings_.uebmodus > 2; }
   void ZieheGrundton(RunState& run);
   void BaueKlang(RunState& run, int slot);
   bool IstWiederholung(const RunState& run, int slot) const;

@@ -54,7 +54,8 @@ void Arbeitsblatt1::BeendeTestNachZeit() {
   wieder.enabled = false;
   wieder2.enabled = false;
   BeendeAufzeichnung();
-  OeffneErgebnisse();
+  // Events are served while the record is saved: the program may have been ended in them.
+  if (loaded()) OeffneErgebnisse();
 }
 
 }  // namespace vmod17

@@ -4,6 +4,7 @@
 // A training: its material and gauge, how it ends, how it is kept and taken up again.
 
 #include <exception>
+#include <utility>
 
 #include "shell/numbers.h"
 #include "worksheet/worksheet_screen.h"
@@ -30,14 +31,16 @@ void Arbeitsblatt1::NimmTrainingAuf() {
     if (!server.LeseAblage("A" + typ)) Unbrauchbar("no stored training can be read");
     // Another program may have stored a training since the settings were restored.
     const TaggedValue::Array einst_satz = server.einst_satz;
-    server.LeseEinstellung("E" + typ);
-    if (server.einst_satz != einst_satz) Unbrauchbar("the stored training has other settings");
+    if (!server.LeseEinstellung("E" + typ) || server.einst_satz != einst_satz) {
+      Unbrauchbar("the stored training has other settings");
+    }
     fortsetzung_ = StoredTraining::Read(server.ablage_ar, parts_.settings);
     parts_.board.Uebernimm(Auswahl(), fortsetzung_.akk_tab);
   } catch (const std::exception&) {
     // Said in its own words, before the error goes its usual way.
-    shell_.messages.Warn(shell_.texts.Sprachtext(196), shell_.texts.modus_name_ar[kFortsetzung]);
-    parts_.einstellung1.training_Combo.Select(kNeuesTraining);
+    shell_.messages.Warn(shell_.texts.Sprachtext(196),
+                         shell_.texts.modus_name_ar[kModusFortsetzung]);
+    parts_.einstellung1.training_Combo.Select(kModusNeuesTraining);
     throw;
   }
 }
@@ -49,9 +52,8 @@ void Arbeitsblatt1::SetzeTrainingFort() {
       auswertung.Save(fortsetzung_.mat_tab[i][0], j, fortsetzung_.auswertung[i][j]);
     }
   }
-  zaehler[0].caption = DecimalText(fortsetzung_.richtig);
-  zaehler[1].caption = DecimalText(fortsetzung_.falsch);
-  whlgzaehler.caption = DecimalText(fortsetzung_.wiederholt);
+  run_.count = {fortsetzung_.richtig, fortsetzung_.falsch, fortsetzung_.wiederholt};
+  ZeigeZaehler();
   parts_.board.limits.fehl_max = fortsetzung_.fehl_max;
   run_.material.SetzeFort(fortsetzung_.mat_tab, auswertung);
   ZeigeTraining();
@@ -80,42 +82,56 @@ void Arbeitsblatt1::WerteTraining() {
 
 void Arbeitsblatt1::BeendeTraining() {
   if (parts_.settings.abfolge == 0) CmdNextAufg.enabled = false;
-  wieder.visible = false;
-  wieder.enabled = false;
-  wieder2.visible = true;
+  BieteKontrolleAn();
   MeldeEnde();
   pointer = Pointer::kHourglass;
   shell_.server.Speichere("A1", KeinTraining());
   pointer = Pointer::kDefault;
   // What is solved, or was too hard, cannot be continued.
   parts_.einstellung1.FuelleTraining(Einstellung1::Fortsetzung::kKeine);
-  parts_.einstellung1.training_Combo.Select(kNeuesTraining);
+  parts_.einstellung1.training_Combo.Select(kModusNeuesTraining);
 }
 
 void Arbeitsblatt1::BieteSichernAn() {
   const TextLookup& texts = shell_.texts;
   std::string frage = texts.Sprachtext(495) + "\n" + texts.Sprachtext(8);
-  while (shell_.messages.Ask(frage, caption) == MessageBox::Answer::kYes && loaded()) {
+  while (WillSichern(frage)) {
     try {
       SichereTraining();
       return;
     } catch (const std::exception&) {
       pointer = Pointer::kDefault;
-      shell_.errors.LogFehler(AsRunTimeError(std::current_exception()), "zurueck_click." + name(),
-                              ErrorReport::Zeigen::kNein);
+      MeldeSicherungsfehler(std::current_exception());
       // Nothing is lost as long as the student does not give it up.
       frage = texts.Words({9301, "The training could not be saved. Try again?", {}});
     }
   }
 }
 
+bool Arbeitsblatt1::WillSichern(const std::string& frage) {
+  sichern_gefragt_ = true;
+  const MessageBox::Answer answer = shell_.messages.Ask(frage, caption);
+  // The program may have been ended while the question stood.
+  return std::exchange(sichern_gefragt_, false) && answer == MessageBox::Answer::kYes;
+}
+
+void Arbeitsblatt1::MeldeSicherungsfehler(const std::exception_ptr& error) {
+  try {
+    shell_.errors.LogFehler(AsRunTimeError(error), "zurueck_click." + name(),
+                            ErrorReport::Zeigen::kNein);
+  } catch (const std::exception&) {
+    // The log lies in the same store.
+  }
+}
+
 void Arbeitsblatt1::Abbrechen() {
-  if (!loaded() || run_.abbruch) return;
-  HalteAn();
+  const bool laeuft = loaded() && !run_.abbruch;
+  if (!laeuft && !std::exchange(sichern_gefragt_, false)) return;
+  if (laeuft) HalteAn();
   const bool ersetzt_nichts = IstFortsetzung() || !parts_.einstellung1.BietetFortsetzung();
   if (IstZuSichern() && ersetzt_nichts) {
     try {
-      SichereTraining();
+      LegeTrainingAb();
     } catch (const std::exception&) {
       // The host has told what is wrong with its store, and there is nobody to be asked.
     }
@@ -131,11 +147,15 @@ bool Arbeitsblatt1::IstZuSichern() const {
 void Arbeitsblatt1::SichereTraining() {
   // The event of the level that is selected again may change the mode.
   const int uebmodus = parts_.settings.uebmodus;
+  LegeTrainingAb();
+  parts_.einstellung1.FuelleTraining(Einstellung1::Fortsetzung::kVorhanden);
+  parts_.einstellung1.training_Combo.Select(uebmodus);
+}
+
+void Arbeitsblatt1::LegeTrainingAb() {
   pointer = Pointer::kHourglass;
   shell_.server.SpeichereTraining("1", Trainingsstand().Write());
   pointer = Pointer::kDefault;
-  parts_.einstellung1.FuelleTraining(Einstellung1::Fortsetzung::kVorhanden);
-  parts_.einstellung1.training_Combo.Select(uebmodus);
 }
 
 StoredTraining Arbeitsblatt1::Trainingsstand() const {
@@ -149,9 +169,9 @@ StoredTraining Arbeitsblatt1::Trainingsstand() const {
       parts_.counters.auswertung_obj.read(entry, j, werte[j]);
     }
   }
-  training.richtig = LeadingNumber(zaehler[0].caption);
-  training.falsch = LeadingNumber(zaehler[1].caption);
-  training.wiederholt = LeadingNumber(whlgzaehler.caption);
+  training.richtig = run_.count.richtig;
+  training.falsch = run_.count.falsch;
+  training.wiederholt = run_.count.wiederholt;
   training.fehl_max = parts_.board.limits.fehl_max;
   return training;
 }

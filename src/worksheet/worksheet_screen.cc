@@ -133,13 +133,13 @@ void Arbeitsblatt1::Form_Load() {
 
 void Arbeitsblatt1::Form_Unload() {
   run_.abbruch = true;
-  BeendeAufzeichnung();
   parts_.midi.MidiReset();
   const int letzter = parts_.settings.klangfarb_art == 0 ? 0 : ModMIDI::kKanaele - 1;
   for (int kanal = 0; kanal <= letzter; ++kanal) {
     parts_.settings.klang_kanal = kanal;
     parts_.einstellung1.SetzeKlangfarbe(parts_.settings.patch_ar[kanal], kanal);
   }
+  BeendeAufzeichnung();
 }
 
 void Arbeitsblatt1::Form_Close() {
@@ -183,7 +183,7 @@ void Arbeitsblatt1::BaueAuf() {
   zurueck.enabled = true;
   spieltimer.interval = shell_.state.tempo_dauer_ar.at(settings.tempo_idx) * settings.akk_anzahl;
   WahlAutomat.interval = kWahlIntervall;
-  whlgzaehler.caption = zaehler[0].caption = zaehler[1].caption = "0";
+  ZeigeZaehler();
   Uhrzeit.Enable();
   ZeigeUhrzeit();
   BereiteModusVor();
@@ -198,7 +198,7 @@ BoardSelection Arbeitsblatt1::Auswahl() const {
 }
 
 void Arbeitsblatt1::BereiteModusVor() {
-  if (parts_.settings.uebmodus > 0 && parts_.board.akk_zahl < 1) {
+  if (parts_.settings.uebmodus != kModusFrei && parts_.board.akk_zahl < 1) {
     throw RunTimeError(ErrorNumber::kNothingToDraw, "the board holds no chord",
                        "vmod17.start_timer");
   }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -113,9 +114,6 @@ class Arbeitsblatt1 : public Form {
   void akk_antw(int index);
 
  private:
-  static constexpr int kNeuesTraining = 1;
-  static constexpr int kFortsetzung = 2;
-
   // worksheet_screen.cc
   void Verdrahte();
   void StelleInRahmen();
@@ -143,8 +141,11 @@ class Arbeitsblatt1 : public Form {
   void BeendeAufzeichnung();
   void Verlasse();
   void MeldeEnde();
-  /// Adds 1 to the number that a counter shows.
-  static void Erhoehe(Label& zaehler);
+  /// Adds 1 to a counter of the run, which stops at the highest number that can be stored.
+  static void Erhoehe(int& zahl);
+  void ZeigeZaehler();
+  /// The finished task can be heard again.
+  void BieteKontrolleAn();
   /// Runs a routine of weight; an error in it ends the run.
   void Bewache(const std::string& tag, const std::function<void()>& body);
 
@@ -158,7 +159,7 @@ class Arbeitsblatt1 : public Form {
   void Streiche(int clicked);
   void NaechsterAkkord();
   void BeendeAufgabe();
-  void SchliesseAufgabeAb();
+  void FolgeDemStand();
   void OeffneAlle();
   void SperreAntworten();
   void Oeffne(int kachel);
@@ -176,7 +177,10 @@ class Arbeitsblatt1 : public Form {
   void BeendeTraining();
   bool IstZuSichern() const;
   void BieteSichernAn();
+  bool WillSichern(const std::string& frage);
+  void MeldeSicherungsfehler(const std::exception_ptr& error);
   void SichereTraining();
+  void LegeTrainingAb();
   StoredTraining Trainingsstand() const;
 
   // test_run.cc
@@ -186,11 +190,9 @@ class Arbeitsblatt1 : public Form {
   void ZeigeRestzeit();
   void BeendeTestNachZeit();
 
-  bool IstTraining() const {
-    return parts_.settings.uebmodus == kNeuesTraining || IstFortsetzung();
-  }
-  bool IstFortsetzung() const { return parts_.settings.uebmodus == kFortsetzung; }
-  bool IstTest() const { return parts_.settings.uebmodus > kFortsetzung; }
+  bool IstTraining() const { return parts_.settings.IstTraining(); }
+  bool IstFortsetzung() const { return parts_.settings.uebmodus == kModusFortsetzung; }
+  bool IstTest() const { return parts_.settings.IstTest(); }
   bool NachAkkorden() const { return parts_.settings.best_art == 0; }
   const BoardEntry& Gefragt(int slot) const { return parts_.board[run_.task.aufg_akk_ar.at(slot)]; }
 
@@ -201,6 +203,7 @@ class Arbeitsblatt1 : public Form {
   ChordPlayback playback_;
   Scoring scoring_;
   StoredTraining fortsetzung_;      ///< what a continued training was stored as
+  bool sichern_gefragt_ = false;    ///< the question whether to save stands
   bool aufzeichnung_offen_ = true;  ///< the record still waits for its end
   std::unique_ptr<MidiEvent> midi_ereignis;
 };
