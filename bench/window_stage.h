@@ -65,8 +65,8 @@ class WindowStage {
   MemoryHost host_;
   FakeLanguages languages_;
   MemoryXmlLibrary documents_;
-  Program program_{{loop_, system_, messages_, view_, output_, random_, dialog_, test_files_, printer_,
-                    host_.Factory(), languages_.Factory(), documents_.Factory()},
+  Program program_{{loop_, system_, messages_, view_, output_, random_, dialog_, test_files_,
+                    printer_, host_.Factory(), languages_.Factory(), documents_.Factory()},
                    {"vmod17", 1, 0, 0}};
 
  private:

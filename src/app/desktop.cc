@@ -58,6 +58,7 @@ Desktop::Desktop()
   messages_.words = [this] {
     return QtMessageBox::Words{Word(432, "OK"), Word(9001, "Yes"), Word(9002, "No")};
   };
+  messages_.before = [this] { view_.Refresh(); };
   program_->OnEnd = [this] { loop_.Quit(); };
 }
 

@@ -26,8 +26,16 @@ struct Raster {
   int kachelhoehe;
 };
 
-Raster RasterFuer(int letzter_klangtyp) {
-  return letzter_klangtyp == kVoicing ? Raster{204, 40, 120} : Raster{164, 0, 80};
+constexpr Raster kVoicingRaster = {.zeilenschritt = 204, .versatz = 40, .kachelhoehe = 120};
+constexpr Raster kKlangRaster = {.zeilenschritt = 164, .versatz = 0, .kachelhoehe = 80};
+
+const Raster& RasterFuer(int letzter_klangtyp) {
+  return letzter_klangtyp == kVoicing ? kVoicingRaster : kKlangRaster;
+}
+
+/// One of the group names ends in a blank.
+std::string OhneBlankAmEnde(const std::string& text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 }  // namespace
@@ -145,7 +153,7 @@ void Testergebnis::BaueZelle(int e) {
   const BoardEntry& entry = parts_.board[e];
   const int n = parts_.board.table().KlangNummer(entry.klangtyp, entry.row);
   PictureStore& store = parts_.pictures.For(parts_.settings.akk_form);
-  const Raster raster = RasterFuer(parts_.settings.LetzterKlangtyp());
+  const Raster& raster = RasterFuer(parts_.settings.LetzterKlangtyp());
   const int oben = (e - 1) / kZellenJeZeile * raster.zeilenschritt;
 
   Akkbez[e].top = oben;
@@ -180,7 +188,7 @@ void Testergebnis::ZeigeErgebnisse() {
     ergebnis[i].caption = item.zaehlt ? ProzentText(item.p * 100, punkt) : "";
     ergebnis[i].back_color = item.zaehlt ? std::optional(ErgebnisFarbe(item.p)) : std::nullopt;
     // What a reader of the screen says of the cell as a whole.
-    klang_pan[i].description = jz_kl[i].caption + ", " + akk_group[i].caption;
+    klang_pan[i].description = jz_kl[i].caption + ", " + OhneBlankAmEnde(akk_group[i].caption);
     if (item.zaehlt) klang_pan[i].description += ", " + ergebnis[i].caption;
   }
   if (gesamt.Leer()) {

@@ -28,6 +28,8 @@ constexpr int kSettings = 15;
 constexpr int kUserLines = 6;
 constexpr double kUserCard = 384;
 constexpr double kBetween = 16;
+constexpr double kUserType = 15;
+constexpr double kUserLine = 36;
 constexpr double kHeadline = 58;
 
 /// The parts of the page that both faces share.
@@ -54,7 +56,7 @@ bool Visible(const Form& form, const std::string& id) {
 
 QString CaptionOf(const Form& form, const std::string& id) {
   const Control* const control = FindControl(form, id);
-  return control == nullptr ? QString() : QString::fromStdString(control->caption);
+  return control == nullptr ? QString() : QString::fromStdString(control->caption).trimmed();
 }
 
 /// A card within a frame.
@@ -114,7 +116,7 @@ void FillCell(Layout& layout, const Form& form, int e, double left, double top) 
                               .text = 15,
                               .align = Qt::AlignCenter};
   places[IdOf("akk_group", e)] = {
-      .rect = QRectF(x, top, 96, 20), .text = 12.5, .align = Qt::AlignCenter};
+      .rect = QRectF(x, top, 96, 20), .text = 12, .align = Qt::AlignCenter};
   places[IdOf("ergebnis", e)] = {.rect = QRectF(x, top, kCellWidth, 20),
                                  .look = Look::kMark,
                                  .text = 14,
@@ -138,6 +140,10 @@ struct Table {
   double names;  ///< width of the column of names
   std::vector<std::pair<std::string, std::string>> rows;
 };
+
+double WidthOf(const QString& text, double size) {
+  return QFontMetricsF(look::Type(size, look::Weight::kNormal)).horizontalAdvance(text) * 1.03 + 2;
+}
 
 double HeightOf(const QString& text, double width, double size) {
   // A little narrower, since type does not grow quite evenly with the page.
@@ -215,24 +221,27 @@ void FillSettings(Layout& layout, const Form& form, const Sheet& sheet, const QR
 
 /// Without a user there are two lines, each set in the middle.
 void CentreUserLine(Layout& layout, const Form& form, const QRectF& room, int k, double y) {
-  constexpr double kType = 15;
-  const QFontMetricsF metrics(look::Type(kType, look::Weight::kNormal));
+  constexpr double kApart = 6;
   const std::string name = IdOf("g_einst_lab", k);
   const std::string value = IdOf("g_einst_inh", k);
-  const double spare = 1.03;
-  const double names = metrics.horizontalAdvance(CaptionOf(form, name)) * spare;
-  const double values =
-      std::min(metrics.horizontalAdvance(CaptionOf(form, value)) * spare + 2, room.width() - names);
+  const double names = WidthOf(CaptionOf(form, name), kUserType) + kApart;
+  const double values = std::min(WidthOf(CaptionOf(form, value), kUserType), room.width() - names);
   const double left = room.left() + (room.width() - names - values) / 2;
-  const double height = HeightOf(CaptionOf(form, value), values * 1.05, kType);
+  const double height = HeightOf(CaptionOf(form, value), values * 1.05, kUserType);
   layout.places[name] = {.rect = QRectF(left, y, names, height),
                          .look = Look::kQuiet,
-                         .text = kType,
+                         .text = kUserType,
                          .align = Qt::AlignLeft | Qt::AlignTop};
   layout.places[value] = {.rect = QRectF(left + names, y, values, height),
-                          .text = kType,
+                          .text = kUserType,
                           .align = Qt::AlignLeft | Qt::AlignTop,
                           .named_by = name};
+}
+
+/// As low as its lines are few.
+QRectF UserCard(const Form& form, const Sheet& sheet) {
+  const int lines = Visible(form, "g_einst_lab(2)") ? kUserLines : 2;
+  return QRectF(sheet.body.topLeft(), QSizeF(kUserCard, kHeadline + lines * kUserLine + 12));
 }
 
 void FillUser(Layout& layout, const Form& form, const QRectF& card) {
@@ -247,7 +256,7 @@ void FillUser(Layout& layout, const Form& form, const QRectF& card) {
   FillTable(layout, form, table);
   if (Visible(form, "g_einst_lab(2)")) return;
   CentreUserLine(layout, form, room, 0, room.top());
-  CentreUserLine(layout, form, room, 1, room.top() + 36);
+  CentreUserLine(layout, form, room, 1, room.top() + kUserLine);
 }
 
 void FillButtons(Layout& layout, const Sheet& sheet) {
@@ -292,7 +301,7 @@ Layout LayoutResults(const Form& form, const QSizeF& page) {
   layout.backdrops = {CardIn("erg_cont", sheet.page, sheet.header),
                       CardIn("erg_cont", sheet.page, sheet.body)};
   const double settings = kWidth - kUserCard - kBetween;
-  FillUser(layout, form, QRectF(sheet.body.topLeft(), QSizeF(kUserCard, sheet.body.height())));
+  FillUser(layout, form, UserCard(form, sheet));
   const QRectF card(sheet.body.right() - settings, sheet.body.top(), settings, sheet.body.height());
   FillSettings(layout, form, sheet, card);
   layout.backdrops.push_back(CardIn("einst_cont", layout.places["einst_cont"].rect, sheet.header));

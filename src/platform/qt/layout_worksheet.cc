@@ -69,8 +69,8 @@ void FillStrip(Layout& layout, const Form& form, const QRectF& strip) {
                          .text = 12.5,
                          .named_by = "ergebnis_anz(0)",
                          .ends = {"ergebnis_anz(1)", "ergebnis_anz(2)"}};
-  places["stop_uhr"] = {.rect = QRectF(middle + 36, y + 6, 184, 44), .text = 16, .bold = true};
-  places["lab_aufgaben"] = {.rect = QRectF(middle + 228, y + 6, 160, 44), .text = 16, .bold = true};
+  places["stop_uhr"] = {.rect = QRectF(middle + 36, y + 6, 172, 44), .text = 15};
+  places["lab_aufgaben"] = {.rect = QRectF(middle + 218, y + 6, 176, 44), .text = 15};
   places["Uhr"] = {.rect = QRectF(strip.right() - 92, y + 10, 76, 36),
                    .look = Look::kQuiet,
                    .text = 17,
@@ -203,7 +203,8 @@ void FillButtons(Layout& layout, const QRectF& box, double middle) {
                                   .text = 14,
                                   .align = Qt::AlignCenter,
                                   .named_by = "wieder"};
-  layout.places["zurueck"] = {.rect = row(50, 42), .text = 15, .align = Qt::AlignCenter};
+  layout.places["zurueck"] = {
+      .rect = row(50, 42), .text = 16, .align = Qt::AlignCenter, .bold = true};
 }
 
 void FillKeys(Layout& layout) {

@@ -12,6 +12,9 @@
 #include <QPdfWriter>
 #include <QPrinterInfo>
 #include <QStandardPaths>
+#include <chrono>
+#include <future>
+#include <thread>
 #include <utility>
 
 #include "platform/qt/page.h"
@@ -64,11 +67,29 @@ QString AnswerOfSpooler() {
   return QString::fromUtf8(text());
 }
 
+/// Whether the printing system answers within the time that a user waits for a button. It is asked
+/// on a thread of its own: a server that is reached but says nothing would hold up the program.
+bool SpoolerAnswers() {
+  constexpr std::chrono::seconds kPatience(5);
+  using Default = const char* (*)();
+  QLibrary cups("cups", 2);
+  const auto ask = reinterpret_cast<Default>(cups.resolve("cupsGetDefault"));
+  if (ask == nullptr) return true;
+  const auto answered = std::make_shared<std::promise<void>>();
+  const std::future<void> answer = answered->get_future();
+  std::thread([ask, answered] {
+    ask();
+    answered->set_value();
+  }).detach();
+  return answer.wait_for(kPatience) == std::future_status::ready;
+}
+
 bool InTrouble(QPrinter::PrinterState state) {
   return state == QPrinter::Aborted || state == QPrinter::Error;
 }
 
 std::unique_ptr<QPrinter> DefaultPrinter() {
+  if (!SpoolerAnswers()) return nullptr;
   const QPrinterInfo info = QPrinterInfo::defaultPrinter();
   if (info.isNull()) return nullptr;
   return std::make_unique<QPrinter>(info, QPrinter::HighResolution);

@@ -36,7 +36,7 @@ std::optional<QColor> Optional(const std::optional<Color>& color) {
 // --- Dressed
 
 void Dressed::SetCaption(const QString& caption) {
-  caption_ = caption;
+  caption_ = caption.trimmed();  // a blank at an end keeps a distance that the layout keeps as well
   self_.update();
 }
 
@@ -190,7 +190,7 @@ void TextWidget::SetImage(const PictureId& image) {
 }
 
 QSizeF TextWidget::TextBox() const {
-  const double side = place_.look == Look::kMark || HasGround() ? 8 : 0;
+  const double side = place_.look == Look::kMark || HasGround() ? 6 : 0;
   return QSizeF(width() - Px(side), height());
 }
 
