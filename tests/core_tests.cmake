@@ -13,6 +13,7 @@ vmod17_test(
           shell/message_form_test.cc
           shell/mod_server_test.cc
           shell/numbers_test.cc
+          shell/record_reader_test.cc
           shell/text_lookup_test.cc
           shell/uniform_random_test.cc
           catalogue/chord_board_test.cc
@@ -44,9 +45,15 @@ target_sources(
           results/counters_test.cc
           results/lesson_record_test.cc
           worksheet/answers_test.cc
+          worksheet/material_test.cc
           worksheet/run_flow_test.cc
           worksheet/run_state_test.cc
+          worksheet/scoring_test.cc
+          worksheet/stored_training_test.cc
           worksheet/task_selection_test.cc
+          worksheet/test_flow_test.cc
+          worksheet/test_length_test.cc
+          worksheet/training_flow_test.cc
           worksheet/worksheet_screen_test.cc)
 target_compile_definitions(
   core_tests PRIVATE VMOD17_GOLDEN_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}/golden")
