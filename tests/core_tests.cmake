@@ -41,8 +41,12 @@ vmod17_test(
 target_sources(
   core_tests
   PRIVATE app/free_practice_simulation_test.cc
+          app/student_simulation_test.cc
           app/lesson_record_golden_test.cc
           results/counters_test.cc
+          results/percentages_test.cc
+          results/results_print_test.cc
+          results/results_screen_test.cc
           results/lesson_record_test.cc
           worksheet/answers_test.cc
           worksheet/material_test.cc

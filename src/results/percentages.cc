@@ -59,11 +59,11 @@ ItemErgebnis ItemBewerten(int uebmodus, const Auswertung& auswertung, int i) {
 }
 
 Color ErgebnisFarbe(float v) {
-  const float prozent = v * 100;
-  if (prozent <= 20) return Bgr(0x8080FF);
-  if (prozent <= 40) return Bgr(0xC0C0FF);
-  if (prozent <= 60) return Bgr(0xC0FFFF);
-  if (prozent <= 80) return Bgr(0xC0FFC0);
+  // Compared as they are: the Single 0.6 times a hundred is more than 60.
+  if (v <= 0.2f) return Bgr(0x8080FF);
+  if (v <= 0.4f) return Bgr(0xC0C0FF);
+  if (v <= 0.6f) return Bgr(0xC0FFFF);
+  if (v <= 0.8f) return Bgr(0xC0FFC0);
   return Bgr(0x80FF80);
 }
 

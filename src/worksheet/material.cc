@@ -97,7 +97,7 @@ int* Material::Gewicht(int entry) {
 }
 
 int Material::Prozent() const {
-  return RoundHalfEven(static_cast<double>(mat_rest) / Grenze() * 100);
+  return RoundHalfEven(mat_rest * 100.0 / Grenze());
 }
 
 }  // namespace vmod17
