@@ -13,6 +13,7 @@ vmod17_test(
           shell/message_form_test.cc
           shell/mod_server_test.cc
           shell/numbers_test.cc
+          shell/record_reader_test.cc
           shell/text_lookup_test.cc
           shell/uniform_random_test.cc
           catalogue/chord_board_test.cc
@@ -40,13 +41,23 @@ vmod17_test(
 target_sources(
   core_tests
   PRIVATE app/free_practice_simulation_test.cc
+          app/student_simulation_test.cc
           app/lesson_record_golden_test.cc
           results/counters_test.cc
+          results/percentages_test.cc
+          results/results_print_test.cc
+          results/results_screen_test.cc
           results/lesson_record_test.cc
           worksheet/answers_test.cc
+          worksheet/material_test.cc
           worksheet/run_flow_test.cc
           worksheet/run_state_test.cc
+          worksheet/scoring_test.cc
+          worksheet/stored_training_test.cc
           worksheet/task_selection_test.cc
+          worksheet/test_flow_test.cc
+          worksheet/test_length_test.cc
+          worksheet/training_flow_test.cc
           worksheet/worksheet_screen_test.cc)
 target_compile_definitions(
   core_tests PRIVATE VMOD17_GOLDEN_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}/golden")

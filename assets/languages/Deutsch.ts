@@ -701,6 +701,26 @@
         <source></source>
         <translation>Für die Sprache dieses Programms wurden keine Wörter gefunden; deshalb steht an Stelle der Texte „VOID“. Installieren Sie das Programm bitte neu, oder starten Sie es in einer anderen Sprache.</translation>
     </message>
+    <message id="9301s">
+        <source></source>
+        <translation>Das Training konnte nicht gespeichert werden. Noch einmal versuchen?</translation>
+    </message>
+    <message id="9302s">
+        <source></source>
+        <translation>Es ist kein Drucker eingerichtet. Die Seite wurde als %1 gespeichert.</translation>
+    </message>
+    <message id="9303s">
+        <source></source>
+        <translation>Der Drucker %1 hat die Seite nicht angenommen: %2. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, und drucken Sie noch einmal.</translation>
+    </message>
+    <message id="9304s">
+        <source></source>
+        <translation>Der Drucker %1 ist nicht bereit. Prüfen Sie, ob er eingeschaltet und angeschlossen ist und Papier hat, und drucken Sie noch einmal.</translation>
+    </message>
+    <message id="9305s">
+        <source></source>
+        <translation>Es ist kein Drucker eingerichtet, und die Seite konnte auch nicht als Datei im Ordner %1 gespeichert werden (%2). Prüfen Sie, ob Sie darin schreiben dürfen und ob die Festplatte nicht voll ist.</translation>
+    </message>
     <message id="9401s">
         <source></source>
         <translation>Gehörtraining</translation>

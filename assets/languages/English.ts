@@ -701,6 +701,26 @@
         <source></source>
         <translation>No words were found for the language of this program, which is why its texts read "VOID". Install the program again, or start it in another language.</translation>
     </message>
+    <message id="9301s">
+        <source></source>
+        <translation>The training could not be saved. Try again?</translation>
+    </message>
+    <message id="9302s">
+        <source></source>
+        <translation>There is no printer. The page was saved as %1.</translation>
+    </message>
+    <message id="9303s">
+        <source></source>
+        <translation>The printer %1 did not take the page: %2. Check that it is switched on and connected, and print again.</translation>
+    </message>
+    <message id="9304s">
+        <source></source>
+        <translation>The printer %1 is not ready. Check that it is switched on, connected and has paper, and print again.</translation>
+    </message>
+    <message id="9305s">
+        <source></source>
+        <translation>There is no printer, and the page could not be saved as a file in the folder %1 either (%2). Check that you may write there and that the disk is not full.</translation>
+    </message>
     <message id="9401s">
         <source></source>
         <translation>Ear training</translation>

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Draws the two pictures of every chord, notation and symbol, at one, two and three times their
-// size, and lists them in a resource file. Run when the program is built.
+// size for the screen and at eight times for paper, and lists them in a resource file. Run when the
+// program is built.
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -20,7 +21,9 @@
 namespace vmod17 {
 namespace {
 
-constexpr int kLargestScale = 3;
+constexpr int kForPaper = 8;
+constexpr int kScales[] = {1, 2, 3, kForPaper};
+constexpr int kSmallestFile = 0;  // what the writer of the files takes for it
 
 // One picture has always been a little wider than the others.
 int SymbolWidth(int klang) { return klang == 82 ? 88 : 85; }
@@ -34,11 +37,27 @@ QImage Notation(int klang, int scale, const Fonts& fonts) {
   return DrawNotation(LayOutNotation(ChordOfKlang(klang)), scale, fonts.music);
 }
 
+/// The largest ones go to paper, as ink of few shades: they would be most of the program otherwise.
+QImage Lean(const QImage& image, int scale) {
+  if (scale < kForPaper) return image;
+  constexpr int kShades = 16;
+  QList<QRgb> shades;
+  for (int i = 0; i < kShades; ++i) shades << qRgb(i * 17, i * 17, i * 17);
+  QImage lean(image.size(), QImage::Format_Indexed8);
+  lean.setColorTable(shades);
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      lean.setPixel(x, y, (qGray(image.pixel(x, y)) + 8) / 17);
+    }
+  }
+  return lean;
+}
+
 /// Writes pictures into a folder and remembers them for the resource file.
 class Album {
  public:
   explicit Album(const QString& folder) : folder_(folder) {
-    for (int scale = 1; scale <= kLargestScale; ++scale) {
+    for (const int scale : kScales) {
       if (!folder_.mkpath(QString("%1x").arg(scale))) {
         throw std::runtime_error("cannot make the folder " + folder.toStdString());
       }
@@ -47,7 +66,7 @@ class Album {
 
   void Add(const QImage& image, int scale, const QString& name) {
     const QString file = QString("%1x/%2.png").arg(scale).arg(name);
-    if (!image.save(folder_.filePath(file), "PNG")) {
+    if (!Lean(image, scale).save(folder_.filePath(file), "PNG", kSmallestFile)) {
       throw std::runtime_error("cannot write " + folder_.filePath(file).toStdString());
     }
     files_ << file;
@@ -71,7 +90,7 @@ class Album {
 
 void DrawAll(const QString& folder, const Fonts& fonts) {
   Album album(folder);
-  for (int scale = 1; scale <= kLargestScale; ++scale) {
+  for (const int scale : kScales) {
     for (int klang = 1; klang <= kKlangZahl; ++klang) {
       album.Add(Notation(klang, scale, fonts), scale, QString("jakk%1").arg(klang));
       album.Add(Symbol(klang, scale, fonts), scale, QString("jbez%1").arg(klang));

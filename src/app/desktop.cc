@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QWidget>
 #include <algorithm>
 #include <exception>
@@ -60,6 +61,7 @@ Desktop::Desktop()
                              Word(9393, english.missing.c_str())};
   };
   view_.on_help = [this](const std::string& form_name) { ShowHelp(form_name); };
+  messages_.before = [this] { view_.Refresh(); };
   program_->OnEnd = [this] { loop_.Quit(); };
 }
 
@@ -136,6 +138,7 @@ Platform Desktop::MakePlatform() {
           random_,
           dialog_,
           test_files_,
+          printer_,
           [this] { return store_.Service(); },
           [this] { return std::make_unique<SharedLanguages>(languages_); },
           PugiDocumentFactory(UserDataFolder(), [this](const Notice& notice) { Tell(notice); })};
@@ -166,11 +169,18 @@ void Desktop::AfterEvent() {
   if (first == nullptr || !first->visible) return;
   screen_was_shown_ = true;
   if (system_.Environment(kHostVariable)) SayToHost(ModuleLine::kShown);
+  SpeakAsTheLanguage();
   // What takes time begins once the user has something to look at.
   loop_.Post([this] {
     output_->BeginLoading();
     TellOfLanguages();
   });
+}
+
+/// Numbers and dates are written as in the language of the texts, whatever the desktop speaks.
+void Desktop::SpeakAsTheLanguage() {
+  const std::string& name = program_->texts().Gebietsschema();
+  if (!name.empty()) QLocale::setDefault(QLocale(QString::fromStdString(name)));
 }
 
 void Desktop::TellOfLanguages() {

@@ -14,6 +14,7 @@
 #include "platform/qt/qt_file_dialog.h"
 #include "platform/qt/qt_language.h"
 #include "platform/qt/qt_message_box.h"
+#include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_system.h"
 #include "platform/qt/qt_view.h"
 #include "platform/qt/single_instance.h"
@@ -51,6 +52,7 @@ class Desktop {
   void AfterEvent();
   /// The last resort for an error that left its handler: tell, log, end.
   void RunTimeReport(const std::exception_ptr& error);
+  void SpeakAsTheLanguage();
   void TellOfLanguages();
   void ShowHelp(const std::string& page);
   std::string Word(int id, const char* english) const;
@@ -64,6 +66,7 @@ class Desktop {
   HelpWindow help_;
   QtFileDialog dialog_{[this] { return view_.Window(); }};
   PugiTestFiles test_files_;
+  QtPrinter printer_{loop_, SystemPrintTargets(loop_)};
   std::unique_ptr<Notices> notices_;  // before those that tell, so that it goes after them
   std::unique_ptr<MidiDeviceOutput> output_;
   HostStore store_;

@@ -10,11 +10,6 @@ namespace {
 
 constexpr int kWarten = 150;  // ms between two looks whether a screen stands
 
-void Replace(std::string& text, const std::string& placeholder, const std::string& by) {
-  const std::size_t at = text.find(placeholder);
-  if (at != std::string::npos) text.replace(at, placeholder.size(), by);
-}
-
 }  // namespace
 
 Notices::Notices(EventLoop& loop, MessageBox& messages, const TextLookup& texts,
@@ -25,16 +20,6 @@ void Notices::Tell(const Notice& notice) {
   if (!told_.emplace(notice.text_id, notice.details).second) return;
   pending_.push_back(notice);
   Arm();
-}
-
-std::string Notices::Words(const Notice& notice) const {
-  std::string text = texts_.Sprachtext(notice.text_id);
-  if (text.empty() || text == TextLookup::kOhneWort) text = notice.english;
-  // From the last placeholder down: a detail may hold what looks like one.
-  for (std::size_t i = notice.details.size(); i > 0; --i) {
-    Replace(text, "%" + std::to_string(i), notice.details[i - 1]);
-  }
-  return text;
 }
 
 void Notices::Arm() {
@@ -53,7 +38,7 @@ void Notices::Show() {
   if (ready_()) {
     const Notice notice = pending_.front();
     pending_.erase(pending_.begin());
-    messages_.Warn(Words(notice), "Melvado");
+    messages_.Warn(texts_.Words(notice), "Melvado");
   }
   if (!pending_.empty()) Arm();
 }

@@ -25,8 +25,6 @@ class Notices {
           std::function<bool()> ready);
 
   void Tell(const Notice& notice);
-  /// The words of a notice in the language in use.
-  std::string Words(const Notice& notice) const;
 
  private:
   void Arm();

@@ -23,12 +23,19 @@ Program::Program(const Platform& platform, ProgramIdentity identity)
 }
 
 Program::~Program() {
-  while (!screens_.empty()) screens_.Unload(*screens_.top());
+  while (!screens_.empty()) {
+    try {
+      screens_.Unload(*screens_.top());
+    } catch (const std::exception&) {
+      // The others go all the same.
+    }
+  }
 }
 
 void Program::Start() { Load(grd_einst_, shell_); }
 
 bool Program::Quiet() const {
+  if (testergebnis_ && testergebnis_->visible) return true;
   if (arbeitsblatt1_ && arbeitsblatt1_->visible) return arbeitsblatt1_->Wartet();
   return (grd_einst_ && grd_einst_->visible) || (einstellung1_ && einstellung1_->visible);
 }
@@ -36,7 +43,7 @@ bool Program::Quiet() const {
 void Program::Leave() {
   // A run that is cut off from outside ends as if it were left, so that its record is saved.
   try {
-    if (arbeitsblatt1_ && arbeitsblatt1_->visible) arbeitsblatt1_->Form_Close();
+    if (arbeitsblatt1_ && arbeitsblatt1_->visible) arbeitsblatt1_->Abbrechen();
   } catch (const std::exception&) {
     // On the way out nothing may stand in the way.
   }
@@ -59,6 +66,14 @@ void Program::OpenWorksheet() {
                               counters_, record_, *einstellung1_});
   }
   arbeitsblatt1_->visible = false;
+}
+
+void Program::OpenResults(std::function<void(const std::string&)> closed) {
+  if (testergebnis_ || !einstellung1_ || !grd_einst_) return;
+  Load(testergebnis_, shell_,
+       Testergebnis::Parts{settings_, board_, pictures_, counters_, *einstellung1_, *grd_einst_,
+                           platform_.printer},
+       std::move(closed));
 }
 
 void Program::ShowFirstScreen() {
@@ -86,6 +101,7 @@ void Program::Retire(Form& form) {
   keep(grd_einst_);
   keep(einstellung1_);
   keep(arbeitsblatt1_);
+  keep(testergebnis_);
   platform_.loop.WhenIdle([this] { retired_.clear(); });
   if (screens_.empty() && OnEnd) OnEnd();
 }

@@ -12,10 +12,12 @@
 #include "platform/form_view.h"
 #include "platform/host_service.h"
 #include "platform/midi_output.h"
+#include "platform/printer.h"
 #include "platform/random.h"
 #include "platform/xml_document.h"
 #include "results/counters.h"
 #include "results/lesson_record.h"
+#include "results/results_screen.h"
 #include "settings/settings_record.h"
 #include "settings/settings_screen.h"
 #include "shell/first_screen.h"
@@ -35,6 +37,7 @@ struct Platform {
   Random& random;
   FileDialog& dialog;
   TestFiles& test_files;
+  Printer& printer;
   HostServiceFactory make_host_service;
   LanguageListFactory make_language_list;
   XmlDocumentFactory make_document;
@@ -69,10 +72,12 @@ class Program : private Navigation {
   GrdEinst* grd_einst() const { return grd_einst_.get(); }
   Einstellung1* einstellung1() const { return einstellung1_.get(); }
   Arbeitsblatt1* arbeitsblatt1() const { return arbeitsblatt1_.get(); }
+  Testergebnis* testergebnis() const { return testergebnis_.get(); }
 
  private:
   void OpenSettings() override;
   void OpenWorksheet() override;
+  void OpenResults(std::function<void(const std::string&)> closed) override;
   void ShowFirstScreen() override;
   void ShowSettings() override;
 
@@ -98,6 +103,7 @@ class Program : private Navigation {
   std::unique_ptr<GrdEinst> grd_einst_;
   std::unique_ptr<Einstellung1> einstellung1_;
   std::unique_ptr<Arbeitsblatt1> arbeitsblatt1_;
+  std::unique_ptr<Testergebnis> testergebnis_;
 };
 
 }  // namespace vmod17

@@ -21,6 +21,17 @@ constexpr int kVersucheInsgesamt = 100000;
                      "vmod17.ChordBoard");
 }
 
+/// How many entries a board of this selection holds at the most.
+int Grenze(const BoardSelection& selection) {
+  const bool voicings = !selection.klangtypen.empty() && selection.klangtypen.back() == kVoicing;
+  return voicings ? kBrettVoicings : kBrettGroesse;
+}
+
+/// The order of a board.
+bool Vor(const BoardEntry& a, const BoardEntry& b) {
+  return a.klangtyp * 100 + a.row < b.klangtyp * 100 + b.row;
+}
+
 }  // namespace
 
 void SlotLimits::Setze(int auswahl) {
@@ -42,8 +53,7 @@ void ChordBoard::SetzeAkkTab(const BoardSelection& selection, Random& random) {
   grp_aktiv_ar.fill(0);
   Sammle(selection);
 
-  const bool voicings = !selection.klangtypen.empty() && selection.klangtypen.back() == kVoicing;
-  const int grenze = voicings ? kBrettVoicings : kBrettGroesse;
+  const int grenze = Grenze(selection);
   akk_zahl = 0;
   if (static_cast<int>(kandidat_ar_.size()) <= grenze) {
     for (Kandidat& kandidat : kandidat_ar_) {
@@ -114,14 +124,10 @@ void ChordBoard::ZiehePflichtVoicings(const BoardSelection& selection, Random& r
 }
 
 void ChordBoard::ZiehePflichtKlaenge(const BoardSelection& selection, Random& random) {
-  const auto gruppen = static_cast<double>(selection.gruppen.size());
-  const auto klaenge = static_cast<double>(selection.klangtypen.size());
   for (auto it = selection.klangtypen.rbegin(); it != selection.klangtypen.rend(); ++it) {
     const int k = *it;
     if (vorrat_ar_[k] <= 0) continue;
-    const int quote = vorrat_ar_[k] == 1        ? 1
-                      : selection.best_art == 0 ? 2
-                                                : RoundHalfEven(gruppen / klaenge + 0.5);
+    const int quote = Quote(selection, k);
     for (int i = 0; i < quote; ++i) {
       for (int versuche = 1;; ++versuche) {
         if (versuche > kVersucheInsgesamt) NichtsZuZiehen("chord of a kind");
@@ -138,6 +144,14 @@ void ChordBoard::ZiehePflichtKlaenge(const BoardSelection& selection, Random& ra
   }
 }
 
+int ChordBoard::Quote(const BoardSelection& selection, int klangtyp) const {
+  if (vorrat_ar_[klangtyp] == 1) return 1;
+  if (selection.best_art == 0) return 2;
+  const auto gruppen = static_cast<double>(selection.gruppen.size());
+  const auto klaenge = static_cast<double>(selection.klangtypen.size());
+  return RoundHalfEven(gruppen / klaenge + 0.5);
+}
+
 void ChordBoard::Nimm(Kandidat& kandidat) {
   ++akk_zahl;
   akk_tab_[akk_zahl].klangtyp = std::exchange(kandidat.klangtyp, 0);
@@ -150,9 +164,55 @@ ChordBoard::Kandidat& ChordBoard::Wuerfle(Random& random) {
 }
 
 void ChordBoard::Sortiere(int letzter) {
-  const auto key = [](const BoardEntry& entry) { return entry.klangtyp * 100 + entry.row; };
-  std::sort(akk_tab_.begin() + 1, akk_tab_.begin() + 1 + letzter,
-            [&](const BoardEntry& a, const BoardEntry& b) { return key(a) < key(b); });
+  std::sort(akk_tab_.begin() + 1, akk_tab_.begin() + 1 + letzter, Vor);
+}
+
+void ChordBoard::Uebernimm(const BoardSelection& selection,
+                           const std::vector<BoardEntry>& entries) {
+  Sammle(selection);
+  if (!KannHaben(selection, entries)) {
+    throw RunTimeError(ErrorNumber::kTypeMismatch, "the stored board is none of these settings",
+                       "vmod17.ChordBoard");
+  }
+  akk_tab_.fill({});
+  std::copy(entries.begin(), entries.end(), akk_tab_.begin() + 1);
+  akk_zahl = static_cast<int>(entries.size());
+  for (int e = 1; e <= akk_zahl; ++e) KlangNummer(e);
+  grp_aktiv_ar.fill(0);
+  if (selection.best_art == 1) {
+    for (const int g : selection.gruppen) grp_aktiv_ar.at(g) = 1;
+  }
+  table_.SetzeStruktur(selection.klangtypen);
+}
+
+/// Whether the selection collected last can give this board: the size, the order, candidates only,
+/// and the share of every kind or group.
+bool ChordBoard::KannHaben(const BoardSelection& selection,
+                           const std::vector<BoardEntry>& entries) const {
+  const int vorrat = static_cast<int>(kandidat_ar_.size());
+  const int grenze = Grenze(selection);
+  if (static_cast<int>(entries.size()) != std::min(vorrat, grenze)) return false;
+  const auto ist_kandidat = [this](const BoardEntry& entry) {
+    return std::ranges::any_of(kandidat_ar_, [&](const Kandidat& kandidat) {
+      return kandidat.klangtyp == entry.klangtyp && kandidat.row == entry.row &&
+             kandidat.group == entry.group;
+    });
+  };
+  for (std::size_t e = 0; e < entries.size(); ++e) {
+    if (!ist_kandidat(entries[e])) return false;
+    if (e > 0 && !Vor(entries[e - 1], entries[e])) return false;
+  }
+  if (vorrat <= grenze) return true;
+  if (selection.akk_form == 1) {
+    return std::ranges::all_of(selection.gruppen, [&](int g) {
+      return std::ranges::any_of(entries, [g](const BoardEntry& e) { return e.group == g; });
+    });
+  }
+  return std::ranges::all_of(selection.klangtypen, [&](int k) {
+    const auto anzahl =
+        std::ranges::count_if(entries, [k](const BoardEntry& e) { return e.klangtyp == k; });
+    return vorrat_ar_[k] <= 0 || anzahl >= Quote(selection, k);
+  });
 }
 
 int ChordBoard::KlangNummer(int e) {

@@ -56,6 +56,10 @@ class ChordBoard {
   /// kind or group has its share. Fills the groups and notes of `ChordTable` for the run.
   /// Errors: RunTimeError kNothingToDraw when the share of a kind or group cannot be drawn.
   void SetzeAkkTab(const BoardSelection& selection, Random& random);
+  /// Takes over a stored board in place of building one; the Klang numbers are worked out. Fills
+  /// the notes of `ChordTable` for the run; `limits` stay as they are. Errors: RunTimeError
+  /// kTypeMismatch, with the board as it was, when this selection cannot have given these entries.
+  void Uebernimm(const BoardSelection& selection, const std::vector<BoardEntry>& entries);
   /// The Klang number of entry `e`, which the entry keeps from then on.
   int KlangNummer(int e);
   /// The index of the last note of entry `e`.
@@ -75,6 +79,8 @@ class ChordBoard {
   };
 
   void Sammle(const BoardSelection& selection);
+  bool KannHaben(const BoardSelection& selection, const std::vector<BoardEntry>& entries) const;
+  int Quote(const BoardSelection& selection, int klangtyp) const;
   void Ziehe(const BoardSelection& selection, Random& random, int grenze);
   void ZiehePflichtVoicings(const BoardSelection& selection, Random& random);
   void ZiehePflichtKlaenge(const BoardSelection& selection, Random& random);

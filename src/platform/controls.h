@@ -84,6 +84,7 @@ class Form {
   bool enabled = true;
   Pointer pointer = Pointer::kDefault;
   WindowState window_state = WindowState::kMaximised;
+  std::optional<Color> back_color;  ///< none: the view's own
 
  private:
   friend class Control;

@@ -37,6 +37,14 @@ class HostService {
   /// Errors: RunTimeError kStore when the store refuses, kTypeMismatch for arguments of another
   /// shape than the table's.
   virtual bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result) = 0;
+
+  /// Runs `stores`, and keeps what is stored with "STORE" meanwhile, through whichever instance, as
+  /// a whole or not at all: records that belong together never stand beside older ones, not even
+  /// when the process is killed on the way. All of it is committed on return. A "READ" in `stores`
+  /// gives what was stored so far; log lines written there stay in any case.
+  /// Errors: those of `stores`, kStore as of "STORE", kInvalidCall for a `Together` in `stores`.
+  /// After an error nothing of it is stored.
+  virtual void Together(const std::function<void()>& stores) = 0;
 };
 
 using HostServiceFactory = std::function<std::unique_ptr<HostService>()>;

@@ -7,6 +7,14 @@
 
 namespace vmod17 {
 
+/// The columns of `Auswertung`.
+enum AuswertungSpalte { kGefragt = 0, kNoten = 1, kFalschGewaehlt = 2, kImMaterial = 3 };
+
+/// The best score: right at the first click, in time and without a repeat.
+inline constexpr float kBesteNote = -16;
+/// Taken from the points of a slot to make its score, so that none is above 0.
+inline constexpr float kNotenAbzug = 8;
+
 /// The counters of a run: a table of Singles, by item (a board entry) and column.
 ///
 /// | column | training                          | test and exam             |

@@ -4,12 +4,12 @@
 // The training level: what it frees and locks, the training that is taken up again, the exams.
 
 #include <array>
-#include <charconv>
 #include <exception>
 
 #include "catalogue/chord_table.h"
 #include "settings/settings_screen.h"
 #include "shell/numbers.h"
+#include "shell/record_reader.h"
 
 namespace vmod17 {
 namespace {
@@ -28,46 +28,6 @@ struct Pruefung {
 // By number, from 1.
 constexpr std::array<Pruefung, 6> kPruefungen = {
     {{}, {0, 0, {3, 0}}, {0, 0, {4, 5}}, {0, 0, {6, 7}}, {1, 0, {}}, {1, 1, {}}}};
-
-[[noreturn]] void Unbrauchbar(const std::string& what) {
-  throw RunTimeError(ErrorNumber::kTypeMismatch, "the stored settings hold " + what, "vmod17.E1");
-}
-
-/// Walks through a stored record. Each step gives the next element, or raises a run-time error if
-/// it is not there or not of the kind that belongs there.
-class Leser {
- public:
-  explicit Leser(const TaggedValue::Array& satz) : satz_(satz) {}
-
-  const TaggedValue& Naechstes() {
-    if (at_ >= satz_.size()) Unbrauchbar("too few elements");
-    return satz_[at_++];
-  }
-  const std::string& Text() { return Naechstes().String(); }
-  /// A whole number from `low` to `high`, stored as a number or as its decimal text.
-  int Zahl(int low, int high) {
-    const TaggedValue& value = Naechstes();
-    double zahl = 0;
-    if (value.IsInteger()) {
-      zahl = static_cast<double>(value.Integer());
-    } else if (value.IsFloat()) {
-      zahl = value.Float();
-    } else {
-      const std::string& text = value.String();
-      const auto result = std::from_chars(text.data(), text.data() + text.size(), zahl);
-      if (result.ec != std::errc() || result.ptr != text.data() + text.size()) {
-        Unbrauchbar("a word where a number belongs");
-      }
-    }
-    // Written so that what is not a number at all is refused too.
-    if (!(zahl >= low && zahl <= high)) Unbrauchbar("a number outside of its range");
-    return RoundHalfEven(zahl);
-  }
-
- private:
-  const TaggedValue::Array& satz_;
-  std::size_t at_ = 0;
-};
 
 /// Selects the first entry with that text, if there is one.
 void WaehleText(ItemList& list, const std::string& text) {
@@ -95,6 +55,10 @@ void Einstellung1::FuelleTraining(Fortsetzung fortsetzung) {
     training_Combo.Add(leer ? kKeinTraining : shell_.texts.modus_name_ar[i],
                        ItemList::kValueIsIndex);
   }
+}
+
+bool Einstellung1::BietetFortsetzung() const {
+  return training_Combo.entry(kModusFortsetzung).text != kKeinTraining;
 }
 
 Einstellung1::Fortsetzung Einstellung1::GespeichertesTraining() {
@@ -152,37 +116,37 @@ void Einstellung1::StelleWiederHer() {
   shell_.server.LeseEinstellung("E" + DecimalText(shell_.state.uebTyp));
   if (shell_.state.uebTyp != 1) return;
   const TaggedValue::Array satz = shell_.server.einst_satz;
-  Leser leser(satz);
+  RecordReader leser(satz, "E1");
   constexpr int kMaxIndex = 32767;  // the lists know their own bounds
-  abfrage.Check(leser.Zahl(0, 1));
-  temp_Combo.Select(leser.Zahl(0, kMaxIndex));
-  akkzahl_cmb.Select(leser.Zahl(1, kMaxIndex) - 1);
-  arpeg_cmb.Select(leser.Zahl(0, kMaxIndex));
-  aus_w.Check(leser.Zahl(0, 1));
-  akk_grp.Check(leser.Zahl(0, 1));
-  akk_anzg.Check(leser.Zahl(0, 1));
-  Tonart.Check(leser.Zahl(0, 1));
+  abfrage.Check(leser.Number(0, 1));
+  temp_Combo.Select(leser.Number(0, kMaxIndex));
+  akkzahl_cmb.Select(leser.Number(1, kMaxIndex) - 1);
+  arpeg_cmb.Select(leser.Number(0, kMaxIndex));
+  aus_w.Check(leser.Number(0, 1));
+  akk_grp.Check(leser.Number(0, 1));
+  akk_anzg.Check(leser.Number(0, 1));
+  Tonart.Check(leser.Number(0, 1));
   // The stored value is the width and not the place in the list, which begins one octave wider for
   // voicings.
-  oktav_cmb.Select(leser.Zahl(0, kMaxIndex));
-  Combo_tonraum.Select(leser.Zahl(0, kMaxIndex));
-  frequenz.Check(leser.Zahl(0, 1));
-  leser.Naechstes();
-  betonung.Check(leser.Zahl(0, 1));
-  cmb_arpTmp.Select(leser.Zahl(0, kMaxIndex));
+  oktav_cmb.Select(leser.Number(0, kMaxIndex));
+  Combo_tonraum.Select(leser.Number(0, kMaxIndex));
+  frequenz.Check(leser.Number(0, 1));
+  leser.Next();
+  betonung.Check(leser.Number(0, 1));
+  cmb_arpTmp.Select(leser.Number(0, kMaxIndex));
 
-  const int klaenge = leser.Zahl(0, 5);
+  const int klaenge = leser.Number(0, 5);
   for (int i = 0; i < klaenge; ++i) WaehleText(klanglst[0], leser.Text());
   parts_.settings.klang_anzahl = klaenge;
 
-  const int klangfarb_art = leser.Zahl(0, 1);
+  const int klangfarb_art = leser.Number(0, 1);
   const int erste = klangfarb_art == 0 ? 0 : 1;
   const int letzte = klangfarb_art == 0 ? 0 : 7;
-  for (int i = erste; i <= letzte; ++i) parts_.settings.patch_ar[i] = leser.Zahl(0, 127);
+  for (int i = erste; i <= letzte; ++i) parts_.settings.patch_ar[i] = leser.Number(0, 127);
   kl_farb.Check(klangfarb_art);
-  HSliderVolume.Set(leser.Zahl(HSliderVolume.low(), HSliderVolume.high()));
+  HSliderVolume.Set(leser.Number(HSliderVolume.low(), HSliderVolume.high()));
 
-  const int gruppen = leser.Zahl(0, kGruppen);
+  const int gruppen = leser.Number(0, kGruppen);
   parts_.settings.grp_anzahl = gruppen;
   for (int i = 0; i < gruppen; ++i) WaehleText(grplst[0], leser.Text());
 }

@@ -11,10 +11,19 @@
 
 namespace vmod17 {
 
+/// Values of `uebmodus`.
+enum Uebmodus {
+  kModusFrei = 0,
+  kModusNeuesTraining = 1,
+  kModusFortsetzung = 2,
+  kModusTest = 3,
+  kModusPruefung = 4
+};
+
 /// All that is chosen for an exercise. The settings screen writes it, all others read it. Most
 /// fields are the index of the control that sets them.
 struct ExerciseSettings {
-  int uebmodus = 0;          ///< 0 free practice, 1 new training, 2 continued, 3 test, 4 exam
+  int uebmodus = 0;          ///< a `Uebmodus`
   int pruef_nr = 0;          ///< 1 to 5, the exam
   int tempo_idx = 0;         ///< index into `tempo_dauer_ar`
   int arp_richtung = 0;      ///< an `ArpRichtung`
@@ -43,6 +52,12 @@ struct ExerciseSettings {
 
   /// The settings in words: element 0 the upper bound, then key and value in turn, all strings.
   TaggedValue::Array einst_liste;
+
+  bool IstTraining() const {
+    return uebmodus == kModusNeuesTraining || uebmodus == kModusFortsetzung;
+  }
+  /// A test or an exam, which differ only in how they are set up.
+  bool IstTest() const { return uebmodus >= kModusTest; }
 
   /// The chosen Klangtypen as a list.
   std::span<const int> Klangtypen() const {

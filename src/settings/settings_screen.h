@@ -130,6 +130,9 @@ class Einstellung1 : public Form {
   /// Fills `training_Combo` anew.
   void FuelleTraining(Fortsetzung fortsetzung);
 
+  /// Whether a training can be taken up again, as the list says.
+  bool BietetFortsetzung() const;
+
   /// Builds the settings in words.
   void EinstDatSave();
   /// Waits, and stops early when the screen is being left.
@@ -141,10 +144,6 @@ class Einstellung1 : public Form {
   static constexpr Color kGesperrterRahmen = Bgr(0xC0C0FF);
   static constexpr Color kBereitFarbe = Bgr(0x80FF80);
   static constexpr Color kTempoFarbe = Bgr(0xFF0000);
-  static constexpr int kModusNeuesTraining = 1;
-  static constexpr int kModusFortsetzung = 2;
-  static constexpr int kModusTest = 3;
-  static constexpr int kModusPruefung = 4;
   /// The tag of a frame that is marked for a test.
   static constexpr const char* kMarke = "Prüfung";
 

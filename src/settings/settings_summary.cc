@@ -27,7 +27,7 @@ void Einstellung1::EinstDatSave() {
         const ExerciseSettings& s = parts_.settings;
         parts_.settings.einst_liste = {""};
         EinstEintrag("Übungsmodus", training_Combo.text());
-        if (s.uebmodus == 4) EinstEintrag("Nr.:", prfnr_Comb.text());
+        if (s.uebmodus == kModusPruefung) EinstEintrag("Nr.:", prfnr_Comb.text());
         TrageKlangfarbenEin();
         EinstEintrag("Tempo", temp_Combo.text());
         EinstEintrag("Frequenz", OhneApostroph(frequenz[s.frequenz_art].caption));

@@ -20,6 +20,8 @@ void ErrorReport::Guard(const std::string& tag, const Form& form, const std::fun
     body();
     normal = true;
   } catch (...) {
+    // Once leave was taken of the host the program is on its way out, and this error with it.
+    if (server_.HostObjekt() == nullptr) return;
     LogFehler(AsRunTimeError(std::current_exception()), tag + form.name(), Zeigen::kNein);
     messages_.Warn(texts_.Sprachtext(720) + "\n" + texts_.Sprachtext(721) + "\n" +
                        texts_.Sprachtext(722) + "\n" + texts_.Sprachtext(723),

@@ -82,6 +82,13 @@ void ModServer::Speichere(const std::string& key, const TaggedValue& value) {
   Send("STORE", storeArgs);
 }
 
+void ModServer::SpeichereTraining(const std::string& typ, const TaggedValue::Array& ablage) {
+  Host().Together([&] {
+    Speichere("E" + typ, einst_satz);
+    Speichere("A" + typ, ablage);
+  });
+}
+
 void ModServer::LogMeldung(const std::string& text) { Send("LOGMESS", text); }
 
 void ModServer::LogFehler(const std::string& place, const RunTimeError& error) {

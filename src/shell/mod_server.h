@@ -40,6 +40,9 @@ class ModServer {
   bool LeseEinstellung(const std::string& key);
   /// Stores a value under a key. Errors: what the host raises.
   void Speichere(const std::string& key, const TaggedValue& value);
+  /// Stores a training that can be continued: `einst_satz` under "E" and `ablage` under "A", each
+  /// with `typ` behind it, both or none of them. Errors: what the host raises.
+  void SpeichereTraining(const std::string& typ, const TaggedValue::Array& ablage);
   void LogMeldung(const std::string& text);
   /// Logs an error: its place, number, description and source. Errors: what the host raises.
   void LogFehler(const std::string& place, const RunTimeError& error);

@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include <functional>
+#include <string>
+
 namespace vmod17 {
 
 /// The way from screen to screen. A screen is opened in two moves: the opener hides itself and asks
@@ -15,6 +18,9 @@ class Navigation {
   virtual void OpenSettings() = 0;
   /// The same for the worksheet.
   virtual void OpenWorksheet() = 0;
+  /// Opens the results screen in front of the worksheet. `closed` is told when it has gone, with
+  /// its verdict on itself: "OK", or another word when a part of it could not be shown.
+  virtual void OpenResults(std::function<void(const std::string& tag)> closed) = 0;
   /// Show a screen that waits hidden.
   virtual void ShowFirstScreen() = 0;
   virtual void ShowSettings() = 0;

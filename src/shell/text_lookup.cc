@@ -13,7 +13,13 @@
 namespace vmod17 {
 namespace {
 
+constexpr std::size_t kLocaleInColumn = 0;
 constexpr std::size_t kNameInColumn = 1;
+
+void Replace(std::string& text, const std::string& placeholder, const std::string& by) {
+  const std::size_t at = text.find(placeholder);
+  if (at != std::string::npos) text.replace(at, placeholder.size(), by);
+}
 
 }  // namespace
 
@@ -47,7 +53,9 @@ void TextLookup::SpracheWaehlen(const std::string& name) {
 }
 
 void TextLookup::SpracheErzeugen(int column) {
-  languageTexts = languageList->Create("melvadolang." + languageTable.at(column).at(kNameInColumn));
+  const LanguageColumn& language = languageTable.at(column);
+  languageTexts = languageList->Create("melvadolang." + language.at(kNameInColumn));
+  gebietsschema_ = language.at(kLocaleInColumn);
 }
 
 std::string TextLookup::Sprachtext(int id) const {
@@ -57,6 +65,16 @@ std::string TextLookup::Sprachtext(int id) const {
   } catch (const std::exception&) {
     return kOhneWort;
   }
+}
+
+std::string TextLookup::Words(const Notice& notice) const {
+  std::string text = Sprachtext(notice.text_id);
+  if (text.empty() || text == kOhneWort) text = notice.english;
+  // From the last placeholder down: a detail may hold what looks like one.
+  for (std::size_t i = notice.details.size(); i > 0; --i) {
+    Replace(text, "%" + std::to_string(i), notice.details[i - 1]);
+  }
+  return text;
 }
 
 void TextLookup::TexteLaden() {

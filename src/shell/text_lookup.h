@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/language.h"
+#include "platform/notice.h"
 #include "platform/system.h"
 
 namespace vmod17 {
@@ -35,6 +36,11 @@ class TextLookup {
 
   /// The word for a text id in the language in use, asked anew each time; "VOID" without one.
   std::string Sprachtext(int id) const;
+  /// The words of a notice, its details in their places; its English ones where the language in use
+  /// has none.
+  std::string Words(const Notice& notice) const;
+  /// The locale of the language in use, such as "de_DE"; "" without one.
+  const std::string& Gebietsschema() const { return gebietsschema_; }
 
   /// Fills the tables below. Must run after `SpracheWaehlen`.
   void TexteLaden();
@@ -61,6 +67,7 @@ class TextLookup {
   bool languageListOk = false;
   std::vector<LanguageColumn> languageTable;
   std::unique_ptr<Language> languageTexts;
+  std::string gebietsschema_;
 };
 
 }  // namespace vmod17

@@ -54,13 +54,31 @@ void Arbeitsblatt1::akk_antw(int index) {
     const bool right = NachAkkorden() ? index == run_.task.aufg_akk_ar.at(run_.akk_nr)
                                       : index == Gefragt(run_.akk_nr).group;
     AntwortSetzen(index, right, *record);
-    if (run_.lauf_status == LaufStatus::kAufgabeFertig) {
-      wieder.visible = false;
-      wieder.enabled = false;
-      wieder2.visible = true;
-      NaechsteAufgabeAnbieten();
-    }
+    FolgeDemStand();
   });
+}
+
+/// What follows from where the run stands after a click.
+void Arbeitsblatt1::FolgeDemStand() {
+  switch (run_.lauf_status) {
+    case LaufStatus::kAufgabeFertig:
+      BieteKontrolleAn();
+      NaechsteAufgabeAnbieten();
+      return;
+    case LaufStatus::kTrainingZuEnde:
+      BeendeTraining();
+      return;
+    case LaufStatus::kTestZuEnde:
+      Uhrzeit.Disable();
+      WahlAutomat.Disable();
+      CmdNextAufg.enabled = false;
+      BieteKontrolleAn();
+      return;
+    case LaufStatus::kNochKeine:
+    case LaufStatus::kNaechsterSlot:
+    case LaufStatus::kWeitererVersuch:
+      return;
+  }
 }
 
 void Arbeitsblatt1::AntwortSetzen(int clicked, bool right, XmlElement& record) {
@@ -81,8 +99,14 @@ void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
     ergebnis[slot].caption = akk_group[clicked].caption;
   }
   nrakk[slot].enabled = false;
-  Erhoehe(zaehler[0]);
+  Erhoehe(run_.count.richtig);
+  ZeigeZaehler();
   parts_.record.LessonEigenschaft(record, "Antwort", "true");
+  float& punkte = run_.answers.fehl_ar.at(slot);
+  if (punkte == 0 && parts_.settings.uebmodus >= 1) {
+    run_.answers.zeit_ar.at(slot) = ZeitZuschlag(run_.clock.antw_dauer, run_.clock.antw_frei);
+    punkte = kErsterKlickRichtig;
+  }
   ++run_.akk_nr;
   NaechsterAkkord();
 }
@@ -90,7 +114,8 @@ void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
 void Arbeitsblatt1::Falsch(int clicked, XmlElement& record) {
   const int slot = run_.akk_nr;
   TauscheFarben(ergebnis[slot]);
-  Erhoehe(zaehler[1]);
+  Erhoehe(run_.count.falsch);
+  ZeigeZaehler();
   float& punkte = run_.answers.fehl_ar.at(slot);
   punkte += SlotLimits::kFehlSchritt;
   if (NachAkkorden()) {
@@ -141,7 +166,7 @@ void Arbeitsblatt1::Streiche(int clicked) {
 void Arbeitsblatt1::NaechsterAkkord() {
   run_.aus_ar.fill(0);
   if (run_.akk_nr == parts_.settings.akk_anzahl + 1) {
-    run_.lauf_status = LaufStatus::kAufgabeFertig;
+    BeendeAufgabe();
     SperreAntworten();
     return;
   }
@@ -153,6 +178,14 @@ void Arbeitsblatt1::NaechsterAkkord() {
   run_.clock.anz_whlg = 0;
   run_.clock.antw_lfd = 1;
   NeueAntwort(run_.clock.antw_lfd, "interval");
+}
+
+void Arbeitsblatt1::BeendeAufgabe() {
+  run_.lauf_status = LaufStatus::kAufgabeFertig;
+  if (parts_.settings.uebmodus == 0) return;
+  scoring_.AufgabeWerten(run_, run_.akk_nr);
+  if (IstTraining()) WerteTraining();
+  if (IstTest()) ZaehleTestaufgabe();
 }
 
 void Arbeitsblatt1::OeffneAlle() {

@@ -3,6 +3,9 @@
 
 // From task to task: drawing, playing, repeating, and leaving.
 
+#include <algorithm>
+#include <utility>
+
 #include "shell/delay.h"
 #include "shell/numbers.h"
 #include "worksheet/worksheet_screen.h"
@@ -11,19 +14,41 @@ namespace vmod17 {
 namespace {
 
 constexpr float kRuheVorWiederholung = 50;  // ms
+constexpr int kHoechsteZahl = 32767;        // of a stored Integer
 
 }  // namespace
 
 void Arbeitsblatt1::Bewache(const std::string& tag, const std::function<void()>& body) {
-  shell_.errors.Guard(tag, *this, body, [this] {
+  const auto angehalten = [&] {
+    try {
+      body();
+    } catch (...) {
+      // Timers are served while the message stands, and the run is over.
+      Uhrzeit.Disable();
+      spieltimer.Disable();
+      WahlAutomat.Disable();
+      throw;
+    }
+  };
+  shell_.errors.Guard(tag, *this, angehalten, [this] {
     pointer = Pointer::kDefault;
     zurueck.tag = "ERROR";
     zurueck_Click();
   });
 }
 
-void Arbeitsblatt1::Erhoehe(Label& zaehler) {
-  zaehler.caption = DecimalText(LeadingNumber(zaehler.caption) + 1);
+void Arbeitsblatt1::Erhoehe(int& zahl) { zahl = std::min(zahl + 1, kHoechsteZahl); }
+
+void Arbeitsblatt1::ZeigeZaehler() {
+  zaehler[0].caption = DecimalText(run_.count.richtig);
+  zaehler[1].caption = DecimalText(run_.count.falsch);
+  whlgzaehler.caption = DecimalText(run_.count.wiederholt);
+}
+
+bool Arbeitsblatt1::Wartet() const {
+  const bool aufgabe_offen = run_.akk_nr >= 1 && run_.akk_nr <= parts_.settings.akk_anzahl;
+  const bool zeit_laeuft = WahlAutomat.enabled || (IstTest() && Uhrzeit.enabled);
+  return loaded() && !aufgabe_offen && !spieltimer.enabled && !zeit_laeuft;
 }
 
 void Arbeitsblatt1::BieteErsteAufgabeAn() {
@@ -54,9 +79,10 @@ void Arbeitsblatt1::BieteWeiterAn() {
   }
 }
 
-bool Arbeitsblatt1::Wartet() const {
-  const bool aufgabe_offen = run_.akk_nr >= 1 && run_.akk_nr <= parts_.settings.akk_anzahl;
-  return loaded() && !aufgabe_offen && !spieltimer.enabled;
+void Arbeitsblatt1::BieteKontrolleAn() {
+  wieder.visible = false;
+  wieder.enabled = false;
+  wieder2.visible = true;
 }
 
 void Arbeitsblatt1::NimmAngebotZurueck() {
@@ -121,7 +147,7 @@ void Arbeitsblatt1::LegeLoesungBereit(int slot) {
 void Arbeitsblatt1::Spiele(SpielArt art) {
   run_.spiel_art = art;
   playback_.SpieleAufgabe(run_.task, run_.abbruch);
-  spieltimer.Enable();
+  if (!run_.abbruch) spieltimer.Enable();
 }
 
 void Arbeitsblatt1::spieltimer_Timer() {
@@ -153,7 +179,8 @@ void Arbeitsblatt1::wieder_Click() {
   parts_.midi.MidiReset();
   Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
   if (run_.abbruch) return;
-  Erhoehe(whlgzaehler);
+  Erhoehe(run_.count.wiederholt);
+  ZeigeZaehler();
   ++run_.answers.whlg_ar.at(run_.akk_nr);
   ++run_.clock.anz_whlg;
   run_.clock.antw_ende = shell_.loop.Clock();
@@ -175,6 +202,7 @@ void Arbeitsblatt1::wieder2_Click() {
 void Arbeitsblatt1::Uhrzeit_Timer() {
   if (!Uhrzeit.enabled) return;
   ZeigeUhrzeit();
+  if (IstTest()) ZaehleTestzeit();
 }
 
 void Arbeitsblatt1::testtimer_Timer() {
@@ -186,15 +214,58 @@ void Arbeitsblatt1::zurueck_Click() {
   // Left once: an error's way out may come after the user or the system has taken it already, and a
   // record that is completed twice is none.
   if (!loaded() || run_.abbruch) return;
+  HalteAn();
+  if (run_.lauf_status == LaufStatus::kTrainingZuEnde ||
+      run_.lauf_status == LaufStatus::kTestZuEnde) {
+    wieder2.enabled = false;
+    zurueck.back_color = Colors::kMagenta;
+    zurueck.fore_color = Colors::kBlack;
+    zurueck.caption = shell_.texts.Sprachtext(640);
+    OeffneErgebnisse();
+    return;
+  }
+  if (IstZuSichern()) BieteSichernAn();
+  Verlasse();
+}
+
+/// Ends the run: nothing sounds or happens by itself any more.
+void Arbeitsblatt1::HalteAn() {
   zurueck.enabled = false;
   run_.abbruch = true;
   Uhrzeit.Disable();
   spieltimer.Disable();
   WahlAutomat.Disable();
   parts_.midi.MidiReset();
-  parts_.record.LessonEnde(*this, WaitMeldung, parts_.settings.einst_liste);
+}
+
+/// The results stand in front of the worksheet, which is out of reach meanwhile and leaves with
+/// them.
+void Arbeitsblatt1::OeffneErgebnisse() {
+  enabled = false;
+  shell_.navigation.OpenResults([this](const std::string& tag) {
+    if (tag != "OK") zurueck.tag = "ERROR";
+    Verlasse();
+  });
+}
+
+void Arbeitsblatt1::Verlasse() {
+  BeendeAufzeichnung();
+  if (!loaded()) return;
   shell_.navigation.ShowSettings();
   shell_.screens.Unload(*this);
+}
+
+/// Completes and saves the record, once for each run.
+void Arbeitsblatt1::BeendeAufzeichnung() {
+  if (!std::exchange(aufzeichnung_offen_, false)) return;
+  parts_.record.LessonEnde(*this, WaitMeldung, parts_.settings.einst_liste);
+}
+
+/// The way out tells that the run is over and waits for the click.
+void Arbeitsblatt1::MeldeEnde() {
+  zurueck.back_color = Colors::kYellow;
+  zurueck.fore_color = Colors::kRed;
+  zurueck.caption = shell_.texts.Sprachtext(625);
 }
 
 }  // namespace vmod17

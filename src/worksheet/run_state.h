@@ -4,9 +4,10 @@
 #pragma once
 
 #include <array>
-#include <vector>
 
 #include "sound/chord_playback.h"
+#include "worksheet/material.h"
+#include "worksheet/test_length.h"
 
 namespace vmod17 {
 
@@ -41,23 +42,11 @@ struct AnswerClock {
   int antw_lfd = 0;      ///< number of the present answer within the slot, from 1
 };
 
-/// The bag from which a training or test draws its chords, and the weights of a training. Free
-/// practice has none.
-struct Material {
-  int mat_posten = 0;                       ///< entries in the material
-  std::vector<std::array<int, 2>> mat_tab;  ///< board entry and weight, row 0 unused
-  int mat_soll = 0;                         ///< weight of every entry at the start
-  std::vector<int> mat_ar;                  ///< the bag, from 1; 0 a used copy
-  int mat_anzahl = 0;                       ///< last index of `mat_ar`
-  int mat_index = 0;                        ///< place drawn last
-  int mat_rest = 0;                         ///< sum of the positive weights
-};
-
-/// What is left of a test.
-struct TestRest {
-  int test_aufgaben = 0;  ///< tasks of the test, even
-  int rest_aufgaben = 0;
-  int rest_sek = 0;  ///< seconds, a multiple of 10
+/// The counters of the run, as the student sees them.
+struct RunCount {
+  int richtig = 0;
+  int falsch = 0;
+  int wiederholt = 0;
 };
 
 /// Which chord opened a task; -1 before the first one.
@@ -73,6 +62,7 @@ struct RunState {
   AnswerClock clock;
   Material material;
   TestRest test;
+  RunCount count;
   std::array<int, kBrettGroesse + 1>
       aus_ar{};  ///< 1 for each tile or group struck in the open slot
 

@@ -5,6 +5,7 @@
 
 #include "catalogue/chord_board.h"
 #include "platform/random.h"
+#include "results/counters.h"
 #include "settings/settings_record.h"
 #include "worksheet/run_state.h"
 
@@ -20,13 +21,22 @@ class TaskSelection {
 
   /// Seeds the generator for a run; `clock` as from `EventLoop::Clock`.
   void Saeen(float clock);
+  /// Begins the material of a test of `aufgaben` tasks, of which the bag covers one half.
+  void BeginneTest(RunState& run, Auswertung& auswertung);
   /// Sets the range of the roots and, for a run on one root, draws it.
   void BereiteVor(RunState& run);
   /// Draws the chords of all slots of the next task, without playing it.
-  /// Errors: RunTimeError kNothingToDraw when every draw is refused.
+  /// From the bag, as long as it gives what can be asked; otherwise, and in free practice, from the
+  /// whole board. Errors: RunTimeError kNothingToDraw when every draw is refused.
   void Ziehe(RunState& run);
 
  private:
+  void ZieheSlot(RunState& run, int slot);
+  int ZieheEintrag(RunState& run, bool gewichtet);
+  int ZieheAusDerTasche(Material& material);
+  int ZieheGewichtet(const Material& material);
+  /// A whole number from 1 to `n`.
+  int Wuerfle(double n);
   void ZieheGrundton(RunState& run);
   void BaueKlang(RunState& run, int slot);
   bool IstWiederholung(const RunState& run, int slot) const;

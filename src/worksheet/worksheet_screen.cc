@@ -3,6 +3,8 @@
 
 #include "worksheet/worksheet_screen.h"
 
+#include <array>
+
 #include "shell/numbers.h"
 
 namespace vmod17 {
@@ -17,6 +19,18 @@ constexpr int kTestIntervall = 2000;
 constexpr int kKachelnJeZeile = 6;
 constexpr int kSymbolHoehe = 40;
 constexpr int kFeldHoehe = 545;
+constexpr int kFeldHoeheFortsetzung = 497;
+
+/// The captions that the group buttons are made with.
+constexpr std::array<const char*, kGruppen + 1> kGruppenNamen = {"",
+                                                                 "Major-Sept",
+                                                                 "Major-Sept, alt.",
+                                                                 "Moll-Sept",
+                                                                 "Dominant-Sept",
+                                                                 "Dominant-Sept, alt.",
+                                                                 "Moll-Tonika ",
+                                                                 "Halbvermindert",
+                                                                 "vermindert"};
 
 /// Heights in the grid of tiles, which follow the pictures.
 struct Raster {
@@ -43,7 +57,8 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
       shell_(shell),
       parts_(parts),
       selection_(parts.settings, parts.board, parts.random),
-      playback_(shell.loop, parts.midi, shell.state, parts.settings, parts.board) {
+      playback_(shell.loop, parts.midi, shell.state, parts.settings, parts.board),
+      scoring_(parts.settings, parts.board, parts.counters.auswertung_obj) {
   StelleInRahmen();
   Verdrahte();
   cmdHilfe.caption = "?";
@@ -58,7 +73,10 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
            &ergebnis_anz[2], &stop_uhr, &lab_aufgaben, &cmd_test_aus, &cmd_test_ein}) {
     control->visible = false;
   }
-  for (int g = akk_group.first(); g <= akk_group.last(); ++g) akk_group[g].enabled = false;
+  for (int g = akk_group.first(); g <= akk_group.last(); ++g) {
+    akk_group[g].enabled = false;
+    akk_group[g].caption = kGruppenNamen.at(g);
+  }
 }
 
 void Arbeitsblatt1::StelleInRahmen() {
@@ -121,6 +139,7 @@ void Arbeitsblatt1::Form_Unload() {
     parts_.settings.klang_kanal = kanal;
     parts_.einstellung1.SetzeKlangfarbe(parts_.settings.patch_ar[kanal], kanal);
   }
+  BeendeAufzeichnung();
 }
 
 void Arbeitsblatt1::Form_Close() {
@@ -149,9 +168,11 @@ void Arbeitsblatt1::BaueAuf() {
   parts_.counters.auswertung_obj.Clear();
   parts_.counters.ergebnis_obj.Clear();
   parts_.table.SetzeKlangZahlen();
-  parts_.board.SetzeAkkTab(
-      {settings.Klangtypen(), settings.Gruppen(), settings.akk_form, settings.best_art},
-      parts_.random);
+  if (IstFortsetzung()) {
+    NimmTrainingAuf();
+  } else {
+    parts_.board.SetzeAkkTab(Auswahl(), parts_.random);
+  }
   BaueAntwortfeld();
   BereiteSlotsVor();
   PicUebTyp.width = *jzakk_box[NachAkkorden() ? 0 : 1].width + *aktionsbox.width;
@@ -162,12 +183,32 @@ void Arbeitsblatt1::BaueAuf() {
   zurueck.enabled = true;
   spieltimer.interval = shell_.state.tempo_dauer_ar.at(settings.tempo_idx) * settings.akk_anzahl;
   WahlAutomat.interval = kWahlIntervall;
-  whlgzaehler.caption = zaehler[0].caption = zaehler[1].caption = "0";
+  ZeigeZaehler();
   Uhrzeit.Enable();
   ZeigeUhrzeit();
+  BereiteModusVor();
   parts_.pictures.For(settings.akk_form).Unload();
   WaitMeldung.visible = false;
   BieteErsteAufgabeAn();
+}
+
+BoardSelection Arbeitsblatt1::Auswahl() const {
+  const ExerciseSettings& settings = parts_.settings;
+  return {settings.Klangtypen(), settings.Gruppen(), settings.akk_form, settings.best_art};
+}
+
+void Arbeitsblatt1::BereiteModusVor() {
+  if (parts_.settings.uebmodus != kModusFrei && parts_.board.akk_zahl < 1) {
+    throw RunTimeError(ErrorNumber::kNothingToDraw, "the board holds no chord",
+                       "vmod17.start_timer");
+  }
+  if (IstFortsetzung()) {
+    SetzeTrainingFort();
+  } else if (IstTraining()) {
+    BeginneTraining();
+  } else if (IstTest()) {
+    BeginneTest();
+  }
 }
 
 void Arbeitsblatt1::TexteSetzen() {
@@ -196,7 +237,7 @@ void Arbeitsblatt1::TexteSetzen() {
 void Arbeitsblatt1::BaueAntwortfeld() {
   const bool akkorde = NachAkkorden();
   aktionsbox.width = akkorde ? 193 : 313;
-  aktionsbox.height = kFeldHoehe;
+  aktionsbox.height = !akkorde && IstFortsetzung() ? kFeldHoeheFortsetzung : kFeldHoehe;
   jzakk_box[0].width = 790;
   jzakk_box[1].width = 670;
   jzakk_box[akkorde ? 0 : 1].height = kFeldHoehe;
@@ -240,7 +281,10 @@ void Arbeitsblatt1::BaueGruppen() {
   for (int g = 1; g <= kGruppen; ++g) {
     akk_group[g].enabled = false;
     akk_group[g].visible = parts_.board.grp_aktiv_ar[g] == 1;
-    if (akk_group[g].visible) akk_group[g].caption = shell_.texts.grp_name_ar[g];
+    // A continued training has always shown the form's own names, and keeps to it.
+    if (akk_group[g].visible && !IstFortsetzung()) {
+      akk_group[g].caption = shell_.texts.grp_name_ar[g];
+    }
   }
   // The record tells the chord of a task by its Klang number, also where no tile shows it.
   for (int e = 1; e <= parts_.board.akk_zahl; ++e) parts_.board.KlangNummer(e);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -17,13 +18,15 @@
 #include "sound/chord_playback.h"
 #include "sound/mod_midi.h"
 #include "worksheet/run_state.h"
+#include "worksheet/scoring.h"
+#include "worksheet/stored_training.h"
 #include "worksheet/task_selection.h"
 
 namespace vmod17 {
 
 /// `arbeitsblatt1`, the worksheet: the screen of a run, and the run itself. Its routines stand in
 /// several files: worksheet_screen.cc builds it, run_flow.cc leads from task to task and out,
-/// answers.cc judges the clicks.
+/// answers.cc judges the clicks, training.cc and test_run.cc hold what is theirs alone.
 class Arbeitsblatt1 : public Form {
  public:
   /// What the screen works on.
@@ -101,6 +104,10 @@ class Arbeitsblatt1 : public Form {
   void cmd_test_ein_Click();
   void midi_QueueEmpty() {}
 
+  /// Leaves a run that is cut off from outside, where nobody can be asked: its record is completed,
+  /// and a training is stored unless it would take another one's place.
+  void Abbrechen();
+
   /// Draws the next task, enters it in the record and plays it.
   void mat_wahl();
   /// Judges a click: on tile `index` of the board, or on group `index`.
@@ -112,6 +119,8 @@ class Arbeitsblatt1 : public Form {
   void StelleInRahmen();
   void TexteSetzen();
   void BaueAuf();
+  void BereiteModusVor();
+  BoardSelection Auswahl() const;
   void BaueAntwortfeld();
   void BaueKacheln();
   void BaueGruppen();
@@ -127,8 +136,16 @@ class Arbeitsblatt1 : public Form {
   void NaechsteAufgabeAnbieten();
   void BieteWeiterAn();
   void NimmAngebotZurueck();
-  /// Adds 1 to the number that a counter shows.
-  static void Erhoehe(Label& zaehler);
+  void HalteAn();
+  void OeffneErgebnisse();
+  void BeendeAufzeichnung();
+  void Verlasse();
+  void MeldeEnde();
+  /// Adds 1 to a counter of the run, which stops at the highest number that can be stored.
+  static void Erhoehe(int& zahl);
+  void ZeigeZaehler();
+  /// The finished task can be heard again.
+  void BieteKontrolleAn();
   /// Runs a routine of weight; an error in it ends the run.
   void Bewache(const std::string& tag, const std::function<void()>& body);
 
@@ -141,6 +158,8 @@ class Arbeitsblatt1 : public Form {
   void ZeigeLoesung(int slot, Color rahmen);
   void Streiche(int clicked);
   void NaechsterAkkord();
+  void BeendeAufgabe();
+  void FolgeDemStand();
   void OeffneAlle();
   void SperreAntworten();
   void Oeffne(int kachel);
@@ -148,6 +167,32 @@ class Arbeitsblatt1 : public Form {
   /// Appends an answer to the record, with the attribute that tells the slot.
   void NeueAntwort(int lfd, const char* slot_attribute);
 
+  // training.cc
+  void BeginneTraining();
+  void NimmTrainingAuf();
+  void SetzeTrainingFort();
+  void ZeigeTraining();
+  void ZeigeMaterial();
+  void WerteTraining();
+  void BeendeTraining();
+  bool IstZuSichern() const;
+  void BieteSichernAn();
+  bool WillSichern(const std::string& frage);
+  void MeldeSicherungsfehler(const std::exception_ptr& error);
+  void SichereTraining();
+  void LegeTrainingAb();
+  StoredTraining Trainingsstand() const;
+
+  // test_run.cc
+  void BeginneTest();
+  void ZaehleTestaufgabe();
+  void ZaehleTestzeit();
+  void ZeigeRestzeit();
+  void BeendeTestNachZeit();
+
+  bool IstTraining() const { return parts_.settings.IstTraining(); }
+  bool IstFortsetzung() const { return parts_.settings.uebmodus == kModusFortsetzung; }
+  bool IstTest() const { return parts_.settings.IstTest(); }
   bool NachAkkorden() const { return parts_.settings.best_art == 0; }
   const BoardEntry& Gefragt(int slot) const { return parts_.board[run_.task.aufg_akk_ar.at(slot)]; }
 
@@ -156,6 +201,10 @@ class Arbeitsblatt1 : public Form {
   RunState run_;
   TaskSelection selection_;
   ChordPlayback playback_;
+  Scoring scoring_;
+  StoredTraining fortsetzung_;      ///< what a continued training was stored as
+  bool sichern_gefragt_ = false;    ///< the question whether to save stands
+  bool aufzeichnung_offen_ = true;  ///< the record still waits for its end
   std::unique_ptr<MidiEvent> midi_ereignis;
 };
 

@@ -1,15 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-// One run in German, click by click, against the record that it must leave.
+// One run of each mode in German, click by click, against the record that it must leave.
 
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <initializer_list>
 #include <iterator>
 #include <string>
+#include <utility>
 
-#include "worksheet/worksheet_fixture.h"
+#include "worksheet/mode_fixture.h"
 
 namespace vmod17 {
 namespace {
@@ -84,6 +86,106 @@ TEST(LessonRecord, TellsARunOfTwoTasksClickByClick) {
   EXPECT_TRUE(p.worksheet().zurueck.Press());
   EXPECT_EQ(p.documents.Latest().file_name, "/tmp\\MVX261121140322.xml");
   EXPECT_EQ(p.documents.Latest().saved, Golden("lesson_record.outline"));
+}
+
+/// Compares with a golden file.
+void ExpectGolden(const std::string& name, const std::string& found) {
+  EXPECT_EQ(found, Golden(name)) << name;
+}
+
+/// One element a line.
+std::string Lines(const TaggedValue& list) {
+  std::string lines;
+  for (const TaggedValue& element : list.Elements()) lines += element.String() + "\n";
+  return lines;
+}
+
+/// A German run of two chords a task.
+class GoldenRun : public ModeFixture {
+ public:
+  GoldenRun() {
+    SpeakGerman(languages);
+    for (const auto& [id, word] :
+         std::initializer_list<std::pair<const char*, const char*>>{{"564s", "Training neu"},
+                                                                    {"565s", "Training fortsetzen"},
+                                                                    {"550s", "Test"},
+                                                                    {"438s", "Prüfung"},
+                                                                    {"142s", "automatisch"},
+                                                                    {"426s", "Nr."}}) {
+      languages.languages[0].second.words[id] = word;
+    }
+    host.language = "Deutsch";
+    host.user = {"4711", "Berg", "Anna"};
+    loop.date = {2026, 11, 21, 14, 3, 22};
+  }
+
+  void Begin(int modus) {
+    ToSettings();
+    settings_screen().akkzahl_cmb.Choose(1);
+    BeginHere(modus);
+  }
+  /// One task that is known, in which the second chord is heard again, and one of whose chords the
+  /// first is taken for another and the second is lost.
+  void TwoTasks() {
+    PlayTaskOf({2, 7});
+    Click(2, 1299);
+    loop.Advance(500);
+    EXPECT_TRUE(Repeat());
+    Click(7, 2769);
+    PlayTaskOf({10, 4});
+    Click(9, 310);
+    Click(10, 12000);
+    for (const int tile : {1, 2, 3, 5}) Click(tile, 40);
+  }
+  void Leave() {
+    loop.date = {2026, 11, 21, 14, 9, 5};
+    SaveAndLeave();
+    EXPECT_EQ(documents.Latest().saves, 1);
+  }
+
+ private:
+  void Click(int tile, double ms) {
+    loop.Advance(ms);
+    EXPECT_TRUE(worksheet().jz_kl[tile].Press()) << tile;
+  }
+};
+
+TEST(LessonRecord, TellsANewTrainingAndWhatItStores) {
+  GoldenRun p;
+  p.Begin(kTraining);
+  p.TwoTasks();
+  p.Leave();
+  ExpectGolden("training.outline", p.documents.Latest().saved);
+  ExpectGolden("training_a1.txt", Lines(p.host.Stored("A1")));
+}
+
+TEST(LessonRecord, TellsAContinuedTrainingAndWhatItStores) {
+  GoldenRun before;
+  before.Begin(kTraining);
+  before.TwoTasks();
+  before.Leave();
+  GoldenRun p;
+  p.Continue(before.host);
+  p.TwoTasks();
+  p.Leave();
+  ExpectGolden("continued_training.outline", p.documents.Latest().saved);
+  ExpectGolden("continued_training_a1.txt", Lines(p.host.Stored("A1")));
+}
+
+TEST(LessonRecord, TellsATest) {
+  GoldenRun p;
+  p.Begin(kTest);
+  p.TwoTasks();
+  p.Leave();
+  ExpectGolden("test.outline", p.documents.Latest().saved);
+}
+
+TEST(LessonRecord, TellsAnExam) {
+  GoldenRun p;
+  p.Begin(kPruefung);
+  p.TwoTasks();
+  p.Leave();
+  ExpectGolden("exam.outline", p.documents.Latest().saved);
 }
 
 }  // namespace

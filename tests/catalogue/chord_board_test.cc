@@ -460,6 +460,141 @@ TEST(ChordBoard, Counts24ChoicesOnAFullBoard) {
   EXPECT_EQ(brett.board.limits.fehl_max, 8);
 }
 
+// --- Boards that are taken over --------------------------------------------------------------
+
+/// The error number of taking the entries over, or 0.
+int ErrorOfTakingOver(Brett& brett, const Wahl& wahl, const std::vector<BoardEntry>& entries) {
+  try {
+    brett.board.Uebernimm(wahl.Selection(), entries);
+    return 0;
+  } catch (const RunTimeError& error) {
+    return error.number();
+  }
+}
+
+/// Entries as they are stored, without Klang numbers.
+std::vector<BoardEntry> Stored(const Brett& brett) {
+  std::vector<BoardEntry> entries = brett.Entries();
+  for (BoardEntry& entry : entries) entry.klang = 0;
+  return entries;
+}
+
+TEST(ChordBoard, TakesOverABoardWithItsKlangNumbersAndNotes) {
+  const Wahl wahl = {{4}, {1, 5}, 0, 0};
+  const Brett drawn(wahl);
+  Brett brett;
+  EXPECT_EQ(ErrorOfTakingOver(brett, wahl, Stored(drawn)), 0);
+  EXPECT_EQ(brett.board.akk_zahl, 5);
+  for (int e = 1; e <= 5; ++e) {
+    const BoardEntry& entry = brett.board[e];
+    const ExpectedChord& expected = ExpectedOf(entry.klangtyp, entry.row);
+    EXPECT_EQ(entry.klang, expected.klang);
+    EXPECT_EQ(entry.group, expected.group);
+    EXPECT_EQ(brett.board.LetzteNote(e), 3);
+  }
+  EXPECT_EQ(brett.board[6], BoardEntry());
+  EXPECT_EQ(brett.table.akk_struktur_ar, drawn.table.akk_struktur_ar);
+  EXPECT_EQ(brett.table.klang_spanne_ar, drawn.table.klang_spanne_ar);
+  EXPECT_EQ(brett.random.draws, 0);
+}
+
+TEST(ChordBoard, KeepsItsLimitsWhenItTakesABoardOver) {
+  const Wahl wahl = {{3}, {}, 0, 0};
+  const Brett drawn(wahl);
+  Brett fresh;
+  EXPECT_EQ(ErrorOfTakingOver(fresh, wahl, Stored(drawn)), 0);
+  EXPECT_EQ(fresh.board.limits.fehl_stufen, 0) << "no board was built in this process";
+  Brett used({{4}, {4}, 0, 0});
+  ASSERT_EQ(used.board.limits.fehl_stufen, 1);
+  EXPECT_EQ(ErrorOfTakingOver(used, wahl, Stored(drawn)), 0);
+  EXPECT_EQ(used.board.limits.fehl_stufen, 1);
+}
+
+TEST(ChordBoard, MarksAllChosenGroupsOfABoardThatItTakesOverWhenGroupsAreNamed) {
+  for (const int best_art : {0, 1}) {
+    const Wahl wahl = {{4}, {1, 5}, 0, best_art};
+    const Brett drawn(wahl);
+    Brett brett;
+    EXPECT_EQ(ErrorOfTakingOver(brett, wahl, Stored(drawn)), 0);
+    EXPECT_THAT(brett.board.grp_aktiv_ar, ElementsAre(0, best_art, 0, 0, 0, best_art, 0, 0, 0));
+  }
+}
+
+TEST(ChordBoard, RefusesABoardThatItsSelectionCannotGive) {
+  const Wahl wahl = {{3, 4}, {4, 7}, 0, 0};
+  const std::vector<BoardEntry> good = Stored(Brett(wahl));
+  ASSERT_EQ(good.size(), 13u);
+  const auto changed = [&](std::size_t at, BoardEntry entry) {
+    auto entries = good;
+    entries[at] = entry;
+    return entries;
+  };
+  const auto swapped = [&] {
+    auto entries = good;
+    std::swap(entries[3], entries[4]);
+    return entries;
+  };
+  const auto shorter = [&](std::size_t count) {
+    return std::vector<BoardEntry>(good.begin(), good.begin() + static_cast<std::ptrdiff_t>(count));
+  };
+  auto longer = good;
+  longer.push_back({5, 1, 1, 0});
+  const std::vector<std::vector<BoardEntry>> bad = {
+      {},
+      shorter(1),
+      shorter(12),
+      longer,
+      swapped(),
+      changed(1, good[0]),       // the first one twice
+      changed(0, {}),            // no kind
+      changed(0, {2, 1, 0, 0}),  // kinds and rows outside of the catalogue
+      changed(12, {9, 1, 1, 0}),
+      changed(9, {3, 11, 0, 0}),
+      changed(0, {3, 0, 0, 0}),
+      changed(0, {3, -1, 0, 0}),
+      changed(12, {4, 99, 7, 0}),
+      changed(12, {5, 1, 1, 0}),             // a kind that was not chosen
+      changed(0, {3, 1, 1, 0}),              // a triad in a group
+      changed(12, {4, good[12].row, 1, 0}),  // the wrong group
+      changed(12, {4, good[12].row, 0, 0}),
+      changed(12, {4, good[12].row, 9, 0}),
+  };
+  for (std::size_t i = 0; i < bad.size(); ++i) {
+    SCOPED_TRACE(i);
+    Brett brett({{3}, {}, 0, 0});
+    const auto before = brett.Entries();
+    EXPECT_EQ(ErrorOfTakingOver(brett, wahl, bad[i]), ErrorNumber::kTypeMismatch);
+    EXPECT_EQ(brett.Entries(), before);
+    EXPECT_EQ(brett.board.akk_zahl, 10);
+    EXPECT_EQ(brett.board.limits.fehl_stufen, 4);
+  }
+}
+
+TEST(ChordBoard, RefusesADrawnBoardWithoutTheShareOfAKindOrGroup) {
+  // 16 voicings of the groups 1 to 7, where one of group 8 is always drawn.
+  const Wahl voicings = {{8}, kAlleGruppen, 1, 0};
+  std::vector<BoardEntry> without_group;
+  for (const ExpectedChord& chord : kExpectedChords) {
+    if (chord.klangtyp == 8 && chord.group != 8 && without_group.size() < 16) {
+      without_group.push_back({8, chord.row, chord.group, 0});
+    }
+  }
+  ASSERT_EQ(without_group.size(), 16u);
+  Brett brett;
+  EXPECT_EQ(ErrorOfTakingOver(brett, voicings, without_group), ErrorNumber::kTypeMismatch);
+
+  // 23 of five notes, and one of four, where two of a kind are always drawn.
+  const Wahl kinds = {{4, 5}, kAlleGruppen, 0, 0};
+  std::vector<BoardEntry> one_kind;
+  for (const ExpectedChord& chord : kExpectedChords) {
+    if (chord.klangtyp == 5 && one_kind.size() < 23)
+      one_kind.push_back({5, chord.row, chord.group, 0});
+  }
+  ASSERT_EQ(one_kind.size(), 23u);
+  one_kind.insert(one_kind.begin(), {4, 1, ExpectedOf(4, 1).group, 0});
+  EXPECT_EQ(ErrorOfTakingOver(brett, kinds, one_kind), ErrorNumber::kTypeMismatch);
+}
+
 // --- Properties of all boards ---------------------------------------------------------------
 
 /// Pool sizes by Klangtyp and group as boards have always been drawn with.
@@ -668,6 +803,36 @@ RC_GTEST_PROP(ChordBoardProperty, RepresentsEachKindAndEachGroupOfVoicings, ()) 
   if (wahl.akk_form == 1) {
     for (const int g : wahl.gruppen) RC_ASSERT(brett.Groups().contains(g));
   }
+}
+
+RC_GTEST_PROP(ChordBoardProperty, TakesOverEveryBoardThatItCanDraw, ()) {
+  const Wahl wahl = *AnyWahl();
+  Brett drawn;
+  drawn.random.Restart(AnySeed());
+  drawn.Setze(wahl);
+  for (int e = 1; e <= drawn.board.akk_zahl; ++e) drawn.board.KlangNummer(e);
+  Brett brett;
+  RC_ASSERT(ErrorOfTakingOver(brett, wahl, Stored(drawn)) == 0);
+  RC_ASSERT(brett.Entries() == drawn.Entries());
+  RC_ASSERT(brett.table.akk_struktur_ar == drawn.table.akk_struktur_ar);
+}
+
+RC_GTEST_PROP(ChordBoardProperty, TakesOverNoBoardWithAnEntryTakenOutOrDoubled, ()) {
+  const Wahl wahl = *AnyWahl();
+  Brett drawn;
+  drawn.random.Restart(AnySeed());
+  drawn.Setze(wahl);
+  auto entries = Stored(drawn);
+  if (entries.empty()) return;  // groups of which the kind has none
+  const auto at = *rc::gen::inRange<std::ptrdiff_t>(0, static_cast<std::ptrdiff_t>(entries.size()));
+  if (*rc::gen::arbitrary<bool>()) {
+    entries.erase(entries.begin() + at);
+  } else {
+    const BoardEntry again = entries[static_cast<std::size_t>(at)];
+    entries.insert(entries.begin() + at, again);
+  }
+  Brett brett;
+  RC_ASSERT(ErrorOfTakingOver(brett, wahl, entries) == ErrorNumber::kTypeMismatch);
 }
 
 RC_GTEST_PROP(ChordBoardProperty, GivesEachEntryTheNumberOfItsChord, ()) {

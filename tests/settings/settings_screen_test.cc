@@ -793,8 +793,8 @@ TEST_F(SettingsScreen, HasATestTimerThatPressesTheButton) {
 class WithDocuments : public ProgramFixture {
  public:
   std::function<void()> on_document;
-  Program hooked{{loop, system, messages, view, output, random, dialog, test_files, host.Factory(),
-                  languages.Factory(),
+  Program hooked{{loop, system, messages, view, output, random, dialog, test_files, printer,
+                  host.Factory(), languages.Factory(),
                   [this, make = documents.Factory()] {
                     on_document();
                     return make();

@@ -90,7 +90,16 @@ class Walk : public SettingsTest {
   bool RunAndReturn() {
     if (!screen().cmdOK.Press()) return false;
     ++runs_;
+    const int level = settings().uebmodus;
     loop.Advance(200);
+    // The training that this store holds has no state, and a board without chords has no material.
+    if (level == 2 || (level > 0 && program.board().akk_zahl == 0)) {
+      if (program.arbeitsblatt1() != nullptr) throw std::runtime_error("a run without chords");
+      if (host.errors.empty()) throw std::runtime_error("no error was logged");
+      host.errors.clear();
+      slot_moved_ = true;
+      return true;
+    }
     if (program.arbeitsblatt1() == nullptr) throw std::runtime_error("no run was started");
     worksheet().zurueck.Press();
     loop.Advance(1000);

@@ -299,6 +299,7 @@ class StartTrace {
       trace_.steps.emplace_back(command);
       return inner_->Action(command, args, result);
     }
+    void Together(const std::function<void()>& stores) override { inner_->Together(stores); }
 
    private:
     StartTrace& trace_;

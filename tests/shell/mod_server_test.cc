@@ -305,6 +305,44 @@ TEST_F(ModServerTest, PassesOnWhatTheStoreRaises) {
   }
 }
 
+TEST_F(ModServerTest, StoresTheSettingsAndThenTheStateOfATraining) {
+  Connect();
+  server_.einst_satz = {"0", "5"};
+  server_.SpeichereTraining("1", {"true", "17"});
+  ASSERT_EQ(host_.calls.size(), 2u);
+  EXPECT_EQ(host_.calls[0].args, TaggedValue(Array{"vmod17", "E1", Array{"0", "5"}}));
+  EXPECT_EQ(host_.calls[1].args, TaggedValue(Array{"vmod17", "A1", Array{"true", "17"}}));
+  EXPECT_EQ(host_.Stored("E1"), TaggedValue(Array{"0", "5"}));
+  EXPECT_EQ(host_.Stored("A1"), TaggedValue(Array{"true", "17"}));
+}
+
+TEST_F(ModServerTest, StoresATrainingUnderTheTypeOfItsExercise) {
+  Connect();
+  server_.einst_satz = {"0"};
+  server_.SpeichereTraining("12", {"true"});
+  EXPECT_EQ(host_.Stored("E12"), TaggedValue(Array{"0"}));
+  EXPECT_EQ(host_.Stored("A12"), TaggedValue(Array{"true"}));
+}
+
+TEST_F(ModServerTest, KeepsTheEarlierTrainingWhenTheStateOfANewOneIsRefused) {
+  Connect();
+  host_.SetStored("E1", Array{"old settings"});
+  host_.SetStored("A1", Array{"old state"});
+  host_.on_call = [](const MemoryHost::Call& call) {
+    if (call.args[1] == TaggedValue("A1")) throw RunTimeError(ErrorNumber::kStore, "no", "test");
+  };
+  server_.einst_satz = {"new settings"};
+  try {
+    server_.SpeichereTraining("1", {"true"});
+    FAIL() << "the error was lost";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number(), ErrorNumber::kStore);
+  }
+  EXPECT_EQ(host_.Sent("STORE"), 2);
+  EXPECT_EQ(host_.Stored("E1"), TaggedValue(Array{"old settings"}));
+  EXPECT_EQ(host_.Stored("A1"), TaggedValue(Array{"old state"}));
+}
+
 TEST_F(ModServerTest, AppendsALineToTheLog) {
   Connect();
   server_.LogMeldung("Ende");
@@ -336,6 +374,7 @@ TEST_F(ModServerTest, PassesOnWhatTheLogRaises) {
 
 TEST_F(ModServerTest, NeedsTheHostToStoreAndToLog) {
   EXPECT_THROW(server_.Speichere("E1", Array{"0"}), RunTimeError);
+  EXPECT_THROW(server_.SpeichereTraining("1", {"true"}), RunTimeError);
   EXPECT_THROW(server_.LogMeldung("Ende"), RunTimeError);
   EXPECT_THAT(host_.calls, IsEmpty());
 }

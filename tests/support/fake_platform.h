@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -15,9 +16,11 @@
 #include "platform/form_view.h"
 #include "platform/language.h"
 #include "platform/message_box.h"
+#include "platform/printer.h"
 #include "platform/run_time_error.h"
 #include "platform/system.h"
 #include "platform/test_file.h"
+#include "shell/numbers.h"
 
 namespace vmod17 {
 
@@ -86,6 +89,7 @@ class FakeSystem : public System {
   std::string computer = "tonstudio";
   std::map<std::string, std::string> environment = {{"temp", "/tmp"}};
   std::string temporary_folder = "/var/tmp";
+  std::string decimal_point = ".";
   std::vector<std::string> keys;
 
   std::string ComputerName() const override { return computer; }
@@ -94,6 +98,12 @@ class FakeSystem : public System {
     return found == environment.end() ? std::nullopt : std::optional(found->second);
   }
   std::string TemporaryFolder() const override { return temporary_folder; }
+  std::string DecimalPoint() const override { return decimal_point; }
+  /// "21.11.2026 14:03".
+  std::string DateTimeText(const DateTime& t) const override {
+    return PaddedText(t.day, 2) + "." + PaddedText(t.month, 2) + "." + PaddedText(t.year, 4) + " " +
+           PaddedText(t.hour, 2) + ":" + PaddedText(t.minute, 2);
+  }
   void SendKeys(const std::string& sent) override { keys.push_back(sent); }
 };
 
@@ -160,6 +170,27 @@ class FakeLanguages {
    private:
     FakeLanguages& all_;
   };
+};
+
+/// Notes what is printed, and answers as a test says.
+class FakePrinter : public Printer {
+ public:
+  struct Page {
+    std::string form;
+    Orientation orientation;
+  };
+  std::vector<Page> pages;
+  Orientation orientation = Orientation::kPortrait;
+  PrintResult result{true, std::nullopt};
+  /// Runs while the form is printed, when it looks as it does on paper.
+  std::function<void(const Form&)> inspect;
+
+  void SetOrientation(Orientation wanted) override { orientation = wanted; }
+  PrintResult PrintForm(Form& form) override {
+    pages.push_back({form.name(), orientation});
+    if (inspect) inspect(form);
+    return result;
+  }
 };
 
 /// Shows nothing, and knows which screens it was given.

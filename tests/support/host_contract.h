@@ -63,12 +63,25 @@ class HostContract : public ::testing::TestWithParam<MakeHost> {
 
   int NumberRaised(const std::string& command, const TaggedValue& args) {
     TaggedValue result;
+    return NumberRaisedBy([&] { host_->Service()->Action(command, args, result); });
+  }
+
+  int NumberRaisedTogether(const std::function<void()>& stores) {
+    return NumberRaisedBy([&] { host_->Service()->Together(stores); });
+  }
+
+  static int NumberRaisedBy(const std::function<void()>& call) {
     try {
-      host_->Service()->Action(command, args, result);
+      call();
     } catch (const RunTimeError& error) {
       return error.number();
     }
     return 0;
+  }
+
+  void ExpectPair(const std::string& settings, const std::string& training) {
+    EXPECT_EQ(Read("E1"), TaggedValue(Array{settings}));
+    EXPECT_EQ(Read("A1"), TaggedValue(Array{training}));
   }
 
   std::unique_ptr<HostUnderTest> host_ = GetParam()();
@@ -199,6 +212,96 @@ TEST_P(HostContract, AppendsLinesAndErrorsToTheLog) {
   EXPECT_EQ(result, TaggedValue("slot"));
   EXPECT_EQ(host_->Log(), (std::vector<std::string>{"vmod17 1.0.0000",
                                                     "mat_wahl|1004|nichts übrig|vmod17", "Ende"}));
+}
+
+TEST_P(HostContract, KeepsAllThatIsStoredTogether) {
+  Store("A1", Array{"old"});
+  host_->Service()->Together([&] {
+    Store("E1", Array{"settings"});
+    Store("A1", Array{"first thought"});
+    Store("A1", Array{"training"});
+  });
+  ExpectPair("settings", "training");
+  host_->Restart();
+  ExpectPair("settings", "training");
+}
+
+TEST_P(HostContract, KeepsNothingOfWhatIsStoredTogetherWhenItRaises) {
+  Store("E1", Array{"old settings"});
+  Store("A1", Array{"old training"});
+  EXPECT_EQ(NumberRaisedTogether([&] {
+              Store("E1", Array{"settings"});
+              Store("N1", Array{"new"});
+              throw RunTimeError(ErrorNumber::kNothingToDraw, "no", "test");
+            }),
+            ErrorNumber::kNothingToDraw);
+  ExpectPair("old settings", "old training");
+  EXPECT_EQ(Read("N1"), kNothingStored);
+  host_->Restart();
+  ExpectPair("old settings", "old training");
+  EXPECT_EQ(Read("N1"), kNothingStored);
+}
+
+TEST_P(HostContract, KeepsNothingOfWhatIsStoredTogetherWhenAStoreIsRefused) {
+  TaggedValue result;
+  EXPECT_EQ(NumberRaisedTogether([&] {
+              Store("E1", Array{"settings"});
+              host_->Service()->Action("STORE", Array{"vmod17", "A1"}, result);
+            }),
+            ErrorNumber::kTypeMismatch);
+  EXPECT_EQ(Read("E1"), kNothingStored);
+}
+
+TEST_P(HostContract, ReadsWhatIsStoredTogetherBeforeItIsComplete) {
+  Store("E1", Array{"old settings"});
+  Store("A1", Array{"old training"});
+  host_->Service()->Together([&] {
+    Store("E1", Array{"settings"});
+    ExpectPair("settings", "old training");
+    Store("A1", Array{"training"});
+    ExpectPair("settings", "training");
+  });
+}
+
+TEST_P(HostContract, RefusesTogetherInTogether) {
+  EXPECT_EQ(NumberRaisedTogether([&] {
+              Store("E1", Array{"outer"});
+              host_->Service()->Together([&] { Store("A1", Array{"inner"}); });
+            }),
+            ErrorNumber::kInvalidCall);
+  EXPECT_EQ(Read("E1"), kNothingStored);
+  EXPECT_EQ(Read("A1"), kNothingStored);
+  EXPECT_EQ(NumberRaisedTogether([&] { Store("E1", Array{"next"}); }), 0);
+  EXPECT_EQ(Read("E1"), TaggedValue(Array{"next"}));
+}
+
+TEST_P(HostContract, StoresAloneAgainAfterTogether) {
+  host_->Service()->Together([] {});
+  Store("E1", Array{"settings"});
+  EXPECT_EQ(NumberRaisedTogether([] { throw RunTimeError(ErrorNumber::kDevice, "no", "test"); }),
+            ErrorNumber::kDevice);
+  Store("A1", Array{"training"});
+  host_->Restart();
+  ExpectPair("settings", "training");
+}
+
+TEST_P(HostContract, KeepsLogLinesThatAreWrittenWhileItStoresTogether) {
+  TaggedValue result;
+  const auto log = [&](const char* line) { host_->Service()->Action("LOGMESS", line, result); };
+  host_->Service()->Together([&] {
+    log("first");
+    Store("E1", Array{"settings"});
+    log("second");
+    Store("A1", Array{"training"});
+  });
+  EXPECT_EQ(NumberRaisedTogether([&] {
+              Store("E1", Array{"newer"});
+              log("third");
+              throw RunTimeError(ErrorNumber::kDevice, "no", "test");
+            }),
+            ErrorNumber::kDevice);
+  ExpectPair("settings", "training");
+  EXPECT_EQ(host_->Log(), (std::vector<std::string>{"first", "second", "third"}));
 }
 
 TEST_P(HostContract, RefusesArgumentsOfAnotherShape) {

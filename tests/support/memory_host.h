@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -53,6 +54,8 @@ class MemoryHost {
   bool returns_to_menu = false;
   /// Stored values by user, program and key; the user is "" for nobody.
   std::map<std::tuple<std::string, std::string, std::string>, TaggedValue> records;
+  /// Sees each call before it is carried out. What it raises is what the call raises.
+  std::function<void(const Call&)> on_call;
   /// Takes the place of every answer to a command, of whatever kind.
   std::map<std::string, TaggedValue, std::less<>> answers;
 
@@ -103,6 +106,7 @@ class MemoryHost {
     bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result) override {
       return host_.Action(command, args, result);
     }
+    void Together(const std::function<void()>& stores) override { host_.Together(stores); }
 
    private:
     MemoryHost& host_;
@@ -110,6 +114,7 @@ class MemoryHost {
 
   bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result) {
     calls.push_back({std::string(command), args});
+    if (on_call) on_call(Call(calls.back()));
     if (const auto trouble = troubles_.find(command); trouble != troubles_.end()) {
       if (trouble->second == 0) return false;
       throw RunTimeError(trouble->second, "the host refuses " + std::string(command),
@@ -124,6 +129,23 @@ class MemoryHost {
     if (command == "LOGMESS") return LogMessage(args);
     if (command == "LOGERR") return LogError(args);
     return Answer(command, args, result);
+  }
+
+  void Together(const std::function<void()>& stores) {
+    if (stores_together_) {
+      throw RunTimeError(ErrorNumber::kInvalidCall, "what is stored together is begun already",
+                         "vmod17.MemoryHost");
+    }
+    stores_together_ = true;
+    const auto before = records;
+    try {
+      stores();
+    } catch (...) {
+      records = before;
+      stores_together_ = false;
+      throw;
+    }
+    stores_together_ = false;
   }
 
   bool Answer(std::string_view command, const TaggedValue& args, TaggedValue& result) const {
@@ -172,6 +194,7 @@ class MemoryHost {
 
   std::string UserId() const { return user ? user->id : std::string(); }
 
+  bool stores_together_ = false;
   std::map<std::string, int, std::less<>> troubles_;  // number to raise, 0 to return false
 };
 

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "app/program.h"
 #include "support/fake_platform.h"
@@ -19,7 +20,14 @@ namespace vmod17 {
 /// The whole program on fakes, in virtual time.
 class ProgramFixture {
  public:
-  explicit ProgramFixture(double clock = 10 * 3600) : loop(clock) {}
+  explicit ProgramFixture(double clock = 10 * 3600) : ProgramFixture(clock, {}, {}) {}
+  /// With documents or a host of another kind in place of the fixture's own.
+  ProgramFixture(double clock, XmlDocumentFactory make_document, HostServiceFactory make_host)
+      : loop(clock),
+        program({loop, system, messages, view, output, random, dialog, test_files, printer,
+                 make_host ? std::move(make_host) : host.Factory(), languages.Factory(),
+                 make_document ? std::move(make_document) : documents.Factory()},
+                {"vmod17", 1, 0, 0}) {}
 
   SimulatedLoop loop;
   FakeSystem system;
@@ -29,17 +37,17 @@ class ProgramFixture {
   ScriptedRandom random;
   ScriptedFileDialog dialog;
   MemoryTestFiles test_files;
+  FakePrinter printer;
   MemoryHost host;
   FakeLanguages languages;
   MemoryXmlLibrary documents;
   bool ended = false;
-  Program program{{loop, system, messages, view, output, random, dialog, test_files, host.Factory(),
-                   languages.Factory(), documents.Factory()},
-                  {"vmod17", 1, 0, 0}};
+  Program program;
 
   GrdEinst& first() { return *program.grd_einst(); }
   Einstellung1& settings_screen() { return *program.einstellung1(); }
   Arbeitsblatt1& worksheet() { return *program.arbeitsblatt1(); }
+  Testergebnis& results() { return *program.testergebnis(); }
   ExerciseSettings& settings() { return program.settings(); }
   const RunState& run() { return worksheet().run(); }
 

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "worksheet/mode_fixture.h"
 #include "worksheet/worksheet_fixture.h"
 
 namespace vmod17 {
@@ -800,6 +801,134 @@ TEST(Leaving, GoesBackToTheSettingsWithAllTheyHeld) {
   EXPECT_TRUE(p.settings_screen().cmdOK.Reachable());
 }
 
+// ---- The ways out of a run that counts --------------------------------------------------------
+
+/// States of a run of any mode; a test goes on by itself, and so it waits for the next task only
+/// for a while.
+const std::vector<Step> kStatesOfAnyMode = {
+    {"waiting for the first task", [](WorksheetFixture&) {}},
+    {"playing",
+     [](WorksheetFixture& p) {
+       if (p.settings().abfolge == 0) {
+         p.worksheet().CmdNextAufg.Press();
+       } else {
+         p.loop.Advance(1800);
+       }
+     }},
+    {"answering", [](WorksheetFixture& p) { p.PlayTask(); }},
+    {"answering the second slot",
+     [](WorksheetFixture& p) {
+       p.PlayTask();
+       p.Right();
+     }},
+    {"answering after a wrong click",
+     [](WorksheetFixture& p) {
+       p.PlayTask();
+       p.Wrong();
+     }},
+    {"repeating",
+     [](WorksheetFixture& p) {
+       p.PlayTask();
+       p.worksheet().wieder.Press();
+     }},
+    {"waiting for the next task",
+     [](WorksheetFixture& p) {
+       p.PlayTask();
+       p.FinishTask();
+     }},
+    {"checking",
+     [](WorksheetFixture& p) {
+       p.PlayTask();
+       p.FinishTask();
+       p.worksheet().wieder2.Press();
+     }},
+    {"answering the second task",
+     [](WorksheetFixture& p) {
+       p.PlayTask();
+       p.FinishTask();
+       p.PlayTask();
+     }},
+};
+
+TEST(Leaving, SavesTheRecordOnceInEveryModeFromEveryState) {
+  for (const int modus : {kFrei, kTraining, kWeiter, kTest, kPruefung}) {
+    for (const auto answer : {MessageBox::Answer::kYes, MessageBox::Answer::kNo}) {
+      for (const WayOut& way : kWaysOut) {
+        for (const Step& state : kStatesOfAnyMode) {
+          SCOPED_TRACE(std::to_string(modus) + ", " + way.name + ", " + state.name);
+          ModeFixture p;
+          BeginAnyMode(p, modus);
+          state.reach(p);
+          const bool training = modus == kTraining || modus == kWeiter;
+          const bool asked = training && p.run().schalter_zaehler > 0;
+          p.messages.answer = answer;
+          way.go(p);
+          ASSERT_EQ(p.program.arbeitsblatt1(), nullptr);
+          EXPECT_EQ(p.messages.questions.size(), asked ? 1u : 0u);
+          EXPECT_EQ(p.host.Sent("STORE"), asked && answer == MessageBox::Answer::kYes ? 2 : 0);
+          EXPECT_EQ(p.documents.Latest().saves, 1);
+          EXPECT_EQ(p.program.testergebnis(), nullptr);
+          EXPECT_TRUE(p.settings_screen().visible);
+          EXPECT_EQ(p.settings().uebmodus, modus);
+          EXPECT_EQ(p.loop.timers(), 0);
+          const int starts = p.output.starts;
+          p.loop.Advance(600000);
+          EXPECT_EQ(p.output.starts, starts);
+          EXPECT_TRUE(p.messages.warnings.empty());
+          EXPECT_TRUE(p.host.errors.empty());
+          p.StartRun();
+          p.PlayTask();
+          EXPECT_NE(p.Right(), 0) << "a new run works";
+        }
+      }
+    }
+  }
+}
+
+TEST(Leaving, TheProgramSavesTheRecordOnceInEveryModeFromEveryState) {
+  for (const int modus : {kFrei, kTraining, kWeiter, kTest, kPruefung}) {
+    for (const Step& state : kStatesOfAnyMode) {
+      SCOPED_TRACE(std::to_string(modus) + ", " + state.name);
+      ModeFixture p;
+      BeginAnyMode(p, modus);
+      state.reach(p);
+      p.program.Leave();
+      EXPECT_TRUE(p.ended);
+      EXPECT_EQ(p.documents.Latest().saves, 1);
+      EXPECT_TRUE(p.messages.questions.empty());
+      EXPECT_EQ(p.host.Sent("MENUE"), 1);
+      EXPECT_EQ(p.loop.timers(), 0);
+      EXPECT_TRUE(p.view.forms.empty());
+    }
+  }
+}
+
+TEST(Leaving, ATrainingThatIsOverLeadsThroughTheResultsAlsoWhenTheWindowIsClosed) {
+  for (const WayOut& way : kWaysOut) {
+    ModeFixture p;
+    p.BeginMode(kTraining);
+    p.Solve();
+    way.go(p);
+    EXPECT_EQ(p.documents.Latest().saves, 0);
+    p.PassResults();
+    EXPECT_EQ(p.documents.Latest().saves, 1);
+    EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+    EXPECT_TRUE(p.settings_screen().visible);
+  }
+}
+
+TEST(Leaving, ByTheWindowOfTheResultsSavesTheRecord) {
+  ModeFixture p;
+  p.BeginMode(kTraining);
+  p.Solve();
+  p.worksheet().zurueck.Press();
+  p.loop.Advance(300);
+  p.results().Form_Close();
+  EXPECT_EQ(p.documents.Latest().saves, 1);
+  EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+  EXPECT_TRUE(p.settings_screen().visible);
+}
+
 // ---- Errors -----------------------------------------------------------------------------------
 
 /// The run has ended by an error in the routine of that tag: it is logged and told once, the record
@@ -949,6 +1078,122 @@ TEST(ErrorOnTheWorksheet, AtTheEndOfAPlayingEndsTheRun) {
   EXPECT_TRUE(p.settings_screen().visible);
   EXPECT_EQ(p.documents.Latest().saves, 1);
   EXPECT_EQ(p.loop.timers(), 0);
+}
+
+/// Ways to make each routine of weight fail, in a run of any mode with a task answered before.
+struct Failure {
+  const char* tag;
+  std::function<void(ModeFixture&)> provoke;
+};
+
+void RunNextTask(ModeFixture& p) {
+  if (p.settings().abfolge == 0) {
+    p.worksheet().CmdNextAufg.Press();
+  } else {
+    p.loop.Advance(1800);
+  }
+}
+
+const std::vector<Failure> kFailures = {
+    {"mat_wahl.",
+     [](ModeFixture& p) {
+       p.random.Always(0);
+       RunNextTask(p);
+     }},
+    {"akk_antw.",
+     [](ModeFixture& p) {
+       p.PlayTask();
+       std::erase_if(p.record().Find("lessons")->children.back()->children,
+                     [](const auto& child) { return child->name == "answers"; });
+       p.Right();
+     }},
+    {"spieltimer_timer.",
+     [](ModeFixture& p) {
+       RunNextTask(p);
+       p.settings().grp_ausw_ar[1] = 9;  // there are eight buttons
+       p.EndPlaying();
+     }},
+};
+
+TEST(ErrorOnTheWorksheet, EndsARunThatCountsWithoutAQuestionAndWithoutResults) {
+  for (const int modus : {kTraining, kTest}) {
+    for (const Failure& failure : kFailures) {
+      SCOPED_TRACE(std::to_string(modus) + ", " + failure.tag);
+      ModeFixture p;
+      p.BeginMode(modus, [](ExerciseSettings& s) { s.best_art = 1; }, {4, 5}, {1, 2});
+      p.PlayTask();
+      p.FinishTask();
+      p.messages.answer = MessageBox::Answer::kYes;
+      failure.provoke(p);
+      ASSERT_EQ(p.host.errors.size(), 1u);
+      EXPECT_EQ(p.host.errors[0].place, std::string(failure.tag) + "arbeitsblatt1.vmod17");
+      EXPECT_EQ(p.messages.warnings.size(), 1u);
+      EXPECT_TRUE(p.messages.questions.empty());
+      EXPECT_EQ(p.host.Sent("STORE"), 0);
+      EXPECT_EQ(p.program.testergebnis(), nullptr);
+      EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+      EXPECT_TRUE(p.settings_screen().visible);
+      EXPECT_EQ(p.documents.Latest().saves, 1);
+      EXPECT_EQ(p.loop.timers(), 0);
+    }
+  }
+}
+
+TEST(ErrorOnTheWorksheet, InTheSetUpOfARunThatCountsEndsIt) {
+  for (const int modus : {kTraining, kTest, kPruefung}) {
+    ModeFixture p;
+    p.ToSettings();
+    p.settings_screen().training_Combo.Choose(modus);
+    p.settings().tempo_idx = 99;
+    p.settings_screen().cmdOK.Press();
+    p.loop.Advance(200);
+    ASSERT_EQ(p.host.errors.size(), 1u);
+    EXPECT_EQ(p.host.errors[0].place, "start_timer.arbeitsblatt1.vmod17");
+    EXPECT_EQ(p.documents.Latest().saves, 1);
+    EXPECT_TRUE(p.messages.questions.empty());
+    EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+    EXPECT_EQ(p.program.testergebnis(), nullptr);
+    EXPECT_EQ(p.host.Sent("STORE"), 0);
+  }
+}
+
+TEST(ErrorOnTheWorksheet, AtTheEndOfATrainingStillLeadsToTheResults) {
+  ModeFixture p;
+  p.BeginMode(kTraining);
+  for (int e = 1; e <= 9; ++e) p.DoTask({e});
+  p.PlayTaskOf({10});
+  p.host.Raise("STORE");  // that the training is over
+  const Arbeitsblatt1& sheet = p.worksheet();
+  p.Right();
+  ASSERT_EQ(p.host.errors.size(), 1u);
+  EXPECT_EQ(p.host.errors[0].place, "akk_antw.arbeitsblatt1.vmod17");
+  EXPECT_EQ(sheet.zurueck.tag, "ERROR");
+  EXPECT_EQ(sheet.pointer, Form::Pointer::kDefault);
+  EXPECT_TRUE(p.messages.questions.empty());
+  EXPECT_EQ(p.documents.Latest().saves, 0);
+  p.PassResults();
+  EXPECT_EQ(p.documents.Latest().saves, 1);
+  EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+}
+
+TEST(ErrorOnTheWorksheet, TellsInEveryModeThatABoardOfOneChordOnOneRootHasNoSecondTask) {
+  for (const int modus : {kTraining, kTest, kPruefung}) {
+    ModeFixture p;
+    p.Begin(
+        [&](ExerciseSettings& s) {
+          s.grundton_art = 1;
+          s.uebmodus = modus;
+        },
+        {4}, {7});
+    p.PlayTask();
+    EXPECT_NE(p.Right(), 0);
+    RunNextTask(p);
+    ASSERT_EQ(p.host.errors.size(), 1u);
+    EXPECT_EQ(p.host.errors[0].number, ErrorNumber::kNothingToDraw);
+    EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+    EXPECT_EQ(p.documents.Latest().saves, 1);
+    EXPECT_TRUE(p.messages.questions.empty());
+  }
 }
 
 TEST(ErrorOnTheWorksheet, IsToldBeforeTheScreenGoes) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <set>
 #include <utility>
 #include <vector>
@@ -435,6 +436,321 @@ TEST_F(TaskSelectionTest, LeavesTheMaterialOfATrainingAlone) {
   EXPECT_EQ(run.material.mat_anzahl, 0);
   EXPECT_EQ(run.material.mat_index, 0);
   EXPECT_TRUE(run.material.mat_ar.empty());
+}
+
+// ---- Draws from the material --------------------------------------------------------------------
+
+/// A run on one root whose material a test lays out.
+class MaterialDrawTest : public TaskSelectionTest {
+ protected:
+  MaterialDrawTest() {
+    settings.grundton_art = 1;
+    auswertung.init_arr(24, 3);
+  }
+
+  /// A training of the ten triads whose bag holds the entries 1 to 10 in turn, ten times, and whose
+  /// gauge stands at `rest` of 80.
+  void Training(int uebmodus, int rest) {
+    settings.uebmodus = uebmodus;
+    random.script_only = false;
+    Triads();
+    run.material.mat_posten = 10;
+    run.material.BeginneTraining(auswertung);
+    run.material.mat_anzahl = 100;
+    run.material.mat_ar.assign(1, 0);
+    for (int i = 0; i < 100; ++i) run.material.mat_ar.push_back(i % 10 + 1);
+    run.material.mat_rest = rest;
+    random.script_only = true;
+  }
+  /// A test of the triads with this bag.
+  void Test(const std::vector<int>& bag) {
+    settings.uebmodus = 3;
+    Triads();
+    run.material.mat_posten = 10;
+    run.material.BeginneTest(static_cast<int>(bag.size()));
+    std::copy(bag.begin(), bag.end(), run.material.mat_ar.begin() + 1);
+    random.script_only = true;
+  }
+  std::vector<int> Bag() const {
+    return {run.material.mat_ar.begin() + 1, run.material.mat_ar.end()};
+  }
+  /// Draws with these values, the chord before forgotten, and returns the place in the bag.
+  int DrawPlace(std::initializer_list<float> script) {
+    run.letzt_akk = LastChord();
+    run.letzt_ton = 0;
+    random.Script(script);
+    DrawTask();
+    EXPECT_TRUE(random.ScriptDone());
+    EXPECT_EQ(run.task.aufg_akk_ar[1], run.material.mat_ar[run.material.mat_index]);
+    return run.material.mat_index;
+  }
+
+  Auswertung auswertung;
+};
+
+constexpr float kAlmostOne = 0.9999999f;
+
+TEST_F(MaterialDrawTest, DrawsUniformlyFromTheBagFromTwentyPerCentOn) {
+  for (const int uebmodus : {1, 2}) {
+    for (const int rest : {16, 40, 79}) {  // 20, 50 and 99 per cent
+      Training(uebmodus, rest);
+      EXPECT_EQ(DrawPlace({0.0f}), 1);
+      EXPECT_EQ(DrawPlace({Draw(57, 100)}), 58);
+      EXPECT_EQ(DrawPlace({kAlmostOne}), 100);
+    }
+  }
+}
+
+TEST_F(MaterialDrawTest, TurnsToTheFrontOfTheBagNearTheEnd) {
+  struct Case {
+    int rest;   // of 80
+    int b;      // a test value up to this draws from the front
+    int share;  // of the bag, in per cent
+  };
+  for (const int uebmodus : {1, 2}) {
+    for (const Case& c : {Case{15, 11, 38},    // 19 per cent
+                          Case{12, 15, 30},    // 15
+                          Case{8, 20, 20},     // 10
+                          Case{4, 25, 10}}) {  // 5
+      SCOPED_TRACE(c.rest);
+      Training(uebmodus, c.rest);
+      for (const int test_value : {0, c.b}) {
+        EXPECT_EQ(DrawPlace({Draw(test_value, 100), kAlmostOne}), c.share);
+        EXPECT_EQ(DrawPlace({Draw(test_value, 100), 0.5f}), c.share / 2 + 1);
+        EXPECT_EQ(DrawPlace({Draw(test_value, 100), 0.0f}), 1);
+      }
+      for (const int test_value : {c.b + 1, 99}) {
+        EXPECT_EQ(DrawPlace({Draw(test_value, 100), kAlmostOne}), 100);
+        EXPECT_EQ(DrawPlace({Draw(test_value, 100), Draw(57, 100)}), 58);
+      }
+    }
+  }
+}
+
+TEST_F(MaterialDrawTest, TakesTheFirstPlaceWhenTheShareOfTheFrontIsNothing) {
+  Training(1, 0);
+  EXPECT_EQ(DrawPlace({Draw(30, 100), kAlmostOne}), 1);
+  EXPECT_EQ(DrawPlace({Draw(0, 100), 0.0f}), 1);
+  EXPECT_EQ(DrawPlace({Draw(31, 100), kAlmostOne}), 100);
+}
+
+TEST_F(MaterialDrawTest, NeverTakesTheTestValueForAPlace) {
+  Training(1, 15);
+  run.material.mat_index = 0;
+  // 11 is drawn as the test value, and then the third place of the front.
+  EXPECT_EQ(DrawPlace({Draw(11, 100), Draw(2, 38)}), 3);
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 3);
+}
+
+TEST_F(MaterialDrawTest, AsksTheWeakChordsMoreOftenNearTheEnd) {
+  settings.grundton_art = 0;
+  settings.uebmodus = 1;
+  Triads();
+  run.material.mat_posten = 10;
+  run.material.BeginneTraining(auswertung);
+  for (int e = 2; e <= 10; ++e) *run.material.Gewicht(e) = 0;
+  *run.material.Gewicht(1) = 8;
+  run.material.MaterialOrdnen();
+  ASSERT_EQ(run.material.Prozent(), 10);
+  ASSERT_EQ(run.material.mat_anzahl, 18);  // nine copies of entry 1, one of each other
+  int weak = 0;
+  for (int task = 0; task < 4000; ++task) {
+    DrawTask();
+    if (run.task.aufg_akk_ar[1] == 1) ++weak;
+  }
+  // 21 of 100 draws from the front 3.6 places, the others from all: 0.21 + 0.79 / 2 = 0.605.
+  EXPECT_NEAR(weak / 4000.0, 0.605, 0.04);
+}
+
+TEST_F(MaterialDrawTest, GivesUpOnTheBagAfterAsManyTriesAsItHasPlaces) {
+  Training(1, 40);
+  run.material.mat_ar = {0, 2, 2, 2};
+  run.material.mat_anzahl = 3;
+  EXPECT_EQ(DrawPlace({Draw(0, 3)}), 1);
+  // Twice the chord of the task before, from the bag; the third try is from the board.
+  random.Script({Draw(1, 3), Draw(2, 3), Draw(4, 10)});
+  DrawTask();
+  EXPECT_TRUE(random.ScriptDone());
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 5);
+}
+
+TEST_F(MaterialDrawTest, DrawsAllFurtherTriesFromTheBoardOnceItHasGivenUp) {
+  Training(1, 40);
+  run.material.mat_ar = {0, 2, 2};
+  run.material.mat_anzahl = 2;
+  DrawPlace({Draw(0, 2)});
+  random.Script({Draw(0, 2), Draw(1, 10), Draw(1, 10), Draw(8, 10)});
+  DrawTask();
+  EXPECT_TRUE(random.ScriptDone());
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 9);
+}
+
+TEST_F(MaterialDrawTest, TurnsToTheBagAgainForTheNextSlot) {
+  Training(1, 40);
+  settings.akk_anzahl = 2;
+  run.material.mat_ar = {0, 2, 2, 3};
+  run.material.mat_anzahl = 3;
+  // The second slot refuses the first one's chord twice and gives up; the next task does not.
+  random.Script({Draw(0, 3), Draw(0, 3), Draw(1, 3), Draw(6, 10)});
+  DrawTask();
+  EXPECT_EQ(run.task.aufg_akk_ar[2], 7);
+  random.Script({Draw(2, 3), Draw(0, 3)});
+  DrawTask();
+  EXPECT_TRUE(random.ScriptDone());
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 3);
+  EXPECT_EQ(run.task.aufg_akk_ar[2], 2);
+}
+
+TEST_F(MaterialDrawTest, DrawsFromTheBoardWhileATrainingThatWasTakenUpHasNoBag) {
+  settings.uebmodus = 2;
+  Board({4}, {4});
+  ASSERT_EQ(board.akk_zahl, 2);
+  selection.BereiteVor(run);
+  run.material.SetzeFort({{2, 15}, {1, 15}}, auswertung);
+  ASSERT_EQ(run.material.mat_anzahl, 0);
+  random.script_only = true;
+  for (const int e : {1, 2, 1}) {
+    random.Script({Draw(e - 1, 2)});
+    DrawTask();
+    EXPECT_EQ(run.task.aufg_akk_ar[1], e);
+    EXPECT_TRUE(random.ScriptDone());
+  }
+  *run.material.Gewicht(2) = 3;
+  *run.material.Gewicht(1) = 11;
+  run.material.MaterialOrdnen();
+  ASSERT_EQ(run.material.mat_anzahl, 14);
+  random.Script({Draw(13, 14)});
+  DrawTask();
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 2) << "the last place of the bag, not of the board";
+}
+
+TEST_F(MaterialDrawTest, UsesUpTheFirstCopyOfWhatATestDraws) {
+  Test({1, 2, 3, 2, 3, 2});
+  random.Script({Draw(5, 6)});  // the last copy of 2 is drawn
+  DrawTask();
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 2);
+  EXPECT_EQ(Bag(), (std::vector<int>{1, 0, 3, 2, 3, 2}));
+  random.Script({Draw(1, 6), Draw(4, 6)});  // a used place is drawn again
+  DrawTask();
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 3);
+  EXPECT_EQ(Bag(), (std::vector<int>{1, 0, 0, 2, 3, 2}));
+  EXPECT_TRUE(random.ScriptDone());
+}
+
+TEST_F(MaterialDrawTest, UsesUpNothingInATestForARefusedDraw) {
+  Test({2, 2, 2, 3, 3, 3});
+  random.Script({Draw(0, 6)});
+  DrawTask();
+  random.Script({Draw(2, 6), Draw(1, 6), Draw(3, 6)});  // 2 again, twice refused
+  DrawTask();
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 3);
+  EXPECT_EQ(Bag(), (std::vector<int>{0, 2, 2, 0, 3, 3}));
+}
+
+TEST_F(MaterialDrawTest, UsesUpNothingInATestForAChordOutsideTheBag) {
+  Test({2, 2, 2});
+  random.Script({Draw(0, 3)});
+  DrawTask();
+  random.Script({Draw(1, 3), Draw(2, 3), Draw(7, 10)});
+  DrawTask();
+  EXPECT_EQ(run.task.aufg_akk_ar[1], 8);
+  EXPECT_EQ(Bag(), (std::vector<int>{0, 2, 2}));
+}
+
+TEST_F(MaterialDrawTest, UsesUpACopyInATestForEachSlot) {
+  Test({1, 2, 3, 4, 5, 6});
+  settings.akk_anzahl = 3;
+  random.Script({Draw(5, 6), Draw(0, 6), Draw(3, 6)});
+  DrawTask();
+  EXPECT_EQ(Bag(), (std::vector<int>{0, 2, 3, 0, 5, 0}));
+}
+
+TEST_F(MaterialDrawTest, GivesUpWhenTheBagOfATestIsEmpty) {
+  Test({0, 0, 0, 0});
+  random.script_only = false;
+  EXPECT_EQ(ErrorOf([&] { DrawTask(); }), ErrorNumber::kNothingToDraw);
+}
+
+TEST_F(MaterialDrawTest, DrawsEachHalfOfATestWithoutReplacement) {
+  settings.grundton_art = 0;
+  settings.oktav_ber = 3;
+  for (const int uebmodus : {3, 4}) {
+    for (const int akk_anzahl : {1, 2, 3, 4}) {
+      settings.uebmodus = uebmodus;
+      settings.akk_anzahl = akk_anzahl;
+      Board({4, 6}, {1, 3, 5});
+      selection.BereiteVor(run);
+      run.material.mat_posten = board.akk_zahl;
+      run.test.test_aufgaben = 2 * ((2 * board.akk_zahl + akk_anzahl - 1) / akk_anzahl);
+      auswertung.Clear();
+      selection.BeginneTest(run, auswertung);
+      const int half = run.test.test_aufgaben / 2;
+      ASSERT_EQ(run.material.mat_anzahl, half * akk_anzahl);
+      for (int part = 1; part <= 2; ++part) {
+        std::vector<int> expected = Bag();
+        std::vector<int> drawn;
+        for (int task = 0; task < half; ++task) {
+          DrawTask();
+          for (int slot = 1; slot <= akk_anzahl; ++slot) {
+            drawn.push_back(run.task.aufg_akk_ar[slot]);
+          }
+        }
+        for (int e = 1; e <= board.akk_zahl; ++e) {
+          EXPECT_EQ(std::ranges::count(drawn, e), std::ranges::count(expected, e)) << e;
+          EXPECT_GE(std::ranges::count(drawn, e), 1) << e;
+        }
+        EXPECT_EQ(Bag(), std::vector<int>(static_cast<std::size_t>(half * akk_anzahl), 0));
+        if (part == 1) run.material.MaterialTest(auswertung, random);
+      }
+      float in_pool = 0;
+      auswertung.read(1, 3, in_pool);
+      EXPECT_EQ(in_pool, 2);
+    }
+  }
+}
+
+TEST_F(MaterialDrawTest, CoversHalfATestRoundedHalvesToEven) {
+  settings.uebmodus = 3;
+  Triads();
+  run.material.mat_posten = 1;
+  for (const auto& [aufgaben, akk_anzahl, copies] :
+       std::vector<std::array<int, 3>>{{96, 1, 48}, {10, 3, 15}, {24, 4, 48}, {6, 2, 6}}) {
+    settings.akk_anzahl = akk_anzahl;
+    run.test.test_aufgaben = aufgaben;
+    selection.BeginneTest(run, auswertung);
+    EXPECT_EQ(run.material.mat_anzahl, copies);
+    EXPECT_EQ(Bag().size(), static_cast<std::size_t>(copies));
+  }
+}
+
+TEST_F(MaterialDrawTest, GivesUpOnTheOnlyChordOnTheOnlyRootInEveryMode) {
+  for (const int uebmodus : {0, 1, 2, 3, 4}) {
+    SCOPED_TRACE(uebmodus);
+    run = RunState();
+    settings.uebmodus = uebmodus;
+    Board({4}, {7});
+    ASSERT_EQ(board.akk_zahl, 1);
+    selection.BereiteVor(run);
+    if (uebmodus > 0) run.material.mat_posten = 1;
+    if (uebmodus == 1) run.material.BeginneTraining(auswertung);
+    if (uebmodus == 2) run.material.SetzeFort({{1, 12}}, auswertung);
+    if (uebmodus > 2) {
+      run.test.test_aufgaben = 4;
+      selection.BeginneTest(run, auswertung);
+    }
+    DrawTask();
+    EXPECT_EQ(run.task.aufg_akk_ar[1], 1);
+    const int before = random.draws;
+    EXPECT_EQ(ErrorOf([&] { DrawTask(); }), ErrorNumber::kNothingToDraw);
+    EXPECT_LT(random.draws - before, 10 * TaskSelection::kVersuche);
+  }
+}
+
+TEST_F(MaterialDrawTest, GivesUpOnAnEmptyBoardInEveryMode) {
+  for (const int uebmodus : {0, 1, 2, 3, 4}) {
+    settings.uebmodus = uebmodus;
+    EXPECT_EQ(ErrorOf([&] { DrawTask(); }), ErrorNumber::kNothingToDraw);
+  }
 }
 
 }  // namespace

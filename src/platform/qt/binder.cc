@@ -190,20 +190,34 @@ class GaugeBinding : public Binding {
  public:
   GaugeBinding(Gauge& gauge, GaugeWidget& widget)
       : Binding(gauge, widget, widget), gauge_(gauge), bar_(widget) {}
+  void NameEnds(const Control* low, const Control* high) override {
+    low_ = low;
+    high_ = high;
+  }
 
  protected:
   void RefreshKind() override {
     if (bar_.value() != gauge_.percent) bar_.setValue(gauge_.percent);
+    if (low_ == nullptr || high_ == nullptr) return;
+    const QString low = Text(low_->caption);
+    const QString high = Text(high_->caption);
+    if (!bar_.SetEnds(low, high)) return;
+    bar_.setAccessibleDescription(QString("0% %1, 100% %2").arg(low, high));
   }
 
  private:
+  const Control* low_ = nullptr;
+  const Control* high_ = nullptr;
   Gauge& gauge_;
   GaugeWidget& bar_;
 };
 
 class PlateBinding : public Binding {
  public:
-  PlateBinding(Control& control, PlateWidget& widget) : Binding(control, widget, widget) {}
+  PlateBinding(Control& control, PlateWidget& widget, const BindingSite& site)
+      : Binding(control, widget, widget) {
+    widget.move_focus = [&control, move = site.move_focus](int key) { return move(control, key); };
+  }
 };
 
 /// A panel or picture without a handler only shows; it is no button then.
@@ -225,7 +239,8 @@ std::unique_ptr<Binding> BindSimple(Control& control, const Placement& place,
                                           *new PressWidget(parent, site.style, place), site);
   }
   if (IsPlate(control, place.look)) {
-    return std::make_unique<PlateBinding>(control, *new PlateWidget(parent, site.style, place));
+    return std::make_unique<PlateBinding>(control, *new PlateWidget(parent, site.style, place),
+                                          site);
   }
   return std::make_unique<TextBinding>(control, *new TextWidget(parent, site.style, place));
 }
@@ -256,6 +271,10 @@ void Binding::RefreshTexts() {
   if (caption_ != control_.caption) {
     caption_ = control_.caption;
     if (!OwnCaption()) dressed_.SetCaption(Text(control_.caption));
+  }
+  // What is described as a whole, and has no words beside, is called by that.
+  if (named_by_ == nullptr && control_.caption.empty() && !control_.description.empty()) {
+    return WriteName(control_.description);
   }
   // What has words of its own is called by them, and the label that belongs to it explains them.
   const bool own_words = named_by_ == nullptr || !control_.caption.empty();

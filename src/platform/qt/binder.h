@@ -44,6 +44,8 @@ class Binding {
   /// The control whose caption names this one where it has no caption of its own, and describes it
   /// where it has one; null for none.
   void NameBy(const Control* other) { named_by_ = other; }
+  /// The controls whose captions tell what the two ends of a scale mean.
+  virtual void NameEnds(const Control* /*low*/, const Control* /*high*/) {}
   /// The key that presses it, for its tool tip.
   void SetKey(const QString& key) { key_ = key; }
 

@@ -11,6 +11,7 @@ namespace vmod17 {
 Layout LayoutOf(const Form& form, const QSizeF& page) {
   if (form.name() == "grd_einst") return LayoutFirstScreen(form, page);
   if (form.name() == "einstellung1") return LayoutSettings(form, page);
+  if (form.name() == "testergebnis") return LayoutResults(form, page);
   if (form.name() == "arbeitsblatt1") return LayoutWorksheet(form, page);
   return {};
 }

@@ -8,6 +8,7 @@
 #include <QMarginsF>
 #include <QRectF>
 #include <QString>
+#include <array>
 #include <map>
 #include <string>
 #include <vector>
@@ -30,6 +31,7 @@ enum class Look {
   kPrimary,    ///< the button that leads on
   kLarge,      ///< a button to be hit quickly
   kTile,       ///< the picture of a tile, in the tile's frame
+  kCell,       ///< a panel that can have the focus, to be read with what it holds
   kMark,       ///< a panel that shows a result
   kNotice      ///< a frame that stands above all others
 };
@@ -48,6 +50,9 @@ struct Placement {
   Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter;
   bool bold = false;
   std::string named_by{};  ///< the control whose caption names or explains this one
+  /// Of a gauge: the controls whose captions tell what 0 and 100 per cent mean.
+  std::array<std::string, 2> ends{};
+  double head = 0;  ///< of a frame: where it begins what the program places in it
 };
 
 /// What a key does: it presses the first of the controls that can be reached.
@@ -97,6 +102,7 @@ const Control* FindControl(const Form& form, const std::string& id);
 std::string IdOf(const std::string& name, int index);
 
 Layout LayoutFirstScreen(const Form& form, const QSizeF& page);
+Layout LayoutResults(const Form& form, const QSizeF& page);
 Layout LayoutSettings(const Form& form, const QSizeF& page);
 Layout LayoutWorksheet(const Form& form, const QSizeF& page);
 

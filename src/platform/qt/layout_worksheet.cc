@@ -42,7 +42,7 @@ bool Visible(const Form& form, const std::string& id) {
   return control != nullptr && control->visible;
 }
 
-void FillStrip(Layout& layout, const QRectF& strip) {
+void FillStrip(Layout& layout, const Form& form, const QRectF& strip) {
   auto& places = layout.places;
   const double middle = strip.center().x();
   const double y = strip.top();
@@ -56,23 +56,30 @@ void FillStrip(Layout& layout, const QRectF& strip) {
   }
   for (const char* id : {"cmd_test_aus", "cmd_test_ein"}) {
     places[id] = {
-        .rect = QRectF(strip.left() + 66, y + 10, 196, 36), .text = 14, .align = Qt::AlignCenter};
+        .rect = QRectF(middle - 36 - 196, y + 10, 196, 36), .text = 14, .align = Qt::AlignCenter};
   }
   for (int i = 0; i < 3; ++i) {
-    places[IdOf("ergebnis_anz", i)] = {.rect = QRectF(middle - 36 - 190, y + 10, 190, 36),
-                                       .text = 15,
-                                       .align = Qt::AlignRight | Qt::AlignVCenter};
+    places[IdOf("ergebnis_anz", i)] = {.rect = QRectF(middle - 36 - 196, y + 6, 196, 44),
+                                       .look = i == 2 ? Look::kHint : Look::kPlain,
+                                       .text = 16,
+                                       .align = Qt::AlignRight | Qt::AlignVCenter,
+                                       .bold = true};
   }
-  places["matboxanz"] = {
-      .rect = QRectF(middle + 36, y + 19, 200, 18), .text = 13, .named_by = "ergebnis_anz(0)"};
-  places["stop_uhr"] = {.rect = QRectF(middle + 36, y + 10, 190, 36), .text = 15};
-  places["lab_aufgaben"] = {.rect = QRectF(middle + 234, y + 10, 160, 36), .text = 15};
+  places["matboxanz"] = {.rect = QRectF(middle + 36, y + 7, 340, 43),
+                         .text = 12.5,
+                         .named_by = "ergebnis_anz(0)",
+                         .ends = {"ergebnis_anz(1)", "ergebnis_anz(2)"}};
+  places["stop_uhr"] = {.rect = QRectF(middle + 36, y + 6, 172, 44), .text = 15};
+  places["lab_aufgaben"] = {.rect = QRectF(middle + 218, y + 6, 176, 44), .text = 15};
   places["Uhr"] = {.rect = QRectF(strip.right() - 92, y + 10, 76, 36),
                    .look = Look::kQuiet,
                    .text = 17,
                    .align = Qt::AlignRight | Qt::AlignVCenter};
-  layout.title = QRectF(middle - 210, y, 420, strip.height());
-  layout.title_text = 19;
+  const bool counted = Visible(form, "PicUetyp(0)") || Visible(form, "PicUetyp(1)");
+  layout.title = counted ? QRectF(strip.left() + 64, y, 180, strip.height())
+                         : QRectF(middle - 210, y, 420, strip.height());
+  layout.title_text = counted ? 15 : 19;
+  if (counted) layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
   layout.title_color = look::kText;
 }
 
@@ -196,7 +203,8 @@ void FillButtons(Layout& layout, const QRectF& box, double middle) {
                                   .text = 14,
                                   .align = Qt::AlignCenter,
                                   .named_by = "wieder"};
-  layout.places["zurueck"] = {.rect = row(50, 42), .text = 15, .align = Qt::AlignCenter};
+  layout.places["zurueck"] = {
+      .rect = row(50, 42), .text = 16, .align = Qt::AlignCenter, .bold = true};
 }
 
 void FillKeys(Layout& layout) {
@@ -218,7 +226,7 @@ Layout LayoutWorksheet(const Form& form, const QSizeF& page) {
   const double answer_width = WidthOf(form, box, kWidth - action_width);
   const double width = answer_width + action_width;
   const double x = (page.width() - width) / 2;
-  FillStrip(layout, QRectF(x, kTop, width, kStrip));
+  FillStrip(layout, form, QRectF(x, kTop, width, kStrip));
 
   const double below = kTop + kStrip;
   const double y = below + (page.height() - below - kBoxHeight) / 2;
@@ -246,9 +254,6 @@ Layout LayoutWorksheet(const Form& form, const QSizeF& page) {
   layout.places["WaitMeld"] = {.rect = QRectF(centre.x() - 176, centre.y() - 40, 352, 80),
                                .text = 20,
                                .align = Qt::AlignCenter};
-  for (const char* id : {"PicUetyp(0)", "PicUetyp(1)"}) {
-    if (Visible(form, id)) layout.title = QRectF();
-  }
   FillKeys(layout);
   return layout;
 }

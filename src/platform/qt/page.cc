@@ -81,6 +81,9 @@ void Page::NameAndKeys() {
   for (const auto& binding : bindings_) {
     const Placement& place = layout_.places[binding->control().Id()];
     if (!place.named_by.empty()) binding->NameBy(FindControl(*form_, place.named_by));
+    if (!place.ends[0].empty()) {
+      binding->NameEnds(FindControl(*form_, place.ends[0]), FindControl(*form_, place.ends[1]));
+    }
   }
   for (const KeyBinding& key : layout_.keys) {
     for (const std::string& id : key.controls) {
@@ -97,8 +100,9 @@ void Page::Refresh() {
   bool moved = false;
   for (const auto& binding : bindings_) moved |= binding->Refresh();
   if (moved) Place();
-  if (title_ != form_->caption) {
+  if (title_ != form_->caption || ground_ != form_->back_color) {
     title_ = form_->caption;
+    ground_ = form_->back_color;
     update();
   }
   KeepFocus(before);
@@ -157,13 +161,19 @@ void Page::PlaceBackdrops() {
 QRectF Page::PlaceOf(const Control& control) const {
   const auto place = layout_.places.find(control.Id());
   QRectF rect = place == layout_.places.end() ? QRectF() : place->second.rect;
-  const QPointF origin =
-      control.container != nullptr ? PlaceOf(*control.container).topLeft() : QPointF();
+  const QPointF origin = control.container != nullptr ? OriginIn(*control.container) : QPointF();
   if (control.left) rect.moveLeft(origin.x() + *control.left);
   if (control.top) rect.moveTop(origin.y() + *control.top);
   if (control.width) rect.setWidth(*control.width);
   if (control.height) rect.setHeight(*control.height);
   return rect;
+}
+
+/// Where a container begins what the program places in it.
+QPointF Page::OriginIn(const Control& container) const {
+  const auto place = layout_.places.find(container.Id());
+  const double head = place == layout_.places.end() ? 0 : place->second.head;
+  return PlaceOf(container).topLeft() + QPointF(0, head);
 }
 
 QRect Page::Pixels(const QRectF& units) const {
@@ -409,14 +419,19 @@ void Page::PaintGround(QPainter& painter) const {
   for (const QRect& slot : vacancies_) look::DrawSlot(painter, QRectF(slot), style_.factor);
 }
 
-void Page::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.fillRect(rect(), look::kPage);
-  PaintGround(painter);
+/// A screen with a ground of its own is to be printed: its cards are bare lines then.
+void Page::PaintCards(QPainter& painter) const {
+  const double f = style_.factor;
   for (const Card& card : cards_) {
-    look::DrawCard(painter, QRectF(card.rect), card.fill, style_.factor);
+    if (ground_) {
+      look::DrawPlate(painter, QRectF(card.rect), card.fill, look::kLine, look::kCardRadius * f, f);
+    } else {
+      look::DrawCard(painter, QRectF(card.rect), card.fill, f);
+    }
   }
-  PaintBanner(painter);
+}
+
+void Page::PaintTitle(QPainter& painter) const {
   if (layout_.title.isEmpty()) return;
   const QString title = QString::fromStdString(title_);
   const QRectF box(Pixels(layout_.title));
@@ -424,6 +439,34 @@ void Page::paintEvent(QPaintEvent*) {
       painter, box, title,
       look::SetText(title, box.size(), layout_.title_text * style_.factor, look::Weight::kBold),
       layout_.title_color, layout_.title_align);
+}
+
+void Page::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), ground_ ? look::ToQ(*ground_) : look::kPage);
+  PaintGround(painter);
+  PaintCards(painter);
+  PaintBanner(painter);
+  PaintTitle(painter);
+}
+
+void Page::PrintOn(QPainter& painter, const QSize& paper) {
+  style_.paper = true;
+  resize(paper);
+  Arrange(paper);
+  Refresh();
+  Place();
+  PaintCards(painter);
+  PaintTitle(painter);
+  for (const auto& binding : bindings_) {
+    QWidget& widget = binding->widget();
+    if (!widget.isVisibleTo(this)) continue;
+    const QPoint corner = widget.mapTo(this, QPoint(0, 0));
+    painter.save();
+    painter.translate(corner);
+    binding->dressed().Paint(painter);
+    painter.restore();
+  }
 }
 
 }  // namespace vmod17

@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -45,6 +46,10 @@ class Page : public QWidget {
   /// Whether the focus is to be seen; a mouse press ends it, a key begins it.
   void SetKeyboard(bool keyboard);
 
+  /// Draws the page on paper of this size, without the controls that are there to be worked. For a
+  /// page that is never shown.
+  void PrintOn(QPainter& painter, const QSize& paper);
+
   /// The form is about to be destroyed. The page goes on showing what it shows, and does nothing.
   void Release();
 
@@ -67,6 +72,7 @@ class Page : public QWidget {
   bool AskMenuOf(Frame* frame, const QPoint& at);
   QPoint MenuPlace(const Control& control) const;
   QRectF PlaceOf(const Control& control) const;
+  QPointF OriginIn(const Control& container) const;
   QRect Pixels(const QRectF& units) const;
   void OrderTabs();
   void CollectTabs(const Control* container, std::vector<QWidget*>& order) const;
@@ -81,6 +87,8 @@ class Page : public QWidget {
   void RememberFocus(QWidget* focus);
   void PaintBanner(QPainter& painter) const;
   void PaintGround(QPainter& painter) const;
+  void PaintCards(QPainter& painter) const;
+  void PaintTitle(QPainter& painter) const;
 
   Form* form_;
   QtEventLoop& loop_;
@@ -104,6 +112,7 @@ class Page : public QWidget {
   QWidget* last_focus_ = nullptr;
   std::map<std::string, int> last_index_;  // of the array's control that had the focus last
   std::string title_;
+  std::optional<Color> ground_;
 };
 
 }  // namespace vmod17

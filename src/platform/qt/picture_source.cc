@@ -3,7 +3,6 @@
 
 #include "platform/qt/picture_source.h"
 
-#include <QImage>
 #include <QString>
 #include <cmath>
 
@@ -13,7 +12,13 @@ static void RegisterChordPictures() { Q_INIT_RESOURCE(chord_pictures); }
 namespace vmod17 {
 namespace {
 
-constexpr int kLargest = 3;
+constexpr int kLargest = 3;  // of those for the screen
+constexpr int kPaper = 8;
+
+/// The signs of training and test are no pictures but drawn where they stand.
+bool IsDrawn(const PictureId& id) {
+  return id.kind == PictureId::Kind::kNotation || id.kind == PictureId::Kind::kSymbol;
+}
 
 QImage Load(const PictureId& id, int size) {
   const char* name = id.kind == PictureId::Kind::kNotation ? "jakk" : "jbez";
@@ -33,8 +38,16 @@ QPixmap Make(const PictureId& id, double factor) {
 
 PictureSource::PictureSource() { RegisterChordPictures(); }
 
+QImage PictureSource::ForPaper(const PictureId& id) {
+  if (!IsDrawn(id)) return {};
+  // Without colour the file that is printed is smaller.
+  return Load(id, kPaper).convertToFormat(QImage::Format_Grayscale8);
+}
+
+QSizeF PictureSource::SizeOnPaper(const QImage& picture) { return QSizeF(picture.size()) / kPaper; }
+
 QPixmap PictureSource::Get(const PictureId& id, double factor, double ratio) {
-  if (id.kind != PictureId::Kind::kNotation && id.kind != PictureId::Kind::kSymbol) return {};
+  if (!IsDrawn(id)) return {};
   const double wanted = factor * ratio;
   const auto key = static_cast<quint64>(std::lround(wanted * 1000)) << 16 |
                    static_cast<quint64>(id.kind) << 12 | static_cast<quint64>(id.klang);

@@ -13,8 +13,11 @@ void Label(QMessageBox& box, QMessageBox::StandardButton button, const std::stri
   if (!word.empty()) box.button(button)->setText(QString::fromStdString(word));
 }
 
-/// Shows the box; the keyboard comes back to the window even where no window manager sees to it.
-int Show(QMessageBox& box) {
+}  // namespace
+
+/// The keyboard comes back to the window even where no window manager sees to it.
+int QtMessageBox::Show(QMessageBox& box) const {
+  if (before) before();
   if (box.parentWidget() != nullptr) box.setFont(box.parentWidget()->font());
   const int answer = box.exec();
   if (QWidget* window = box.parentWidget(); window != nullptr && window->isVisible()) {
@@ -22,8 +25,6 @@ int Show(QMessageBox& box) {
   }
   return answer;
 }
-
-}  // namespace
 
 void QtMessageBox::Warn(const std::string& text, const std::string& title) {
   QMessageBox box(QMessageBox::Warning, QString::fromStdString(title), QString::fromStdString(text),

@@ -31,11 +31,14 @@ class QtMessageBox : public MessageBox {
 
   /// Asked before each box is shown, since the language is known only some time after the start.
   std::function<Words()> words;
+  /// Called before each box is shown, so that the window behind it shows what the box speaks of.
+  std::function<void()> before;
 
   void Warn(const std::string& text, const std::string& title) override;
   Answer Ask(const std::string& text, const std::string& title) override;
 
  private:
+  int Show(QMessageBox& box) const;
   QWidget* Window() const { return window_ ? window_() : nullptr; }
   Words CurrentWords() const { return words ? words() : Words{}; }
 

@@ -4,8 +4,10 @@
 #include "platform/qt/qt_system.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QSysInfo>
 #include <QWidget>
@@ -37,6 +39,14 @@ std::optional<std::string> QtSystem::Environment(const std::string& name) const 
 }
 
 std::string QtSystem::TemporaryFolder() const { return QDir::tempPath().toStdString(); }
+
+std::string QtSystem::DecimalPoint() const { return QLocale().decimalPoint().toStdString(); }
+
+std::string QtSystem::DateTimeText(const DateTime& time) const {
+  const QDateTime moment(QDate(time.year, time.month, time.day),
+                         QTime(time.hour, time.minute, time.second), Qt::UTC);
+  return QLocale().toString(moment, QLocale::ShortFormat).toStdString();
+}
 
 void QtSystem::SendKeys(const std::string& keys) {
   static const QRegularExpression function_key("^\\{F([1-9]|1[0-2])\\}$");

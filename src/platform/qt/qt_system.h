@@ -7,12 +7,14 @@
 
 namespace vmod17 {
 
-/// The operating system, asked through Qt.
+/// The operating system, asked through Qt. Numbers and dates have the form of the default QLocale.
 class QtSystem : public System {
  public:
   std::string ComputerName() const override;
   std::optional<std::string> Environment(const std::string& name) const override;
   std::string TemporaryFolder() const override;
+  std::string DecimalPoint() const override;
+  std::string DateTimeText(const DateTime& time) const override;
   /// Knows the keys "{F1}" to "{F12}"; other texts send nothing.
   void SendKeys(const std::string& keys) override;
 };

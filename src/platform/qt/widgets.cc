@@ -36,7 +36,7 @@ std::optional<QColor> Optional(const std::optional<Color>& color) {
 // --- Dressed
 
 void Dressed::SetCaption(const QString& caption) {
-  caption_ = caption;
+  caption_ = caption.trimmed();  // a blank at an end keeps a distance that the layout keeps as well
   self_.update();
 }
 
@@ -190,8 +190,13 @@ void TextWidget::SetImage(const PictureId& image) {
 }
 
 QSizeF TextWidget::TextBox() const {
-  const double side = place_.look == Look::kMark || back_ ? 8 : 0;
+  const double side = place_.look == Look::kMark || HasGround() ? 6 : 0;
   return QSizeF(width() - Px(side), height());
+}
+
+/// White under a plain label is that of the paper.
+bool TextWidget::HasGround() const {
+  return back_ && (place_.look == Look::kMark || *back_ != QColor(Qt::white));
 }
 
 QColor TextWidget::Ink() const {
@@ -203,7 +208,17 @@ QColor TextWidget::Ink() const {
   return TextColor(place_.look == Look::kQuiet ? look::kQuietText : look::kText);
 }
 
+/// The largest drawing, brought to its size by the printer itself.
+void TextWidget::PaintImageOnPaper(QPainter& painter) {
+  const QImage drawn = style_.pictures.ForPaper(image_);
+  const QSizeF size = PictureSource::SizeOnPaper(drawn) * style_.factor;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  const QPointF corner((width() - size.width()) / 2, (height() - size.height()) / 2);
+  painter.drawImage(QRectF(corner, size), drawn);
+}
+
 void TextWidget::PaintImage(QPainter& painter) {
+  if (style_.paper) return PaintImageOnPaper(painter);
   const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
   if (picture.isNull()) {
     DrawSign(painter, image_.kind, QRectF(rect()), look::kAccent);
@@ -213,9 +228,9 @@ void TextWidget::PaintImage(QPainter& painter) {
   }
   const QSizeF size = picture.deviceIndependentSize();
   const double free = width() - size.width();
-  const QPointF corner(place_.look == Look::kMark ? qRound(free / 2) : 0,
-                       qRound((height() - size.height()) / 2));
-  if (place_.look == Look::kMark) {
+  const bool alone = place_.look == Look::kMark || place_.look == Look::kTile;
+  const QPointF corner(alone ? qRound(free / 2) : 0, qRound((height() - size.height()) / 2));
+  if (alone) {
     painter.fillRect(rect(), Qt::white);
   } else {
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
@@ -225,9 +240,13 @@ void TextWidget::PaintImage(QPainter& painter) {
 
 void TextWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  Paint(painter);
+}
+
+void TextWidget::Paint(QPainter& painter) {
   if (image_.kind != PictureId::Kind::kNone) return PaintImage(painter);
   QRectF box(rect());
-  if (back_) {
+  if (HasGround()) {
     const bool mark = place_.look == Look::kMark;
     look::DrawPlate(painter, box, *back_, back_->darker(120), Px(mark ? 3 : look::kRadius), Px(1));
     box.adjust(Px(4), 0, -Px(4), 0);
@@ -243,10 +262,15 @@ void TextWidget::paintEvent(QPaintEvent*) {
 PlateWidget::PlateWidget(QWidget* parent, const PageStyle& style, const Placement& place)
     : QGroupBox(parent), Dressed(*this, style, place) {
   setFlat(true);
+  if (place.look == Look::kCell) setFocusPolicy(Qt::StrongFocus);
 }
 
 void PlateWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  Paint(painter);
+}
+
+void PlateWidget::Paint(QPainter& painter) {
   const QRectF box(rect());
   switch (place_.look) {
     case Look::kTile:
@@ -258,6 +282,8 @@ void PlateWidget::paintEvent(QPaintEvent*) {
       return;
     case Look::kSmallCard:
       return PaintSmallCard(painter);
+    case Look::kCell:
+      return PaintCell(painter);
     case Look::kNotice:
       look::DrawPlate(painter, box, back_.value_or(look::kCard), look::kAccent,
                       Px(look::kCardRadius), Px(2));
@@ -281,6 +307,21 @@ void PlateWidget::PaintSmallCard(QPainter& painter) {
   const double side = Px(15);
   DrawLock(painter, QRectF(width() - side - Px(9), (Px(kSmallCardHead) - side) / 2, side, side),
            back_ ? look::TextOn(*back_) : look::kText);
+}
+
+void PlateWidget::PaintCell(QPainter& painter) {
+  const QRectF box(rect());
+  const bool bare = !back_ || *back_ == QColor(Qt::white);
+  look::DrawPlate(painter, box, Qt::white, bare ? look::kButtonLine : *back_, Px(6),
+                  Px(bare ? 1 : 2.5));
+  if (ShowsFocus() && !style_.paper) {
+    look::DrawFocusRing(painter, box, Px(6), style_.factor);
+  }
+}
+
+void PlateWidget::keyPressEvent(QKeyEvent* event) {
+  const bool moves = place_.look == Look::kCell && IsArrow(event) && move_focus;
+  if (!moves || !move_focus(event->key())) event->ignore();
 }
 
 void PlateWidget::changeEvent(QEvent* event) {
@@ -484,16 +525,77 @@ GaugeWidget::GaugeWidget(QWidget* parent, const PageStyle& style, const Placemen
   setRange(0, 100);
 }
 
+bool GaugeWidget::SetEnds(const QString& low, const QString& high) {
+  if (low_ == low && high_ == high) return false;
+  low_ = low;
+  high_ = high;
+  update();
+  return true;
+}
+
+/// The words stand under the scale.
+QRectF GaugeWidget::Track() const {
+  const double side = Px(8);  // half of the pointer
+  return QRectF(side, Px(7), width() - 2 * side, Px(10));
+}
+
+QRectF GaugeWidget::PlaceOfEnd(bool high) const {
+  const double top = Px(23);
+  const double wide = (width() - Px(44)) / 2;  // between them is the value
+  return QRectF(high ? width() - wide : 0, top, wide, height() - top);
+}
+
+bool GaugeWidget::EndsFit() const {
+  const QSizeF box = PlaceOfEnd(false).size();
+  const double size = Px(place_.text);
+  return look::SetText(low_, box, size, look::Weight::kNormal).fits &&
+         look::SetText(high_, box, size, look::Weight::kNormal).fits;
+}
+
+/// From green, where nothing is left to learn, to red, where it was too much.
+void GaugeWidget::PaintScale(QPainter& painter) const {
+  const QRectF track = Track();
+  QLinearGradient ground(track.topLeft(), track.topRight());
+  ground.setColorAt(0, look::kSolved);
+  ground.setColorAt(0.5, look::kHalfWay);
+  ground.setColorAt(1, look::kTooHard);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ground);
+  painter.drawRoundedRect(track, track.height() / 2, track.height() / 2);
+  painter.setPen(QPen(Qt::white, Px(1)));
+  for (int tenth = 1; tenth < 10; ++tenth) {
+    const double x = track.left() + track.width() * tenth / 10;
+    const double inset = tenth == 5 ? 0 : track.height() * 0.3;
+    painter.drawLine(QPointF(x, track.top() + inset), QPointF(x, track.bottom() - inset));
+  }
+}
+
+void GaugeWidget::PaintPointer(QPainter& painter) const {
+  const QRectF track = Track();
+  const double share = std::clamp(value(), 0, 100) / 100.0;
+  const QPointF at(track.left() + track.width() * share, track.center().y());
+  painter.setPen(QPen(Qt::white, Px(2)));
+  painter.setBrush(look::kText);
+  painter.drawEllipse(at, Px(7), Px(7));
+}
+
 void GaugeWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QRectF box(rect());
-  const double radius = box.height() / 2;
-  look::DrawPlate(painter, box, back_.value_or(look::kDisabledFill), look::kLine, radius, Px(1));
-  const double share = std::clamp(value(), 0, 100) / 100.0;
-  if (share <= 0) return;
-  QRectF filled = box;
-  filled.setWidth(std::max(box.height(), box.width() * share));
-  look::DrawPlate(painter, filled, fore_.value_or(look::kAccent), {}, radius, 0);
+  PaintScale(painter);
+  PaintPointer(painter);
+  const double size = Px(place_.text);
+  const auto write = [&](const QRectF& box, const QString& text, const QColor& color,
+                         look::Weight weight, Qt::Alignment align) {
+    look::DrawText(painter, box, text, look::SetText(text, box.size(), size, weight), color,
+                   align | Qt::AlignVCenter);
+  };
+  const QRectF low = PlaceOfEnd(false);
+  const QRectF high = PlaceOfEnd(true);
+  write(low, low_, look::kSolved.darker(150), look::Weight::kNormal, Qt::AlignLeft);
+  write(high, high_, look::kTooHard.darker(130), look::Weight::kNormal, Qt::AlignRight);
+  write(QRectF(low.topRight(), high.bottomLeft()), QString("%1%").arg(value()), look::kText,
+        look::Weight::kBold, Qt::AlignHCenter);
 }
 
 // --- SliderWidget

@@ -31,6 +31,7 @@ struct PageStyle {
   PictureSource& pictures;
   double factor = 1;     ///< pixels of a unit
   bool keyboard = true;  ///< the user works by keyboard: the focus is shown
+  bool paper = false;    ///< drawn for a printer, whose pixels are many and small
 };
 
 /// What all widgets have: a caption, colours that the program sets, and a dress.
@@ -43,6 +44,9 @@ class Dressed {
   void SetCaption(const QString& caption);
   void SetColors(const std::optional<Color>& back, const std::optional<Color>& fore);
   const QString& caption() const { return caption_; }
+  /// Draws the control with its upper left corner at the origin, on whatever the painter draws on.
+  /// What only serves to be pressed has nothing to draw on paper.
+  virtual void Paint(QPainter&) {}
   /// False when the caption is larger than its place allows.
   bool CaptionFits() { return caption_.isEmpty() || Set().fits; }
 
@@ -100,6 +104,7 @@ class TextWidget : public QLabel, public Dressed {
  public:
   TextWidget(QWidget* parent, const PageStyle& style, const Placement& place);
   void SetImage(const PictureId& image);
+  void Paint(QPainter& painter) override;
 
  protected:
   QSizeF TextBox() const override;
@@ -107,22 +112,30 @@ class TextWidget : public QLabel, public Dressed {
 
  private:
   QColor Ink() const;
+  bool HasGround() const;
   void PaintImage(QPainter& painter);
+  void PaintImageOnPaper(QPainter& painter);
 
   PictureId image_;
 };
 
-/// An area that other controls stand in.
+/// An area that other controls stand in; as a cell it can have the focus.
 class PlateWidget : public QGroupBox, public Dressed {
  public:
   PlateWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+  void Paint(QPainter& painter) override;
+
+  /// Moves the focus from this widget in the direction of an arrow key; returns whether it could.
+  std::function<bool(int key)> move_focus;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
   void PaintSmallCard(QPainter& painter);
+  void PaintCell(QPainter& painter);
 };
 
 class OptionWidget : public QRadioButton, public Dressed {
@@ -179,8 +192,22 @@ class GaugeWidget : public QProgressBar, public Dressed {
  public:
   GaugeWidget(QWidget* parent, const PageStyle& style, const Placement& place);
 
+  /// What 0 and 100 per cent mean. Returns whether that differs from what was set.
+  bool SetEnds(const QString& low, const QString& high);
+  /// False when the two words are larger than their places allow.
+  bool EndsFit() const;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QRectF Track() const;
+  QRectF PlaceOfEnd(bool high) const;
+  void PaintScale(QPainter& painter) const;
+  void PaintPointer(QPainter& painter) const;
+
+  QString low_;
+  QString high_;
 };
 
 class SliderWidget : public QSlider, public Dressed {

@@ -89,6 +89,7 @@ class HostStore::Front : public HostService {
   bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result) override {
     return store_.Action(command, args, result);
   }
+  void Together(const std::function<void()>& stores) override { store_.Together(stores); }
 
  private:
   HostStore& store_;
@@ -126,6 +127,24 @@ bool HostStore::Action(std::string_view command, const TaggedValue& args, Tagged
   return false;
 }
 
+void HostStore::Together(const std::function<void()>& stores) {
+  if (together_) {
+    throw RunTimeError(ErrorNumber::kInvalidCall, "what is stored together is begun already",
+                       "vmod17.HostStore");
+  }
+  // The transaction is begun when all of it is there: no other process waits for `stores`, and a
+  // log line in it is no part of what a lock or a full disk takes back.
+  together_.emplace();
+  try {
+    stores();
+  } catch (...) {
+    together_.reset();
+    throw;
+  }
+  const Records records = *std::exchange(together_, std::nullopt);
+  if (!records.empty()) Keep(records);
+}
+
 bool HostStore::Midi(TaggedValue& result) {
   const std::string name = MidiDevice();
   if (name.empty() || !options_.midi_number) return false;
@@ -158,9 +177,8 @@ bool HostStore::Read(const TaggedValue& args, TaggedValue& result) {
   std::optional<std::string> stored;
   try {
     key = KeyOf(args, Patience::kOnlyOnce);
-    if (const auto pending = pending_.find(key); pending != pending_.end()) {
-      stored = pending->second;
-    } else {
+    stored = Unwritten(key);
+    if (!stored) {
       WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { stored = tables.Read(key); });
     }
   } catch (const SqlError& error) {
@@ -182,11 +200,14 @@ bool HostStore::Store(const TaggedValue& args) {
   const std::string value = EncodeTaggedValue(args[2]);
   try {
     key = KeyOf(args, Patience::kWait);
-    if (WriteRecord(key, value)) return true;
   } catch (const SqlError& error) {
     WriteFailed(error);
   }
-  pending_[key] = value;
+  if (together_) {
+    together_->insert_or_assign(key, value);
+  } else {
+    Keep({{key, value}});
+  }
   return true;
 }
 
@@ -381,13 +402,30 @@ RecordKey HostStore::KeyOf(const TaggedValue& args, Patience patience) {
   return {Setting(kUserId), args[0].String(), args[1].String()};
 }
 
-bool HostStore::WriteRecord(const RecordKey& key, const std::string& value) {
+std::optional<std::string> HostStore::Unwritten(const RecordKey& key) const {
+  for (const Records* records : {together_ ? &*together_ : nullptr, &pending_}) {
+    if (!records) continue;
+    if (const auto found = records->find(key); found != records->end()) return found->second;
+  }
+  return {};
+}
+
+void HostStore::Keep(const Records& records) {
+  try {
+    if (WriteRecords(records)) return;
+  } catch (const SqlError& error) {
+    WriteFailed(error);
+  }
+  for (const auto& [key, value] : records) pending_.insert_or_assign(key, value);
+}
+
+bool HostStore::WriteRecords(const Records& records) {
   const bool written = WithStore(Patience::kWait, [&](StoreTables& tables) {
     if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
-    tables.Write(key, value);
+    tables.Write(records);
   });
   if (!written) return false;
-  pending_.erase(key);
+  for (const auto& [key, value] : records) pending_.erase(key);
   try {
     WritePending();
   } catch (const SqlError&) {
@@ -397,12 +435,10 @@ bool HostStore::WriteRecord(const RecordKey& key, const std::string& value) {
 }
 
 void HostStore::WritePending() {
-  while (!pending_.empty()) {
-    const auto& [key, value] = *pending_.begin();
-    if (!WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { tables.Write(key, value); })) {
-      return;
-    }
-    pending_.erase(pending_.begin());
+  // In one piece, for what was stored together is among them.
+  if (!pending_.empty() &&
+      WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { tables.Write(pending_); })) {
+    pending_.clear();
   }
   WritePendingUsers();
 }

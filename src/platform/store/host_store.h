@@ -56,9 +56,10 @@ struct StoreOptions {
 /// the language, the MIDI output. One object a process; it is used on the program's one thread and
 /// needs a QCoreApplication from its first command on. Nothing is opened before that.
 ///
-/// Each "STORE" and each setter is one transaction, on the disk when the call returns. Log lines
-/// are handed to the system and may be lost with the power, not with the process. The settings are
-/// read once, when the store is opened: a process belongs to the user for whom it was started.
+/// Each "STORE", each `Together` and each setter is one transaction, on the disk when the call
+/// returns. Log lines are handed to the system and may be lost with the power, not with the
+/// process. The settings are read once, when the store is opened: a process belongs to the user for
+/// whom it was started.
 ///
 /// A store that is missing is made. Of a store that does not work the user is told once:
 ///
@@ -74,10 +75,11 @@ struct StoreOptions {
 /// | of a newer version       | nothing stored            | in memory; the store is left alone   |
 /// | not to be opened         | nothing stored            | in memory                            |
 ///
-/// What is in memory is read back by "READ" as if it were stored. After a lock was waited for in
-/// vain, only "STORE" and the setters wait again until it is gone, so that the program does not
-/// stand still with every call. A single record that is damaged is put aside under another key, its
-/// "READ" returns false. The log never raises.
+/// What is in memory is read back by "READ" as if it were stored, and is tried again in one
+/// transaction: what was stored with `Together` waits, and is written, as a whole. After a lock was
+/// waited for in vain, only "STORE" and the setters wait again until it is gone, so that the
+/// program does not stand still with every call. A single record that is damaged is put aside under
+/// another key, its "READ" returns false. The log never raises.
 class HostStore {
  public:
   explicit HostStore(StoreOptions options);
@@ -123,10 +125,12 @@ class HostStore {
   enum class State { kClosed, kOpen, kMemoryOnly };
   enum class Patience { kWait, kOnlyOnce };
   using Settings = std::map<std::string, std::string>;
+  using Records = std::map<RecordKey, std::string>;
   using Work = std::function<void(StoreTables&)>;
   using UserChange = std::optional<StoreUser>;  // no value: removed
 
   bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result);
+  void Together(const std::function<void()>& stores);
   bool Midi(TaggedValue& result);
   bool Read(const TaggedValue& args, TaggedValue& result);
   bool Store(const TaggedValue& args);
@@ -147,7 +151,9 @@ class HostStore {
   void NeedUserTable();
 
   RecordKey KeyOf(const TaggedValue& args, Patience patience);
-  bool WriteRecord(const RecordKey& key, const std::string& value);
+  std::optional<std::string> Unwritten(const RecordKey& key) const;
+  void Keep(const Records& records);
+  bool WriteRecords(const Records& records);
   void WritePending();
   bool WriteUser(const Work& work);
   bool IsUser(const std::string& id);
@@ -173,7 +179,8 @@ class HostStore {
   int wait_ms_ = 0;                                   // as set in the connection
   std::pair<std::uint64_t, std::uint64_t> identity_;  // of the file that is open
   Settings settings_;
-  std::map<RecordKey, std::string> pending_;  // what the database did not take
+  std::optional<Records> together_;  // what was stored so far, while `Together` runs
+  Records pending_;                  // what the database did not take
   std::map<std::string, UserChange> pending_users_;
   std::int64_t log_bytes_to_trim_ = 0;  // 0: before the next line
   std::set<int> told_;

@@ -23,25 +23,40 @@ QSqlQuery SqlConnection::Run(const QString& statement, const QVariantList& value
   QSqlQuery query(database_);
   query.setForwardOnly(true);
   if (values.isEmpty()) {
-    if (!query.exec(statement)) Throw(query.lastError());
+    if (!query.exec(statement)) Fail(query.lastError());
     return query;
   }
-  if (!query.prepare(statement)) Throw(query.lastError());
+  if (!query.prepare(statement)) Fail(query.lastError());
   for (const QVariant& value : values) query.addBindValue(value);
-  if (!query.exec()) Throw(query.lastError());
+  if (!query.exec()) Fail(query.lastError());
   return query;
 }
 
 void SqlConnection::InTransaction(const std::function<void()>& work) {
   Run(BeginStatement());
+  in_transaction_ = true;
   try {
     work();
     Run(QStringLiteral("COMMIT"));
+    in_transaction_ = false;
   } catch (...) {
-    // Its own failure would hide the first one. A database that is gone has undone it already.
-    QSqlQuery(database_).exec(QStringLiteral("ROLLBACK"));
+    RollBack();
     throw;
   }
+}
+
+void SqlConnection::RollBack() {
+  if (!in_transaction_) return;
+  in_transaction_ = false;
+  // Its own failure would hide the first one. A database that is gone has undone it already.
+  QSqlQuery(database_).exec(QStringLiteral("ROLLBACK"));
+}
+
+void SqlConnection::Fail(const QSqlError& error) {
+  // While the statement that failed still lives: in a broken transaction a server would refuse to
+  // forget it, and the driver complains of that.
+  RollBack();
+  Throw(error);
 }
 
 void SqlConnection::Throw(const QSqlError& error) const {

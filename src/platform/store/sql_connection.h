@@ -81,6 +81,12 @@ class SqlConnection {
   [[noreturn]] void Throw(const QSqlError& error) const;
 
   QSqlDatabase database_;
+
+ private:
+  [[noreturn]] void Fail(const QSqlError& error);
+  void RollBack();
+
+  bool in_transaction_ = false;
 };
 
 std::unique_ptr<SqlConnection> MakeSqlConnection(const StoreAddress& address);

@@ -115,12 +115,17 @@ std::optional<std::string> StoreTables::Read(const RecordKey& key) {
   return row.value(0).toByteArray().toStdString();
 }
 
-void StoreTables::Write(const RecordKey& key, const std::string& value) {
+void StoreTables::Write(const Records& records) {
   connection_.SetSync(SqlConnection::Sync::kToDisk);
-  connection_.Run(QStringLiteral("INSERT INTO melvado_record (user_id, program, record_key, value) "
-                                 "VALUES (?, ?, ?, ?) ON CONFLICT (user_id, program, record_key) "
-                                 "DO UPDATE SET value = excluded.value"),
-                  KeyValues(key) << Bytes(value));
+  connection_.InTransaction([&] {
+    for (const auto& [key, value] : records) {
+      connection_.Run(
+          QStringLiteral("INSERT INTO melvado_record (user_id, program, record_key, value) "
+                         "VALUES (?, ?, ?, ?) ON CONFLICT (user_id, program, record_key) "
+                         "DO UPDATE SET value = excluded.value"),
+          KeyValues(key) << Bytes(value));
+    }
+  });
 }
 
 void StoreTables::Rename(const RecordKey& key, const std::string& value,

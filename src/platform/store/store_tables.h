@@ -28,6 +28,8 @@ struct RecordKey {
   auto operator<=>(const RecordKey&) const = default;
 };
 
+using Records = std::map<RecordKey, std::string>;
+
 /// The five tables of a store and the statements on them:
 ///
 /// | table           | one row for                                                       |
@@ -53,7 +55,8 @@ class StoreTables {
   void Upgrade();
 
   std::optional<std::string> Read(const RecordKey& key);
-  void Write(const RecordKey& key, const std::string& value);
+  /// Writes all of them or none.
+  void Write(const Records& records);
   /// Gives a record another key, unless its value is another one by now.
   void Rename(const RecordKey& key, const std::string& value, const std::string& new_key);
 

@@ -66,7 +66,7 @@ TEST(EveryPicture, HasItsSizeAndItsMultiples) {
     SCOPED_TRACE(klang);
     const QSize notation(85, klang <= kLastOneStaff ? 60 : 110);
     const QSize symbol(klang == kWideSymbol ? 88 : 85, 40);
-    for (int scale = 1; scale <= 3; ++scale) {
+    for (const int scale : {1, 2, 3, 8}) {
       EXPECT_EQ(Notation(klang, scale).size(), notation * scale) << scale;
       EXPECT_EQ(Symbol(klang, scale).size(), symbol * scale) << scale;
     }
@@ -90,7 +90,7 @@ TEST(EveryPicture, HasStaffLinesOfOneRowAcrossItsWidth) {
 TEST(EveryPicture, HasSharpStaffLinesInTheLargerSizes) {
   for (int klang = 1; klang <= kKlangZahl; ++klang) {
     SCOPED_TRACE(klang);
-    for (int scale = 2; scale <= 3; ++scale) {
+    for (const int scale : {2, 3, 8}) {
       const QImage image = Notation(klang, scale);
       const std::vector<int> staff = StaffRows(klang);
       for (int y = 0; y < image.height(); ++y) {
@@ -98,6 +98,17 @@ TEST(EveryPicture, HasSharpStaffLinesInTheLargerSizes) {
         EXPECT_TRUE(line ? BlackIn(image, y) == image.width() : IsWhite(image.pixel(0, y))) << y;
       }
     }
+  }
+}
+
+/// The results show it in a place of 36 pixels.
+TEST(EveryPicture, HasASymbolThatLeavesTwoRowsFreeAboveAndBelow) {
+  for (int klang = 1; klang <= kKlangZahl; ++klang) {
+    const QImage image = Symbol(klang);
+    const std::vector<int> rows = DarkRows(image, 0, image.width());
+    ASSERT_FALSE(rows.empty()) << klang;
+    EXPECT_GE(rows.front(), 2) << klang;
+    EXPECT_LE(rows.back(), 37) << klang;
   }
 }
 

@@ -13,108 +13,11 @@
 #include <vector>
 
 #include "platform/qt/look.h"
-#include "platform/qt/page.h"
-#include "platform/qt/qt_event_loop.h"
+#include "shown_page.h"
 #include "spoken_program.h"
 
 namespace vmod17 {
 namespace {
-
-const QSize kSmall(1024, 768);
-const QSize kLarge(2560, 1440);
-
-/// A page of the program in a language, at a size.
-class Shown {
- public:
-  Shown(Form& form, const QSize& size) : page_(form, loop_, pictures_, nullptr) {
-    page_.resize(size);
-    page_.Arrange(size);
-    page_.Refresh();
-  }
-  Page& page() { return page_; }
-  std::vector<const Binding*> Visible() const {
-    std::vector<const Binding*> visible;
-    for (const auto& binding : page_.bindings()) {
-      if (binding->widget().isVisibleTo(&page_)) visible.push_back(binding.get());
-    }
-    return visible;
-  }
-  QWidget& At(const std::string& id) const {
-    return *page_.findChild<QWidget*>(QString::fromStdString(id));
-  }
-  const QWidget* Find(const QString& name) const { return page_.findChild<QWidget*>(name); }
-  QRect OnPage(const QWidget& widget) const {
-    return QRect(widget.mapTo(&page_, QPoint(0, 0)), widget.size());
-  }
-
- private:
-  QtEventLoop loop_;
-  PictureSource pictures_;
-  Page page_;
-};
-
-/// The solution of a slot lies on the slot's mark.
-bool MayCover(const Control& one, const Control& other) {
-  return (one.name() == "erg" && other.name() == "ergebnis") ||
-         (one.name() == "ergebnis" && other.name() == "erg");
-}
-
-/// An area is there to have others stand in it.
-bool StandsIn(const Shown& shown, const Binding& inner, const Binding& area) {
-  return dynamic_cast<const PlateWidget*>(&area.widget()) != nullptr &&
-         shown.OnPage(area.widget()).contains(shown.OnPage(inner.widget()));
-}
-
-void ExpectNothingCoversAnother(const Shown& shown) {
-  const auto visible = shown.Visible();
-  for (std::size_t i = 0; i < visible.size(); ++i) {
-    for (std::size_t j = i + 1; j < visible.size(); ++j) {
-      const Binding& one = *visible[i];
-      const Binding& other = *visible[j];
-      if (StandsIn(shown, one, other) || StandsIn(shown, other, one) ||
-          MayCover(one.control(), other.control())) {
-        continue;
-      }
-      EXPECT_FALSE(shown.OnPage(one.widget()).intersects(shown.OnPage(other.widget())))
-          << one.control().Id() << " and " << other.control().Id();
-    }
-  }
-}
-
-void ExpectAllIsOnThePage(Shown& shown) {
-  for (const Binding* binding : shown.Visible()) {
-    EXPECT_TRUE(shown.page().rect().contains(shown.OnPage(binding->widget())))
-        << binding->control().Id();
-    EXPECT_FALSE(binding->widget().size().isEmpty()) << binding->control().Id();
-  }
-}
-
-void ExpectNoCaptionIsCut(Shown& shown) {
-  EXPECT_TRUE(shown.page().TitleFits());
-  for (const auto& binding : shown.page().bindings()) {
-    if (dynamic_cast<const Picture*>(&binding->control()) != nullptr) continue;
-    EXPECT_TRUE(binding->dressed().CaptionFits())
-        << binding->control().Id() << ": " << binding->dressed().caption().toStdString();
-  }
-}
-
-void ExpectNoEntryIsCut(Shown& shown) {
-  for (const auto& binding : shown.page().bindings()) {
-    const auto* const list = dynamic_cast<const ListWidget*>(&binding->widget());
-    if (list == nullptr) continue;
-    EXPECT_TRUE(list->EntriesFit()) << binding->control().Id();
-  }
-}
-
-void ExpectWellLaidOut(Form& form) {
-  for (const QSize& size : {kSmall, kLarge}) {
-    Shown shown(form, size);
-    ExpectAllIsOnThePage(shown);
-    ExpectNothingCoversAnother(shown);
-    ExpectNoCaptionIsCut(shown);
-    ExpectNoEntryIsCut(shown);
-  }
-}
 
 class LayoutIn : public testing::TestWithParam<std::string> {};
 

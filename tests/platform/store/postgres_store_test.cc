@@ -162,6 +162,54 @@ TEST_F(PostgresStore, RaisesWhenALockIsNotReleasedInTimeAndLosesNothing) {
   EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"new"}));
 }
 
+TEST_F(PostgresStore, StoresNothingOfAPairOfWhichOneRecordIsLocked) {
+  HostStore store(Options());
+  EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
+  for (const char* key : {"E1", "A1"}) {
+    OtherHand hand(address_, {"BEGIN", QString("SELECT * FROM melvado_record WHERE record_key = "
+                                               "'%1' FOR UPDATE")
+                                           .arg(key)});
+    EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), ErrorNumber::kStore) << key;
+    ExpectPair(store, "old E", "old A");
+  }
+  EXPECT_TRUE(StoreValue(store, "X1", Array{"other"}));
+  ExpectPair(store, "old E", "old A");
+  EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
+  ExpectPair(store, "new E", "new A");
+}
+
+TEST_F(PostgresStore, StoresAPairAlthoughItsConnectionIsCutBetweenTheTwo) {
+  HostStore store(Options());
+  EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
+  store.Service()->Together([&] {
+    StoreValue(store, "E1", Array{"new E"});
+    EndAllOtherConnections();
+    StoreValue(store, "A1", Array{"new A"});
+  });
+  HostStore next(Options());
+  ExpectPair(next, "new E", "new A");
+  EXPECT_TRUE(notices_.empty());
+}
+
+TEST_F(PostgresStore, KeepsAPairInMemoryAsAWholeUntilAllOfItIsTaken) {
+  HostStore store(Options());
+  EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
+  kServer->Stop();
+  EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
+  ExpectPair(store, "new E", "new A");
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9108});
+  kServer->Start();
+  HostStore other(Options());
+  {
+    OtherHand hand(address_,
+                   {"BEGIN", "SELECT * FROM melvado_record WHERE record_key = 'E1' FOR UPDATE"});
+    EXPECT_TRUE(StoreValue(store, "X1", Array{"other"}));
+    ExpectPair(other, "old E", "old A");
+  }
+  EXPECT_TRUE(StoreValue(store, "X1", Array{"other"}));
+  ExpectPair(other, "new E", "new A");
+}
+
 TEST_F(PostgresStore, ComesBackWhenItsConnectionIsCut) {
   HostStore store(Options());
   StoreValue(store, "E1", Array{"one"});

@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <csignal>
+#include <functional>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -31,6 +32,7 @@ class Helper {
     words >> command;
     if (command == "open") return Open(words);
     if (command == "store") return StoreCopies(words);
+    if (command == "pair") return StorePair(words);
     if (command == "read") return Read(words);
     if (command == "log") return Log(words);
     if (command == "notices") return Notices();
@@ -63,10 +65,32 @@ class Helper {
     return Store(key, Array(count, TaggedValue(text)));
   }
 
+  // pair TEXT COUNT COUNT: such arrays under E1 and A1, together
+  std::string StorePair(std::istringstream& words) {
+    std::string text;
+    std::size_t settings = 0;
+    std::size_t state = 0;
+    words >> text >> settings >> state;
+    return WordFor([&] {
+      store_->Service()->Together([&] {
+        Send("E1", Array(settings, TaggedValue(text)));
+        Send("A1", Array(state, TaggedValue(text)));
+      });
+    });
+  }
+
   std::string Store(const std::string& key, const TaggedValue& value) {
+    return WordFor([&] { Send(key, value); });
+  }
+
+  void Send(const std::string& key, const TaggedValue& value) {
     TaggedValue result;
+    store_->Service()->Action("STORE", Array{"vmod17", key, value}, result);
+  }
+
+  static std::string WordFor(const std::function<void()>& stores) {
     try {
-      store_->Service()->Action("STORE", Array{"vmod17", key, value}, result);
+      stores();
       return "stored";
     } catch (const RunTimeError& error) {
       return "raised " + std::to_string(error.number());

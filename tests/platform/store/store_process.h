@@ -9,12 +9,14 @@
 
 namespace vmod17 {
 
-/// A second process with a store of its own, which carries out commands; see store_helper.cc.
+/// A second process with a store of its own; by default the one that carries out commands, see
+/// store_helper.cc.
 class StoreProcess {
  public:
-  StoreProcess() {
+  explicit StoreProcess(const QString& program = QStringLiteral(STORE_HELPER),
+                        const QStringList& arguments = {}) {
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process_.start(QStringLiteral(STORE_HELPER), QStringList());
+    process_.start(program, arguments);
     if (!process_.waitForStarted()) throw std::runtime_error("the helper program does not start");
   }
   ~StoreProcess() {
@@ -46,9 +48,17 @@ class StoreProcess {
   /// Ends it as the system would, without a chance to tidy up, and gives what it had said by then.
   QString Kill() {
     process_.kill();
+    return HearTheRest();
+  }
+
+  /// What it says until it ends.
+  QString HearTheRest() {
     process_.waitForFinished();
     return QString::fromUtf8(process_.readAll());
   }
+
+  /// Once it has ended: whether it was ended by a signal.
+  bool WasKilled() const { return process_.exitStatus() == QProcess::CrashExit; }
 
  private:
   QProcess process_;

@@ -56,6 +56,19 @@ inline bool StoreValue(HostStore& store, const std::string& key, const TaggedVal
   return store.Service()->Action("STORE", TaggedValue::Array{"vmod17", key, value}, result);
 }
 
+/// Stores under "E1" and "A1" together; returns the number of the error, or 0.
+inline int StorePair(HostStore& store, const TaggedValue& settings, const TaggedValue& state) {
+  try {
+    store.Service()->Together([&] {
+      StoreValue(store, "E1", settings);
+      StoreValue(store, "A1", state);
+    });
+  } catch (const RunTimeError& error) {
+    return error.number();
+  }
+  return 0;
+}
+
 /// What "READ" answers, or no value when it returns false.
 inline std::optional<TaggedValue> ReadValue(HostStore& store, const std::string& key) {
   TaggedValue result = "untouched";
@@ -64,6 +77,13 @@ inline std::optional<TaggedValue> ReadValue(HostStore& store, const std::string&
     return {};
   }
   return result;
+}
+
+/// Expects "E1" and "A1" to hold these texts, each as the first element.
+inline void ExpectPair(HostStore& store, const std::string& settings, const std::string& state) {
+  const TaggedValue none = TaggedValue::Array{TaggedValue()};
+  EXPECT_EQ(ReadValue(store, "E1").value_or(none)[0], TaggedValue(settings));
+  EXPECT_EQ(ReadValue(store, "A1").value_or(none)[0], TaggedValue(state));
 }
 
 inline bool LogLine(HostStore& store, const std::string& line) {

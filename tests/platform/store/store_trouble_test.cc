@@ -166,7 +166,87 @@ TEST_F(TroubledStore, WaitsForAnotherProcessToLetGo) {
   EXPECT_EQ(other.Ask("notices"), "");
 }
 
+TEST_F(TroubledStore, StoresNothingOfAPairWhileItIsLocked) {
+  HostStore store(Options());
+  EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
+  OtherHand hand(Path());
+  hand.Run("BEGIN IMMEDIATE");
+  EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), ErrorNumber::kStore);
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9103});
+  ExpectPair(store, "old E", "old A");
+  hand.Run("COMMIT");
+  // Nor does any of it wait for the next time.
+  EXPECT_EQ(NumberRaisedByStore(store, "X1", Array{"other"}), 0);
+  ExpectPair(store, "old E", "old A");
+  EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
+  ExpectPair(store, "new E", "new A");
+}
+
+TEST_F(TroubledStore, StoresNothingOfAPairThatIsLockedFromTheStart) {
+  {
+    HostStore store(Options());
+    EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
+  }
+  HostStore store(Options());
+  auto hand = std::make_unique<OtherHand>(Path());
+  hand->Run("PRAGMA locking_mode = EXCLUSIVE");
+  hand->Run("BEGIN EXCLUSIVE");
+  EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), ErrorNumber::kStore);
+  hand.reset();
+  ExpectPair(store, "old E", "old A");
+  EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
+  ExpectPair(store, "new E", "new A");
+}
+
+TEST_F(TroubledStore, KeepsWhatWaitsInMemoryWhenAPairMeetsALock) {
+  MakeStoreWith(Array{"old"});
+  StoreProcess process;
+  process.Ask("open " + Path() + " 20");
+  ASSERT_EQ(process.Ask("read E1"), "old 1");
+  ASSERT_EQ(process.Ask("limit 150000"), "limited");
+  EXPECT_EQ(process.Ask("store E1 waiting 50000"), "stored");
+  ASSERT_EQ(process.Ask("limit 0"), "limited");
+  {
+    OtherHand hand(Path());
+    hand.Run("BEGIN IMMEDIATE");
+    EXPECT_EQ(process.Ask("pair new 3 3"), "raised " + QString::number(ErrorNumber::kStore));
+    EXPECT_EQ(process.Ask("read E1"), "waiting 50000");
+    EXPECT_EQ(process.Ask("read A1"), "NIL 1");
+    hand.Run("COMMIT");
+  }
+  EXPECT_EQ(process.Ask("store X1 other 1"), "stored");
+  HostStore store(Options());
+  EXPECT_TRUE(ReadValue(store, "E1") == TaggedValue(Array(50'000, TaggedValue("waiting"))));
+  EXPECT_EQ(ReadValue(store, "A1"), NothingStored());
+}
+
 // ---- Broken
+
+TEST_F(TroubledStore, StoresBothOfAPairInANewStoreWhenTheOldOneIsBroken) {
+  {
+    HostStore store(Options());
+    EXPECT_EQ(StorePair(store, Array{std::string(50'000, 'x')}, Array{"old A"}), 0);
+  }
+  QFile::resize(Path(), 6000);
+  HostStore store(Options());
+  EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9106});
+  HostStore next(Options());
+  ExpectPair(next, "new E", "new A");
+}
+
+TEST_F(TroubledStore, StoresBothOfAPairWhenTheFileIsDeletedBetweenThem) {
+  HostStore store(Options());
+  EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
+  store.Service()->Together([&] {
+    StoreValue(store, "E1", Array{"new E"});
+    for (const QString& name : folder_.Names()) QFile::remove(folder_ / name);
+    StoreValue(store, "A1", Array{"new A"});
+  });
+  HostStore next(Options());
+  ExpectPair(next, "new E", "new A");
+  EXPECT_TRUE(notices_.empty());
+}
 
 TEST_F(TroubledStore, PutsAsideWhatIsNoStore) {
   const QByteArray letter(5000, 'x');
@@ -302,6 +382,8 @@ TEST_F(TroubledStore, WorksInMemoryWhereNoStoreCanBeMade) {
     EXPECT_EQ(ReadValue(store, "E1"), NothingStored());
     EXPECT_TRUE(StoreValue(store, "E1", Array{"kept"}));
     EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"kept"}));
+    EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
+    ExpectPair(store, "new E", "new A");
     EXPECT_FALSE(LogLine(store, "line"));
     store.SetUser({"4711", "Berg", "Anna"});
     EXPECT_EQ(store.User(), (StoreUser{"4711", "Berg", "Anna"}));
@@ -337,6 +419,9 @@ class StoreWithoutRights : public TroubledStore {
     EXPECT_EQ(process.Ask("log line"), "lost");
     EXPECT_EQ(process.Ask("store E1 new 2"), "stored");
     EXPECT_EQ(process.Ask("read E1"), "new 2");
+    EXPECT_EQ(process.Ask("pair newer 2 3"), "stored");
+    EXPECT_EQ(process.Ask("read E1"), "newer 2");
+    EXPECT_EQ(process.Ask("read A1"), "newer 3");
     EXPECT_EQ(process.Ask("notices"), "9104");
     EXPECT_EQ(Content(Path()), before);
   }
@@ -383,6 +468,61 @@ TEST_F(TroubledStore, LosesNothingOnAFullDiskAndStoresWhenThereIsRoomAgain) {
   HostStore next(Options());
   EXPECT_EQ(ReadValue(next, "A1"), TaggedValue(Array{"short"}));
   EXPECT_TRUE(ReadValue(next, "E1") == TaggedValue(Array(100'000, TaggedValue("long"))));
+}
+
+class PairOnAFullDisk : public TroubledStore {
+ protected:
+  // Leaves the process with a pair in memory: of the two one alone would find room.
+  void FillTheDisk(StoreProcess& process, const QString& pair) {
+    {
+      HostStore store(Options());
+      StorePair(store, Array{"old"}, Array{"old"});
+    }
+    process.Ask("open " + Path() + " 20");
+    ASSERT_EQ(process.Ask("read E1"), "old 1");
+    ASSERT_EQ(process.Ask("limit 150000"), "limited");
+    EXPECT_EQ(process.Ask(pair), "stored");
+    EXPECT_EQ(process.Ask("notices"), "9105");
+    ExpectInTheStore("old", "old");
+  }
+
+  void ExpectInTheStore(const std::string& settings, const std::string& state) {
+    HostStore other(Options());
+    ExpectPair(other, settings, state);
+  }
+};
+
+TEST_F(PairOnAFullDisk, WaitsInMemoryAsAWholeAndIsStoredWhenThereIsRoomAgain) {
+  StoreProcess process;
+  FillTheDisk(process, "pair new 10 100000");
+  EXPECT_EQ(process.Ask("read E1"), "new 10");
+  EXPECT_EQ(process.Ask("read A1"), "new 100000");
+  ASSERT_EQ(process.Ask("limit 0"), "limited");
+  EXPECT_EQ(process.Ask("store X1 other 1"), "stored");
+  ExpectInTheStore("new", "new");
+}
+
+TEST_F(PairOnAFullDisk, IsNotStoredInHalfWhicheverHalfFindsRoom) {
+  for (const char* pair : {"pair new 10 100000", "pair new 100000 10"}) {
+    StoreProcess process;
+    FillTheDisk(process, pair);
+    // There is room for this one, and so it is tried with what waits, in vain.
+    EXPECT_EQ(process.Ask("store X1 other 1"), "stored");
+    ExpectInTheStore("old", "old");
+    process.Kill();
+    HostStore store(Options());
+    ExpectPair(store, "old", "old");
+    EXPECT_EQ(ReadValue(store, "X1"), TaggedValue(Array{"other"}));
+  }
+}
+
+TEST_F(PairOnAFullDisk, IsStoredAtTheEndOfTheProcess) {
+  {
+    StoreProcess process;
+    FillTheDisk(process, "pair new 10 100000");
+    ASSERT_EQ(process.Ask("limit 0"), "limited");
+  }
+  ExpectInTheStore("new", "new");
 }
 
 TEST_F(TroubledStore, WorksInMemoryWhenTheDiskIsFullFromTheStart) {

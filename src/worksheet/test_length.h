@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+namespace vmod17 {
+
+/// What is left of a test.
+struct TestRest {
+  int test_aufgaben = 0;  ///< tasks of the test, even
+  int rest_aufgaben = 0;
+  int rest_sek = 0;  ///< seconds, a multiple of 10
+};
+
+/// What the length of a test depends on.
+struct TestVorgabe {
+  int mat_posten = 0;  ///< chords on the board
+  int akk_anzahl = 1;  ///< chords a task
+  int spiel_ms = 0;    ///< a task's playing time
+  int wahl_ms = 0;     ///< the pause before a task
+};
+
+/// Seconds for so many tasks, rounded up to a multiple of 10.
+int TestdauerRechnen(const TestVorgabe& vorgabe, int test_aufgaben);
+
+/// The length of a test in which every chord is heard about four times. A test of more than 600
+/// seconds is shortened once, one of less than 180 lengthened once; the result may still lie
+/// outside.
+TestRest BemissTest(const TestVorgabe& vorgabe);
+
+}  // namespace vmod17

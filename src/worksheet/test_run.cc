@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// A test and an exam: a fixed number of tasks in a limited time.
+
+#include "shell/numbers.h"
+#include "worksheet/worksheet_screen.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr int kSekundenJeTakt = 10;  // between two firings of `Uhrzeit`
+
+}  // namespace
+
+void Arbeitsblatt1::BeginneTest() {
+  run_.test = BemissTest({run_.material.mat_posten, parts_.settings.akk_anzahl, spieltimer.interval,
+                          WahlAutomat.interval});
+  selection_.BeginneTest(run_, parts_.counters.auswertung_obj);
+  ZeigeRestzeit();
+  lab_aufgaben.caption = shell_.texts.Sprachtext(462) + SignedText(run_.test.rest_aufgaben);
+  PicUetyp[1].visible = true;
+  ZeigeTeststand(true);
+}
+
+void Arbeitsblatt1::ZaehleTestaufgabe() {
+  TestRest& test = run_.test;
+  --test.rest_aufgaben;
+  if (test.rest_aufgaben == 0) {
+    MeldeEnde();
+    run_.lauf_status = LaufStatus::kTestZuEnde;
+  } else if (test.rest_aufgaben == test.test_aufgaben / 2) {
+    run_.material.MaterialTest(parts_.counters.auswertung_obj, parts_.random);
+  }
+  lab_aufgaben.caption = shell_.texts.Sprachtext(462) + " " + SignedText(test.rest_aufgaben);
+}
+
+void Arbeitsblatt1::ZaehleTestzeit() {
+  run_.test.rest_sek -= kSekundenJeTakt;
+  ZeigeRestzeit();
+  if (run_.test.rest_sek <= 0) BeendeTestNachZeit();
+}
+
+void Arbeitsblatt1::ZeigeRestzeit() {
+  const TextLookup& texts = shell_.texts;
+  const int sekunden = run_.test.rest_sek;
+  stop_uhr.caption = texts.Sprachtext(461) + SignedText(sekunden / 60) + " " +
+                     texts.Sprachtext(394) + SignedText(sekunden % 60) + " " +
+                     texts.Sprachtext(480);
+}
+
+void Arbeitsblatt1::BeendeTestNachZeit() {
+  HalteAn();
+  wieder.enabled = false;
+  wieder2.enabled = false;
+  BeendeAufzeichnung();
+  // Events are served while the record is saved: the program may have been ended in them.
+  if (loaded()) OeffneErgebnisse();
+}
+
+}  // namespace vmod17

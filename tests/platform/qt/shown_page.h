@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/qt/page.h"
+#include "platform/qt/qt_event_loop.h"
+
+namespace vmod17 {
+
+inline const QSize kSmall(1024, 768);
+inline const QSize kLarge(2560, 1440);
+
+/// A page of the program in a language, at a size.
+class Shown {
+ public:
+  Shown(Form& form, const QSize& size) : page_(form, loop_, pictures_, nullptr) {
+    page_.resize(size);
+    page_.Arrange(size);
+    page_.Refresh();
+  }
+  Page& page() { return page_; }
+  std::vector<const Binding*> Visible() const {
+    std::vector<const Binding*> visible;
+    for (const auto& binding : page_.bindings()) {
+      if (binding->widget().isVisibleTo(&page_)) visible.push_back(binding.get());
+    }
+    return visible;
+  }
+  QWidget& At(const std::string& id) const {
+    return *page_.findChild<QWidget*>(QString::fromStdString(id));
+  }
+  const QWidget* Find(const QString& name) const { return page_.findChild<QWidget*>(name); }
+  QRect OnPage(const QWidget& widget) const {
+    return QRect(widget.mapTo(&page_, QPoint(0, 0)), widget.size());
+  }
+
+ private:
+  QtEventLoop loop_;
+  PictureSource pictures_;
+  Page page_;
+};
+
+/// The solution of a slot lies on the slot's mark.
+inline bool MayCover(const Control& one, const Control& other) {
+  return (one.name() == "erg" && other.name() == "ergebnis") ||
+         (one.name() == "ergebnis" && other.name() == "erg");
+}
+
+/// An area is there to have others stand in it, and so is a control that the program uses as one.
+inline bool StandsIn(const Shown& shown, const Binding& inner, const Binding& area) {
+  const bool holds = dynamic_cast<const PlateWidget*>(&area.widget()) != nullptr ||
+                     inner.control().container == &area.control();
+  return holds && shown.OnPage(area.widget()).contains(shown.OnPage(inner.widget()));
+}
+
+inline void ExpectNothingCoversAnother(const Shown& shown) {
+  const auto visible = shown.Visible();
+  for (std::size_t i = 0; i < visible.size(); ++i) {
+    for (std::size_t j = i + 1; j < visible.size(); ++j) {
+      const Binding& one = *visible[i];
+      const Binding& other = *visible[j];
+      if (StandsIn(shown, one, other) || StandsIn(shown, other, one) ||
+          MayCover(one.control(), other.control())) {
+        continue;
+      }
+      EXPECT_FALSE(shown.OnPage(one.widget()).intersects(shown.OnPage(other.widget())))
+          << one.control().Id() << " and " << other.control().Id();
+    }
+  }
+}
+
+inline void ExpectAllIsOnThePage(Shown& shown) {
+  for (const Binding* binding : shown.Visible()) {
+    EXPECT_TRUE(shown.page().rect().contains(shown.OnPage(binding->widget())))
+        << binding->control().Id();
+    EXPECT_FALSE(binding->widget().size().isEmpty()) << binding->control().Id();
+  }
+}
+
+inline void ExpectNoCaptionIsCut(Shown& shown) {
+  EXPECT_TRUE(shown.page().TitleFits());
+  for (const auto& binding : shown.page().bindings()) {
+    if (dynamic_cast<const Picture*>(&binding->control()) != nullptr) continue;
+    EXPECT_TRUE(binding->dressed().CaptionFits())
+        << binding->control().Id() << ": " << binding->dressed().caption().toStdString();
+  }
+}
+
+inline void ExpectTheEndsOfAScaleAreWhole(Shown& shown) {
+  for (const auto& binding : shown.page().bindings()) {
+    const auto* const gauge = dynamic_cast<const GaugeWidget*>(&binding->widget());
+    if (gauge == nullptr) continue;
+    EXPECT_TRUE(gauge->EndsFit()) << binding->control().Id();
+  }
+}
+
+inline void ExpectNoEntryIsCut(Shown& shown) {
+  for (const auto& binding : shown.page().bindings()) {
+    const auto* const list = dynamic_cast<const ListWidget*>(&binding->widget());
+    if (list == nullptr) continue;
+    EXPECT_TRUE(list->EntriesFit()) << binding->control().Id();
+  }
+}
+
+inline void ExpectWellLaidOut(Form& form) {
+  for (const QSize& size : {kSmall, kLarge}) {
+    Shown shown(form, size);
+    ExpectAllIsOnThePage(shown);
+    ExpectNothingCoversAnother(shown);
+    ExpectNoCaptionIsCut(shown);
+    ExpectNoEntryIsCut(shown);
+    ExpectTheEndsOfAScaleAreWhole(shown);
+  }
+}
+
+}  // namespace vmod17

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QAccessibleInterface>
+#include <QImage>
+
+#include "platform/qt/look.h"
+#include "shown_page.h"
+#include "spoken_program.h"
+
+namespace vmod17 {
+namespace {
+
+/// Pixels of about this colour.
+int Count(const QImage& image, const QColor& color) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor pixel = image.pixelColor(x, y);
+      const bool near = std::abs(pixel.red() - color.red()) < 24 &&
+                        std::abs(pixel.green() - color.green()) < 24 &&
+                        std::abs(pixel.blue() - color.blue()) < 24;
+      count += near ? 1 : 0;
+    }
+  }
+  return count;
+}
+
+/// The header of a worksheet in a mode of practice.
+class Header : public testing::TestWithParam<std::string> {
+ protected:
+  void Start(int mode) {
+    p_.ToSettings();
+    p_.settings_screen().training_Combo.Select(mode);
+    p_.StartRun();
+  }
+  Arbeitsblatt1& sheet() { return p_.worksheet(); }
+
+  SpokenProgram p_{GetParam()};
+};
+
+TEST_P(Header, ShowsATrainingWholeInEachOfItsStates) {
+  Start(1);
+  ASSERT_TRUE(sheet().matboxanz.visible);
+  for (const int percent : {0, 1, 38, 50, 99, 100}) {
+    sheet().matboxanz.percent = percent;
+    ExpectWellLaidOut(sheet());
+  }
+  for (const int state : {1, 2}) {
+    for (int i = 0; i < 3; ++i) sheet().ergebnis_anz[i].visible = i == state;
+    sheet().zurueck.back_color = Colors::kYellow;
+    sheet().zurueck.fore_color = Colors::kRed;
+    sheet().zurueck.caption = p_.program.texts().Sprachtext(625);
+    ExpectWellLaidOut(sheet());
+  }
+}
+
+TEST_P(Header, ShowsATestWholeWithTheLongestTimeAndNumber) {
+  Start(3);
+  ASSERT_TRUE(sheet().stop_uhr.visible);
+  ExpectWellLaidOut(sheet());
+  const TextLookup& texts = p_.program.texts();
+  sheet().stop_uhr.caption =
+      texts.Sprachtext(461) + " 88 " + texts.Sprachtext(394) + " 58 " + texts.Sprachtext(480);
+  sheet().lab_aufgaben.caption = texts.Sprachtext(462) + "  188";
+  ExpectWellLaidOut(sheet());
+  EXPECT_TRUE(sheet().cmd_test_aus.Press());
+  ExpectWellLaidOut(sheet());
+  EXPECT_TRUE(sheet().cmd_test_ein.Press());
+  ExpectWellLaidOut(sheet());
+}
+
+TEST_P(Header, ShowsFreePracticeWithItsTitleInTheMiddle) {
+  Start(0);
+  ExpectWellLaidOut(sheet());
+  const Layout layout = LayoutOf(sheet(), QSizeF(1024, 768));
+  EXPECT_NEAR(layout.title.center().x(), 512, 1);
+}
+
+TEST_P(Header, SaysTheGaugeWithItsValueAndWhatItsEndsMean) {
+  Start(1);
+  sheet().matboxanz.percent = 38;
+  Shown shown(sheet(), kSmall);
+  QAccessibleInterface* const gauge = QAccessible::queryAccessibleInterface(&shown.At("matboxanz"));
+  ASSERT_NE(gauge, nullptr);
+  EXPECT_EQ(gauge->role(), QAccessible::ProgressBar);
+  EXPECT_EQ(gauge->text(QAccessible::Name).toStdString(), sheet().ergebnis_anz[0].caption);
+  ASSERT_NE(gauge->valueInterface(), nullptr);
+  EXPECT_EQ(gauge->valueInterface()->currentValue().toInt(), 38);
+  const std::string ends = gauge->text(QAccessible::Description).toStdString();
+  EXPECT_NE(ends.find(sheet().ergebnis_anz[1].caption), std::string::npos);
+  EXPECT_NE(ends.find(sheet().ergebnis_anz[2].caption), std::string::npos);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Header, testing::Values("Deutsch", "English"),
+                         [](const auto& test) { return test.param; });
+
+TEST(Gauge, GoesFromGreenToRedAndShowsWhereTheTrainingStands) {
+  ProgramFixture p;
+  p.ToSettings();
+  p.settings_screen().training_Combo.Select(1);
+  p.StartRun();
+  const auto pointer = [&](int percent) {  // its place, as a share of the gauge
+    p.worksheet().matboxanz.percent = percent;
+    const Shown shown(p.worksheet(), kSmall);
+    const QImage image = shown.At("matboxanz").grab().toImage();
+    int left = image.width();
+    int right = 0;
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, 12) != look::kText) continue;
+      left = std::min(left, x);
+      right = std::max(right, x);
+    }
+    return (left + right) / 2.0 / image.width();
+  };
+  EXPECT_LT(pointer(0), 0.05);
+  EXPECT_NEAR(pointer(50), 0.5, 0.02);
+  EXPECT_GT(pointer(100), 0.95);
+  EXPECT_LT(pointer(38), pointer(39));
+
+  p.worksheet().matboxanz.percent = 50;
+  const Shown shown(p.worksheet(), kSmall);
+  const QImage scale = shown.At("matboxanz").grab().toImage();
+  const QImage low = scale.copy(0, 0, scale.width() / 4, 20);
+  const QImage high = scale.copy(scale.width() * 3 / 4, 0, scale.width() / 4, 20);
+  EXPECT_GT(Count(low, look::kSolved), 50);
+  EXPECT_EQ(Count(low, look::kTooHard), 0);
+  EXPECT_GT(Count(high, look::kTooHard), 50);
+  EXPECT_EQ(Count(high, look::kSolved), 0);
+}
+
+TEST(HeaderSign, TellsTrainingAndTestApart) {
+  for (const int mode : {1, 3}) {
+    ProgramFixture p;
+    p.ToSettings();
+    p.settings_screen().training_Combo.Select(mode);
+    p.StartRun();
+    const Shown shown(p.worksheet(), kSmall);
+    const QImage sign = shown.At(mode == 1 ? "PicUetyp(0)" : "PicUetyp(1)").grab().toImage();
+    EXPECT_GT(Count(sign, look::kAccent), 100) << mode;
+  }
+}
+
+}  // namespace
+}  // namespace vmod17
