@@ -721,6 +721,22 @@
         <source></source>
         <translation>Es ist kein Drucker eingerichtet, und die Seite konnte auch nicht als Datei im Ordner %1 gespeichert werden (%2). Prüfen Sie, ob Sie darin schreiben dürfen und ob die Festplatte nicht voll ist.</translation>
     </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Inhalt</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Vor</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>Die Seite „%1“ der Hilfe wurde nicht gefunden. Gesucht wird nach Hilfeseiten in: %2</translation>
+    </message>
     <message id="9401s">
         <source></source>
         <translation>Gehörtraining</translation>

@@ -721,6 +721,22 @@
         <source></source>
         <translation>There is no printer, and the page could not be saved as a file in the folder %1 either (%2). Check that you may write there and that the disk is not full.</translation>
     </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Contents</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Forward</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>The page “%1” of the help was not found. Help pages are looked for in: %2</translation>
+    </message>
     <message id="9401s">
         <source></source>
         <translation>Ear training</translation>

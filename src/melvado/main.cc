@@ -44,9 +44,9 @@ void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& ho
       const auto word = [&host](int id, const std::string& text) {
         return host.words().Say(id, text.c_str()).toStdString();
       };
-      return HelpWindow::Words{word(9391, english.title), word(9392, english.contents),
-                               word(9393, english.back), word(9394, english.forward),
-                               word(9395, english.missing)};
+      return HelpWindow::Words{word(9421, english.title), word(9391, english.contents),
+                               word(9392, english.back), word(9393, english.forward),
+                               word(9394, english.missing)};
     };
   }
   help->Show("melvado", host.words().locale().name().toStdString());
