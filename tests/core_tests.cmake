@@ -40,7 +40,10 @@ vmod17_test(
 # Records, the worksheet and whole runs.
 target_sources(
   core_tests
-  PRIVATE app/free_practice_simulation_test.cc
+  PRIVATE app/clock_independence_test.cc
+          app/exams_test.cc
+          app/free_practice_simulation_test.cc
+          app/student_runs_test.cc
           app/student_simulation_test.cc
           app/lesson_record_golden_test.cc
           results/counters_test.cc

@@ -96,8 +96,6 @@ int* Material::Gewicht(int entry) {
   return zeile == mat_tab.end() ? nullptr : &(*zeile)[1];
 }
 
-int Material::Prozent() const {
-  return RoundHalfEven(mat_rest * 100.0 / Grenze());
-}
+int Material::Prozent() const { return RoundHalfEven(mat_rest * 100.0 / Grenze()); }
 
 }  // namespace vmod17

@@ -21,8 +21,8 @@ struct NotedSlot {
   int tenths = 0;  ///< time of the first click
 };
 
-/// A student's own books of a run: from what was asked and clicked they follow its weights, counters
-/// and marks. They share nothing with the program, and reckon in whole tenths of a point.
+/// A student's own books of a run: from what was asked and clicked they follow its weights,
+/// counters and marks. They share nothing with the program, and reckon in whole tenths of a point.
 class StudentBook {
  public:
   /// What a run is made of.

@@ -68,7 +68,8 @@ class ResultsFixture : public ModeFixture {
 inline void AllGroups(Einstellung1& e) { EXPECT_TRUE(e.grp_alle[0].Press()); }
 
 /// Choices of the material: `akk_form`, what is named, and kinds by their number of notes.
-inline void ChooseMaterial(Einstellung1& e, int akk_form, int best_art, const std::vector<int>& kinds) {
+inline void ChooseMaterial(Einstellung1& e, int akk_form, int best_art,
+                           const std::vector<int>& kinds) {
   e.aus_w.Choose(akk_form);
   e.akk_grp.Choose(best_art);
   if (akk_form == 0) {

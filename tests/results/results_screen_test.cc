@@ -317,10 +317,12 @@ TEST(SettingsPage, HidesWhatDoesNotHoldInEveryCombination) {
       for (const int klangfarb_art : {0, 1}) {
         for (const bool triads_alone : {false, true}) {
           if (triads_alone && (akk_form == 1 || best_art == 1)) continue;
-          SCOPED_TRACE(::testing::Message() << akk_form << best_art << klangfarb_art << triads_alone);
+          SCOPED_TRACE(::testing::Message()
+                       << akk_form << best_art << klangfarb_art << triads_alone);
           ResultsFixture p;
           p.ToResults([&](Einstellung1& e) {
-            ChooseMaterial(e, akk_form, best_art, triads_alone ? std::vector{3} : std::vector{4, 5});
+            ChooseMaterial(e, akk_form, best_art,
+                           triads_alone ? std::vector{3} : std::vector{4, 5});
             e.kl_farb.Choose(klangfarb_art);
           });
           std::vector<int> hidden;
@@ -355,12 +357,8 @@ TEST(SettingsPage, TellsTheTimbreOfEachNoteOfTheLastKind) {
     std::vector<int> kinds;
     int last_note;
   };
-  for (const Case& c : std::vector<Case>{{0, {3}, 2},
-                                         {0, {3, 4}, 3},
-                                         {0, {5}, 4},
-                                         {0, {4, 6}, 5},
-                                         {0, {3, 7}, 6},
-                                         {1, {}, 4}}) {
+  for (const Case& c : std::vector<Case>{
+           {0, {3}, 2}, {0, {3, 4}, 3}, {0, {5}, 4}, {0, {4, 6}, 5}, {0, {3, 7}, 6}, {1, {}, 4}}) {
     ResultsFixture p;
     p.ToResults([&](Einstellung1& e) {
       ChooseMaterial(e, c.akk_form, 0, c.kinds);
@@ -614,16 +612,16 @@ TEST(ResultsErrors, OfTheSetUpCloseTheScreen) {
 class OpenedResults : public Stage {
  public:
   OpenedResults() {
+    table.SetzeKlangZahlen();
     board.SetzeAkkTab({settings.Klangtypen(), settings.Gruppen(), 0, 0}, random);
     screens.Load(results);
   }
   GrdEinst first_screen{shell};
   FakePrinter printer;
   std::vector<std::string> told;
-  Testergebnis results{
-      shell,
-      {settings, board, pictures, counters, einstellung, first_screen, printer},
-      [this](const std::string& tag) { told.push_back(tag); }};
+  Testergebnis results{shell,
+                       {settings, board, pictures, counters, einstellung, first_screen, printer},
+                       [this](const std::string& tag) { told.push_back(tag); }};
 };
 
 TEST(ResultsErrors, AreToldToTheOpener) {
@@ -651,6 +649,7 @@ TEST(ResultsErrors, AreToldToTheOpener) {
 TEST(ResultsScreen, LetsThePicturesGoWhenItCloses) {
   OpenedResults r;
   r.loop.Advance(300);
+  EXPECT_THAT(r.host.errors, IsEmpty());
   EXPECT_TRUE(r.pictures.bilder1.loaded());
   r.results.cmdOK[1].Click();
   EXPECT_FALSE(r.pictures.bilder1.loaded());
