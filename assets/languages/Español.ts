@@ -681,6 +681,10 @@
         <source></source>
         <translation>No existe el dispositivo MIDI número %1; dispositivos presentes: %2. Elija otro dispositivo MIDI en Melvado. El ejercicio continúa sin sonido.</translation>
     </message>
+    <message id="9157s">
+        <source></source>
+        <translation>El soundfont elegido, %1, falta o está dañado. En su lugar suena %2. Elija otro soundfont en Melvado.</translation>
+    </message>
     <message id="9201s">
         <source></source>
         <translation>El informe de su ejercicio no se ha podido guardar en la carpeta %1 (%2). En su lugar se ha guardado como %3. Compruebe que la carpeta existe, que tiene permiso para escribir en ella y que el disco no está lleno.</translation>
@@ -696,6 +700,282 @@
     <message id="9252s">
         <source></source>
         <translation>No se han encontrado los textos del idioma de este programa; por eso aparece «VOID» en su lugar. Vuelva a instalar el programa o inícielo en otro idioma.</translation>
+    </message>
+    <message id="9301s">
+        <source></source>
+        <translation>No se ha podido guardar el entrenamiento. ¿Intentarlo de nuevo?</translation>
+    </message>
+    <message id="9302s">
+        <source></source>
+        <translation>No hay ninguna impresora configurada. La página se ha guardado como %1.</translation>
+    </message>
+    <message id="9303s">
+        <source></source>
+        <translation>La impresora %1 no ha aceptado la página: %2. Compruebe que está encendida y conectada, y vuelva a imprimir.</translation>
+    </message>
+    <message id="9304s">
+        <source></source>
+        <translation>La impresora %1 no está lista. Compruebe que está encendida y conectada y que tiene papel, y vuelva a imprimir.</translation>
+    </message>
+    <message id="9305s">
+        <source></source>
+        <translation>No hay ninguna impresora configurada y tampoco se ha podido guardar la página como archivo en la carpeta %1 (%2). Compruebe que tiene permiso para escribir en ella y que el disco no está lleno.</translation>
+    </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Contenido</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Atrás</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Adelante</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>No se ha encontrado la página «%1» de la ayuda. Las páginas de ayuda se buscan en: %2</translation>
+    </message>
+    <message id="9401s">
+        <source></source>
+        <translation>Educar el oído</translation>
+    </message>
+    <message id="9402s">
+        <source></source>
+        <translation>¿Quién practica?</translation>
+    </message>
+    <message id="9403s">
+        <source></source>
+        <translation>Nadie (sin nombre)</translation>
+    </message>
+    <message id="9404s">
+        <source></source>
+        <translation>Nuevo…</translation>
+    </message>
+    <message id="9405s">
+        <source></source>
+        <translation>Editar…</translation>
+    </message>
+    <message id="9406s">
+        <source></source>
+        <translation>Quitar…</translation>
+    </message>
+    <message id="9407s">
+        <source></source>
+        <translation>Idioma</translation>
+    </message>
+    <message id="9408s">
+        <source></source>
+        <translation>Salida de audio</translation>
+    </message>
+    <message id="9409s">
+        <source></source>
+        <translation>Sintetizador integrado</translation>
+    </message>
+    <message id="9410s">
+        <source></source>
+        <translation>%1 (no conectado)</translation>
+    </message>
+    <message id="9411s">
+        <source></source>
+        <translation>Probar el sonido</translation>
+    </message>
+    <message id="9412s">
+        <source></source>
+        <translation>Elegir soundfont…</translation>
+    </message>
+    <message id="9413s">
+        <source></source>
+        <translation>Soundfont del sistema</translation>
+    </message>
+    <message id="9414s">
+        <source></source>
+        <translation>Soundfont: %1</translation>
+    </message>
+    <message id="9415s">
+        <source></source>
+        <translation>Suena el soundfont del sistema.</translation>
+    </message>
+    <message id="9416s">
+        <source></source>
+        <translation>%1 no está conectado. En su lugar suena el sintetizador integrado.</translation>
+    </message>
+    <message id="9417s">
+        <source></source>
+        <translation>Se está tocando un acorde…</translation>
+    </message>
+    <message id="9418s">
+        <source></source>
+        <translation>La prueba de sonido toca un acorde e indica qué ha sido de él.</translation>
+    </message>
+    <message id="9419s">
+        <source></source>
+        <translation>Registro</translation>
+    </message>
+    <message id="9420s">
+        <source></source>
+        <translation>Salir</translation>
+    </message>
+    <message id="9421s">
+        <source></source>
+        <translation>Ayuda</translation>
+    </message>
+    <message id="9422s">
+        <source></source>
+        <translation>Iniciando…</translation>
+    </message>
+    <message id="9423s">
+        <source></source>
+        <translation>Nuevo usuario</translation>
+    </message>
+    <message id="9424s">
+        <source></source>
+        <translation>Editar usuario</translation>
+    </message>
+    <message id="9425s">
+        <source></source>
+        <translation>Apellidos</translation>
+    </message>
+    <message id="9426s">
+        <source></source>
+        <translation>Nombre</translation>
+    </message>
+    <message id="9427s">
+        <source></source>
+        <translation>Número de matrícula</translation>
+    </message>
+    <message id="9428s">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="9429s">
+        <source></source>
+        <translation>¿Quitar a %1 de la lista? Los entrenamientos guardados se conservan: quien vuelva a inscribirse con este número continuará con ellos.</translation>
+    </message>
+    <message id="9430s">
+        <source></source>
+        <translation>Falta el soundfont %1. En su lugar suena el del sistema.</translation>
+    </message>
+    <message id="9431s">
+        <source></source>
+        <translation>Introduzca el número de matrícula: los entrenamientos se guardan con él.</translation>
+    </message>
+    <message id="9432s">
+        <source></source>
+        <translation>El número de matrícula es demasiado largo. Puede tener hasta %1 caracteres.</translation>
+    </message>
+    <message id="9433s">
+        <source></source>
+        <translation>El nombre es demasiado largo. El nombre y los apellidos pueden tener hasta %1 caracteres cada uno.</translation>
+    </message>
+    <message id="9434s">
+        <source></source>
+        <translation>«%1» no puede ser un número de matrícula. Elija otro.</translation>
+    </message>
+    <message id="9435s">
+        <source></source>
+        <translation>El número de matrícula %1 ya está en la lista. Elija a ese usuario o introduzca otro número.</translation>
+    </message>
+    <message id="9436s">
+        <source></source>
+        <translation>El archivo %1 no es un soundfont que se pueda tocar, o está dañado. El soundfont no ha cambiado.</translation>
+    </message>
+    <message id="9437s">
+        <source></source>
+        <translation>Elegir soundfont</translation>
+    </message>
+    <message id="9441s">
+        <source></source>
+        <translation>Ningún sonido ha salido del programa.</translation>
+    </message>
+    <message id="9442s">
+        <source></source>
+        <translation>El acorde ha salido del programa: el sintetizador integrado ha tocado %1 notas por %2, con el soundfont %3.</translation>
+    </message>
+    <message id="9443s">
+        <source></source>
+        <translation>El acorde ha salido del programa: el sintetizador integrado ha tocado por %1, con el soundfont %2, a un nivel del %3 %.</translation>
+    </message>
+    <message id="9444s">
+        <source></source>
+        <translation>Si aun así no oye nada: encienda los altavoces o conecte los auriculares, suba el volumen y selecciónelos en los ajustes de sonido del sistema.</translation>
+    </message>
+    <message id="9445s">
+        <source></source>
+        <translation>El sintetizador no ha estado listo a tiempo: el ordenador está muy ocupado o el soundfont es muy grande. Inténtelo de nuevo.</translation>
+    </message>
+    <message id="9446s">
+        <source></source>
+        <translation>%1 se ha abierto, pero no ha aceptado ningún sonido. Es posible que otro programa retenga la tarjeta de sonido: ciérrelo o elija otra salida en los ajustes de sonido del sistema.</translation>
+    </message>
+    <message id="9447s">
+        <source></source>
+        <translation>El soundfont %1 no tiene sonido de piano. Elija otro soundfont.</translation>
+    </message>
+    <message id="9448s">
+        <source></source>
+        <translation>El acorde ha salido del programa: el dispositivo MIDI «%1» ha aceptado %2 mensajes sin errores.</translation>
+    </message>
+    <message id="9449s">
+        <source></source>
+        <translation>Si aun así no oye nada: compruebe que el dispositivo está encendido, que tiene el volumen suficiente y que toca lo que llega por el canal 1.</translation>
+    </message>
+    <message id="9450s">
+        <source></source>
+        <translation>No se puede acceder al dispositivo MIDI «%1». Compruebe el cable y que esté encendido, o elija otra salida.</translation>
+    </message>
+    <message id="9451s">
+        <source></source>
+        <translation>El ejercicio ha terminado de forma inesperada. Lo que se había guardado antes sigue ahí. ¿Desea ver el final del registro?</translation>
+    </message>
+    <message id="9452s">
+        <source></source>
+        <translation>El ejercicio ya estaba abierto. Su ventana está ahora en primer plano.</translation>
+    </message>
+    <message id="9453s">
+        <source></source>
+        <translation>No se ha podido iniciar el ejercicio (%1). Vuelva a instalar el programa; si no da resultado, envíe el informe de error del registro.</translation>
+    </message>
+    <message id="9455s">
+        <source></source>
+        <translation>Hora</translation>
+    </message>
+    <message id="9456s">
+        <source></source>
+        <translation>Lugar</translation>
+    </message>
+    <message id="9457s">
+        <source></source>
+        <translation>Número</translation>
+    </message>
+    <message id="9458s">
+        <source></source>
+        <translation>Texto</translation>
+    </message>
+    <message id="9459s">
+        <source></source>
+        <translation>Origen</translation>
+    </message>
+    <message id="9460s">
+        <source></source>
+        <translation>Actualizar</translation>
+    </message>
+    <message id="9461s">
+        <source></source>
+        <translation>Copiar como informe de error</translation>
+    </message>
+    <message id="9462s">
+        <source></source>
+        <translation>Cerrar</translation>
+    </message>
+    <message id="9463s">
+        <source></source>
+        <translation>El informe está en el portapapeles y se puede pegar en un correo.</translation>
+    </message>
+    <message id="9464s">
+        <source></source>
+        <translation>El registro está vacío.</translation>
     </message>
 </context>
 </TS>

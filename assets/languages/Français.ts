@@ -681,6 +681,10 @@
         <source></source>
         <translation>Le périphérique MIDI numéro %1 n’existe pas&#xa0;; nombre de périphériques présents&#xa0;: %2. Choisissez un autre périphérique MIDI dans Melvado. L’exercice continue sans le son.</translation>
     </message>
+    <message id="9157s">
+        <source></source>
+        <translation>La soundfont choisie, %1, est introuvable ou endommagée. %2 est jouée à sa place. Choisissez une autre soundfont dans Melvado.</translation>
+    </message>
     <message id="9201s">
         <source></source>
         <translation>Le compte rendu de votre exercice n’a pas pu être enregistré dans le dossier %1 (%2). Il a été enregistré sous %3 à la place. Vérifiez que le dossier existe, que vous avez le droit d’y écrire et que le disque n’est pas plein.</translation>
@@ -696,6 +700,282 @@
     <message id="9252s">
         <source></source>
         <translation>Les textes de ce programme n’ont pas été trouvés dans la langue choisie&#xa0;; c’est pourquoi «&#xa0;VOID&#xa0;» s’affiche à leur place. Réinstallez le programme ou lancez-le dans une autre langue.</translation>
+    </message>
+    <message id="9301s">
+        <source></source>
+        <translation>L’entraînement n’a pas pu être enregistré. Réessayer ?</translation>
+    </message>
+    <message id="9302s">
+        <source></source>
+        <translation>Aucune imprimante n’est installée. La page a été enregistrée sous %1.</translation>
+    </message>
+    <message id="9303s">
+        <source></source>
+        <translation>L’imprimante %1 n’a pas accepté la page : %2. Vérifiez qu’elle est allumée et branchée, puis imprimez de nouveau.</translation>
+    </message>
+    <message id="9304s">
+        <source></source>
+        <translation>L’imprimante %1 n’est pas prête. Vérifiez qu’elle est allumée et branchée et qu’elle a du papier, puis imprimez de nouveau.</translation>
+    </message>
+    <message id="9305s">
+        <source></source>
+        <translation>Aucune imprimante n’est installée, et la page n’a pas pu non plus être enregistrée dans le dossier %1 (%2). Vérifiez que vous avez le droit d’y écrire et que le disque n’est pas plein.</translation>
+    </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Sommaire</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Retour</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Suivant</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>La page « %1 » de l’aide est introuvable. Les pages d’aide sont recherchées dans : %2</translation>
+    </message>
+    <message id="9401s">
+        <source></source>
+        <translation>Travail auditif</translation>
+    </message>
+    <message id="9402s">
+        <source></source>
+        <translation>Qui s’exerce ?</translation>
+    </message>
+    <message id="9403s">
+        <source></source>
+        <translation>Personne (sans nom)</translation>
+    </message>
+    <message id="9404s">
+        <source></source>
+        <translation>Créer…</translation>
+    </message>
+    <message id="9405s">
+        <source></source>
+        <translation>Modifier…</translation>
+    </message>
+    <message id="9406s">
+        <source></source>
+        <translation>Retirer…</translation>
+    </message>
+    <message id="9407s">
+        <source></source>
+        <translation>Langue</translation>
+    </message>
+    <message id="9408s">
+        <source></source>
+        <translation>Sortie audio</translation>
+    </message>
+    <message id="9409s">
+        <source></source>
+        <translation>Synthétiseur intégré</translation>
+    </message>
+    <message id="9410s">
+        <source></source>
+        <translation>%1 (non branché)</translation>
+    </message>
+    <message id="9411s">
+        <source></source>
+        <translation>Tester le son</translation>
+    </message>
+    <message id="9412s">
+        <source></source>
+        <translation>Choisir une soundfont…</translation>
+    </message>
+    <message id="9413s">
+        <source></source>
+        <translation>Soundfont du système</translation>
+    </message>
+    <message id="9414s">
+        <source></source>
+        <translation>Soundfont : %1</translation>
+    </message>
+    <message id="9415s">
+        <source></source>
+        <translation>La soundfont du système est jouée.</translation>
+    </message>
+    <message id="9416s">
+        <source></source>
+        <translation>%1 n’est pas branché. Le synthétiseur intégré joue à sa place.</translation>
+    </message>
+    <message id="9417s">
+        <source></source>
+        <translation>Un accord est en train d’être joué…</translation>
+    </message>
+    <message id="9418s">
+        <source></source>
+        <translation>L’essai du son joue un accord et indique ce qu’il est devenu.</translation>
+    </message>
+    <message id="9419s">
+        <source></source>
+        <translation>Journal</translation>
+    </message>
+    <message id="9420s">
+        <source></source>
+        <translation>Quitter</translation>
+    </message>
+    <message id="9421s">
+        <source></source>
+        <translation>Aide</translation>
+    </message>
+    <message id="9422s">
+        <source></source>
+        <translation>Démarrage…</translation>
+    </message>
+    <message id="9423s">
+        <source></source>
+        <translation>Nouvel utilisateur</translation>
+    </message>
+    <message id="9424s">
+        <source></source>
+        <translation>Modifier l’utilisateur</translation>
+    </message>
+    <message id="9425s">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="9426s">
+        <source></source>
+        <translation>Prénom</translation>
+    </message>
+    <message id="9427s">
+        <source></source>
+        <translation>Numéro d’étudiant</translation>
+    </message>
+    <message id="9428s">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="9429s">
+        <source></source>
+        <translation>Retirer %1 de la liste ? Les entraînements enregistrés sont conservés : la personne qui sera de nouveau inscrite avec ce numéro les poursuivra.</translation>
+    </message>
+    <message id="9430s">
+        <source></source>
+        <translation>La soundfont %1 est introuvable. Celle du système est jouée à sa place.</translation>
+    </message>
+    <message id="9431s">
+        <source></source>
+        <translation>Veuillez saisir le numéro d’étudiant : les entraînements sont enregistrés sous ce numéro.</translation>
+    </message>
+    <message id="9432s">
+        <source></source>
+        <translation>Le numéro d’étudiant est trop long. Il peut comporter jusqu’à %1 caractères.</translation>
+    </message>
+    <message id="9433s">
+        <source></source>
+        <translation>Le nom est trop long. Le nom et le prénom peuvent comporter chacun jusqu’à %1 caractères.</translation>
+    </message>
+    <message id="9434s">
+        <source></source>
+        <translation>« %1 » ne peut pas être un numéro d’étudiant. Veuillez en choisir un autre.</translation>
+    </message>
+    <message id="9435s">
+        <source></source>
+        <translation>Le numéro d’étudiant %1 est déjà dans la liste. Choisissez cet utilisateur ou saisissez un autre numéro.</translation>
+    </message>
+    <message id="9436s">
+        <source></source>
+        <translation>Le fichier %1 n’est pas une soundfont utilisable, ou il est endommagé. La soundfont reste inchangée.</translation>
+    </message>
+    <message id="9437s">
+        <source></source>
+        <translation>Choisir une soundfont</translation>
+    </message>
+    <message id="9441s">
+        <source></source>
+        <translation>Aucun son n’est sorti du programme.</translation>
+    </message>
+    <message id="9442s">
+        <source></source>
+        <translation>L’accord est sorti du programme : le synthétiseur intégré a joué %1 notes par %2, avec la soundfont %3.</translation>
+    </message>
+    <message id="9443s">
+        <source></source>
+        <translation>L’accord est sorti du programme : le synthétiseur intégré a joué par %1, avec la soundfont %2, à un niveau de %3 %.</translation>
+    </message>
+    <message id="9444s">
+        <source></source>
+        <translation>Si vous n’entendez toujours rien : allumez les haut-parleurs ou branchez le casque, montez le volume et sélectionnez-les dans les réglages audio du système.</translation>
+    </message>
+    <message id="9445s">
+        <source></source>
+        <translation>Le synthétiseur n’a pas été prêt à temps : l’ordinateur est très occupé, ou la soundfont est très volumineuse. Réessayez.</translation>
+    </message>
+    <message id="9446s">
+        <source></source>
+        <translation>%1 s’est ouvert mais n’a accepté aucun son. Un autre programme bloque peut-être la carte son : fermez-le ou choisissez une autre sortie dans les réglages audio du système.</translation>
+    </message>
+    <message id="9447s">
+        <source></source>
+        <translation>La soundfont %1 n’a pas de son de piano. Choisissez une autre soundfont.</translation>
+    </message>
+    <message id="9448s">
+        <source></source>
+        <translation>L’accord est sorti du programme : le périphérique MIDI « %1 » a accepté %2 messages sans erreur.</translation>
+    </message>
+    <message id="9449s">
+        <source></source>
+        <translation>Si vous n’entendez toujours rien : vérifiez que l’appareil est allumé, que son volume est suffisant et qu’il joue ce qui arrive sur le canal 1.</translation>
+    </message>
+    <message id="9450s">
+        <source></source>
+        <translation>Le périphérique MIDI « %1 » est inaccessible. Vérifiez son câble et qu’il est bien allumé, ou choisissez une autre sortie.</translation>
+    </message>
+    <message id="9451s">
+        <source></source>
+        <translation>L’exercice s’est terminé de façon inattendue. Ce qui avait été enregistré auparavant est intact. Voulez-vous voir la fin du journal ?</translation>
+    </message>
+    <message id="9452s">
+        <source></source>
+        <translation>L’exercice était déjà ouvert. Sa fenêtre est maintenant au premier plan.</translation>
+    </message>
+    <message id="9453s">
+        <source></source>
+        <translation>L’exercice n’a pas pu démarrer (%1). Réinstallez le programme ; si cela ne suffit pas, envoyez le rapport d’erreur tiré du journal.</translation>
+    </message>
+    <message id="9455s">
+        <source></source>
+        <translation>Heure</translation>
+    </message>
+    <message id="9456s">
+        <source></source>
+        <translation>Lieu</translation>
+    </message>
+    <message id="9457s">
+        <source></source>
+        <translation>Numéro</translation>
+    </message>
+    <message id="9458s">
+        <source></source>
+        <translation>Texte</translation>
+    </message>
+    <message id="9459s">
+        <source></source>
+        <translation>Source</translation>
+    </message>
+    <message id="9460s">
+        <source></source>
+        <translation>Actualiser</translation>
+    </message>
+    <message id="9461s">
+        <source></source>
+        <translation>Copier en rapport d’erreur</translation>
+    </message>
+    <message id="9462s">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="9463s">
+        <source></source>
+        <translation>Le rapport est dans le presse-papiers ; vous pouvez le coller dans un courriel.</translation>
+    </message>
+    <message id="9464s">
+        <source></source>
+        <translation>Le journal est vide.</translation>
     </message>
 </context>
 </TS>

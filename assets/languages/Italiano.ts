@@ -681,6 +681,10 @@
         <source></source>
         <translation>Il dispositivo MIDI numero %1 non esiste; dispositivi presenti: %2. Scegli un altro dispositivo MIDI in Melvado. L’esercizio continua senza suono.</translation>
     </message>
+    <message id="9157s">
+        <source></source>
+        <translation>Il soundfont scelto, %1, manca o è danneggiato. Al suo posto suona %2. Scegli un altro soundfont in Melvado.</translation>
+    </message>
     <message id="9201s">
         <source></source>
         <translation>Il resoconto del tuo esercizio non si è potuto salvare nella cartella %1 (%2). È stato invece salvato come %3. Verifica che la cartella esista, che tu possa scriverci e che il disco non sia pieno.</translation>
@@ -696,6 +700,282 @@
     <message id="9252s">
         <source></source>
         <translation>Non sono stati trovati i testi nella lingua di questo programma; per questo al loro posto compare «VOID». Reinstalla il programma oppure avvialo in un’altra lingua.</translation>
+    </message>
+    <message id="9301s">
+        <source></source>
+        <translation>Impossibile salvare l’allenamento. Riprovare?</translation>
+    </message>
+    <message id="9302s">
+        <source></source>
+        <translation>Non c’è alcuna stampante configurata. La pagina è stata salvata come %1.</translation>
+    </message>
+    <message id="9303s">
+        <source></source>
+        <translation>La stampante %1 non ha accettato la pagina: %2. Verifica che sia accesa e collegata, poi stampa di nuovo.</translation>
+    </message>
+    <message id="9304s">
+        <source></source>
+        <translation>La stampante %1 non è pronta. Verifica che sia accesa e collegata e che abbia carta, poi stampa di nuovo.</translation>
+    </message>
+    <message id="9305s">
+        <source></source>
+        <translation>Non c’è alcuna stampante configurata e non si è potuto nemmeno salvare la pagina come file nella cartella %1 (%2). Verifica che tu possa scriverci e che il disco non sia pieno.</translation>
+    </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Indice</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Indietro</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Avanti</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>La pagina «%1» della guida non è stata trovata. Le pagine della guida vengono cercate in: %2</translation>
+    </message>
+    <message id="9401s">
+        <source></source>
+        <translation>Ear training</translation>
+    </message>
+    <message id="9402s">
+        <source></source>
+        <translation>Chi si esercita?</translation>
+    </message>
+    <message id="9403s">
+        <source></source>
+        <translation>Nessuno (senza nome)</translation>
+    </message>
+    <message id="9404s">
+        <source></source>
+        <translation>Nuovo…</translation>
+    </message>
+    <message id="9405s">
+        <source></source>
+        <translation>Modifica…</translation>
+    </message>
+    <message id="9406s">
+        <source></source>
+        <translation>Rimuovi…</translation>
+    </message>
+    <message id="9407s">
+        <source></source>
+        <translation>Lingua</translation>
+    </message>
+    <message id="9408s">
+        <source></source>
+        <translation>Uscita audio</translation>
+    </message>
+    <message id="9409s">
+        <source></source>
+        <translation>Sintetizzatore integrato</translation>
+    </message>
+    <message id="9410s">
+        <source></source>
+        <translation>%1 (non collegato)</translation>
+    </message>
+    <message id="9411s">
+        <source></source>
+        <translation>Prova il suono</translation>
+    </message>
+    <message id="9412s">
+        <source></source>
+        <translation>Scegli un soundfont…</translation>
+    </message>
+    <message id="9413s">
+        <source></source>
+        <translation>Soundfont di sistema</translation>
+    </message>
+    <message id="9414s">
+        <source></source>
+        <translation>Soundfont: %1</translation>
+    </message>
+    <message id="9415s">
+        <source></source>
+        <translation>Suona il soundfont di sistema.</translation>
+    </message>
+    <message id="9416s">
+        <source></source>
+        <translation>%1 non è collegato. Al suo posto suona il sintetizzatore integrato.</translation>
+    </message>
+    <message id="9417s">
+        <source></source>
+        <translation>Un accordo sta suonando…</translation>
+    </message>
+    <message id="9418s">
+        <source></source>
+        <translation>La prova del suono suona un accordo e dice che cosa ne è stato.</translation>
+    </message>
+    <message id="9419s">
+        <source></source>
+        <translation>Registro</translation>
+    </message>
+    <message id="9420s">
+        <source></source>
+        <translation>Esci</translation>
+    </message>
+    <message id="9421s">
+        <source></source>
+        <translation>Guida</translation>
+    </message>
+    <message id="9422s">
+        <source></source>
+        <translation>Avvio in corso…</translation>
+    </message>
+    <message id="9423s">
+        <source></source>
+        <translation>Nuovo utente</translation>
+    </message>
+    <message id="9424s">
+        <source></source>
+        <translation>Modifica utente</translation>
+    </message>
+    <message id="9425s">
+        <source></source>
+        <translation>Cognome</translation>
+    </message>
+    <message id="9426s">
+        <source></source>
+        <translation>Nome</translation>
+    </message>
+    <message id="9427s">
+        <source></source>
+        <translation>Numero di matricola</translation>
+    </message>
+    <message id="9428s">
+        <source></source>
+        <translation>Annulla</translation>
+    </message>
+    <message id="9429s">
+        <source></source>
+        <translation>Rimuovere %1 dall’elenco? Gli allenamenti salvati restano: chi verrà iscritto di nuovo con questo numero li riprenderà.</translation>
+    </message>
+    <message id="9430s">
+        <source></source>
+        <translation>Il soundfont %1 manca. Al suo posto suona quello di sistema.</translation>
+    </message>
+    <message id="9431s">
+        <source></source>
+        <translation>Inserisci il numero di matricola: gli allenamenti vengono salvati con questo numero.</translation>
+    </message>
+    <message id="9432s">
+        <source></source>
+        <translation>Il numero di matricola è troppo lungo. Può avere fino a %1 caratteri.</translation>
+    </message>
+    <message id="9433s">
+        <source></source>
+        <translation>Il nome è troppo lungo. Nome e cognome possono avere fino a %1 caratteri ciascuno.</translation>
+    </message>
+    <message id="9434s">
+        <source></source>
+        <translation>«%1» non può essere un numero di matricola. Scegline un altro.</translation>
+    </message>
+    <message id="9435s">
+        <source></source>
+        <translation>Il numero di matricola %1 è già nell’elenco. Scegli quell’utente oppure inserisci un altro numero.</translation>
+    </message>
+    <message id="9436s">
+        <source></source>
+        <translation>Il file %1 non è un soundfont utilizzabile oppure è danneggiato. Il soundfont è rimasto invariato.</translation>
+    </message>
+    <message id="9437s">
+        <source></source>
+        <translation>Scegli un soundfont</translation>
+    </message>
+    <message id="9441s">
+        <source></source>
+        <translation>Nessun suono è uscito dal programma.</translation>
+    </message>
+    <message id="9442s">
+        <source></source>
+        <translation>L’accordo è uscito dal programma: il sintetizzatore integrato ha suonato %1 note attraverso %2, con il soundfont %3.</translation>
+    </message>
+    <message id="9443s">
+        <source></source>
+        <translation>L’accordo è uscito dal programma: il sintetizzatore integrato ha suonato attraverso %1, con il soundfont %2, a un livello del %3 %.</translation>
+    </message>
+    <message id="9444s">
+        <source></source>
+        <translation>Se non senti comunque nulla: accendi gli altoparlanti o collega le cuffie, alza il volume e selezionali nelle impostazioni audio del sistema.</translation>
+    </message>
+    <message id="9445s">
+        <source></source>
+        <translation>Il sintetizzatore non è stato pronto in tempo: il computer è molto occupato oppure il soundfont è molto grande. Riprova.</translation>
+    </message>
+    <message id="9446s">
+        <source></source>
+        <translation>%1 è stato aperto, ma non ha accettato alcun suono. Forse un altro programma tiene occupata la scheda audio: chiudilo oppure scegli un’altra uscita nelle impostazioni audio del sistema.</translation>
+    </message>
+    <message id="9447s">
+        <source></source>
+        <translation>Il soundfont %1 non ha il suono del pianoforte. Scegli un altro soundfont.</translation>
+    </message>
+    <message id="9448s">
+        <source></source>
+        <translation>L’accordo è uscito dal programma: il dispositivo MIDI «%1» ha accettato %2 messaggi senza errori.</translation>
+    </message>
+    <message id="9449s">
+        <source></source>
+        <translation>Se non senti comunque nulla: verifica che il dispositivo sia acceso, che il volume sia sufficiente e che suoni ciò che arriva sul canale 1.</translation>
+    </message>
+    <message id="9450s">
+        <source></source>
+        <translation>Il dispositivo MIDI «%1» non è raggiungibile. Controlla il cavo e che sia acceso, oppure scegli un’altra uscita.</translation>
+    </message>
+    <message id="9451s">
+        <source></source>
+        <translation>L’esercizio è terminato in modo inatteso. Ciò che era stato salvato in precedenza c’è ancora. Vuoi vedere la fine del registro?</translation>
+    </message>
+    <message id="9452s">
+        <source></source>
+        <translation>L’esercizio era già aperto. La sua finestra è ora in primo piano.</translation>
+    </message>
+    <message id="9453s">
+        <source></source>
+        <translation>Impossibile avviare l’esercizio (%1). Reinstalla il programma; se non basta, invia il rapporto di errore preso dal registro.</translation>
+    </message>
+    <message id="9455s">
+        <source></source>
+        <translation>Ora</translation>
+    </message>
+    <message id="9456s">
+        <source></source>
+        <translation>Luogo</translation>
+    </message>
+    <message id="9457s">
+        <source></source>
+        <translation>Numero</translation>
+    </message>
+    <message id="9458s">
+        <source></source>
+        <translation>Testo</translation>
+    </message>
+    <message id="9459s">
+        <source></source>
+        <translation>Origine</translation>
+    </message>
+    <message id="9460s">
+        <source></source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message id="9461s">
+        <source></source>
+        <translation>Copia come rapporto di errore</translation>
+    </message>
+    <message id="9462s">
+        <source></source>
+        <translation>Chiudi</translation>
+    </message>
+    <message id="9463s">
+        <source></source>
+        <translation>Il rapporto è negli appunti e si può incollare in un’e-mail.</translation>
+    </message>
+    <message id="9464s">
+        <source></source>
+        <translation>Il registro è vuoto.</translation>
     </message>
 </context>
 </TS>

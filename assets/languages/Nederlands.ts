@@ -681,6 +681,10 @@
         <source></source>
         <translation>MIDI-apparaat nummer %1 bestaat niet; aantal aanwezige apparaten: %2. Kies in Melvado een ander MIDI-apparaat. De oefening gaat zonder geluid door.</translation>
     </message>
+    <message id="9157s">
+        <source></source>
+        <translation>De gekozen soundfont %1 ontbreekt of is beschadigd. In plaats daarvan klinkt %2. Kies in Melvado een andere soundfont.</translation>
+    </message>
     <message id="9201s">
         <source></source>
         <translation>Het verslag van je oefening kon niet worden opgeslagen in de map %1 (%2). Het is in plaats daarvan opgeslagen als %3. Controleer of de map bestaat, of je erin mag schrijven en of de schijf niet vol is.</translation>
@@ -696,6 +700,282 @@
     <message id="9252s">
         <source></source>
         <translation>Er zijn geen teksten gevonden in de taal van dit programma; daarom staat er ‘VOID’ op hun plaats. Installeer het programma opnieuw of start het in een andere taal.</translation>
+    </message>
+    <message id="9301s">
+        <source></source>
+        <translation>De training kon niet worden opgeslagen. Nog een keer proberen?</translation>
+    </message>
+    <message id="9302s">
+        <source></source>
+        <translation>Er is geen printer ingesteld. De pagina is opgeslagen als %1.</translation>
+    </message>
+    <message id="9303s">
+        <source></source>
+        <translation>De printer %1 heeft de pagina niet aangenomen: %2. Controleer of hij aanstaat en is aangesloten, en druk nog een keer af.</translation>
+    </message>
+    <message id="9304s">
+        <source></source>
+        <translation>De printer %1 is niet gereed. Controleer of hij aanstaat, is aangesloten en papier heeft, en druk nog een keer af.</translation>
+    </message>
+    <message id="9305s">
+        <source></source>
+        <translation>Er is geen printer ingesteld en de pagina kon ook niet als bestand worden opgeslagen in de map %1 (%2). Controleer of je erin mag schrijven en of de schijf niet vol is.</translation>
+    </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Inhoud</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Terug</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Vooruit</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>De pagina ‘%1’ van de help is niet gevonden. Er wordt naar helppagina’s gezocht in: %2</translation>
+    </message>
+    <message id="9401s">
+        <source></source>
+        <translation>Gehoortraining</translation>
+    </message>
+    <message id="9402s">
+        <source></source>
+        <translation>Wie oefent er?</translation>
+    </message>
+    <message id="9403s">
+        <source></source>
+        <translation>Niemand (zonder naam)</translation>
+    </message>
+    <message id="9404s">
+        <source></source>
+        <translation>Nieuw…</translation>
+    </message>
+    <message id="9405s">
+        <source></source>
+        <translation>Wijzigen…</translation>
+    </message>
+    <message id="9406s">
+        <source></source>
+        <translation>Verwijderen…</translation>
+    </message>
+    <message id="9407s">
+        <source></source>
+        <translation>Taal</translation>
+    </message>
+    <message id="9408s">
+        <source></source>
+        <translation>Geluidsuitvoer</translation>
+    </message>
+    <message id="9409s">
+        <source></source>
+        <translation>Ingebouwde synthesizer</translation>
+    </message>
+    <message id="9410s">
+        <source></source>
+        <translation>%1 (niet aangesloten)</translation>
+    </message>
+    <message id="9411s">
+        <source></source>
+        <translation>Geluid testen</translation>
+    </message>
+    <message id="9412s">
+        <source></source>
+        <translation>Soundfont kiezen…</translation>
+    </message>
+    <message id="9413s">
+        <source></source>
+        <translation>Soundfont van het systeem</translation>
+    </message>
+    <message id="9414s">
+        <source></source>
+        <translation>Soundfont: %1</translation>
+    </message>
+    <message id="9415s">
+        <source></source>
+        <translation>De soundfont van het systeem klinkt.</translation>
+    </message>
+    <message id="9416s">
+        <source></source>
+        <translation>%1 is niet aangesloten. In plaats daarvan klinkt de ingebouwde synthesizer.</translation>
+    </message>
+    <message id="9417s">
+        <source></source>
+        <translation>Er wordt een akkoord gespeeld…</translation>
+    </message>
+    <message id="9418s">
+        <source></source>
+        <translation>De geluidstest speelt een akkoord en zegt wat ervan is geworden.</translation>
+    </message>
+    <message id="9419s">
+        <source></source>
+        <translation>Logboek</translation>
+    </message>
+    <message id="9420s">
+        <source></source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message id="9421s">
+        <source></source>
+        <translation>Help</translation>
+    </message>
+    <message id="9422s">
+        <source></source>
+        <translation>Wordt gestart…</translation>
+    </message>
+    <message id="9423s">
+        <source></source>
+        <translation>Nieuwe gebruiker</translation>
+    </message>
+    <message id="9424s">
+        <source></source>
+        <translation>Gebruiker wijzigen</translation>
+    </message>
+    <message id="9425s">
+        <source></source>
+        <translation>Naam</translation>
+    </message>
+    <message id="9426s">
+        <source></source>
+        <translation>Voornaam</translation>
+    </message>
+    <message id="9427s">
+        <source></source>
+        <translation>Studentnummer</translation>
+    </message>
+    <message id="9428s">
+        <source></source>
+        <translation>Annuleren</translation>
+    </message>
+    <message id="9429s">
+        <source></source>
+        <translation>%1 uit de lijst verwijderen? De opgeslagen trainingen blijven bewaard: wie met dit nummer opnieuw wordt toegevoegd, gaat ermee verder.</translation>
+    </message>
+    <message id="9430s">
+        <source></source>
+        <translation>De soundfont %1 ontbreekt. In plaats daarvan klinkt die van het systeem.</translation>
+    </message>
+    <message id="9431s">
+        <source></source>
+        <translation>Vul het studentnummer in: de trainingen worden onder dat nummer opgeslagen.</translation>
+    </message>
+    <message id="9432s">
+        <source></source>
+        <translation>Het studentnummer is te lang. Het mag hoogstens %1 tekens hebben.</translation>
+    </message>
+    <message id="9433s">
+        <source></source>
+        <translation>De naam is te lang. Naam en voornaam mogen elk hoogstens %1 tekens hebben.</translation>
+    </message>
+    <message id="9434s">
+        <source></source>
+        <translation>‘%1’ kan geen studentnummer zijn. Kies een ander nummer.</translation>
+    </message>
+    <message id="9435s">
+        <source></source>
+        <translation>Het studentnummer %1 staat al in de lijst. Kies die gebruiker of vul een ander nummer in.</translation>
+    </message>
+    <message id="9436s">
+        <source></source>
+        <translation>Het bestand %1 is geen soundfont die kan worden gespeeld, of het is beschadigd. De soundfont blijft zoals hij was.</translation>
+    </message>
+    <message id="9437s">
+        <source></source>
+        <translation>Soundfont kiezen</translation>
+    </message>
+    <message id="9441s">
+        <source></source>
+        <translation>Er is geen geluid uit het programma gekomen.</translation>
+    </message>
+    <message id="9442s">
+        <source></source>
+        <translation>Het akkoord heeft het programma verlaten: de ingebouwde synthesizer heeft %1 noten gespeeld via %2, met de soundfont %3.</translation>
+    </message>
+    <message id="9443s">
+        <source></source>
+        <translation>Het akkoord heeft het programma verlaten: de ingebouwde synthesizer heeft gespeeld via %1, met de soundfont %2, op een niveau van %3 %.</translation>
+    </message>
+    <message id="9444s">
+        <source></source>
+        <translation>Als je toch niets hoort: zet de luidsprekers aan of sluit de koptelefoon aan, zet het geluid harder en kies ze in de geluidsinstellingen van het systeem.</translation>
+    </message>
+    <message id="9445s">
+        <source></source>
+        <translation>De synthesizer was niet op tijd klaar: de computer heeft het erg druk of de soundfont is erg groot. Probeer het nog een keer.</translation>
+    </message>
+    <message id="9446s">
+        <source></source>
+        <translation>%1 is geopend, maar heeft geen geluid aangenomen. Misschien houdt een ander programma de geluidskaart bezet: sluit dat programma of kies een andere uitvoer in de geluidsinstellingen van het systeem.</translation>
+    </message>
+    <message id="9447s">
+        <source></source>
+        <translation>De soundfont %1 heeft geen klank voor de piano. Kies een andere soundfont.</translation>
+    </message>
+    <message id="9448s">
+        <source></source>
+        <translation>Het akkoord heeft het programma verlaten: het MIDI-apparaat ‘%1’ heeft %2 berichten zonder fouten aangenomen.</translation>
+    </message>
+    <message id="9449s">
+        <source></source>
+        <translation>Als je toch niets hoort: controleer of het apparaat aanstaat, hard genoeg staat en speelt wat op kanaal 1 binnenkomt.</translation>
+    </message>
+    <message id="9450s">
+        <source></source>
+        <translation>Het MIDI-apparaat ‘%1’ is niet bereikbaar. Controleer de kabel en kijk of het apparaat aanstaat, of kies een andere uitvoer.</translation>
+    </message>
+    <message id="9451s">
+        <source></source>
+        <translation>De oefening is onverwacht beëindigd. Wat eerder is opgeslagen, is er nog. Wil je het einde van het logboek zien?</translation>
+    </message>
+    <message id="9452s">
+        <source></source>
+        <translation>De oefening was al geopend. Het venster staat nu op de voorgrond.</translation>
+    </message>
+    <message id="9453s">
+        <source></source>
+        <translation>De oefening kon niet worden gestart (%1). Installeer het programma opnieuw; helpt dat niet, stuur dan het foutrapport uit het logboek op.</translation>
+    </message>
+    <message id="9455s">
+        <source></source>
+        <translation>Tijd</translation>
+    </message>
+    <message id="9456s">
+        <source></source>
+        <translation>Plaats</translation>
+    </message>
+    <message id="9457s">
+        <source></source>
+        <translation>Nummer</translation>
+    </message>
+    <message id="9458s">
+        <source></source>
+        <translation>Tekst</translation>
+    </message>
+    <message id="9459s">
+        <source></source>
+        <translation>Bron</translation>
+    </message>
+    <message id="9460s">
+        <source></source>
+        <translation>Vernieuwen</translation>
+    </message>
+    <message id="9461s">
+        <source></source>
+        <translation>Kopiëren als foutrapport</translation>
+    </message>
+    <message id="9462s">
+        <source></source>
+        <translation>Sluiten</translation>
+    </message>
+    <message id="9463s">
+        <source></source>
+        <translation>Het verslag staat op het klembord en kan in een e-mail worden geplakt.</translation>
+    </message>
+    <message id="9464s">
+        <source></source>
+        <translation>Het logboek is leeg.</translation>
     </message>
 </context>
 </TS>

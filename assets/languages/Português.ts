@@ -681,6 +681,10 @@
         <source></source>
         <translation>O dispositivo MIDI número %1 não existe; dispositivos existentes: %2. Escolha outro dispositivo MIDI no Melvado. O exercício continua sem som.</translation>
     </message>
+    <message id="9157s">
+        <source></source>
+        <translation>O soundfont escolhido, %1, não existe ou está danificado. No seu lugar soa %2. Escolha outro soundfont no Melvado.</translation>
+    </message>
     <message id="9201s">
         <source></source>
         <translation>Não foi possível gravar o relatório do seu exercício na pasta %1 (%2). Em vez disso, foi gravado como %3. Verifique se a pasta existe, se tem permissão para escrever nela e se o disco não está cheio.</translation>
@@ -696,6 +700,282 @@
     <message id="9252s">
         <source></source>
         <translation>Não foram encontrados os textos no idioma deste programa; por isso aparece “VOID” no seu lugar. Instale o programa outra vez ou inicie-o em outro idioma.</translation>
+    </message>
+    <message id="9301s">
+        <source></source>
+        <translation>Não foi possível gravar o treino. Tentar outra vez?</translation>
+    </message>
+    <message id="9302s">
+        <source></source>
+        <translation>Não há nenhuma impressora configurada. A página foi gravada como %1.</translation>
+    </message>
+    <message id="9303s">
+        <source></source>
+        <translation>A impressora %1 não aceitou a página: %2. Verifique se está ligada e conectada e imprima outra vez.</translation>
+    </message>
+    <message id="9304s">
+        <source></source>
+        <translation>A impressora %1 não está pronta. Verifique se está ligada e conectada e se tem papel e imprima outra vez.</translation>
+    </message>
+    <message id="9305s">
+        <source></source>
+        <translation>Não há nenhuma impressora configurada e também não foi possível gravar a página como ficheiro na pasta %1 (%2). Verifique se tem permissão para escrever nela e se o disco não está cheio.</translation>
+    </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Conteúdo</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Voltar</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Avançar</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>A página “%1” da ajuda não foi encontrada. As páginas de ajuda são procuradas em: %2</translation>
+    </message>
+    <message id="9401s">
+        <source></source>
+        <translation>Treino auditivo</translation>
+    </message>
+    <message id="9402s">
+        <source></source>
+        <translation>Quem pratica?</translation>
+    </message>
+    <message id="9403s">
+        <source></source>
+        <translation>Ninguém (sem nome)</translation>
+    </message>
+    <message id="9404s">
+        <source></source>
+        <translation>Novo…</translation>
+    </message>
+    <message id="9405s">
+        <source></source>
+        <translation>Alterar…</translation>
+    </message>
+    <message id="9406s">
+        <source></source>
+        <translation>Remover…</translation>
+    </message>
+    <message id="9407s">
+        <source></source>
+        <translation>Idioma</translation>
+    </message>
+    <message id="9408s">
+        <source></source>
+        <translation>Saída de áudio</translation>
+    </message>
+    <message id="9409s">
+        <source></source>
+        <translation>Sintetizador integrado</translation>
+    </message>
+    <message id="9410s">
+        <source></source>
+        <translation>%1 (não conectado)</translation>
+    </message>
+    <message id="9411s">
+        <source></source>
+        <translation>Testar o som</translation>
+    </message>
+    <message id="9412s">
+        <source></source>
+        <translation>Escolher soundfont…</translation>
+    </message>
+    <message id="9413s">
+        <source></source>
+        <translation>Soundfont do sistema</translation>
+    </message>
+    <message id="9414s">
+        <source></source>
+        <translation>Soundfont: %1</translation>
+    </message>
+    <message id="9415s">
+        <source></source>
+        <translation>Soa o soundfont do sistema.</translation>
+    </message>
+    <message id="9416s">
+        <source></source>
+        <translation>%1 não está conectado. No seu lugar soa o sintetizador integrado.</translation>
+    </message>
+    <message id="9417s">
+        <source></source>
+        <translation>Soa agora um acorde…</translation>
+    </message>
+    <message id="9418s">
+        <source></source>
+        <translation>O teste de som toca um acorde e indica o que aconteceu com ele.</translation>
+    </message>
+    <message id="9419s">
+        <source></source>
+        <translation>Histórico</translation>
+    </message>
+    <message id="9420s">
+        <source></source>
+        <translation>Sair</translation>
+    </message>
+    <message id="9421s">
+        <source></source>
+        <translation>Ajuda</translation>
+    </message>
+    <message id="9422s">
+        <source></source>
+        <translation>A iniciar…</translation>
+    </message>
+    <message id="9423s">
+        <source></source>
+        <translation>Novo estudante</translation>
+    </message>
+    <message id="9424s">
+        <source></source>
+        <translation>Alterar estudante</translation>
+    </message>
+    <message id="9425s">
+        <source></source>
+        <translation>Sobrenome</translation>
+    </message>
+    <message id="9426s">
+        <source></source>
+        <translation>Nome</translation>
+    </message>
+    <message id="9427s">
+        <source></source>
+        <translation>Número de matrícula</translation>
+    </message>
+    <message id="9428s">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="9429s">
+        <source></source>
+        <translation>Remover %1 da lista? Os treinos gravados são conservados: quem for inscrito de novo com este número continua com eles.</translation>
+    </message>
+    <message id="9430s">
+        <source></source>
+        <translation>O soundfont %1 não existe. No seu lugar soa o do sistema.</translation>
+    </message>
+    <message id="9431s">
+        <source></source>
+        <translation>Escreva o número de matrícula: os treinos são gravados com ele.</translation>
+    </message>
+    <message id="9432s">
+        <source></source>
+        <translation>O número de matrícula é longo demais. Pode ter até %1 caracteres.</translation>
+    </message>
+    <message id="9433s">
+        <source></source>
+        <translation>O nome é longo demais. O nome e o sobrenome podem ter até %1 caracteres cada um.</translation>
+    </message>
+    <message id="9434s">
+        <source></source>
+        <translation>“%1” não pode ser um número de matrícula. Escolha outro.</translation>
+    </message>
+    <message id="9435s">
+        <source></source>
+        <translation>O número de matrícula %1 já está na lista. Escolha esse estudante ou escreva outro número.</translation>
+    </message>
+    <message id="9436s">
+        <source></source>
+        <translation>O ficheiro %1 não é um soundfont que se possa tocar ou está danificado. O soundfont não foi alterado.</translation>
+    </message>
+    <message id="9437s">
+        <source></source>
+        <translation>Escolher soundfont</translation>
+    </message>
+    <message id="9441s">
+        <source></source>
+        <translation>Nenhum som saiu do programa.</translation>
+    </message>
+    <message id="9442s">
+        <source></source>
+        <translation>O acorde saiu do programa: o sintetizador integrado tocou %1 notas por %2, com o soundfont %3.</translation>
+    </message>
+    <message id="9443s">
+        <source></source>
+        <translation>O acorde saiu do programa: o sintetizador integrado tocou por %1, com o soundfont %2, a um nível de %3 %.</translation>
+    </message>
+    <message id="9444s">
+        <source></source>
+        <translation>Se mesmo assim não ouvir nada: ligue as colunas de som ou os fones, aumente o volume e selecione-os nas configurações de som do sistema.</translation>
+    </message>
+    <message id="9445s">
+        <source></source>
+        <translation>O sintetizador não ficou pronto a tempo: o computador está muito ocupado ou o soundfont é muito grande. Tente outra vez.</translation>
+    </message>
+    <message id="9446s">
+        <source></source>
+        <translation>%1 foi aberto, mas não aceitou nenhum som. Talvez outro programa ocupe a placa de som: feche-o ou escolha outra saída nas configurações de som do sistema.</translation>
+    </message>
+    <message id="9447s">
+        <source></source>
+        <translation>O soundfont %1 não tem som de piano. Escolha outro soundfont.</translation>
+    </message>
+    <message id="9448s">
+        <source></source>
+        <translation>O acorde saiu do programa: o dispositivo MIDI “%1” aceitou %2 mensagens sem erros.</translation>
+    </message>
+    <message id="9449s">
+        <source></source>
+        <translation>Se mesmo assim não ouvir nada: verifique se o dispositivo está ligado, se tem volume suficiente e se toca o que chega pelo canal 1.</translation>
+    </message>
+    <message id="9450s">
+        <source></source>
+        <translation>O dispositivo MIDI “%1” não responde. Verifique o cabo e se o dispositivo está ligado, ou escolha outra saída.</translation>
+    </message>
+    <message id="9451s">
+        <source></source>
+        <translation>O exercício terminou inesperadamente. O que foi gravado antes continua lá. Deseja ver o fim do histórico?</translation>
+    </message>
+    <message id="9452s">
+        <source></source>
+        <translation>O exercício já estava aberto. A sua janela está agora em primeiro plano.</translation>
+    </message>
+    <message id="9453s">
+        <source></source>
+        <translation>Não foi possível iniciar o exercício (%1). Reinstale o programa; se não adiantar, envie o relatório de erro do histórico.</translation>
+    </message>
+    <message id="9455s">
+        <source></source>
+        <translation>Hora</translation>
+    </message>
+    <message id="9456s">
+        <source></source>
+        <translation>Local</translation>
+    </message>
+    <message id="9457s">
+        <source></source>
+        <translation>Número</translation>
+    </message>
+    <message id="9458s">
+        <source></source>
+        <translation>Texto</translation>
+    </message>
+    <message id="9459s">
+        <source></source>
+        <translation>Origem</translation>
+    </message>
+    <message id="9460s">
+        <source></source>
+        <translation>Atualizar</translation>
+    </message>
+    <message id="9461s">
+        <source></source>
+        <translation>Copiar como relatório de erro</translation>
+    </message>
+    <message id="9462s">
+        <source></source>
+        <translation>Fechar</translation>
+    </message>
+    <message id="9463s">
+        <source></source>
+        <translation>O relatório está na área de transferência e pode ser colado num e-mail.</translation>
+    </message>
+    <message id="9464s">
+        <source></source>
+        <translation>O histórico está vazio.</translation>
     </message>
 </context>
 </TS>
