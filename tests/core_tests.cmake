@@ -44,7 +44,6 @@ target_sources(
           app/exams_test.cc
           app/free_practice_simulation_test.cc
           app/student_runs_test.cc
-          app/student_simulation_test.cc
           app/lesson_record_golden_test.cc
           results/counters_test.cc
           results/percentages_test.cc

@@ -127,6 +127,7 @@ class Student {
   bool ByChord() { return p_->settings().best_art == 0; }
   int Chords() { return p_->settings().akk_anzahl; }
   int Entries() { return p_->program.board().akk_zahl; }
+  int Choices() { return ByChord() ? Entries() : p_->settings().grp_anzahl; }
 
   // ---- To a run -------------------------------------------------------------------------------
 
@@ -149,6 +150,7 @@ class Student {
                            << (p_->host.errors.empty() ? "" : p_->host.errors.back().text);
       // One chord on one root has no second task.
       if (Entries() > 1) break;
+      process_steps_ = std::min(4, Choices() - 1);
       EXPECT_TRUE(sheet().zurueck.Press());
     } while (true);
     BeginBooks();
@@ -192,8 +194,7 @@ class Student {
     gave_up_ = false;
     status_ = LaufStatus::kNochKeine;
     if (mode_ == kWeiter) return ContinueBooks();
-    const int choices = ByChord() ? Entries() : p_->settings().grp_anzahl;
-    book_.Begin({Entries(), choices, Training(), ByChord()});
+    book_.Begin({Entries(), Choices(), Training(), ByChord()});
     process_steps_ = book_.wrong_clicks();
   }
 
@@ -203,7 +204,7 @@ class Student {
     book_ = kept_->book;
     // A process counts as many confusions as its last new board has shown it to.
     book_.Continue(process_steps_);
-    carried_ = {kept_->right, kept_->wrong, kept_->repeats};
+    carried_ = {kept_->right, kept_->wrong};
     right_ = kept_->right;
     wrong_ = kept_->wrong;
     repeats_ = kept_->repeats;
@@ -734,10 +735,10 @@ class Student {
     return Bgr(0x80FF80);
   }
 
+  /// Clicks of earlier processes.
   struct Carried {
     int right = 0;
     int wrong = 0;
-    int repeats = 0;
   };
 
   Dice dice_;

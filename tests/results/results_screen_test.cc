@@ -92,7 +92,7 @@ struct Grid {
   int panel;
 };
 
-void ExpectGrid(ResultsFixture& p, const Grid& grid, PictureId::Kind) {
+void ExpectGrid(ResultsFixture& p, const Grid& grid) {
   Testergebnis& r = p.results();
   const int used = p.program.board().akk_zahl;
   for (int e = 1; e <= used; ++e) {
@@ -132,7 +132,7 @@ TEST(ResultsGrid, PutsEightChordsInARow) {
        std::vector<std::vector<int>>{{3}, {7}, {4, 5}, {6, 7}, {3, 4, 5, 6, 7}}) {
     ResultsFixture p;
     p.ToResults([&](Einstellung1& e) { ChooseMaterial(e, 0, 0, kinds); });
-    ExpectGrid(p, {164, 0, 80}, PictureId::Kind::kNotation);
+    ExpectGrid(p, {164, 0, 80});
   }
 }
 
@@ -140,7 +140,7 @@ TEST(ResultsGrid, GivesVoicingsHigherRows) {
   ResultsFixture p;
   p.ToResults([](Einstellung1& e) { ChooseMaterial(e, 1, 0, {}); });
   EXPECT_EQ(p.program.board().akk_zahl, 16);
-  ExpectGrid(p, {204, 40, 120}, PictureId::Kind::kNotation);
+  ExpectGrid(p, {204, 40, 120});
   EXPECT_EQ(*p.results().Akkbez[9].top, 204);
   EXPECT_EQ(*p.results().ergebnis[16].top, 204 + 40 + 138);
 }
@@ -151,7 +151,7 @@ TEST(ResultsGrid, LooksTheSameWhateverTheWorksheetShowed) {
     ChooseMaterial(e, 0, 1, {4, 5});
     e.akk_anzg.Check(1);
   });
-  ExpectGrid(p, {164, 0, 80}, PictureId::Kind::kSymbol);
+  ExpectGrid(p, {164, 0, 80});
 }
 
 TEST(ResultsGrid, NamesTheGroupOfEachChordAndTheLongOneShort) {
@@ -508,7 +508,7 @@ TEST(ResultsScreen, IsNewForEveryRun) {
   EXPECT_TRUE(r.erg_cont.visible);
   EXPECT_TRUE(r.cmdPrint[0].Reachable());
   EXPECT_NE(r.ergebnis[1].back_color, Rgb(255, 255, 255));
-  ExpectGrid(p, {204, 40, 120}, PictureId::Kind::kNotation);
+  ExpectGrid(p, {204, 40, 120});
 }
 
 TEST(ResultsScreen, OpensTheHelp) {
