@@ -6,12 +6,13 @@
 
 say() { printf '%s\n' "$*" >&2; }
 
-# listed_packages run|test: what packages.txt names for it. The tests need what the program needs.
+# listed_packages run|test|package: what packages.txt names for it. The tests and the package need
+# what the program needs.
 listed_packages() {
   while read -r use name _; do
     case $use in
       run) printf '%s ' "$name" ;;
-      test) [ "$1" != test ] || printf '%s ' "$name" ;;
+      test | package) [ "$1" != "$use" ] || printf '%s ' "$name" ;;
     esac
   done <"$root/cmake/packages.txt"
 }

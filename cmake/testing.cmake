@@ -12,12 +12,12 @@ if(VMOD17_TESTS)
   target_include_directories(rapidcheck SYSTEM INTERFACE ${RAPIDCHECK_INCLUDE})
 endif()
 
-# vmod17_test(NAME SOURCES file... LIBRARIES target... [ENVIRONMENT NAME=value...])
+# vmod17_test(NAME SOURCES file... LIBRARIES target... [ENVIRONMENT NAME=value])
 #
 # A test program: every TEST of it becomes a test of its own in ctest, with the program's name as
 # its label.
 function(vmod17_test name)
-  cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(arg "" "ENVIRONMENT" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} warnings GTest::gmock_main)
   gtest_discover_tests(

@@ -681,6 +681,10 @@
         <source></source>
         <translation>Das MIDI-Gerät Nummer %1 gibt es nicht; vorhanden sind %2 Geräte. Wählen Sie in Melvado ein anderes MIDI-Gerät. Die Übung geht ohne Ton weiter.</translation>
     </message>
+    <message id="9157s">
+        <source></source>
+        <translation>Der gewählte Soundfont %1 fehlt oder ist beschädigt. An seiner Stelle klingt %2. Wählen Sie in Melvado einen anderen Soundfont.</translation>
+    </message>
     <message id="9201s">
         <source></source>
         <translation>Das Protokoll Ihrer Übung konnte nicht im Ordner %1 gespeichert werden (%2). Es wurde stattdessen als %3 gespeichert. Bitte prüfen Sie, ob es den Ordner gibt, ob Sie darin schreiben dürfen und ob die Festplatte nicht voll ist.</translation>
@@ -716,6 +720,262 @@
     <message id="9305s">
         <source></source>
         <translation>Es ist kein Drucker eingerichtet, und die Seite konnte auch nicht als Datei im Ordner %1 gespeichert werden (%2). Prüfen Sie, ob Sie darin schreiben dürfen und ob die Festplatte nicht voll ist.</translation>
+    </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Inhalt</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Vor</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>Die Seite „%1“ der Hilfe wurde nicht gefunden. Gesucht wird nach Hilfeseiten in: %2</translation>
+    </message>
+    <message id="9401s">
+        <source></source>
+        <translation>Gehörtraining</translation>
+    </message>
+    <message id="9402s">
+        <source></source>
+        <translation>Wer übt?</translation>
+    </message>
+    <message id="9403s">
+        <source></source>
+        <translation>Niemand (ohne Namen)</translation>
+    </message>
+    <message id="9404s">
+        <source></source>
+        <translation>Neu…</translation>
+    </message>
+    <message id="9405s">
+        <source></source>
+        <translation>Ändern…</translation>
+    </message>
+    <message id="9406s">
+        <source></source>
+        <translation>Entfernen…</translation>
+    </message>
+    <message id="9407s">
+        <source></source>
+        <translation>Sprache</translation>
+    </message>
+    <message id="9408s">
+        <source></source>
+        <translation>Tonausgabe</translation>
+    </message>
+    <message id="9409s">
+        <source></source>
+        <translation>Eingebauter Synthesizer</translation>
+    </message>
+    <message id="9410s">
+        <source></source>
+        <translation>%1 (nicht angeschlossen)</translation>
+    </message>
+    <message id="9411s">
+        <source></source>
+        <translation>Ton testen</translation>
+    </message>
+    <message id="9412s">
+        <source></source>
+        <translation>Soundfont wählen…</translation>
+    </message>
+    <message id="9413s">
+        <source></source>
+        <translation>Soundfont des Systems</translation>
+    </message>
+    <message id="9414s">
+        <source></source>
+        <translation>Soundfont: %1</translation>
+    </message>
+    <message id="9415s">
+        <source></source>
+        <translation>Es klingt der Soundfont des Systems.</translation>
+    </message>
+    <message id="9416s">
+        <source></source>
+        <translation>%1 ist nicht angeschlossen. An seiner Stelle klingt der eingebaute Synthesizer.</translation>
+    </message>
+    <message id="9417s">
+        <source></source>
+        <translation>Es wird ein Akkord gespielt…</translation>
+    </message>
+    <message id="9418s">
+        <source></source>
+        <translation>Der Tontest spielt einen Akkord und sagt, was daraus geworden ist.</translation>
+    </message>
+    <message id="9419s">
+        <source></source>
+        <translation>Protokoll</translation>
+    </message>
+    <message id="9420s">
+        <source></source>
+        <translation>Beenden</translation>
+    </message>
+    <message id="9421s">
+        <source></source>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="9422s">
+        <source></source>
+        <translation>Wird gestartet…</translation>
+    </message>
+    <message id="9423s">
+        <source></source>
+        <translation>Neuer Benutzer</translation>
+    </message>
+    <message id="9424s">
+        <source></source>
+        <translation>Benutzer ändern</translation>
+    </message>
+    <message id="9425s">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="9426s">
+        <source></source>
+        <translation>Vorname</translation>
+    </message>
+    <message id="9427s">
+        <source></source>
+        <translation>Matrikelnummer</translation>
+    </message>
+    <message id="9428s">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="9429s">
+        <source></source>
+        <translation>%1 aus der Liste entfernen? Die gespeicherten Trainings bleiben erhalten: Wer mit dieser Nummer wieder eingetragen wird, macht mit ihnen weiter.</translation>
+    </message>
+    <message id="9430s">
+        <source></source>
+        <translation>Der Soundfont %1 fehlt. An seiner Stelle klingt der des Systems.</translation>
+    </message>
+    <message id="9431s">
+        <source></source>
+        <translation>Bitte geben Sie die Matrikelnummer ein: Unter ihr werden die Trainings gespeichert.</translation>
+    </message>
+    <message id="9432s">
+        <source></source>
+        <translation>Die Matrikelnummer ist zu lang. Sie darf bis zu %1 Zeichen haben.</translation>
+    </message>
+    <message id="9433s">
+        <source></source>
+        <translation>Der Name ist zu lang. Name und Vorname dürfen je bis zu %1 Zeichen haben.</translation>
+    </message>
+    <message id="9434s">
+        <source></source>
+        <translation>„%1“ kann keine Matrikelnummer sein. Bitte wählen Sie eine andere.</translation>
+    </message>
+    <message id="9435s">
+        <source></source>
+        <translation>Die Matrikelnummer %1 steht schon in der Liste. Wählen Sie diesen Benutzer, oder geben Sie eine andere Nummer ein.</translation>
+    </message>
+    <message id="9436s">
+        <source></source>
+        <translation>Die Datei %1 ist kein Soundfont, der sich spielen lässt, oder sie ist beschädigt. Der Soundfont bleibt, wie er war.</translation>
+    </message>
+    <message id="9437s">
+        <source></source>
+        <translation>Soundfont wählen</translation>
+    </message>
+    <message id="9441s">
+        <source></source>
+        <translation>Kein Ton hat das Programm verlassen.</translation>
+    </message>
+    <message id="9442s">
+        <source></source>
+        <translation>Der Akkord hat das Programm verlassen: Der eingebaute Synthesizer hat %1 Noten über %2 gespielt, mit dem Soundfont %3.</translation>
+    </message>
+    <message id="9443s">
+        <source></source>
+        <translation>Der Akkord hat das Programm verlassen: Der eingebaute Synthesizer hat über %1 gespielt, mit dem Soundfont %2, bei einem Pegel von %3 %.</translation>
+    </message>
+    <message id="9444s">
+        <source></source>
+        <translation>Wenn Sie trotzdem nichts hören: Schalten Sie Lautsprecher oder Kopfhörer ein, stellen Sie sie lauter, und wählen Sie sie in den Klangeinstellungen des Systems aus.</translation>
+    </message>
+    <message id="9445s">
+        <source></source>
+        <translation>Der Synthesizer war nicht rechtzeitig bereit: Der Computer ist sehr beschäftigt, oder der Soundfont ist sehr groß. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="9446s">
+        <source></source>
+        <translation>%1 wurde geöffnet, hat aber keinen Ton angenommen. Vielleicht hält ein anderes Programm die Soundkarte fest: Schließen Sie es, oder wählen Sie in den Klangeinstellungen des Systems eine andere Ausgabe.</translation>
+    </message>
+    <message id="9447s">
+        <source></source>
+        <translation>Der Soundfont %1 hat keinen Klang für das Klavier. Wählen Sie einen anderen Soundfont.</translation>
+    </message>
+    <message id="9448s">
+        <source></source>
+        <translation>Der Akkord hat das Programm verlassen: Das MIDI-Gerät „%1“ hat %2 Nachrichten ohne Fehler angenommen.</translation>
+    </message>
+    <message id="9449s">
+        <source></source>
+        <translation>Wenn Sie trotzdem nichts hören: Prüfen Sie, ob das Gerät eingeschaltet und laut genug ist und spielt, was auf Kanal 1 ankommt.</translation>
+    </message>
+    <message id="9450s">
+        <source></source>
+        <translation>Das MIDI-Gerät „%1“ ist nicht zu erreichen. Prüfen Sie sein Kabel und ob es eingeschaltet ist, oder wählen Sie eine andere Ausgabe.</translation>
+    </message>
+    <message id="9451s">
+        <source></source>
+        <translation>Die Übung ist unerwartet zu Ende gegangen. Was vorher gespeichert wurde, ist noch da. Möchten Sie das Ende des Protokolls sehen?</translation>
+    </message>
+    <message id="9452s">
+        <source></source>
+        <translation>Die Übung war schon geöffnet. Ihr Fenster ist jetzt im Vordergrund.</translation>
+    </message>
+    <message id="9453s">
+        <source></source>
+        <translation>Die Übung ließ sich nicht starten (%1). Installieren Sie das Programm neu; wenn das nicht hilft, schicken Sie den Fehlerbericht aus dem Protokoll ein.</translation>
+    </message>
+    <message id="9455s">
+        <source></source>
+        <translation>Zeit</translation>
+    </message>
+    <message id="9456s">
+        <source></source>
+        <translation>Ort</translation>
+    </message>
+    <message id="9457s">
+        <source></source>
+        <translation>Nummer</translation>
+    </message>
+    <message id="9458s">
+        <source></source>
+        <translation>Text</translation>
+    </message>
+    <message id="9459s">
+        <source></source>
+        <translation>Quelle</translation>
+    </message>
+    <message id="9460s">
+        <source></source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message id="9461s">
+        <source></source>
+        <translation>Als Fehlerbericht kopieren</translation>
+    </message>
+    <message id="9462s">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="9463s">
+        <source></source>
+        <translation>Der Bericht liegt in der Zwischenablage und kann in eine Mail eingefügt werden.</translation>
+    </message>
+    <message id="9464s">
+        <source></source>
+        <translation>Das Protokoll ist leer.</translation>
     </message>
 </context>
 </TS>

@@ -681,6 +681,10 @@
         <source></source>
         <translation>MIDI device number %1 does not exist; there are %2 devices. Choose another MIDI device in Melvado. The exercise goes on without sound.</translation>
     </message>
+    <message id="9157s">
+        <source></source>
+        <translation>The soundfont that was chosen, %1, is missing or damaged. %2 plays in its place. Choose another soundfont in Melvado.</translation>
+    </message>
     <message id="9201s">
         <source></source>
         <translation>The record of your exercise could not be saved in the folder %1 (%2). It has been saved as %3 instead. Please check that the folder exists, that you may write in it and that the disk is not full.</translation>
@@ -716,6 +720,262 @@
     <message id="9305s">
         <source></source>
         <translation>There is no printer, and the page could not be saved as a file in the folder %1 either (%2). Check that you may write there and that the disk is not full.</translation>
+    </message>
+    <message id="9391s">
+        <source></source>
+        <translation>Contents</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>Forward</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>The page “%1” of the help was not found. Help pages are looked for in: %2</translation>
+    </message>
+    <message id="9401s">
+        <source></source>
+        <translation>Ear training</translation>
+    </message>
+    <message id="9402s">
+        <source></source>
+        <translation>Who is practising?</translation>
+    </message>
+    <message id="9403s">
+        <source></source>
+        <translation>Nobody (without a name)</translation>
+    </message>
+    <message id="9404s">
+        <source></source>
+        <translation>Add…</translation>
+    </message>
+    <message id="9405s">
+        <source></source>
+        <translation>Change…</translation>
+    </message>
+    <message id="9406s">
+        <source></source>
+        <translation>Remove…</translation>
+    </message>
+    <message id="9407s">
+        <source></source>
+        <translation>Language</translation>
+    </message>
+    <message id="9408s">
+        <source></source>
+        <translation>Sound output</translation>
+    </message>
+    <message id="9409s">
+        <source></source>
+        <translation>Built-in synthesiser</translation>
+    </message>
+    <message id="9410s">
+        <source></source>
+        <translation>%1 (not connected)</translation>
+    </message>
+    <message id="9411s">
+        <source></source>
+        <translation>Test the sound</translation>
+    </message>
+    <message id="9412s">
+        <source></source>
+        <translation>Choose a soundfont…</translation>
+    </message>
+    <message id="9413s">
+        <source></source>
+        <translation>Soundfont of the system</translation>
+    </message>
+    <message id="9414s">
+        <source></source>
+        <translation>Soundfont: %1</translation>
+    </message>
+    <message id="9415s">
+        <source></source>
+        <translation>The soundfont of the system plays.</translation>
+    </message>
+    <message id="9416s">
+        <source></source>
+        <translation>%1 is not connected. The built-in synthesiser plays in its place.</translation>
+    </message>
+    <message id="9417s">
+        <source></source>
+        <translation>A chord is being played…</translation>
+    </message>
+    <message id="9418s">
+        <source></source>
+        <translation>The sound test plays a chord and tells what became of it.</translation>
+    </message>
+    <message id="9419s">
+        <source></source>
+        <translation>Log</translation>
+    </message>
+    <message id="9420s">
+        <source></source>
+        <translation>Quit</translation>
+    </message>
+    <message id="9421s">
+        <source></source>
+        <translation>Help</translation>
+    </message>
+    <message id="9422s">
+        <source></source>
+        <translation>Starting…</translation>
+    </message>
+    <message id="9423s">
+        <source></source>
+        <translation>Add a user</translation>
+    </message>
+    <message id="9424s">
+        <source></source>
+        <translation>Change a user</translation>
+    </message>
+    <message id="9425s">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="9426s">
+        <source></source>
+        <translation>First name</translation>
+    </message>
+    <message id="9427s">
+        <source></source>
+        <translation>Matriculation number</translation>
+    </message>
+    <message id="9428s">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="9429s">
+        <source></source>
+        <translation>Remove %1 from the list? The stored trainings are kept: whoever is added with this number again goes on with them.</translation>
+    </message>
+    <message id="9430s">
+        <source></source>
+        <translation>The soundfont %1 is missing. That of the system plays in its place.</translation>
+    </message>
+    <message id="9431s">
+        <source></source>
+        <translation>Please enter the matriculation number: the trainings are kept under it.</translation>
+    </message>
+    <message id="9432s">
+        <source></source>
+        <translation>The matriculation number is too long. It may have up to %1 characters.</translation>
+    </message>
+    <message id="9433s">
+        <source></source>
+        <translation>The name is too long. Name and first name may have up to %1 characters each.</translation>
+    </message>
+    <message id="9434s">
+        <source></source>
+        <translation>"%1" cannot be a matriculation number. Please choose another one.</translation>
+    </message>
+    <message id="9435s">
+        <source></source>
+        <translation>The matriculation number %1 is in the list already. Choose that user, or enter another number.</translation>
+    </message>
+    <message id="9436s">
+        <source></source>
+        <translation>The file %1 is no soundfont that can be played, or it is damaged. The soundfont stays as it was.</translation>
+    </message>
+    <message id="9437s">
+        <source></source>
+        <translation>Choose a soundfont</translation>
+    </message>
+    <message id="9441s">
+        <source></source>
+        <translation>No sound left the program.</translation>
+    </message>
+    <message id="9442s">
+        <source></source>
+        <translation>The chord left the program: the built-in synthesiser played %1 notes through %2, with the soundfont %3.</translation>
+    </message>
+    <message id="9443s">
+        <source></source>
+        <translation>The chord left the program: the built-in synthesiser played through %1, with the soundfont %2, at a level of %3 %.</translation>
+    </message>
+    <message id="9444s">
+        <source></source>
+        <translation>If you hear nothing all the same: switch on the loudspeakers or headphones, turn them up, and choose them in the sound settings of the system.</translation>
+    </message>
+    <message id="9445s">
+        <source></source>
+        <translation>The synthesiser was not ready in time: the computer is very busy, or the soundfont is very large. Try it again.</translation>
+    </message>
+    <message id="9446s">
+        <source></source>
+        <translation>%1 was opened but took no sound. Another program may hold the sound card: close it, or choose another output in the sound settings of the system.</translation>
+    </message>
+    <message id="9447s">
+        <source></source>
+        <translation>The soundfont %1 has no sound for the piano. Choose another soundfont.</translation>
+    </message>
+    <message id="9448s">
+        <source></source>
+        <translation>The chord left the program: the MIDI device "%1" took %2 messages without an error.</translation>
+    </message>
+    <message id="9449s">
+        <source></source>
+        <translation>If you hear nothing all the same: check that the device is switched on and turned up, and that it plays what arrives on channel 1.</translation>
+    </message>
+    <message id="9450s">
+        <source></source>
+        <translation>The MIDI device "%1" cannot be reached. Check its cable and whether it is switched on, or choose another output.</translation>
+    </message>
+    <message id="9451s">
+        <source></source>
+        <translation>The exercise has ended unexpectedly. What was stored before is still there. Do you want to see the end of the log?</translation>
+    </message>
+    <message id="9452s">
+        <source></source>
+        <translation>The exercise was open already. Its window is in front now.</translation>
+    </message>
+    <message id="9453s">
+        <source></source>
+        <translation>The exercise could not be started (%1). Install the program again; if that does not help, send the fault report from the log.</translation>
+    </message>
+    <message id="9455s">
+        <source></source>
+        <translation>Time</translation>
+    </message>
+    <message id="9456s">
+        <source></source>
+        <translation>Place</translation>
+    </message>
+    <message id="9457s">
+        <source></source>
+        <translation>Number</translation>
+    </message>
+    <message id="9458s">
+        <source></source>
+        <translation>Text</translation>
+    </message>
+    <message id="9459s">
+        <source></source>
+        <translation>Source</translation>
+    </message>
+    <message id="9460s">
+        <source></source>
+        <translation>Refresh</translation>
+    </message>
+    <message id="9461s">
+        <source></source>
+        <translation>Copy as a fault report</translation>
+    </message>
+    <message id="9462s">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="9463s">
+        <source></source>
+        <translation>The report is in the clipboard and can be pasted into a mail.</translation>
+    </message>
+    <message id="9464s">
+        <source></source>
+        <translation>The log is empty.</translation>
     </message>
 </context>
 </TS>

@@ -3,27 +3,21 @@
 
 #include "app/desktop.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <QWidget>
 #include <algorithm>
 #include <exception>
 #include <utility>
-#include <vector>
 
+#include "app/places.h"
 #include "platform/store/store_address.h"
 #include "platform/xml/pugi_document.h"
 #include "version.h"
 
 namespace vmod17 {
 namespace {
-
-/// Beside the program in a build, under share/ where it is installed, and the user's own.
-std::vector<std::filesystem::path> LanguageFolders() {
-  const std::string program = QCoreApplication::applicationDirPath().toStdString();
-  return {program + "/../languages", program + "/../share/melvado/languages",
-          UserDataFolder() + "/languages"};
-}
 
 ProgramIdentity Identity() {
   return {QFileInfo(QCoreApplication::applicationFilePath()).baseName().toStdString(),
@@ -47,8 +41,8 @@ class SharedLanguages : public LanguageList {
 
 Desktop::Desktop()
     : languages_(LanguageFolders()),
-      output_(
-          MakeMidiOutput(OutputOptions(), loop_, [this](const Notice& notice) { Tell(notice); })),
+      help_(HelpFolders()),
+      output_(MakeMidiOutput(MidiOptions(), loop_, [this](const Notice& notice) { Tell(notice); })),
       store_(HostOptions()),
       program_(std::make_unique<Program>(MakePlatform(), Identity())) {
   notices_ = std::make_unique<Notices>(loop_, messages_, program_->texts(),
@@ -58,6 +52,15 @@ Desktop::Desktop()
   messages_.words = [this] {
     return QtMessageBox::Words{Word(432, "OK"), Word(9001, "Yes"), Word(9002, "No")};
   };
+  help_.owner = [this] { return view_.Window(); };
+  help_.words = [this] {
+    const HelpWindow::Words english;
+    return HelpWindow::Words{Word(9421, english.title.c_str()),
+                             Word(9391, english.contents.c_str()), Word(9392, english.back.c_str()),
+                             Word(9393, english.forward.c_str()),
+                             Word(9394, english.missing.c_str())};
+  };
+  view_.on_help = [this](const std::string& form_name) { ShowHelp(form_name); };
   messages_.before = [this] { view_.Refresh(); };
   program_->OnEnd = [this] { loop_.Quit(); };
 }
@@ -69,8 +72,10 @@ void Desktop::Tell(const Notice& notice) {
 }
 
 int Desktop::Run() {
+  if (!IsFirst()) return 0;
   loop_.Deliver([this] {
     TakeOutputFromEnvironment();
+    TakeSoundfont();
     program_->Start();
   });
   loop_.Run();
@@ -81,10 +86,31 @@ void Desktop::Leave() {
   loop_.Deliver([this] { program_->Leave(); });
 }
 
-MidiOptions Desktop::OutputOptions() const {
-  MidiOptions options;
-  options.soundfont = system_.Environment("MELVADO_SOUNDFONT").value_or("");
-  return options;
+/// Two at once would write over each other's training.
+bool Desktop::IsFirst() {
+  const std::string address = system_.Environment("MELVADO_STORE").value_or("");
+  const std::optional<StoreUser> user = store_.User();
+  instance_ = std::make_unique<SingleInstance>(ModuleKey(address, user ? user->id : ""));
+  instance_->come_to_front = [this] { ComeToFront(); };
+  if (instance_->Claim()) return true;
+  if (system_.Environment(kHostVariable)) SayToHost(ModuleLine::kOpen);
+  return false;
+}
+
+void Desktop::ComeToFront() {
+  for (QWidget* window : {view_.Window(), QApplication::activeModalWidget()}) {
+    if (window == nullptr || !window->isVisible()) continue;
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    window->activateWindow();
+  }
+}
+
+bool Desktop::ReturnToHost() {
+  instance_->Release();
+  if (!system_.Environment(kHostVariable)) return false;
+  SayToHost(ModuleLine::kMenu);
+  return true;
 }
 
 StoreOptions Desktop::HostOptions() {
@@ -97,7 +123,7 @@ StoreOptions Desktop::HostOptions() {
                        [&](const LanguageColumn& column) { return column[1] == name; });
   };
   options.midi_number = [this](const std::string& name) { return output_->NumberOf(name); };
-  options.menue = [this] { return system_.Environment("MELVADO_HOST").has_value(); };
+  options.menue = [this] { return ReturnToHost(); };
   options.notify = [this](const Notice& notice) { Tell(notice); };
   options.clock = [this] { return loop_.Now(); };
   return options;
@@ -130,12 +156,19 @@ void Desktop::TakeOutputFromEnvironment() {
   }
 }
 
+/// What is named from outside goes before what was chosen in the host.
+void Desktop::TakeSoundfont() {
+  const auto named = system_.Environment("MELVADO_SOUNDFONT");
+  output_->UseSoundfont(named ? *named : store_.Soundfont());
+}
+
 void Desktop::AfterEvent() {
   view_.Refresh();
   if (screen_was_shown_) return;
   const GrdEinst* first = program_->grd_einst();
   if (first == nullptr || !first->visible) return;
   screen_was_shown_ = true;
+  if (system_.Environment(kHostVariable)) SayToHost(ModuleLine::kShown);
   SpeakAsTheLanguage();
   // What takes time begins once the user has something to look at.
   loop_.Post([this] {
@@ -163,6 +196,15 @@ void Desktop::TellOfLanguages() {
           "read \"VOID\". Install the program again, or start it in another language.",
           {}});
   }
+}
+
+void Desktop::ShowHelp(const std::string& page) {
+  const std::string name = program_->server().HostSprache();
+  std::string locale;
+  for (const LanguageColumn& column : languages_.Table()) {
+    if (column[1] == name) locale = column[0];
+  }
+  help_.Show(page, locale);
 }
 
 void Desktop::RunTimeReport(const std::exception_ptr& error) {

@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <string>
 
 #include "app/notices.h"
 #include "app/program.h"
 #include "platform/midi/midi_device_output.h"
+#include "platform/qt/help_window.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_file_dialog.h"
 #include "platform/qt/qt_language.h"
@@ -17,6 +17,7 @@
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_system.h"
 #include "platform/qt/qt_view.h"
+#include "platform/qt/single_instance.h"
 #include "platform/store/host_store.h"
 #include "platform/xml/pugi_test_files.h"
 #include "shell/uniform_random.h"
@@ -33,22 +34,27 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
 
   /// Starts the program and serves it until it ends. Returns the exit status of the process: 0, or
-  /// 1 after an error that nothing in the program could deal with.
+  /// 1 after an error that nothing in the program could deal with. Where the user is at work with
+  /// it already, brings that process to the front and returns 0 at once.
   int Run();
   /// Ends the program from any state, as its user would: a run is left and its record saved.
   void Leave();
 
  private:
   void Tell(const Notice& notice);
-  MidiOptions OutputOptions() const;
   StoreOptions HostOptions();
   Platform MakePlatform();
+  bool IsFirst();
+  bool ReturnToHost();
+  void ComeToFront();
   void TakeOutputFromEnvironment();
+  void TakeSoundfont();
   void AfterEvent();
   /// The last resort for an error that left its handler: tell, log, end.
   void RunTimeReport(const std::exception_ptr& error);
   void SpeakAsTheLanguage();
   void TellOfLanguages();
+  void ShowHelp(const std::string& page);
   std::string Word(int id, const char* english) const;
 
   QtEventLoop loop_;
@@ -57,6 +63,7 @@ class Desktop {
   QtLanguageList languages_;
   QtView view_{loop_};
   QtMessageBox messages_{[this] { return view_.Window(); }};
+  HelpWindow help_;
   QtFileDialog dialog_{[this] { return view_.Window(); }};
   PugiTestFiles test_files_;
   QtPrinter printer_{loop_, SystemPrintTargets(loop_)};
@@ -64,6 +71,7 @@ class Desktop {
   std::unique_ptr<MidiDeviceOutput> output_;
   HostStore store_;
   std::unique_ptr<Program> program_;
+  std::unique_ptr<SingleInstance> instance_;
   bool screen_was_shown_ = false;
   bool failed_ = false;
 };

@@ -15,7 +15,7 @@ bin=$scratch/bin
 calls=$scratch/calls
 mkdir -p "$root/cmake" "$bin"
 cp "$real_root/cmake/prepare.sh" "$root/cmake/"
-printf '# a comment\nrun   alpha  needed\nrun   beta   needed\ntest  gamma  for the tests\n' \
+printf '# a comment\nrun   alpha  needed\nrun   beta   needed\ntest  gamma  for the tests\npackage delta wraps it\n' \
   >"$root/cmake/packages.txt"
 sh=$(command -v sh)
 env=$(command -v env)
@@ -76,6 +76,11 @@ require test
 expect_calls dpkg-query 'apt-get -qq update ()' \
   'apt-get -qq install -y --no-install-recommends gamma (noninteractive)'
 
+machine 0 "$all_installed"
+require package
+expect_calls dpkg-query 'apt-get -qq update ()' \
+  'apt-get -qq install -y --no-install-recommends delta (noninteractive)'
+
 machine 1000 ''
 command_of_machine sudo "echo sudo >>'$calls'" 'exec "$@"'
 require run
@@ -104,7 +109,9 @@ esac
 while read -r use name why; do
   case $use in
     '' | '#'*) continue ;;
-    run | test) [ -n "$name" ] && [ -n "$why" ] || fail "packages.txt: $use $name $why" ;;
-    *) fail "packages.txt: \"$use\" is neither run nor test" ;;
+    run | test | package)
+      [ -n "$name" ] && [ -n "$why" ] || fail "packages.txt: $use $name $why"
+      ;;
+    *) fail "packages.txt: \"$use\" is not run, test or package" ;;
   esac
 done <"$real_root/cmake/packages.txt"

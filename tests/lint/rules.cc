@@ -300,7 +300,7 @@ void AddSecondOfPairs(std::string_view text, std::set<int>& ids) {
 
 // The text ids of the notices, which are ours.
 constexpr int kFirstNotice = 9001;
-constexpr int kLastNotice = 9299;
+constexpr int kLastNotice = 9499;
 
 /// The literals that `text` starts with, one behind the other, as one; nothing without one.
 std::optional<std::string> LeadingLiteral(std::string_view text) {

@@ -35,10 +35,8 @@ int IdOfName(const std::string& name) {
 }
 
 SynthSetup SetupOf(const MidiOptions& options) {
-  std::vector<std::string> soundfonts = {options.soundfont};
-  soundfonts.insert(soundfonts.end(), options.usual_soundfonts.begin(),
-                    options.usual_soundfonts.end());
-  return {options.audio, soundfonts, options.audio_drivers, options.sample_rate};
+  return {options.audio, options.soundfont, options.usual_soundfonts, options.audio_drivers,
+          options.sample_rate};
 }
 
 }  // namespace
@@ -88,6 +86,18 @@ void MidiDeviceOutput::BeginLoading() {
   Do([this] {
     player_->BeginLoading();
     ports_->Prepare();
+  });
+}
+
+void MidiDeviceOutput::UseSoundfont(const std::string& path) {
+  Do([this, path] { player_->UseSoundfont(path); });
+}
+
+void MidiDeviceOutput::AskFacts(std::function<void(const SoundFacts&)> answer) {
+  Do([this, alive = std::weak_ptr(alive_), answer = std::move(answer)] {
+    loop_.Post([alive, answer, facts = player_->Facts()] {
+      if (!alive.expired()) answer(facts);
+    });
   });
 }
 
@@ -240,11 +250,7 @@ std::vector<std::string> MidiDeviceOutput::DeviceNames() const {
 
 std::optional<int> MidiDeviceOutput::NumberOf(const std::string& part) const {
   ports_->Await();
-  const std::vector<std::string> names = DeviceNames();
-  const auto found = std::ranges::find_if(
-      names, [&](const std::string& name) { return name.find(part) != std::string::npos; });
-  if (found == names.end()) return std::nullopt;
-  return static_cast<int>(found - names.begin());
+  return FindDevice(DeviceNames(), part);
 }
 
 const std::string* MidiDeviceOutput::NameOf(int number) const {

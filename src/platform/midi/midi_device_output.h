@@ -12,6 +12,7 @@
 #include "platform/event_loop.h"
 #include "platform/midi/midi_message.h"
 #include "platform/midi/midi_options.h"
+#include "platform/midi/sound_facts.h"
 #include "platform/midi_output.h"
 #include "platform/notice.h"
 
@@ -36,14 +37,21 @@ class MidiDeviceOutput : public MidiOutput {
   /// once; a second call does nothing.
   void BeginLoading();
 
+  /// The soundfont to take first when the synthesiser loads, "" for the usual ones. What is loaded
+  /// already plays on.
+  void UseSoundfont(const std::string& path);
+  /// Answers on the program's thread what was done up to now; not at all once the output is gone.
+  void AskFacts(std::function<void(const SoundFacts&)> answer);
+
   void Set(MidiMember member, double value) override;
   double Get(MidiMember member) const override;
   std::string GeraetName() const override;
 
   /// All names in the order of their numbers, as the system has them now. Never empty.
   std::vector<std::string> DeviceNames() const;
-  /// The number of the first device whose name holds `part`, as the system has them now; none when
-  /// there is no such device. May wait for the system to tell its ports, half a second at most.
+  /// The number of the device of this name, as the system has them now, or of the first whose name
+  /// holds it; none when there is no such device. May wait for the system to tell its ports, half a
+  /// second at most.
   std::optional<int> NumberOf(const std::string& part) const;
 
   /// For SynthAudio::kRendered: moves the time by `frames` and writes what sounds.

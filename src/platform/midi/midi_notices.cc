@@ -28,6 +28,13 @@ Notice NoSoundfontNotice(const std::vector<std::string>& tried) {
           {}};
 }
 
+Notice OtherSoundfontNotice(const std::string& chosen, const std::string& playing) {
+  return {9157,
+          "The soundfont that was chosen, %1, is missing or damaged. %2 plays in its place. Choose "
+          "another soundfont in Melvado.",
+          {chosen, playing}};
+}
+
 Notice NoAudioNotice(const std::vector<std::string>& drivers) {
   return {9153,
           "The exercise makes no sound: no sound output was found (tried: %1). Check that "

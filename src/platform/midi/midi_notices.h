@@ -12,6 +12,8 @@ namespace vmod17 {
 
 /// No soundfont could be loaded. `tried` are the files that exist but are damaged.
 Notice NoSoundfontNotice(const std::vector<std::string>& tried);
+/// The soundfont that the user has chosen is missing or damaged, and another one plays.
+Notice OtherSoundfontNotice(const std::string& chosen, const std::string& playing);
 /// None of the audio drivers could be started. `drivers` are their names.
 Notice NoAudioNotice(const std::vector<std::string>& drivers);
 /// The audio system stopped taking sound while the program ran.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,14 @@ class MidiPorts {
   /// Null when there is no port of that name or it cannot be opened.
   virtual std::unique_ptr<MidiPort> Open(const std::string& name) = 0;
 };
+
+/// A port's name without the number by which ALSA addresses it (" 24:0"), which is another one each
+/// time that the device is plugged in.
+std::string LastingPortName(const std::string& name);
+
+/// The number of the device of this name among `names`, or of the first whose name holds it; none
+/// when there is no such device.
+std::optional<int> FindDevice(const std::vector<std::string>& names, const std::string& part);
 
 /// The ports as RtMidi finds them: on Linux those of ALSA, and where ALSA has no sequencer those of
 /// a JACK server that runs already. None at all is no error.

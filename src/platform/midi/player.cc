@@ -58,6 +58,15 @@ void Player::Choose(const DeviceChoice& choice) {
   }
 }
 
+SoundFacts Player::Facts() const {
+  SoundFacts facts;
+  if (device_ == &synth_) facts.device = SoundFacts::Device::kSynth;
+  if (port_) facts.device = SoundFacts::Device::kPort;
+  synth_.Tell(facts);
+  if (port_) port_->Tell(facts);
+  return facts;
+}
+
 void Player::Close() {
   Stop();
   device_->Close();

@@ -11,6 +11,7 @@
 #include "platform/midi/midi_device.h"
 #include "platform/midi/midi_ports.h"
 #include "platform/midi/port_device.h"
+#include "platform/midi/sound_facts.h"
 #include "platform/midi/synth_device.h"
 #include "platform/notice.h"
 
@@ -45,6 +46,8 @@ class Player {
   ~Player() = default;
 
   void BeginLoading() { synth_.BeginLoading(); }
+  void UseSoundfont(const std::string& path) { synth_.UseSoundfont(path); }
+  SoundFacts Facts() const;
   void Open(const DeviceChoice& choice, const Programs& programs);
   void Close();
   void Send(const MidiBytes& message);

@@ -52,6 +52,7 @@ void PortDevice::Send(std::span<const MidiBytes> messages) {
     if (!port_) return;
     if (!message.IsChannelMessage()) continue;
     if (port_->Send(message)) {
+      ++sent_;
       Track(message);
     } else {
       Lose();
@@ -66,6 +67,12 @@ void PortDevice::Track(const MidiBytes& message) {
   if (!is_note) return;
   auto& channel = sounding_[static_cast<std::size_t>(message.channel())];
   channel[static_cast<std::size_t>(message.data1)] = is_on;
+}
+
+void PortDevice::Tell(SoundFacts& facts) const {
+  facts.port = name_;
+  facts.sent = sent_;
+  facts.is_there = port_ != nullptr;
 }
 
 void PortDevice::CheckPresence() {

@@ -10,6 +10,7 @@
 
 #include "platform/midi/midi_device.h"
 #include "platform/midi/midi_ports.h"
+#include "platform/midi/sound_facts.h"
 
 namespace vmod17 {
 
@@ -27,7 +28,8 @@ class PortDevice : public MidiDevice {
   void Send(std::span<const MidiBytes> messages) override;
   void CheckPresence() override;
 
-  const std::string& name() const { return name_; }
+  /// Enters what is known of the port.
+  void Tell(SoundFacts& facts) const;
 
  private:
   void Lose();
@@ -38,6 +40,7 @@ class PortDevice : public MidiDevice {
   const std::function<void()> on_vanished_;
   std::unique_ptr<MidiPort> port_;
   bool told_ = false;
+  int sent_ = 0;
   std::array<std::array<bool, 128>, kMidiChannels> sounding_{};
 };
 

@@ -83,7 +83,8 @@ std::vector<std::string> NamesOf(const Connection& connection) {
 /// number.
 std::vector<std::string> Distinct(const std::vector<std::string>& names) {
   std::vector<std::string> distinct;
-  for (const std::string& name : names) {
+  for (const std::string& full_name : names) {
+    const std::string name = LastingPortName(full_name);
     std::string candidate = name;
     for (int number = 2; std::ranges::find(distinct, candidate) != distinct.end(); ++number) {
       candidate = name + " (" + std::to_string(number) + ")";

@@ -16,6 +16,9 @@ std::vector<std::string> UsualSoundfonts();
 /// Those of `candidates` that exist and begin like a soundfont, each once.
 std::vector<std::string> ExistingSoundfonts(const std::vector<std::string>& candidates);
 
+/// Whether the synthesiser can play with this file: it is loaded once, as a try. May take a second.
+bool LoadsAsSoundfont(const std::string& path);
+
 /// False when the file is shorter than it says itself: a broken download, random bytes. FluidSynth
 /// would find out too, but hand the file on to a library that complains on the terminal.
 bool IsWholeRiffFile(const std::string& path);

@@ -4,6 +4,8 @@
 #include "platform/midi/synth_device.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "platform/midi/midi_notices.h"
@@ -23,13 +25,14 @@ void SynthDevice::BeginLoading() {
   if (state_ != State::kIdle && state_ != State::kLost) return;
   state_ = State::kLoading;
   if (setup_.audio == SynthAudio::kRendered) {
+    engine_.reset();
     Finish(LoadSynth(setup_, volume_));
     return;
   }
   if (loader_.joinable()) loader_.join();
-  loader_ = std::thread([this, lost = std::move(engine_)]() mutable {
+  loader_ = std::thread([this, setup = setup_, lost = std::move(engine_)]() mutable {
     lost.reset();  // may wait for the dead driver
-    auto load = std::make_shared<SynthLoad>(LoadSynth(setup_, volume_));
+    auto load = std::make_shared<SynthLoad>(LoadSynth(setup, volume_));
     hooks_.post([this, load] { Finish(std::move(*load)); });
   });
 }
@@ -51,6 +54,7 @@ void SynthDevice::Finish(SynthLoad load) {
 void SynthDevice::Open(const Programs& programs) {
   open_ = true;
   programs_ = programs;
+  if (LostItsSoundfont()) state_ = State::kLost;
   BeginLoading();
   if (state_ != State::kReady) {
     early_.clear();
@@ -61,6 +65,12 @@ void SynthDevice::Open(const Programs& programs) {
   }
   const auto bends = CentredPitchBends();
   engine_->renderer().Send(bends);
+}
+
+/// Timbres are read from the file when they are first played, and stay silent without it.
+bool SynthDevice::LostItsSoundfont() const {
+  std::error_code error;
+  return state_ == State::kReady && !std::filesystem::exists(engine_->soundfont(), error);
 }
 
 void SynthDevice::Close() {
@@ -104,6 +114,15 @@ void SynthDevice::Lose() {
   state_ = State::kLost;
   lost_before_ = true;
   hooks_.notify(AudioLostNotice());
+}
+
+void SynthDevice::Tell(SoundFacts& facts) const {
+  if (!engine_) return;
+  facts.driver = engine_->driver();
+  facts.soundfont = engine_->soundfont();
+  facts.frames = blocks() * kSynthBlock;
+  facts.peak = engine_->renderer().peak();
+  facts.notes = engine_->renderer().notes();
 }
 
 void SynthDevice::Render(float* left, float* right, int frames) {

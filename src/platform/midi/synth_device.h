@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/midi/midi_device.h"
+#include "platform/midi/sound_facts.h"
 #include "platform/midi/synth_engine.h"
 #include "platform/notice.h"
 
@@ -25,7 +26,7 @@ class SynthDevice : public MidiDevice {
     kLoading,
     kReady,
     kSilent,  ///< there is no soundfont or no audio; it stays so
-    kLost,    ///< the audio system died; the next `Open` tries again
+    kLost,    ///< the audio system died, or the soundfont is gone; the next `Open` tries again
   };
   struct Hooks {
     /// Does work on the sound thread; any thread.
@@ -40,6 +41,9 @@ class SynthDevice : public MidiDevice {
   SynthDevice(SynthSetup setup, const SynthVolume& volume, Hooks hooks);
   /// Waits for a loading that is under way.
   ~SynthDevice() override;
+
+  /// The soundfont to take first at the next loading, "" for the usual ones.
+  void UseSoundfont(const std::string& path) { setup_.chosen_soundfont = path; }
 
   /// Loads beside the sound thread, or at once when the caller renders. Once; later calls do
   /// nothing.
@@ -58,14 +62,18 @@ class SynthDevice : public MidiDevice {
   /// The audio system has died.
   void Lose();
 
+  /// Enters what is known of the synthesiser.
+  void Tell(SoundFacts& facts) const;
+
   /// For a caller that renders.
   void Render(float* left, float* right, int frames);
 
  private:
   void Finish(SynthLoad load);
   void SetProgram(int channel, int program);
+  bool LostItsSoundfont() const;
 
-  const SynthSetup setup_;
+  SynthSetup setup_;
   const SynthVolume& volume_;
   const Hooks hooks_;
   State state_ = State::kIdle;

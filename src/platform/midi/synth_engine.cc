@@ -90,6 +90,7 @@ bool SynthEngine::StartDriver(const std::string& name, std::unique_ptr<JackServe
   if (name == "pulseaudio") fluid_settings_setint(settings_.get(), "audio.period-size", 1024);
   if (fluid_settings_setstr(settings_.get(), "audio.driver", name.c_str()) != FLUID_OK)
     return false;
+  driver_name_ = name;
   driver_.reset(new_fluid_audio_driver2(settings_.get(), &RenderForDriver, renderer_.get()));
   if (driver_ || name != "sdl2") return driver_ != nullptr;
   // The one driver that takes no callback.
@@ -105,17 +106,33 @@ bool SynthEngine::LoadSoundfont(const std::string& path) {
   if (id == FLUID_FAILED) return false;
   // A file that breaks off may load without a single timbre.
   fluid_sfont_t* font = fluid_synth_get_sfont_by_id(synth_.get(), id);
-  return fluid_sfont_get_preset(font, 0, 0) != nullptr;
+  if (fluid_sfont_get_preset(font, 0, 0) == nullptr) return false;
+  soundfont_ = path;
+  return true;
 }
 
 SynthLoad LoadSynth(const SynthSetup& setup, const SynthVolume& volume) {
-  const std::vector<std::string> soundfonts = ExistingSoundfonts(setup.soundfonts);
+  std::vector<std::string> wanted = {setup.chosen_soundfont};
+  wanted.insert(wanted.end(), setup.soundfonts.begin(), setup.soundfonts.end());
+  const std::vector<std::string> soundfonts = ExistingSoundfonts(wanted);
   if (soundfonts.empty()) return {nullptr, NoSoundfontNotice({})};
   std::unique_ptr<SynthEngine> engine = StartAny(setup, volume);
   if (!engine) return {nullptr, NoAudioNotice(setup.drivers)};
   const auto loads = [&](const std::string& path) { return engine->LoadSoundfont(path); };
   if (std::ranges::none_of(soundfonts, loads)) return {nullptr, NoSoundfontNotice(soundfonts)};
-  return {std::move(engine), std::nullopt};
+  std::optional<Notice> trouble;
+  if (!setup.chosen_soundfont.empty() && engine->soundfont() != setup.chosen_soundfont) {
+    trouble = OtherSoundfontNotice(setup.chosen_soundfont, engine->soundfont());
+  }
+  return {std::move(engine), trouble};
+}
+
+bool LoadsAsSoundfont(const std::string& path) {
+  SilenceSoundLibraries();
+  if (ExistingSoundfonts({path}).empty()) return false;
+  const SynthVolume volume;
+  constexpr double kAnyRate = 48000;
+  return SynthEngine(kAnyRate, volume).LoadSoundfont(path);
 }
 
 }  // namespace vmod17

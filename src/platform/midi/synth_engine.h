@@ -20,7 +20,8 @@ namespace vmod17 {
 /// What the synthesiser is made of.
 struct SynthSetup {
   SynthAudio audio = SynthAudio::kDriver;
-  std::vector<std::string> soundfonts;  ///< paths; the first that loads is taken
+  std::string chosen_soundfont;         ///< path; "" when the user has chosen none
+  std::vector<std::string> soundfonts;  ///< tried after it; the first that loads is taken
   std::vector<std::string> drivers;     ///< names of FluidSynth; the first that starts is taken
   double sample_rate = 48000;           ///< frames a second; JACK insists on its own
 };
@@ -37,6 +38,10 @@ class SynthEngine {
   bool LoadSoundfont(const std::string& path);
 
   fluid_synth_t* synth() { return synth_.get(); }
+  /// "" until a driver has started.
+  const std::string& driver() const { return driver_name_; }
+  /// Path of the soundfont that was loaded last.
+  const std::string& soundfont() const { return soundfont_; }
   SynthRenderer& renderer() { return *renderer_; }
   const SynthRenderer& renderer() const { return *renderer_; }
 
@@ -47,6 +52,8 @@ class SynthEngine {
     void operator()(fluid_audio_driver_t* driver) const { delete_fluid_audio_driver(driver); }
   };
 
+  std::string driver_name_;
+  std::string soundfont_;
   std::unique_ptr<JackServer> jack_;
   std::unique_ptr<fluid_settings_t, Delete> settings_;
   std::unique_ptr<fluid_synth_t, Delete> synth_;
@@ -55,6 +62,7 @@ class SynthEngine {
 };
 
 /// An engine with a soundfont and, unless it is rendered, a driver that runs; or what is missing.
+/// An engine with trouble plays, but not with the soundfont that was chosen.
 struct SynthLoad {
   std::unique_ptr<SynthEngine> engine;
   std::optional<Notice> trouble;

@@ -4,6 +4,7 @@
 #include "platform/midi/synth_renderer.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace vmod17 {
@@ -44,6 +45,7 @@ void SynthRenderer::Render(float* left, float* right, int frames) {
     const int piece = std::min(frames - done, kSynthBlock - block_pos_);
     fluid_synth_write_float(synth_, piece, left + done, 0, 1, right + done, 0, 1);
     ApplyVolume(left + done, right + done, piece);
+    NotePeak(left + done, right + done, piece);
     done += piece;
     block_pos_ = (block_pos_ + piece) % kSynthBlock;
     frame_ += static_cast<std::uint64_t>(piece);
@@ -59,6 +61,19 @@ void SynthRenderer::ApplyVolume(float* left, float* right, int frames) {
   };
   apply(left_, left);
   apply(right_, right);
+}
+
+void SynthRenderer::NotePeak(const float* left, const float* right, int frames) {
+  float peak = peak_.load(std::memory_order_relaxed);
+  for (int i = 0; i < frames; ++i) {
+    peak = std::max({peak, std::abs(left[i]), std::abs(right[i])});
+  }
+  peak_.store(peak, std::memory_order_relaxed);
+}
+
+std::optional<float> SynthRenderer::peak() const {
+  if (ticks_) return std::nullopt;
+  return peak_.load(std::memory_order_relaxed);
 }
 
 float SynthRenderer::Towards(float from, float to, float step) {
@@ -129,7 +144,7 @@ void SynthRenderer::EmitOne(const MidiBytes& message) {
       fluid_synth_noteoff(synth_, channel, message.data1);
       break;
     case MidiBytes::kNoteOn:
-      fluid_synth_noteon(synth_, channel, message.data1, message.data2);
+      if (fluid_synth_noteon(synth_, channel, message.data1, message.data2) == FLUID_OK) ++notes_;
       break;
     case MidiBytes::kKeyPressure:
       fluid_synth_key_pressure(synth_, channel, message.data1, message.data2);

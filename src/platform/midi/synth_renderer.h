@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -55,6 +56,10 @@ class SynthRenderer {
 
   /// Counts the blocks: it stands still when the driver has died.
   std::uint64_t blocks() const { return blocks_.load(std::memory_order_relaxed); }
+  /// The loudest sample so far, 0 to 1; none when FluidSynth's own driver renders.
+  std::optional<float> peak() const;
+  /// The notes so far that the synthesiser has begun.
+  int notes() const { return notes_.load(std::memory_order_relaxed); }
 
  private:
   void BeginBlock(double now_ms);
@@ -62,6 +67,7 @@ class SynthRenderer {
   void Emit(std::span<const MidiBytes> messages);
   void EmitOne(const MidiBytes& message);
   void ApplyVolume(float* left, float* right, int frames);
+  void NotePeak(const float* left, const float* right, int frames);
   static float Towards(float from, float to, float step);
   static void OnTick(unsigned int time, fluid_event_t* event, fluid_sequencer_t* sequencer,
                      void* self);
@@ -81,6 +87,8 @@ class SynthRenderer {
   std::uint64_t frame_ = 0;
   float fade_ = 1;
   std::atomic<std::uint64_t> blocks_{0};
+  std::atomic<float> peak_{0};
+  std::atomic<int> notes_{0};
 
   std::mutex mutex_;  // guards what follows
   bool silence_ = false;

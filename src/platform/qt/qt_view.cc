@@ -58,6 +58,10 @@ class QtView::MainWindow : public QWidget {
   }
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::ContextMenu && AskMenuPast(watched, *event)) return true;
+    if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
+        view_.AskHelp(static_cast<const QKeyEvent&>(*event))) {
+      return true;
+    }
     if (view_.page_ != nullptr) {
       if (event->type() == QEvent::KeyPress) view_.page_->SetKeyboard(true);
       if (event->type() == QEvent::MouseButtonPress) view_.page_->SetKeyboard(false);
@@ -220,6 +224,15 @@ void QtView::SetPointer(const Form* form) {
   } else {
     QGuiApplication::restoreOverrideCursor();
   }
+}
+
+bool QtView::AskHelp(const QKeyEvent& key) {
+  if (key.key() != Qt::Key_F1 || !on_help || QApplication::activeModalWidget() != nullptr) {
+    return false;
+  }
+  const Form* const form = page_form_;
+  if (form != nullptr && !key.isAutoRepeat()) on_help(form->name());
+  return form != nullptr;
 }
 
 }  // namespace vmod17

@@ -3,12 +3,15 @@
 
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "platform/form_view.h"
 #include "platform/qt/picture_source.h"
 
+class QKeyEvent;
 class QWidget;
 
 namespace vmod17 {
@@ -28,6 +31,10 @@ class QtView : public FormView {
   ~QtView() override;
   QtView(const QtView&) = delete;
   QtView& operator=(const QtView&) = delete;
+
+  /// Called with the name of the screen in front when the user asks for help by F1, from whichever
+  /// window of the program, unless a message waits for an answer.
+  std::function<void(const std::string& form_name)> on_help;
 
   void Attach(Form& form) override;
   void Detach(Form& form) override;
@@ -54,6 +61,7 @@ class QtView : public FormView {
   void Resized();
   void CloseAsked();
   void SetPointer(const Form* form);
+  bool AskHelp(const QKeyEvent& key);
 
   QtEventLoop& loop_;
   PictureSource pictures_;

@@ -26,6 +26,7 @@ constexpr const char* kUserName = "user.name";
 constexpr const char* kUserFirstName = "user.first_name";
 constexpr const char* kLanguage = "language";
 constexpr const char* kMidiDevice = "midi_device";
+constexpr const char* kSoundfont = "soundfont";
 
 DateTime SystemTime() {
   const QDateTime now = QDateTime::currentDateTime();
@@ -248,6 +249,8 @@ void HostStore::SetLanguage(const std::string& language) {
 }
 std::string HostStore::MidiDevice() { return Setting(kMidiDevice); }
 void HostStore::SetMidiDevice(const std::string& name) { ChangeSettings({{kMidiDevice, name}}); }
+std::string HostStore::Soundfont() { return Setting(kSoundfont); }
+void HostStore::SetSoundfont(const std::string& path) { ChangeSettings({{kSoundfont, path}}); }
 
 std::vector<LogEntry> HostStore::Log(int count) {
   std::vector<LogEntry> entries;
@@ -270,6 +273,110 @@ void HostStore::ChangeSettings(const Settings& changes) {
   }
   for (const auto& [name, value] : changes) settings_[name] = value;
 }
+
+// ---- Users
+
+std::vector<StoreUser> HostStore::Users() {
+  std::map<std::string, StoreUser> users;
+  try {
+    WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
+      if (!has_user_table_) return;
+      for (StoreUser& user : tables.Users()) users[user.id] = std::move(user);
+    });
+  } catch (const SqlError& error) {
+    TellUnreadable(error);
+  }
+  for (const auto& [id, change] : pending_users_) {
+    if (change) {
+      users[id] = *change;
+    } else {
+      users.erase(id);
+    }
+  }
+  std::vector<StoreUser> list;
+  for (auto& [id, user] : users) list.push_back(std::move(user));
+  return list;
+}
+
+bool HostStore::IsUser(const std::string& id) {
+  for (const StoreUser& user : Users()) {
+    if (user.id == id) return true;
+  }
+  return false;
+}
+
+bool HostStore::SaveUser(const StoreUser& user, UserIs is) {
+  if (user.id.empty()) {
+    throw RunTimeError(ErrorNumber::kInvalidCall, "a user without a number", "vmod17.HostStore");
+  }
+  const auto pending = pending_users_.find(user.id);
+  if (is == UserIs::kNew && pending != pending_users_.end() && pending->second) return false;
+  bool added = true;
+  const bool written = WriteUser([&](StoreTables& tables) {
+    if (is == UserIs::kNew) {
+      added = tables.AddUser(user);
+    } else {
+      tables.SaveUser(user);
+    }
+  });
+  if (!written && is == UserIs::kNew && IsUser(user.id)) added = false;
+  if (!added) return false;
+  if (written) {
+    pending_users_.erase(user.id);
+  } else {
+    pending_users_[user.id] = user;
+  }
+  if (Setting(kUserId) == user.id) {
+    settings_[kUserName] = user.name;
+    settings_[kUserFirstName] = user.first_name;
+  }
+  return true;
+}
+
+void HostStore::RemoveUser(const std::string& id) {
+  if (WriteUser([&](StoreTables& tables) { tables.RemoveUser(id); })) {
+    pending_users_.erase(id);
+  } else {
+    pending_users_[id] = std::nullopt;
+  }
+  if (Setting(kUserId) == id) settings_[kUserId].clear();
+}
+
+bool HostStore::WriteUser(const Work& work) {
+  try {
+    return WithStore(Patience::kWait, [&](StoreTables& tables) {
+      if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
+      NeedUserTable();
+      work(tables);
+    });
+  } catch (const SqlError& error) {
+    if (error.failure() == SqlFailure::kReadOnly && !has_user_table_) {
+      // Tables may be refused to a role that may well write records.
+      Tell(ReadOnlyStoreNotice(address_->Display()));
+    } else {
+      WriteFailed(error);
+    }
+  }
+  return false;
+}
+
+void HostStore::WritePendingUsers() {
+  while (!pending_users_.empty()) {
+    const auto& [id, change] = *pending_users_.begin();
+    const bool written = WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
+      NeedUserTable();
+      if (change) {
+        tables.SaveUser(*change);
+      } else {
+        tables.RemoveUser(id);
+      }
+    });
+    if (!written) return;
+    pending_users_.erase(pending_users_.begin());
+  }
+}
+
+// ---- Settings
 
 const HostStore::Settings& HostStore::CurrentSettings() {
   if (was_open_) return settings_;
@@ -328,11 +435,12 @@ bool HostStore::WriteRecords(const Records& records) {
 }
 
 void HostStore::WritePending() {
-  if (pending_.empty()) return;
   // In one piece, for what was stored together is among them.
-  const bool written =
-      WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { tables.Write(pending_); });
-  if (written) pending_.clear();
+  if (!pending_.empty() &&
+      WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { tables.Write(pending_); })) {
+    pending_.clear();
+  }
+  WritePendingUsers();
 }
 
 void HostStore::PutAside(const RecordKey& key, const std::string& value) {
@@ -422,11 +530,33 @@ bool HostStore::OpenAnew(int wait_ms) {
     tables_->Create();
     if (!settings_.empty()) tables_->SetSettings(options_.seat, settings_);
   }
+  read_only_ = connection_->IsReadOnly();
+  has_user_table_ = version.value_or(kStoreVersion) >= kStoreVersion || TryToUpgrade();
   if (!was_open_) settings_ = tables_->Settings(options_.seat);
   was_open_ = true;
-  read_only_ = connection_->IsReadOnly();
   if (read_only_) Tell(ReadOnlyStoreNotice(address_->Display()));
   return true;
+}
+
+/// A store of an older version has all but the list of users, so it serves also where it cannot be
+/// changed at the moment.
+bool HostStore::TryToUpgrade() {
+  if (read_only_) return false;
+  try {
+    tables_->Upgrade();
+    return true;
+  } catch (const SqlError& error) {
+    if (error.failure() == SqlFailure::kReadOnly || error.failure() == SqlFailure::kFull) {
+      return false;
+    }
+    throw;
+  }
+}
+
+void HostStore::NeedUserTable() {
+  if (has_user_table_) return;
+  tables_->Upgrade();
+  has_user_table_ = true;
 }
 
 bool HostStore::Recover(const SqlError& error) {

@@ -18,6 +18,7 @@
 #include "platform/host_service.h"
 #include "platform/notice.h"
 #include "platform/store/log_entry.h"
+#include "platform/store/store_user.h"
 
 namespace vmod17 {
 
@@ -26,14 +27,6 @@ class SqlError;
 class StoreTables;
 struct RecordKey;
 struct StoreAddress;
-
-struct StoreUser {
-  std::string id;  ///< matriculation number; "" for nobody, whatever the names
-  std::string name;
-  std::string first_name;
-
-  bool operator==(const StoreUser&) const = default;
-};
 
 /// What a `HostStore` is made with. A function that is not given never has an answer.
 struct StoreOptions {
@@ -78,6 +71,7 @@ struct StoreOptions {
 /// |                          |                           | next "STORE" and at the end          |
 /// | cut off after the start  | false                     | the same                             |
 /// | broken                   | put aside, a new one made | in the new one                       |
+/// | of an older version      | made into one of this version, in one transaction                |
 /// | of a newer version       | nothing stored            | in memory; the store is left alone   |
 /// | not to be opened         | nothing stored            | in memory                            |
 ///
@@ -105,6 +99,23 @@ class HostStore {
   /// Name of the MIDI output, "" for the last of the list.
   std::string MidiDevice();
   void SetMidiDevice(const std::string& name);
+  /// Path of the soundfont that the user has chosen, "" for the system's.
+  std::string Soundfont();
+  void SetSoundfont(const std::string& path);
+
+  /// Who can be chosen, in no order; all seats of a store share them. None when the store cannot be
+  /// read, or is of an older version and cannot be changed.
+  std::vector<StoreUser> Users();
+  enum class UserIs { kNew, kKnown };
+  /// Adds a user or changes the names of one, wherever they are kept. What the store does not take
+  /// is kept in memory, like a record. Returns false when a new user's number is another's already.
+  /// Errors: RunTimeError kInvalidCall for a user without a number, kStore while the store is
+  /// locked.
+  bool SaveUser(const StoreUser& user, UserIs is);
+  /// Takes a user off the list; one who was chosen gives way to nobody. What he has stored stays,
+  /// and is his again when he is added again. Errors: RunTimeError kStore while the store is
+  /// locked.
+  void RemoveUser(const std::string& id);
 
   /// The newest `count` log lines, oldest first; none when the store cannot be read.
   std::vector<LogEntry> Log(int count);
@@ -116,6 +127,7 @@ class HostStore {
   using Settings = std::map<std::string, std::string>;
   using Records = std::map<RecordKey, std::string>;
   using Work = std::function<void(StoreTables&)>;
+  using UserChange = std::optional<StoreUser>;  // no value: removed
 
   bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result);
   void Together(const std::function<void()>& stores);
@@ -135,12 +147,17 @@ class HostStore {
   bool Repair();
   bool IsFile() const;
   bool WasReplaced() const;
+  bool TryToUpgrade();
+  void NeedUserTable();
 
   RecordKey KeyOf(const TaggedValue& args, Patience patience);
   std::optional<std::string> Unwritten(const RecordKey& key) const;
   void Keep(const Records& records);
   bool WriteRecords(const Records& records);
   void WritePending();
+  bool WriteUser(const Work& work);
+  bool IsUser(const std::string& id);
+  void WritePendingUsers();
   void PutAside(const RecordKey& key, const std::string& value);
   void ChangeSettings(const Settings& changes);
   const Settings& CurrentSettings();
@@ -157,12 +174,14 @@ class HostStore {
   State state_ = State::kClosed;
   bool was_open_ = false;
   bool read_only_ = false;
+  bool has_user_table_ = false;
   bool waited_in_vain_ = false;
   int wait_ms_ = 0;                                   // as set in the connection
   std::pair<std::uint64_t, std::uint64_t> identity_;  // of the file that is open
   Settings settings_;
-  std::optional<Records> together_;     // what was stored so far, while `Together` runs
-  Records pending_;                     // what the database did not take
+  std::optional<Records> together_;  // what was stored so far, while `Together` runs
+  Records pending_;                  // what the database did not take
+  std::map<std::string, UserChange> pending_users_;
   std::int64_t log_bytes_to_trim_ = 0;  // 0: before the next line
   std::set<int> told_;
 };

@@ -4,6 +4,7 @@
 #include "platform/store/store_address.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
@@ -19,6 +20,14 @@ std::string UserDataFolder() {
 std::string StoreAddress::Display() const {
   if (kind == Kind::kFile) return path.toStdString();
   return server.toDisplayString(QUrl::RemovePassword | QUrl::RemoveQuery).toStdString();
+}
+
+std::string StoreAddress::Identity() const {
+  if (kind == Kind::kServer) return Display();
+  const QFileInfo file(path);
+  const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+  const QString whole = folder.isEmpty() ? file.absoluteFilePath() : folder + '/' + file.fileName();
+  return whole.toStdString();
 }
 
 StoreAddress ParseStoreAddress(const std::string& address) {

@@ -24,6 +24,8 @@ struct StoreAddress {
 
   /// Name of the place for the user's eyes: the path, or the address without its password.
   std::string Display() const;
+  /// The same for all ways to write down one place.
+  std::string Identity() const;
 };
 
 /// Reads an address: "" is the file `store.sqlite` in `UserDataFolder()`, what begins with

@@ -42,6 +42,12 @@ LogEntry EntryOf(const QSqlQuery& row) {
   return entry;
 }
 
+QString MakeUserTable() {
+  return QStringLiteral(
+      "CREATE TABLE melvado_user (user_id TEXT PRIMARY KEY, name TEXT NOT NULL, "
+      "first_name TEXT NOT NULL)");
+}
+
 }  // namespace
 
 std::optional<std::int64_t> StoreTables::Version() {
@@ -69,6 +75,7 @@ void StoreTables::Create() {
                      "text TEXT NOT NULL, source TEXT NOT NULL, total BIGINT NOT NULL)")
           .arg(connection_.RowNumberType()),
       QStringLiteral("CREATE INDEX melvado_log_total ON melvado_log (total)"),
+      MakeUserTable(),
   };
   connection_.InTransaction([&] {
     connection_.LockSchema();
@@ -76,6 +83,26 @@ void StoreTables::Create() {
     for (const QString& statement : statements) connection_.Run(statement);
     connection_.Run(QStringLiteral("INSERT INTO melvado_meta VALUES ('schema_version', ?)"),
                     {QString::number(kStoreVersion)});
+  });
+}
+
+void StoreTables::Upgrade() {
+  connection_.SetSync(SqlConnection::Sync::kToDisk);
+  connection_.InTransaction([&] {
+    connection_.LockSchema();
+    if (Version().value_or(kStoreVersion) >= kStoreVersion) return;
+    connection_.Run(MakeUserTable());
+    connection_.Run(QStringLiteral(
+        "INSERT INTO melvado_user (user_id, name, first_name) "
+        "SELECT chosen.value, COALESCE(MAX(name.value), ''), COALESCE(MAX(first.value), '') "
+        "FROM melvado_setting chosen "
+        "LEFT JOIN melvado_setting name ON name.seat = chosen.seat AND name.name = 'user.name' "
+        "LEFT JOIN melvado_setting first "
+        "ON first.seat = chosen.seat AND first.name = 'user.first_name' "
+        "WHERE chosen.name = 'user.id' AND chosen.value <> '' GROUP BY chosen.value"));
+    connection_.Run(
+        QStringLiteral("UPDATE melvado_meta SET value = ? WHERE name = 'schema_version'"),
+        {QString::number(kStoreVersion)});
   });
 }
 
@@ -129,6 +156,52 @@ void StoreTables::SetSettings(const std::string& seat,
                                      "DO UPDATE SET value = excluded.value"),
                       {Text(seat), Text(name), Text(value)});
     }
+  });
+}
+
+std::vector<StoreUser> StoreTables::Users() {
+  std::vector<StoreUser> users;
+  QSqlQuery row =
+      connection_.Run(QStringLiteral("SELECT user_id, name, first_name FROM melvado_user"));
+  const auto text = [&row](int column) { return row.value(column).toString().toStdString(); };
+  while (row.next()) users.push_back({text(0), text(1), text(2)});
+  return users;
+}
+
+bool StoreTables::AddUser(const StoreUser& user) {
+  connection_.SetSync(SqlConnection::Sync::kToDisk);
+  return connection_
+             .Run(QStringLiteral("INSERT INTO melvado_user (user_id, name, first_name) "
+                                 "VALUES (?, ?, ?) ON CONFLICT (user_id) DO NOTHING"),
+                  {Text(user.id), Text(user.name), Text(user.first_name)})
+             .numRowsAffected() == 1;
+}
+
+void StoreTables::SaveUser(const StoreUser& user) {
+  const auto in_seats = [&](const char* setting, const std::string& value) {
+    connection_.Run(QStringLiteral("UPDATE melvado_setting SET value = ? WHERE name = ? "
+                                   "AND seat IN (SELECT seat FROM melvado_setting "
+                                   "WHERE name = 'user.id' AND value = ?)"),
+                    {Text(value), QString::fromLatin1(setting), Text(user.id)});
+  };
+  connection_.SetSync(SqlConnection::Sync::kToDisk);
+  connection_.InTransaction([&] {
+    connection_.Run(QStringLiteral("INSERT INTO melvado_user (user_id, name, first_name) "
+                                   "VALUES (?, ?, ?) ON CONFLICT (user_id) DO UPDATE SET "
+                                   "name = excluded.name, first_name = excluded.first_name"),
+                    {Text(user.id), Text(user.name), Text(user.first_name)});
+    in_seats("user.name", user.name);
+    in_seats("user.first_name", user.first_name);
+  });
+}
+
+void StoreTables::RemoveUser(const std::string& id) {
+  connection_.SetSync(SqlConnection::Sync::kToDisk);
+  connection_.InTransaction([&] {
+    connection_.Run(QStringLiteral("DELETE FROM melvado_user WHERE user_id = ?"), {Text(id)});
+    connection_.Run(QStringLiteral("UPDATE melvado_setting SET value = '' "
+                                   "WHERE name = 'user.id' AND value = ?"),
+                    {Text(id)});
   });
 }
 

@@ -11,12 +11,13 @@
 
 #include "platform/store/log_entry.h"
 #include "platform/store/sql_connection.h"
+#include "platform/store/store_user.h"
 
 namespace vmod17 {
 
 /// Version of the tables. A program reads and writes a store of this version alone and makes an
 /// older one into it; it leaves a newer one as it is.
-inline constexpr std::int64_t kStoreVersion = 1;
+inline constexpr std::int64_t kStoreVersion = 2;
 
 /// Whose record it is, and which. `user` is "" for the records of nobody.
 struct RecordKey {
@@ -29,7 +30,7 @@ struct RecordKey {
 
 using Records = std::map<RecordKey, std::string>;
 
-/// The four tables of a store and the statements on them:
+/// The five tables of a store and the statements on them:
 ///
 /// | table           | one row for                                                       |
 /// |-----------------|-------------------------------------------------------------------|
@@ -37,6 +38,7 @@ using Records = std::map<RecordKey, std::string>;
 /// | melvado_record  | a stored value, by user, program and key                          |
 /// | melvado_setting | a setting, by seat and name                                       |
 /// | melvado_log     | a log line; `total` is the size of all lines up to and with it    |
+/// | melvado_user    | a user who can be chosen, by number; since version 2              |
 ///
 /// Every writing member is one committed transaction. Names and lines are kept as UTF-8 text, in
 /// which invalid bytes and NUL become U+FFFD. Errors: SqlError, of all members.
@@ -48,6 +50,9 @@ class StoreTables {
   std::optional<std::int64_t> Version();
   /// Makes the tables, if nobody else has made them meanwhile.
   void Create();
+  /// Makes a store of an older version into one of this version, if nobody else has done it
+  /// meanwhile. Whoever is chosen in the settings of a seat becomes a user of the store.
+  void Upgrade();
 
   std::optional<std::string> Read(const RecordKey& key);
   /// Writes all of them or none.
@@ -58,6 +63,14 @@ class StoreTables {
   std::map<std::string, std::string> Settings(const std::string& seat);
   /// Writes all of them or none.
   void SetSettings(const std::string& seat, const std::map<std::string, std::string>& settings);
+
+  std::vector<StoreUser> Users();
+  /// False, and nothing is done, when there is a user of this number.
+  bool AddUser(const StoreUser& user);
+  /// Writes the user's names into the list and into the settings of every seat that has chosen him.
+  void SaveUser(const StoreUser& user);
+  /// Takes the user off the list and from the seats that have chosen him. His records stay.
+  void RemoveUser(const std::string& id);
 
   /// Returns how many bytes the line counts for.
   std::int64_t AppendLog(const LogEntry& entry);

@@ -142,7 +142,9 @@ TEST(MidiDeviceOutput, TakesTheNextSoundfontAfterADamagedOne) {
   options.usual_soundfonts.insert(options.usual_soundfonts.begin(), noise.path());
   RenderedOutput rendered(options);
   EXPECT_GT(PlayOneNote(rendered), 0.02f);
-  EXPECT_THAT(rendered.notices, IsEmpty());
+  ASSERT_THAT(rendered.notices, SizeIs(1));
+  EXPECT_EQ(rendered.notices[0].text_id, 9157);
+  EXPECT_EQ(rendered.notices[0].details[0], damaged.path());
 }
 
 TEST(MidiDeviceOutput, TakesASoundfontThatIsBrokenOffForDamaged) {

@@ -11,6 +11,23 @@
 namespace vmod17 {
 namespace {
 
+TEST(MidiPortNames, LoseTheAddressThatChangesWithEachPlugging) {
+  EXPECT_EQ(LastingPortName("Midi Through:Midi Through Port-0 14:0"),
+            "Midi Through:Midi Through Port-0");
+  for (const char* name : {"Piano", "Piano 2", "Piano 2:", "Piano :2", "Piano a:0", "14:0", " 14:0",
+                           "Piano 14:0 (2)", ""}) {
+    EXPECT_EQ(LastingPortName(name), name);
+  }
+}
+
+TEST(MidiPortNames, AreFoundWholeBeforeInParts) {
+  const std::vector<std::string> names = {"Piano 2", "Piano", "Synthesizer"};
+  EXPECT_EQ(FindDevice(names, "Piano"), 1);
+  EXPECT_EQ(FindDevice(names, "Piano 24:0"), 1);
+  EXPECT_EQ(FindDevice(names, "Synth"), 2);
+  EXPECT_EQ(FindDevice(names, "Organ"), std::nullopt);
+}
+
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;

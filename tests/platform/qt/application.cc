@@ -12,6 +12,8 @@ namespace {
 class ApplicationEnvironment : public testing::Environment {
  public:
   void SetUp() override {
+    // The same letters on every machine, and no windows in the way of who runs the tests.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QApplication>(count_, arguments_);
     // The tests compare with pixels.
     QApplication::setStyle("Fusion");

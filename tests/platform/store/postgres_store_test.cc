@@ -14,6 +14,7 @@
 #include "postgres_server.h"
 #include "store_process.h"
 #include "store_testing.h"
+#include "user_list_contract.h"
 
 namespace vmod17 {
 namespace {
@@ -26,6 +27,19 @@ auto* const kServer =
 INSTANTIATE_TEST_SUITE_P(PostgresStore, HostContract, ::testing::Values([] {
                            return std::make_unique<HostStoreUnderTest>(kServer->NewDatabase());
                          }));
+
+class ServerStoreForUsers : public StoreForUsers {
+ public:
+  std::string Address() override { return address_; }
+  void Run(const QString& statement) override { kServer->Run(database_, statement); }
+
+ private:
+  std::string address_ = kServer->NewDatabase();
+  QString database_ = kServer->LatestDatabase();
+};
+
+INSTANTIATE_TEST_SUITE_P(PostgresStore, UserListContract,
+                         ::testing::Values([] { return std::make_unique<ServerStoreForUsers>(); }));
 
 class PostgresStore : public ::testing::Test {
  protected:
@@ -95,7 +109,7 @@ TEST_F(PostgresStore, LeavesAStoreOfANewerVersionUntouched) {
     HostStore store(Options());
     StoreValue(store, "E1", Array{"future"});
   }
-  Run("UPDATE melvado_meta SET value = '2'");
+  Run("UPDATE melvado_meta SET value = '3'");
   {
     HostStore store(Options());
     EXPECT_EQ(ReadValue(store, "E1"), NothingStored());
@@ -104,10 +118,29 @@ TEST_F(PostgresStore, LeavesAStoreOfANewerVersionUntouched) {
     EXPECT_FALSE(LogLine(store, "line"));
   }
   EXPECT_EQ(Ids(notices_), std::vector<int>{9101});
-  Run("UPDATE melvado_meta SET value = '1'");
+  Run("UPDATE melvado_meta SET value = '2'");
   HostStore store(Options());
   EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"future"}));
   EXPECT_TRUE(store.Log(10).empty());
+}
+
+TEST_F(PostgresStore, ShowsAllSeatsTheSameUsersAndLetsEachChooseItsOwn) {
+  StoreOptions left = Options();
+  left.seat = "left";
+  HostStore at_left(std::move(left));
+  StoreOptions right = Options();
+  right.seat = "right";
+  HostStore at_right(std::move(right));
+  at_left.SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew);
+  at_left.SetUser({"4711", "Berg", "Anna"});
+  EXPECT_EQ(at_right.Users(), (std::vector<StoreUser>{{"4711", "Berg", "Anna"}}));
+  EXPECT_EQ(at_right.User(), std::nullopt);
+  EXPECT_FALSE(at_right.SaveUser({"4711", "Tal", "Ida"}, HostStore::UserIs::kNew));
+  at_right.SaveUser({"4711", "Berg-Tal", "Anna"}, HostStore::UserIs::kKnown);
+  StoreOptions again = Options();
+  again.seat = "left";
+  HostStore at_left_again(std::move(again));
+  EXPECT_EQ(at_left_again.User(), (StoreUser{"4711", "Berg-Tal", "Anna"}));
 }
 
 TEST_F(PostgresStore, RaisesWhenALockIsNotReleasedInTimeAndLosesNothing) {

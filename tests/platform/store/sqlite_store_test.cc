@@ -13,6 +13,7 @@
 #include "platform/store/store_address.h"
 #include "store_testing.h"
 #include "support/host_contract.h"
+#include "user_list_contract.h"
 
 namespace vmod17 {
 namespace {
@@ -39,6 +40,28 @@ class FileStoreUnderTest : public HostUnderTest {
 
 INSTANTIATE_TEST_SUITE_P(SqliteStore, HostContract,
                          ::testing::Values([] { return std::make_unique<FileStoreUnderTest>(); }));
+
+class FileStoreForUsers : public StoreForUsers {
+ public:
+  std::string Address() override { return (folder_ / "store.sqlite").toStdString(); }
+  void Run(const QString& statement) override {
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "users");
+    database.setDatabaseName(QString::fromStdString(Address()));
+    EXPECT_TRUE(database.open());
+    {
+      QSqlQuery query(database);
+      EXPECT_TRUE(query.exec(statement)) << statement.toStdString();
+    }
+    database = QSqlDatabase();
+    QSqlDatabase::removeDatabase("users");
+  }
+
+ private:
+  ScratchFolder folder_;
+};
+
+INSTANTIATE_TEST_SUITE_P(SqliteStore, UserListContract,
+                         ::testing::Values([] { return std::make_unique<FileStoreForUsers>(); }));
 
 class SqliteStore : public ::testing::Test {
  protected:
@@ -211,7 +234,7 @@ TEST_F(SqliteStore, CarriesAVersionFromItsFirstDay) {
   {
     QSqlQuery row("SELECT value FROM melvado_meta WHERE name = 'schema_version'", database);
     ASSERT_TRUE(row.next());
-    EXPECT_EQ(row.value(0).toString(), "1");
+    EXPECT_EQ(row.value(0).toString(), "2");
   }
   database = QSqlDatabase();
   QSqlDatabase::removeDatabase("version");

@@ -36,6 +36,8 @@ class Helper {
     if (command == "read") return Read(words);
     if (command == "log") return Log(words);
     if (command == "notices") return Notices();
+    if (command == "add") return Add(words);
+    if (command == "users") return Users();
     if (command == "nobody") return BecomeNobody();
     if (command == "limit") return LimitFiles(words);
     if (command == "loop") StoreForEver(words);
@@ -102,6 +104,20 @@ class Helper {
     TaggedValue result;
     if (!store_->Service()->Action("READ", Array{"vmod17", key}, result)) return "false";
     return result[0].String() + ' ' + std::to_string(result.Elements().size());
+  }
+
+  // add NUMBER NAME
+  std::string Add(std::istringstream& words) {
+    StoreUser user;
+    words >> user.id >> user.name;
+    return store_->SaveUser(user, HostStore::UserIs::kNew) ? "added" : "taken";
+  }
+
+  // their numbers
+  std::string Users() {
+    std::string all;
+    for (const StoreUser& user : store_->Users()) all += user.id + ' ';
+    return all;
   }
 
   std::string Log(std::istringstream& words) {

@@ -72,6 +72,23 @@ TEST_F(SharedStore, TakesEverythingFromProcessesThatStartAndWriteAtOnce) {
   EXPECT_TRUE(notices_.empty());
 }
 
+TEST_F(SharedStore, GivesANumberToOneOfTwoProcessesOnly) {
+  StoreProcess first;
+  StoreProcess second;
+  for (StoreProcess* process : {&first, &second}) {
+    process->Say("open " + Path() + " 30000");
+    for (int n = 0; n < 10; ++n) process->Say(QString("add %1 Berg").arg(n));
+  }
+  first.Hear();
+  second.Hear();
+  for (int n = 0; n < 10; ++n) {
+    const QStringList answers = {first.Hear(), second.Hear()};
+    EXPECT_EQ(answers.count("added"), 1) << n;
+    EXPECT_EQ(answers.count("taken"), 1) << n;
+  }
+  EXPECT_EQ(first.Ask("users"), second.Ask("users"));
+}
+
 TEST_F(SharedStore, HoldsAWholeValueWheneverTheProcessIsKilled) {
   std::mt19937 random(20260309);
   std::uniform_int_distribution<int> lines(0, 6);

@@ -87,7 +87,7 @@ TEST_F(TroubledStore, LeavesAStoreOfANewerVersionUntouched) {
   MakeStoreWith(Array{"from the future"});
   {
     OtherHand hand(Path());
-    hand.Run("UPDATE melvado_meta SET value = '2' WHERE name = 'schema_version'");
+    hand.Run("UPDATE melvado_meta SET value = '3' WHERE name = 'schema_version'");
     hand.Run("ALTER TABLE melvado_record ADD COLUMN more TEXT");
   }
   const QByteArray before = Content(Path());
@@ -99,6 +99,11 @@ TEST_F(TroubledStore, LeavesAStoreOfANewerVersionUntouched) {
     LogLine(store, "line");
     store.SetLanguage("English");
     EXPECT_EQ(store.Language(), "English");
+    EXPECT_TRUE(store.SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew));
+    EXPECT_FALSE(store.SaveUser({"4711", "Tal", "Ida"}, HostStore::UserIs::kNew));
+    EXPECT_EQ(store.Users(), (std::vector<StoreUser>{{"4711", "Berg", "Anna"}}));
+    store.RemoveUser("4711");
+    EXPECT_TRUE(store.Users().empty());
   }
   EXPECT_EQ(Content(Path()), before);
   EXPECT_EQ(folder_.Names(), QStringList{"store.sqlite"});
@@ -322,6 +327,45 @@ TEST_F(TroubledStore, PutsAsideARecordThatIsDamagedAndKeepsTheOthers) {
   EXPECT_EQ(Ids(notices_), std::vector<int>{9107});
   ASSERT_FALSE(store.Log(10).empty());
   EXPECT_EQ(store.Log(10)[0].number, ErrorNumber::kStore);
+}
+
+// ---- Users
+
+TEST_F(TroubledStore, KeepsAUserWhomALockKeptOutForTheNextTime) {
+  HostStore store(Options());
+  store.SaveUser({"1", "Tal", "Ida"}, HostStore::UserIs::kNew);
+  OtherHand hand(Path());
+  hand.Run("BEGIN IMMEDIATE");
+  try {
+    store.SaveUser({"2", "Berg", "Anna"}, HostStore::UserIs::kNew);
+    ADD_FAILURE() << "saved in spite of the lock";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number(), ErrorNumber::kStore);
+  }
+  EXPECT_EQ(store.Users().size(), 1u);
+  hand.Run("COMMIT");
+  EXPECT_TRUE(store.SaveUser({"2", "Berg", "Anna"}, HostStore::UserIs::kNew));
+  EXPECT_EQ(store.Users().size(), 2u);
+}
+
+TEST_F(TroubledStore, ReadsAStoreOfAnOlderVersionThatItCannotChange) {
+  MakeStoreWith(Array{"old"});
+  {
+    OtherHand hand(Path());
+    hand.Run("DROP TABLE melvado_user");
+    hand.Run("UPDATE melvado_meta SET value = '1' WHERE name = 'schema_version'");
+  }
+  ASSERT_TRUE(QFile::setPermissions(Path(), QFileDevice::ReadOwner | QFileDevice::ReadOther));
+  const QByteArray before = Content(Path());
+  StoreProcess process;
+  ASSERT_EQ(process.Ask("nobody"), "nobody");
+  process.Ask("open " + Path() + " 20");
+  EXPECT_EQ(process.Ask("read E1"), "old 1");
+  EXPECT_EQ(process.Ask("users"), "");
+  EXPECT_EQ(process.Ask("add 4711 Berg"), "added");
+  EXPECT_EQ(process.Ask("users"), "4711");
+  EXPECT_EQ(process.Ask("notices"), "9104");
+  EXPECT_EQ(Content(Path()), before);
 }
 
 // ---- Not to be opened or written

@@ -1,0 +1,981 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Melvado authors -->
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<TS version="2.1" language="zh_CN">
+<context>
+    <name></name>
+    <message id="1s">
+        <source></source>
+        <translation>打印</translation>
+    </message>
+    <message id="2s">
+        <source></source>
+        <translation>（适用于四至七音和弦及双手和弦排列）</translation>
+    </message>
+    <message id="6s">
+        <source></source>
+        <extracomment>first part of the version line, before 699 and the number</extracomment>
+        <translation>vmod17</translation>
+    </message>
+    <message id="8s">
+        <source></source>
+        <extracomment>second line of the question 495</extracomment>
+        <translation>（之前保存的进度将被替换。）</translation>
+    </message>
+    <message id="41s">
+        <source></source>
+        <extracomment>a number from 2 to 5 stands before it</extracomment>
+        <translation>个八度</translation>
+    </message>
+    <message id="45s">
+        <source></source>
+        <translation>双手和弦排列</translation>
+    </message>
+    <message id="49s">
+        <source></source>
+        <translation>三至七音和弦</translation>
+    </message>
+    <message id="51s">
+        <source></source>
+        <translation>三和弦</translation>
+    </message>
+    <message id="56s">
+        <source></source>
+        <translation>四至七音和弦／双手和弦排列：判断和弦类别</translation>
+    </message>
+    <message id="57s">
+        <source></source>
+        <translation>四音和弦</translation>
+    </message>
+    <message id="60s">
+        <source></source>
+        <translation>五音和弦</translation>
+    </message>
+    <message id="62s">
+        <source></source>
+        <translation>六音和弦</translation>
+    </message>
+    <message id="64s">
+        <source></source>
+        <translation>七音和弦</translation>
+    </message>
+    <message id="78s">
+        <source></source>
+        <extracomment>how one task follows another</extracomment>
+        <translation>出题方式</translation>
+    </message>
+    <message id="84s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>下行</translation>
+    </message>
+    <message id="87s">
+        <source></source>
+        <extracomment>whether the root is accented</extracomment>
+        <translation>和弦根音</translation>
+    </message>
+    <message id="88s">
+        <source></source>
+        <extracomment>chords in one task</extracomment>
+        <translation>和弦数量</translation>
+    </message>
+    <message id="95s">
+        <source></source>
+        <extracomment>heading of the list of chords; 700 follows</extracomment>
+        <translation>和弦</translation>
+    </message>
+    <message id="97s">
+        <source></source>
+        <extracomment>what is asked for</extracomment>
+        <translation>和弦</translation>
+    </message>
+    <message id="107s">
+        <source></source>
+        <translation>音域</translation>
+    </message>
+    <message id="109s">
+        <source></source>
+        <extracomment>a blank and 700 follow</extracomment>
+        <translation>用户</translation>
+    </message>
+    <message id="114s">
+        <source></source>
+        <translation>和弦显示</translation>
+    </message>
+    <message id="116s">
+        <source></source>
+        <translation>琶音速度</translation>
+    </message>
+    <message id="129s">
+        <source></source>
+        <extracomment>" 1" follows</extracomment>
+        <translation>题目</translation>
+    </message>
+    <message id="130s">
+        <source></source>
+        <translation>训练完成</translation>
+    </message>
+    <message id="133s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>上行</translation>
+    </message>
+    <message id="135s">
+        <source></source>
+        <translation>已选</translation>
+    </message>
+    <message id="136s">
+        <source></source>
+        <translation>自由练习</translation>
+    </message>
+    <message id="138s">
+        <source></source>
+        <translation>和弦材料</translation>
+    </message>
+    <message id="139s">
+        <source></source>
+        <extracomment>on the OK button while the selection is incomplete</extracomment>
+        <translation>请选择??</translation>
+    </message>
+    <message id="140s">
+        <source></source>
+        <translation>可选</translation>
+    </message>
+    <message id="141s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>可选</translation>
+    </message>
+    <message id="142s">
+        <source></source>
+        <extracomment>the tasks follow by themselves</extracomment>
+        <translation>自动</translation>
+    </message>
+    <message id="153s">
+        <source></source>
+        <translation>音区</translation>
+    </message>
+    <message id="154s">
+        <source></source>
+        <translation>听辨</translation>
+    </message>
+    <message id="156s">
+        <source></source>
+        <translation>有重音</translation>
+    </message>
+    <message id="160s">
+        <source></source>
+        <translation>构成</translation>
+    </message>
+    <message id="189s">
+        <source></source>
+        <extracomment>a blank and 700 follow</extracomment>
+        <translation>日期</translation>
+    </message>
+    <message id="194s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>直接</translation>
+    </message>
+    <message id="196s">
+        <source></source>
+        <translation>无法读取已保存的设置。请开始新的训练。</translation>
+    </message>
+    <message id="199s">
+        <source></source>
+        <extracomment>short form of 201 for a small label</extracomment>
+        <translation>变化属七</translation>
+    </message>
+    <message id="200s">
+        <source></source>
+        <translation>属七和弦</translation>
+    </message>
+    <message id="201s">
+        <source></source>
+        <translation>变化属七和弦</translation>
+    </message>
+    <message id="221s">
+        <source></source>
+        <extracomment>window title of the settings screen, after 348 and 700; begins with the blank after 700</extracomment>
+        <translation>设置</translation>
+    </message>
+    <message id="223s">
+        <source></source>
+        <translation>退出</translation>
+    </message>
+    <message id="224s">
+        <source></source>
+        <extracomment>window title of the results screen, after 348 and 700; begins with the blank after 700</extracomment>
+        <translation>结果</translation>
+    </message>
+    <message id="232s">
+        <source></source>
+        <translation>错误</translation>
+    </message>
+    <message id="238s">
+        <source></source>
+        <translation>固定（a¹ = 440 Hz）</translation>
+    </message>
+    <message id="243s">
+        <source></source>
+        <translation>标准音高</translation>
+    </message>
+    <message id="275s">
+        <source></source>
+        <translation>总成绩</translation>
+    </message>
+    <message id="277s">
+        <source></source>
+        <extracomment>of the root of the tasks and of the timbre</extracomment>
+        <translation>固定</translation>
+    </message>
+    <message id="278s">
+        <source></source>
+        <translation>同时（无琶音）</translation>
+    </message>
+    <message id="287s">
+        <source></source>
+        <extracomment>window title of the first screen, after 347 and 700; begins with the blank after 700</extracomment>
+        <translation>开始</translation>
+    </message>
+    <message id="297s">
+        <source></source>
+        <translation>根音</translation>
+    </message>
+    <message id="301s">
+        <source></source>
+        <extracomment>what is asked for</extracomment>
+        <translation>类别</translation>
+    </message>
+    <message id="302s">
+        <source></source>
+        <translation>和弦类别</translation>
+    </message>
+    <message id="312s">
+        <source></source>
+        <translation>半减七和弦</translation>
+    </message>
+    <message id="319s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>高</translation>
+    </message>
+    <message id="347s">
+        <source></source>
+        <extracomment>title of the module</extracomment>
+        <translation>爵士和弦听辨</translation>
+    </message>
+    <message id="348s">
+        <source></source>
+        <extracomment>title of the exercise</extracomment>
+        <translation>爵士和弦听辨</translation>
+    </message>
+    <message id="364s">
+        <source></source>
+        <translation>和弦音数</translation>
+    </message>
+    <message id="365s">
+        <source></source>
+        <translation>音色</translation>
+    </message>
+    <message id="366s">
+        <source></source>
+        <translation>试听</translation>
+    </message>
+    <message id="371s">
+        <source></source>
+        <translation>慢</translation>
+    </message>
+    <message id="372s">
+        <source></source>
+        <translation>音量</translation>
+    </message>
+    <message id="374s">
+        <source></source>
+        <extracomment>a number follows</extracomment>
+        <translation>编号：</translation>
+    </message>
+    <message id="379s">
+        <source></source>
+        <translation>大七和弦</translation>
+    </message>
+    <message id="380s">
+        <source></source>
+        <translation>变化大七和弦</translation>
+    </message>
+    <message id="383s">
+        <source></source>
+        <extracomment>the next task is asked for</extracomment>
+        <translation>手动</translation>
+    </message>
+    <message id="394s">
+        <source></source>
+        <translation>分</translation>
+    </message>
+    <message id="395s">
+        <source></source>
+        <translation>至少选 1 项！</translation>
+    </message>
+    <message id="396s">
+        <source></source>
+        <translation>至少选 2 项！</translation>
+    </message>
+    <message id="400s">
+        <source></source>
+        <translation>中等</translation>
+    </message>
+    <message id="409s">
+        <source></source>
+        <translation>小七和弦</translation>
+    </message>
+    <message id="410s">
+        <source></source>
+        <translation>小调主和弦</translation>
+    </message>
+    <message id="420s">
+        <source></source>
+        <translation>下一题</translation>
+    </message>
+    <message id="424s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>低</translation>
+    </message>
+    <message id="426s">
+        <source></source>
+        <extracomment>a blank and a number follow</extracomment>
+        <translation>No.</translation>
+    </message>
+    <message id="429s">
+        <source></source>
+        <translation>仅和弦标记</translation>
+    </message>
+    <message id="432s">
+        <source></source>
+        <translation>确定</translation>
+    </message>
+    <message id="438s">
+        <source></source>
+        <translation>考试</translation>
+    </message>
+    <message id="461s">
+        <source></source>
+        <extracomment>the minutes with 394 and the seconds with 480 follow</extracomment>
+        <translation>剩余时间：</translation>
+    </message>
+    <message id="462s">
+        <source></source>
+        <extracomment>a blank and a number follow</extracomment>
+        <translation>剩余题数：</translation>
+    </message>
+    <message id="468s">
+        <source></source>
+        <translation>正确</translation>
+    </message>
+    <message id="469s">
+        <source></source>
+        <extracomment>of an arpeggio</extracomment>
+        <translation>方向</translation>
+    </message>
+    <message id="470s">
+        <source></source>
+        <translation>快</translation>
+    </message>
+    <message id="476s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>很高</translation>
+    </message>
+    <message id="477s">
+        <source></source>
+        <translation>很慢</translation>
+    </message>
+    <message id="478s">
+        <source></source>
+        <extracomment>not shown at present</extracomment>
+        <translation>很低</translation>
+    </message>
+    <message id="479s">
+        <source></source>
+        <translation>很快</translation>
+    </message>
+    <message id="480s">
+        <source></source>
+        <translation>秒</translation>
+    </message>
+    <message id="495s">
+        <source></source>
+        <translation>要保存训练进度吗？</translation>
+    </message>
+    <message id="496s">
+        <source></source>
+        <translation>弹奏</translation>
+    </message>
+    <message id="499s">
+        <source></source>
+        <extracomment>a number from 1 to 7 follows</extracomment>
+        <translation>声部</translation>
+    </message>
+    <message id="507s">
+        <source></source>
+        <translation>音符 + 和弦标记</translation>
+    </message>
+    <message id="547s">
+        <source></source>
+        <translation>速度</translation>
+    </message>
+    <message id="550s">
+        <source></source>
+        <translation>测验</translation>
+    </message>
+    <message id="551s">
+        <source></source>
+        <translation>显示测验状态</translation>
+    </message>
+    <message id="552s">
+        <source></source>
+        <translation>隐藏测验状态</translation>
+    </message>
+    <message id="564s">
+        <source></source>
+        <translation>训练（新）</translation>
+    </message>
+    <message id="565s">
+        <source></source>
+        <translation>训练（继续）</translation>
+    </message>
+    <message id="566s">
+        <source></source>
+        <translation>训练进度</translation>
+    </message>
+    <message id="586s">
+        <source></source>
+        <translation>练习类型</translation>
+    </message>
+    <message id="587s">
+        <source></source>
+        <translation>练习模式</translation>
+    </message>
+    <message id="588s">
+        <source></source>
+        <translation>无重音</translation>
+    </message>
+    <message id="589s">
+        <source></source>
+        <extracomment>each voice has a timbre of its own</extracomment>
+        <translation>各声部不同</translation>
+    </message>
+    <message id="603s">
+        <source></source>
+        <translation>可变</translation>
+    </message>
+    <message id="609s">
+        <source></source>
+        <translation>减七和弦</translation>
+    </message>
+    <message id="615s">
+        <source></source>
+        <translation>由下至上</translation>
+    </message>
+    <message id="623s">
+        <source></source>
+        <extracomment>of the root of the tasks</extracomment>
+        <translation>变换</translation>
+    </message>
+    <message id="624s">
+        <source></source>
+        <extracomment>direction of an arpeggio</extracomment>
+        <translation>随机</translation>
+    </message>
+    <message id="625s">
+        <source></source>
+        <translation>继续</translation>
+    </message>
+    <message id="629s">
+        <source></source>
+        <translation>再听一遍</translation>
+    </message>
+    <message id="632s">
+        <source></source>
+        <translation>再听一遍（核对）</translation>
+    </message>
+    <message id="638s">
+        <source></source>
+        <translation>太难了！</translation>
+    </message>
+    <message id="640s">
+        <source></source>
+        <translation>返回</translation>
+    </message>
+    <message id="671s">
+        <source></source>
+        <extracomment>MIDI note 36</extracomment>
+        <translation>C</translation>
+    </message>
+    <message id="672s">
+        <source></source>
+        <extracomment>MIDI note 48</extracomment>
+        <translation>c</translation>
+    </message>
+    <message id="673s">
+        <source></source>
+        <extracomment>MIDI note 60</extracomment>
+        <translation>c¹</translation>
+    </message>
+    <message id="674s">
+        <source></source>
+        <extracomment>MIDI note 72</extracomment>
+        <translation>c²</translation>
+    </message>
+    <message id="675s">
+        <source></source>
+        <extracomment>MIDI note 84</extracomment>
+        <translation>c³</translation>
+    </message>
+    <message id="676s">
+        <source></source>
+        <extracomment>MIDI note 96</extracomment>
+        <translation>c⁴</translation>
+    </message>
+    <message id="699s">
+        <source></source>
+        <extracomment>the version number follows</extracomment>
+        <translation>版本</translation>
+    </message>
+    <message id="700s">
+        <source></source>
+        <extracomment>stands between the two parts of a window title and after the heading 95</extracomment>
+        <translation>：</translation>
+    </message>
+    <message id="702s">
+        <source></source>
+        <extracomment>between two notes</extracomment>
+        <translation>至</translation>
+    </message>
+    <message id="720s">
+        <source></source>
+        <extracomment>first of four lines of one message</extracomment>
+        <translation>抱歉，程序出错了。</translation>
+    </message>
+    <message id="721s">
+        <source></source>
+        <extracomment>second of four lines</extracomment>
+        <translation>该错误已记入 Melvado 的日志。</translation>
+    </message>
+    <message id="722s">
+        <source></source>
+        <extracomment>third of four lines</extracomment>
+        <translation>当前步骤将中止，窗口随即关闭。</translation>
+    </message>
+    <message id="723s">
+        <source></source>
+        <extracomment>last of four lines</extracomment>
+        <translation>请重试。如果仍不能解决，请向您的老师求助。</translation>
+    </message>
+    <message id="726s">
+        <source></source>
+        <translation>请稍候…</translation>
+    </message>
+    <message id="9001s">
+        <source></source>
+        <translation>是</translation>
+    </message>
+    <message id="9002s">
+        <source></source>
+        <translation>否</translation>
+    </message>
+    <message id="9003s">
+        <source></source>
+        <translation>程序遇到无法处理的错误，即将退出。</translation>
+    </message>
+    <message id="9011s">
+        <source></source>
+        <translation>尚未为测验标记任何设置框。请右键单击要由测验规定设置的框，然后选择“Prüfung”。</translation>
+    </message>
+    <message id="9012s">
+        <source></source>
+        <translation>无法写入测验文件。</translation>
+    </message>
+    <message id="9013s">
+        <source></source>
+        <translation>无法读取测验文件。设置没有改变。</translation>
+    </message>
+    <message id="9014s">
+        <source></source>
+        <translation>行</translation>
+    </message>
+    <message id="9015s">
+        <source></source>
+        <translation>列</translation>
+    </message>
+    <message id="9016s">
+        <source></source>
+        <translation>测验文件中的下列设置在此处不存在，已被忽略：</translation>
+    </message>
+    <message id="9017s">
+        <source></source>
+        <translation>全部选择</translation>
+    </message>
+    <message id="9018s">
+        <source></source>
+        <translation>全部取消</translation>
+    </message>
+    <message id="9101s">
+        <source></source>
+        <translation>%1 中已保存的训练来自本程序的较新版本，现已原样保留。您可以练习，但现在保存的内容在程序退出后会丢失。请安装较新的版本。</translation>
+    </message>
+    <message id="9102s">
+        <source></source>
+        <translation>无法使用训练的保存位置 %1（%2）。您可以练习，但现在保存的内容在程序退出后会丢失。请检查该文件夹是否存在、您是否有写入权限，然后重新启动程序。</translation>
+    </message>
+    <message id="9103s">
+        <source></source>
+        <translation>另一个程序正在使用 %1 中已保存的训练，未能及时释放。没有任何内容被更改。请关闭该程序后重试。</translation>
+    </message>
+    <message id="9104s">
+        <source></source>
+        <translation>%1 中已保存的训练可以读取，但不能更改，现已原样保留。您可以练习，但现在保存的内容在程序退出后会丢失。请将该文件及其文件夹设为可写，然后重新启动程序。</translation>
+    </message>
+    <message id="9105s">
+        <source></source>
+        <translation>无法将内容保存到 %1：磁盘可能已满（%2）。以前保存的内容仍在，新内容会保留到程序退出为止。请清理磁盘空间后再保存一次。</translation>
+    </message>
+    <message id="9106s">
+        <source></source>
+        <translation>保存训练的文件 %1 已损坏，无法读取。该文件已改名为 %2 保留，并新建了一个空文件。如果您有该文件的备份，可以将其放回原处。</translation>
+    </message>
+    <message id="9107s">
+        <source></source>
+        <translation>一条已保存的记录（%1）已损坏，无法读取。该记录已改名为 %2 保留。设置将采用默认值；其他已保存的内容仍在。</translation>
+    </message>
+    <message id="9108s">
+        <source></source>
+        <translation>无法使用保存训练的服务器 %1（%2）。您可以练习，但现在保存的内容在程序退出后会丢失。请告知计算机管理人员，或稍后重新启动程序。</translation>
+    </message>
+    <message id="9109s">
+        <source></source>
+        <translation>目前无法读取 %1 中已保存的训练（%2）。没有任何内容被更改。您可以练习；如要继续已保存的训练，请稍后重新启动程序。</translation>
+    </message>
+    <message id="9151s">
+        <source></source>
+        <translation>练习没有声音：乐器音色文件（SoundFont）已损坏：%1。请重新安装软件包 fluid-soundfont-gm，然后重新启动程序。</translation>
+    </message>
+    <message id="9152s">
+        <source></source>
+        <translation>练习没有声音：缺少乐器音色文件（SoundFont）。请安装软件包 fluid-soundfont-gm，然后重新启动程序。</translation>
+    </message>
+    <message id="9153s">
+        <source></source>
+        <translation>练习没有声音：未找到音频输出（已尝试：%1）。请检查扬声器或耳机是否已连接，并已在系统的声音设置中选中，然后重新启动程序。</translation>
+    </message>
+    <message id="9154s">
+        <source></source>
+        <translation>音频输出已中断。请检查扬声器或耳机以及系统的声音设置。练习将继续；播放后面的和弦时会再次尝试发声。</translation>
+    </message>
+    <message id="9155s">
+        <source></source>
+        <translation>MIDI 设备“%1”已不可用。请检查连接线以及设备是否已开启；播放后面的和弦时会再次查找。练习将在无声状态下继续。</translation>
+    </message>
+    <message id="9156s">
+        <source></source>
+        <translation>编号为 %1 的 MIDI 设备不存在；现有 %2 台设备。请在 Melvado 中选择其他 MIDI 设备。练习将在无声状态下继续。</translation>
+    </message>
+    <message id="9157s">
+        <source></source>
+        <translation>所选的 SoundFont %1 不存在或已损坏，现由 %2 代替发声。请在 Melvado 中选择其他 SoundFont。</translation>
+    </message>
+    <message id="9201s">
+        <source></source>
+        <translation>无法将练习记录保存到文件夹 %1（%2），已改存为 %3。请检查该文件夹是否存在、您是否有写入权限，以及磁盘是否已满。</translation>
+    </message>
+    <message id="9202s">
+        <source></source>
+        <translation>无法保存练习记录：文件夹 %1（%2）和程序自身的文件夹都无法写入。请在下次练习前清理磁盘空间或检查该文件夹。</translation>
+    </message>
+    <message id="9251s">
+        <source></source>
+        <translation>无法读取语言文件 %1，已将其忽略。如果它是程序自带的，请重新安装程序。</translation>
+    </message>
+    <message id="9252s">
+        <source></source>
+        <translation>未找到本程序所用语言的文字，因此文字处显示为“VOID”。请重新安装程序，或以其他语言启动。</translation>
+    </message>
+    <message id="9301s">
+        <source></source>
+        <translation>无法保存训练。要重试吗？</translation>
+    </message>
+    <message id="9302s">
+        <source></source>
+        <translation>未设置打印机。页面已保存为 %1。</translation>
+    </message>
+    <message id="9303s">
+        <source></source>
+        <translation>打印机 %1 未接受该页面：%2。请检查打印机是否已开启并连接，然后重新打印。</translation>
+    </message>
+    <message id="9304s">
+        <source></source>
+        <translation>打印机 %1 未就绪。请检查打印机是否已开启、已连接并有纸，然后重新打印。</translation>
+    </message>
+    <message id="9305s">
+        <source></source>
+        <translation>未设置打印机，页面也无法作为文件保存到文件夹 %1（%2）。请检查您是否有写入权限，以及磁盘是否已满。</translation>
+    </message>
+    <message id="9391s">
+        <source></source>
+        <translation>目录</translation>
+    </message>
+    <message id="9392s">
+        <source></source>
+        <translation>后退</translation>
+    </message>
+    <message id="9393s">
+        <source></source>
+        <translation>前进</translation>
+    </message>
+    <message id="9394s">
+        <source></source>
+        <translation>未找到帮助页面“%1”。帮助页面的查找位置：%2</translation>
+    </message>
+    <message id="9401s">
+        <source></source>
+        <translation>听力训练</translation>
+    </message>
+    <message id="9402s">
+        <source></source>
+        <translation>谁在练习？</translation>
+    </message>
+    <message id="9403s">
+        <source></source>
+        <translation>无（不使用姓名）</translation>
+    </message>
+    <message id="9404s">
+        <source></source>
+        <translation>添加…</translation>
+    </message>
+    <message id="9405s">
+        <source></source>
+        <translation>更改…</translation>
+    </message>
+    <message id="9406s">
+        <source></source>
+        <translation>移除…</translation>
+    </message>
+    <message id="9407s">
+        <source></source>
+        <translation>语言</translation>
+    </message>
+    <message id="9408s">
+        <source></source>
+        <translation>声音输出</translation>
+    </message>
+    <message id="9409s">
+        <source></source>
+        <translation>内置合成器</translation>
+    </message>
+    <message id="9410s">
+        <source></source>
+        <translation>%1（未连接）</translation>
+    </message>
+    <message id="9411s">
+        <source></source>
+        <translation>测试声音</translation>
+    </message>
+    <message id="9412s">
+        <source></source>
+        <translation>选择 SoundFont…</translation>
+    </message>
+    <message id="9413s">
+        <source></source>
+        <translation>系统的 SoundFont</translation>
+    </message>
+    <message id="9414s">
+        <source></source>
+        <translation>SoundFont：%1</translation>
+    </message>
+    <message id="9415s">
+        <source></source>
+        <translation>使用系统的 SoundFont 发声。</translation>
+    </message>
+    <message id="9416s">
+        <source></source>
+        <translation>%1 未连接，现由内置合成器代替发声。</translation>
+    </message>
+    <message id="9417s">
+        <source></source>
+        <translation>正在播放和弦…</translation>
+    </message>
+    <message id="9418s">
+        <source></source>
+        <translation>声音测试会播放一个和弦，并说明结果如何。</translation>
+    </message>
+    <message id="9419s">
+        <source></source>
+        <translation>日志</translation>
+    </message>
+    <message id="9420s">
+        <source></source>
+        <translation>退出</translation>
+    </message>
+    <message id="9421s">
+        <source></source>
+        <translation>帮助</translation>
+    </message>
+    <message id="9422s">
+        <source></source>
+        <translation>正在启动…</translation>
+    </message>
+    <message id="9423s">
+        <source></source>
+        <translation>添加用户</translation>
+    </message>
+    <message id="9424s">
+        <source></source>
+        <translation>更改用户</translation>
+    </message>
+    <message id="9425s">
+        <source></source>
+        <translation>姓</translation>
+    </message>
+    <message id="9426s">
+        <source></source>
+        <translation>名</translation>
+    </message>
+    <message id="9427s">
+        <source></source>
+        <translation>学号</translation>
+    </message>
+    <message id="9428s">
+        <source></source>
+        <translation>取消</translation>
+    </message>
+    <message id="9429s">
+        <source></source>
+        <translation>要从列表中移除 %1 吗？已保存的训练会保留：以此学号重新添加的人可以继续这些训练。</translation>
+    </message>
+    <message id="9430s">
+        <source></source>
+        <translation>SoundFont %1 不存在，现由系统的 SoundFont 代替发声。</translation>
+    </message>
+    <message id="9431s">
+        <source></source>
+        <translation>请输入学号：训练将保存在该学号下。</translation>
+    </message>
+    <message id="9432s">
+        <source></source>
+        <translation>学号太长，最多 %1 个字符。</translation>
+    </message>
+    <message id="9433s">
+        <source></source>
+        <translation>姓名太长，姓和名各最多 %1 个字符。</translation>
+    </message>
+    <message id="9434s">
+        <source></source>
+        <translation>“%1”不能用作学号。请选择其他学号。</translation>
+    </message>
+    <message id="9435s">
+        <source></source>
+        <translation>学号 %1 已在列表中。请选择该用户，或输入其他学号。</translation>
+    </message>
+    <message id="9436s">
+        <source></source>
+        <translation>文件 %1 不是可以播放的 SoundFont，或已损坏。SoundFont 保持不变。</translation>
+    </message>
+    <message id="9437s">
+        <source></source>
+        <translation>选择 SoundFont</translation>
+    </message>
+    <message id="9441s">
+        <source></source>
+        <translation>程序未输出任何声音。</translation>
+    </message>
+    <message id="9442s">
+        <source></source>
+        <translation>和弦已从程序输出：内置合成器通过 %2、使用 SoundFont %3 播放了 %1 个音。</translation>
+    </message>
+    <message id="9443s">
+        <source></source>
+        <translation>和弦已从程序输出：内置合成器通过 %1、使用 SoundFont %2 播放，电平为 %3 %。</translation>
+    </message>
+    <message id="9444s">
+        <source></source>
+        <translation>如果仍听不到声音：请打开扬声器或耳机，调高音量，并在系统的声音设置中选中它们。</translation>
+    </message>
+    <message id="9445s">
+        <source></source>
+        <translation>合成器未能及时就绪：计算机非常繁忙，或 SoundFont 非常大。请重试。</translation>
+    </message>
+    <message id="9446s">
+        <source></source>
+        <translation>%1 已打开，但未接受声音。可能有其他程序占用了声卡：请关闭该程序，或在系统的声音设置中选择其他输出。</translation>
+    </message>
+    <message id="9447s">
+        <source></source>
+        <translation>SoundFont %1 没有钢琴音色。请选择其他 SoundFont。</translation>
+    </message>
+    <message id="9448s">
+        <source></source>
+        <translation>和弦已从程序输出：MIDI 设备“%1”已无误地接收了 %2 条消息。</translation>
+    </message>
+    <message id="9449s">
+        <source></source>
+        <translation>如果仍听不到声音：请检查设备是否已开启、音量是否足够，以及它是否播放通道 1 收到的内容。</translation>
+    </message>
+    <message id="9450s">
+        <source></source>
+        <translation>无法连接 MIDI 设备“%1”。请检查连接线以及设备是否已开启，或选择其他输出。</translation>
+    </message>
+    <message id="9451s">
+        <source></source>
+        <translation>练习意外结束。此前保存的内容仍在。要查看日志的末尾吗？</translation>
+    </message>
+    <message id="9452s">
+        <source></source>
+        <translation>练习已经打开，其窗口现已置于最前。</translation>
+    </message>
+    <message id="9453s">
+        <source></source>
+        <translation>无法启动练习（%1）。请重新安装程序；如果仍无法解决，请发送日志中的错误报告。</translation>
+    </message>
+    <message id="9455s">
+        <source></source>
+        <translation>时间</translation>
+    </message>
+    <message id="9456s">
+        <source></source>
+        <translation>位置</translation>
+    </message>
+    <message id="9457s">
+        <source></source>
+        <translation>编号</translation>
+    </message>
+    <message id="9458s">
+        <source></source>
+        <translation>内容</translation>
+    </message>
+    <message id="9459s">
+        <source></source>
+        <translation>来源</translation>
+    </message>
+    <message id="9460s">
+        <source></source>
+        <translation>刷新</translation>
+    </message>
+    <message id="9461s">
+        <source></source>
+        <translation>复制为错误报告</translation>
+    </message>
+    <message id="9462s">
+        <source></source>
+        <translation>关闭</translation>
+    </message>
+    <message id="9463s">
+        <source></source>
+        <translation>报告已复制到剪贴板，可以粘贴到邮件中。</translation>
+    </message>
+    <message id="9464s">
+        <source></source>
+        <translation>日志为空。</translation>
+    </message>
+</context>
+</TS>

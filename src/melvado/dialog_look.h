@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+class QDialog;
+
+namespace vmod17 {
+
+/// Gives a dialog the program's colours and type. `factor` is the number of pixels of a unit.
+void Dress(QDialog& dialog, double factor);
+
+}  // namespace vmod17

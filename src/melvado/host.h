@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "melvado/fault_report.h"
+#include "melvado/module_process.h"
+#include "melvado/outputs.h"
+#include "melvado/sound_test.h"
+#include "melvado/users.h"
+#include "melvado/words.h"
+#include "platform/event_loop.h"
+#include "platform/midi/midi_options.h"
+#include "platform/qt/qt_language.h"
+#include "platform/store/host_store.h"
+
+namespace vmod17 {
+
+/// What a host is made of; empty members stand for what is usual.
+struct HostSetup {
+  std::string store;  ///< see `ParseStoreAddress`
+  std::vector<std::filesystem::path> language_folders;
+  std::vector<std::string> locales;  ///< what the desktop's user reads, best first
+  std::string module;                ///< path of the program
+  MidiOptions sound;                 ///< its soundfont is the one named from outside, or ""
+  std::optional<std::string> midi;   ///< an output named from outside, taken over once
+};
+
+/// What the host knows and does, without a window: who learns, in which language, on which output,
+/// and the module that runs. All members are called on the program's one thread.
+///
+/// What is chosen is stored at once. A store that cannot take it says so through `tell`, and the
+/// choice holds as long as the host runs.
+class Host {
+ public:
+  /// `loop` outlives the host.
+  Host(HostSetup setup, EventLoop& loop);
+  ~Host();
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+
+  /// The user should be told this. Notices from before it was set are told when it is.
+  void SetTell(Notify tell);
+  /// What is shown has changed: outputs have come or gone.
+  std::function<void()> changed;
+
+  const Words& words() const { return words_; }
+
+  // --- Who is learning
+  /// Sorted; with who is chosen, even if somebody has taken him off the list meanwhile.
+  std::vector<StoreUser> Users();
+  /// The number of who is chosen, "" for nobody.
+  std::string ChosenUser();
+  void ChooseUser(const std::string& id);
+  /// Adds and chooses. Returns why it cannot be done; nothing when it is.
+  std::optional<Notice> AddUser(const StoreUser& typed);
+  /// Changes the names of the user with this number.
+  std::optional<Notice> ChangeUser(const StoreUser& typed);
+  void RemoveUser(const std::string& id);
+
+  // --- Language
+  std::vector<std::string> Languages() const;
+  std::string Language() const { return language_; }
+  void ChooseLanguage(const std::string& name);
+
+  // --- Sound
+  const OutputChoice& outputs() const { return outputs_; }
+  /// `name`  of an output, "" for the synthesiser
+  void ChooseOutput(const std::string& name);
+  /// Looks whether a device has come or gone. Cheap.
+  void RefreshOutputs();
+  /// The chosen soundfont, "" for the system's.
+  std::string Soundfont();
+  bool SoundfontIsThere();
+  /// Named from outside, which goes before any choice.
+  bool SoundfontIsNamed() const { return !setup_.sound.soundfont.empty(); }
+  /// Takes a soundfont that can be loaded, or "". Returns why another one is not taken.
+  std::optional<Notice> ChooseSoundfont(const std::string& path);
+  void TestSound(std::function<void()> done);
+  bool TestRuns() const { return test_.runs(); }
+  const std::optional<Verdict>& verdict() const { return verdict_; }
+
+  // --- The module
+  std::function<void()> on_module_shown;
+  std::function<void(const ModuleEnd&)> on_module_end;
+  void StartModule();
+  bool ModuleRuns() const { return module_.runs(); }
+  qint64 module_process() const { return module_.process_id(); }
+  /// False when there is none to be brought.
+  bool BringModuleToFront();
+
+  // --- The log
+  std::vector<LogEntry> Log();
+  std::string Report();
+
+ private:
+  StoreOptions HostStoreOptions();
+  void Tell(const Notice& notice);
+  void TellLater();
+  bool Store(const std::function<void()>& work);
+  void SpeakLanguage();
+  void ModuleEnded(const ModuleEnd& end);
+  FaultFacts Facts();
+
+  HostSetup setup_;
+  EventLoop& loop_;
+  std::shared_ptr<int> alive_ = std::make_shared<int>(0);
+  Notify tell_;
+  std::vector<Notice> untold_;
+  QtLanguageList languages_;
+  Words words_;
+  std::string language_;
+  std::shared_ptr<MidiPorts> ports_;
+  HostStore store_;
+  OutputChoice outputs_;
+  SoundTest test_;
+  std::optional<Verdict> verdict_;
+  ModuleProcess module_;
+};
+
+}  // namespace vmod17

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <QApplication>
+#include <QLocale>
+#include <QTimer>
+#include <memory>
+
+#include "app/end_on_signal.h"
+#include "app/places.h"
+#include "melvado/home_window.h"
+#include "platform/qt/help_window.h"
+#include "platform/qt/qt_event_loop.h"
+#include "platform/qt/qt_file_dialog.h"
+#include "platform/qt/qt_message_box.h"
+#include "platform/qt/qt_system.h"
+#include "platform/qt/single_instance.h"
+#include "shell/error_report.h"
+
+namespace vmod17 {
+namespace {
+
+HostSetup SetupOfThisMachine() {
+  const QtSystem system;
+  HostSetup setup;
+  setup.store = system.Environment("MELVADO_STORE").value_or("");
+  setup.language_folders = LanguageFolders();
+  for (const QString& locale : QLocale::system().uiLanguages()) {
+    setup.locales.push_back(locale.toStdString());
+  }
+  setup.module = QCoreApplication::applicationDirPath().toStdString() + "/vmod17";
+  setup.sound.soundfont = system.Environment("MELVADO_SOUNDFONT").value_or("");
+  setup.midi = system.Environment("MELVADO_MIDI");
+  return setup;
+}
+
+/// The page of the home window. Made when it is first asked for: most starts need none.
+void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& host) {
+  if (!help) {
+    help = std::make_unique<HelpWindow>(HelpFolders());
+    help->owner = [&window] { return &window; };
+    help->words = [&host] {
+      const HelpWindow::Words english;
+      const auto word = [&host](int id, const std::string& text) {
+        return host.words().Say(id, text.c_str()).toStdString();
+      };
+      return HelpWindow::Words{word(9421, english.title), word(9391, english.contents),
+                               word(9392, english.back), word(9393, english.forward),
+                               word(9394, english.missing)};
+    };
+  }
+  help->Show("melvado", host.words().locale().name().toStdString());
+}
+
+int Run() {
+  QtEventLoop loop;
+  const EndOnSignal end_on_signal([&loop] { loop.Quit(); });
+  HostSetup setup = SetupOfThisMachine();
+  SingleInstance instance(HostKey(setup.store));
+  if (!instance.Claim()) return 0;
+
+  QWidget* front = nullptr;
+  QtMessageBox messages([&front] { return front; });
+  QtFileDialog dialog([&front] { return front; });
+  Host host(std::move(setup), loop);
+  messages.words = [&host] {
+    const Words& words = host.words();
+    return QtMessageBox::Words{words.Say(432, "OK").toStdString(),
+                               words.Say(9001, "Yes").toStdString(),
+                               words.Say(9002, "No").toStdString()};
+  };
+  loop.on_error = [&](const std::exception_ptr& error) {
+    const RunTimeError what = AsRunTimeError(error);
+    messages.Warn(std::string(what.what()) + " (" + std::to_string(what.number()) + ", " +
+                      what.source() + ")",
+                  "Melvado");
+  };
+  HomeWindow window(host, loop, messages, dialog);
+  front = &window;
+  std::unique_ptr<HelpWindow> help;
+  window.on_help = [&] { ShowHelp(help, window, host); };
+  window.on_quit = [&loop] { loop.Quit(); };
+  instance.come_to_front = [&window] { window.ComeToFront(); };
+  window.Open();
+  // Once the user has something to look at.
+  QTimer::singleShot(0, &window, [&] {
+    host.SetTell([&](const Notice& notice) {
+      messages.Warn(host.words().Say(notice).toStdString(), "Melvado");
+    });
+  });
+  loop.Run();
+  return 0;
+}
+
+}  // namespace
+}  // namespace vmod17
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationDisplayName("Melvado");
+  QApplication::setDesktopFileName("melvado");
+  QApplication::setQuitOnLastWindowClosed(false);
+  return vmod17::Run();
+}

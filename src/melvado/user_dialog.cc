@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "melvado/user_dialog.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "melvado/dialog_look.h"
+#include "platform/qt/look.h"
+
+namespace vmod17 {
+
+UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& user, Take take)
+    : QDialog(parent),
+      words_(words),
+      take_(std::move(take)),
+      name_(MakeField("name", user.name)),
+      first_name_(MakeField("first_name", user.first_name)),
+      number_(MakeField("number", user.id)),
+      fault_(new QLabel) {
+  const bool known = !user.id.empty();
+  const double factor = parent->font().pixelSize() / 14.0;
+  Dress(*this, factor);
+  setWindowTitle(known ? words.Say(9424, "Change a user") : words.Say(9423, "Add a user"));
+  // What is stored stands under the number.
+  number_->setReadOnly(known);
+  if (known) number_->setFocusPolicy(Qt::NoFocus);
+  fault_->setObjectName("fault");
+  fault_->setTextFormat(Qt::PlainText);
+  fault_->setWordWrap(true);
+  fault_->setStyleSheet("color: " + look::kHint.name());
+  fault_->hide();
+
+  auto* const form = new QFormLayout;
+  form->setVerticalSpacing(qRound(10 * factor));
+  form->addRow(words.Say(9425, "Name"), name_);
+  form->addRow(words.Say(9426, "First name"), first_name_);
+  form->addRow(words.Say(9427, "Matriculation number"), number_);
+  auto* const ok = new QPushButton(words.Say(432, "OK"));
+  ok->setObjectName("ok");
+  ok->setDefault(true);
+  connect(ok, &QPushButton::clicked, this, [this] { Try(); });
+  auto* const cancel = new QPushButton(words.Say(9428, "Cancel"));
+  cancel->setObjectName("cancel");
+  cancel->setAutoDefault(false);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(cancel);
+  buttons->addWidget(ok);
+  auto* const all = new QVBoxLayout(this);
+  all->setContentsMargins(qRound(24 * factor), qRound(24 * factor), qRound(24 * factor),
+                          qRound(20 * factor));
+  all->setSpacing(qRound(14 * factor));
+  all->addLayout(form);
+  all->addWidget(fault_);
+  all->addLayout(buttons);
+  setMinimumWidth(qRound(460 * factor));
+}
+
+QLineEdit* UserDialog::MakeField(const char* name, const std::string& text) {
+  auto* const field = new QLineEdit(QString::fromStdString(text), this);
+  field->setObjectName(name);
+  return field;
+}
+
+void UserDialog::Try() {
+  const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
+  const auto fault = take_({text(number_), text(name_), text(first_name_)});
+  if (!fault) return accept();
+  fault_->setText(words_.Say(*fault));
+  fault_->show();
+}
+
+}  // namespace vmod17

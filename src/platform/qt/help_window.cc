@@ -1,0 +1,252 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/qt/help_window.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QTextBrowser>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/look.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr double kText = 15;         // height of the type of the pages
+constexpr double kTextOfOwner = 14;  // the size at which the owner's type has one pixel a unit
+constexpr double kBar = 56;          // height of the strip with the buttons
+constexpr double kMargin = 12;       // around the page
+constexpr double kInside = 22;       // between the page's edge and its words
+constexpr double kZoomStep = 1.15;
+constexpr double kLeastZoom = 0.7;
+constexpr double kMostZoom = 2.5;
+constexpr QSize kUsualSize{760, 680};
+constexpr QSize kLeastSize{420, 300};
+constexpr char kScheme[] = "help";
+constexpr char kEnglish[] = "en";
+constexpr char kContentsPage[] = "index";
+
+/// The language of a locale, without country: "de" of "de_AT". Only letters, since it becomes a
+/// folder.
+std::string LanguageCode(const std::string& locale) {
+  const auto is_letter = [](char c) { return c >= 'a' && c <= 'z'; };
+  return {locale.begin(), std::find_if_not(locale.begin(), locale.end(), is_letter)};
+}
+
+QString FileOf(const std::string& language, const std::string& page) {
+  return QString::fromStdString(language + "/" + page + ".html");
+}
+
+QUrl AddressOf(const QString& file) {
+  QUrl address;
+  address.setScheme(kScheme);
+  address.setPath("/" + file);
+  return address;
+}
+
+/// The file below the folders that an address names; empty when it names another thing.
+QString FileOf(const QUrl& address) {
+  if (address.scheme() != kScheme) return {};
+  const QString file = QDir::cleanPath(address.path().mid(1));
+  return file.startsWith("..") ? QString() : file;
+}
+
+/// Empty for a file that cannot be read, as for none.
+QByteArray Read(const std::filesystem::path& path) {
+  if (path.empty()) return {};
+  QFile file(QString::fromStdString(path.string()));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+}  // namespace
+
+/// Shows what the window finds for an address. The address of a page does not tell the folder, so
+/// that a changed page finds the pictures of the others.
+class HelpWindow::Browser : public QTextBrowser {
+ public:
+  explicit Browser(HelpWindow& help) : QTextBrowser(&help), help_(help) {
+    setOpenLinks(false);
+    setFrameShape(QFrame::NoFrame);
+    connect(this, &QTextBrowser::anchorClicked, [this](const QUrl& link) { Follow(link); });
+  }
+
+  QVariant loadResource(int type, const QUrl& name) override {
+    const QByteArray held = Read(help_.Find(FileOf(source().resolved(name))));
+    if (type == QTextDocument::ImageResource) return Scaled(QImage::fromData(held));
+    if (type == QTextDocument::HtmlResource && held.isEmpty()) return help_.Missing();
+    return QString::fromUtf8(held);
+  }
+
+ private:
+  void Follow(const QUrl& link) {
+    const QUrl address = source().resolved(link);
+    if (!help_.Find(FileOf(address)).empty()) setSource(address);
+  }
+
+  /// Pictures grow with the words between which they stand.
+  QVariant Scaled(const QImage& picture) const {
+    const double factor = help_.style_.factor;
+    if (picture.isNull() || factor == 1) return picture;
+    return picture.scaledToWidth(qRound(picture.width() * factor), Qt::SmoothTransformation);
+  }
+
+  HelpWindow& help_;
+};
+
+HelpWindow::HelpWindow(std::vector<std::filesystem::path> folders)
+    : folders_(std::move(folders)), browser_(new Browser(*this)) {
+  setObjectName("help_window");
+  const auto add = [this](Button button, const char* name, std::function<void()> act) {
+    const Placement place{.rect = {}, .look = Look::kQuiet, .text = 15, .align = Qt::AlignCenter};
+    buttons_[button] = new PressWidget(this, style_, place);
+    buttons_[button]->setObjectName(name);
+    connect(buttons_[button], &QAbstractButton::clicked, this, std::move(act));
+  };
+  add(kContents, "help_contents", [this] { Open(kContentsPage); });
+  add(kBack, "help_back", [this] { browser_->backward(); });
+  add(kForward, "help_forward", [this] { browser_->forward(); });
+  for (const Button button : {kBack, kForward}) buttons_[button]->setEnabled(false);
+  connect(browser_, &QTextBrowser::backwardAvailable, buttons_[kBack], &QWidget::setEnabled);
+  connect(browser_, &QTextBrowser::forwardAvailable, buttons_[kForward], &QWidget::setEnabled);
+  setTabOrder(browser_, buttons_[kContents]);
+  setMinimumSize(kLeastSize);
+}
+
+HelpWindow::~HelpWindow() = default;
+
+void HelpWindow::Show(const std::string& page, const std::string& locale) {
+  page_ = page;
+  locale_ = locale;
+  TakeWords();
+  TakeType();
+  Open(page);
+  BringToFront();
+}
+
+void HelpWindow::Open(const std::string& page) {
+  const QUrl address = AddressOf(FileOf(LanguageOf(page), page));
+  if (browser_->source() == address) {
+    browser_->reload();  // the file may have been changed since
+  } else {
+    browser_->setSource(address);
+  }
+}
+
+std::filesystem::path HelpWindow::Page() const { return Find(FileOf(browser_->source())); }
+
+/// The file in the first folder that has it; empty where none does.
+std::filesystem::path HelpWindow::Find(const QString& file) const {
+  if (file.isEmpty()) return {};
+  for (const std::filesystem::path& folder : folders_) {
+    const std::filesystem::path path = folder / file.toStdString();
+    std::error_code unreadable;
+    if (std::filesystem::is_regular_file(path, unreadable)) return path;
+  }
+  return {};
+}
+
+/// The language in which the page is there, the wanted one first.
+std::string HelpWindow::LanguageOf(const std::string& page) const {
+  const std::string wanted = LanguageCode(locale_);
+  return wanted.empty() || Find(FileOf(wanted, page)).empty() ? kEnglish : wanted;
+}
+
+/// What stands in the place of a page that is not there.
+QString HelpWindow::Missing() const {
+  QStringList places;
+  for (const std::filesystem::path& folder : folders_) {
+    places += QString::fromStdString(folder.lexically_normal().string());
+  }
+  const QString text = QString::fromStdString(words_.missing);
+  return "<p>" + text.arg(QString::fromStdString(page_), places.join("; ")).toHtmlEscaped() +
+         "</p>";
+}
+
+void HelpWindow::TakeWords() {
+  if (words) words_ = words();
+  setWindowTitle(QString::fromStdString(words_.title));
+  browser_->setAccessibleName(windowTitle());
+  const auto name = [this](Button button, const char* caption, const std::string& word) {
+    const QString text = QString::fromStdString(word);
+    buttons_[button]->SetCaption(QString(caption).arg(text));
+    buttons_[button]->setAccessibleName(text);
+  };
+  name(kContents, "%1", words_.contents);
+  name(kBack, "‹ %1", words_.back);
+  name(kForward, "%1 ›", words_.forward);
+}
+
+/// The pages grow with the window that they explain.
+void HelpWindow::TakeType() {
+  const QWidget* const window = owner ? owner() : nullptr;
+  const double pixels = window != nullptr ? window->font().pixelSize() : 0;
+  style_.factor = std::max(1.0, pixels / kTextOfOwner);
+  const QFont type = look::Type(kText * style_.factor * zoom_, look::Weight::kNormal);
+  if (browser_->font() != type) {
+    browser_->setFont(type);
+    browser_->document()->setDefaultFont(type);
+  }
+  browser_->document()->setDocumentMargin(kInside * style_.factor);
+  Arrange();
+}
+
+void HelpWindow::Arrange() {
+  const auto px = [this](double units) { return qRound(units * style_.factor); };
+  const int height = px(36);
+  const int y = px(kBar - 36) / 2;
+  const int each = std::min(px(150), (width() - px(2 * kMargin + 16)) / 3);
+  int x = px(kMargin);
+  for (PressWidget* button : buttons_) {
+    button->setGeometry(x, y, each, height);
+    x += each + px(8);
+  }
+  browser_->setGeometry(px(kMargin), px(kBar), width() - 2 * px(kMargin),
+                        this->height() - px(kBar) - px(kMargin));
+}
+
+void HelpWindow::BringToFront() {
+  if (!std::exchange(placed_, true)) {
+    const QRect room = screen()->availableGeometry();
+    QRect place(QPoint(), (QSizeF(kUsualSize) * style_.factor).toSize().boundedTo(room.size()));
+    place.moveCenter(room.center());
+    setGeometry(place);
+  }
+  if (isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+  browser_->setFocus(Qt::OtherFocusReason);
+}
+
+void HelpWindow::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), look::kPage); }
+
+void HelpWindow::resizeEvent(QResizeEvent*) { Arrange(); }
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    close();
+  } else if (event->key() == Qt::Key_F1 && !page_.empty()) {
+    Show(page_, locale_);
+  } else if (event->matches(QKeySequence::ZoomIn) || event->matches(QKeySequence::ZoomOut)) {
+    const double step = event->matches(QKeySequence::ZoomIn) ? kZoomStep : 1 / kZoomStep;
+    zoom_ = std::clamp(zoom_ * step, kLeastZoom, kMostZoom);
+    TakeType();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+/// The keyboard goes back to the program even where no window manager sees to it.
+void HelpWindow::hideEvent(QHideEvent*) {
+  QWidget* const window = owner ? owner() : nullptr;
+  if (window != nullptr && window->isVisible() && !isMinimized()) window->activateWindow();
+}
+
+}  // namespace vmod17

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/qt/picture_source.h"
+#include "platform/qt/widgets.h"
+
+namespace vmod17 {
+
+/// The help: pages in a window of their own, beside which the program can be used.
+///
+/// A page is a plain HTML file, `<folder>/<language code>/<page>.html`, such as
+/// "help/de/arbeitsblatt1.html"; links, pictures and style sheets in it are named relative to it.
+/// Each file is taken from the first folder that has it, so that a teacher needs to keep only those
+/// that he has changed. A link that leads out of the folders is not followed.
+///
+/// A QApplication must exist before it and outlive it.
+class HelpWindow : public QWidget {
+ public:
+  /// What the window says by itself, UTF-8.
+  struct Words {
+    std::string title = "Help";
+    std::string contents = "Contents";
+    std::string back = "Back";
+    std::string forward = "Forward";
+    /// In the place of %1 stands the name of the page, in that of %2 the folders.
+    std::string missing =
+        "The page “%1” of the help was not found. Help pages are looked for in: %2";
+  };
+
+  /// `folders`  where the pages are looked for, the first of them first; need not exist
+  explicit HelpWindow(std::vector<std::filesystem::path> folders);
+  ~HelpWindow() override;
+
+  /// Asked before each page is shown, since the language is known only some time after the start.
+  std::function<Words()> words;
+  /// The window that the help belongs to, from which it takes its type and to which it hands the
+  /// keyboard back; may be null, and may answer null.
+  std::function<QWidget*()> owner;
+
+  /// Shows a page and brings the window to the front. Without the page in that language the English
+  /// one is shown, and without that a sentence that tells where it was looked for.
+  ///
+  /// `page`    name without folder and ending, such as "arbeitsblatt1"
+  /// `locale`  such as "de_DE" or "de"; "" stands for English
+  void Show(const std::string& page, const std::string& locale);
+
+  /// The file on display; empty without one.
+  std::filesystem::path Page() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  class Browser;
+  enum Button { kContents, kBack, kForward, kButtons };
+
+  std::filesystem::path Find(const QString& file) const;
+  std::string LanguageOf(const std::string& page) const;
+  QString Missing() const;
+  void Open(const std::string& page);
+  void TakeType();
+  void TakeWords();
+  void Arrange();
+  void BringToFront();
+
+  const std::vector<std::filesystem::path> folders_;
+  PictureSource pictures_;
+  PageStyle style_{pictures_};
+  Browser* browser_;
+  std::array<PressWidget*, kButtons> buttons_{};
+  Words words_;
+  std::string page_;  // that was asked for last
+  std::string locale_;
+  double zoom_ = 1;  // of the type, by the user's choice
+  bool placed_ = false;
+};
+
+}  // namespace vmod17

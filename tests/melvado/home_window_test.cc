@@ -1,0 +1,437 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "melvado/home_window.h"
+
+#include <signal.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+
+#include "melvado/log_window.h"
+#include "melvado/user_dialog.h"
+#include "melvado_testing.h"
+
+namespace vmod17 {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class HomeWindowTest : public HostStage {
+ protected:
+  static UserDialog* Dialog() {
+    return dynamic_cast<UserDialog*>(QApplication::activeModalWidget());
+  }
+  static void Type(UserDialog& dialog, const char* field, const QString& text) {
+    dialog.findChild<QLineEdit*>(field)->setText(text);
+  }
+  static void Click(UserDialog& dialog, const char* button) {
+    dialog.findChild<QPushButton*>(button)->click();
+  }
+  /// What the user does in the dialog that the next press opens.
+  static void Then(const std::function<void(UserDialog&)>& act) {
+    QTimer::singleShot(0, [act] {
+      ASSERT_NE(Dialog(), nullptr);
+      act(*Dialog());
+    });
+  }
+  void AddUser(const QString& number, const QString& name, const QString& first_name) {
+    Then([&](UserDialog& dialog) {
+      Type(dialog, "number", number);
+      Type(dialog, "name", name);
+      Type(dialog, "first_name", first_name);
+      Click(dialog, "ok");
+      if (Dialog() != nullptr && dialog.isVisible()) dialog.reject();
+    });
+    Press("add_user");
+  }
+  static QString Plain(QString text) { return text.remove(QChar(0x2068)).remove(QChar(0x2069)); }
+};
+
+// ---- The first start
+
+TEST_F(HomeWindowTest, NeedsNoChoiceAtTheFirstStart) {
+  Open();
+  EXPECT_EQ(Caption("language"), "Deutsch");
+  EXPECT_EQ(Caption("user"), "Niemand (ohne Namen)");
+  EXPECT_EQ(Caption("output"), "Eingebauter Synthesizer");
+  EXPECT_EQ(Caption("start"), "Jazz-Akkorde bestimmen");
+  EXPECT_EQ(window_->focusWidget(), Find<QWidget>("start"));
+  EXPECT_THAT(told_, IsEmpty());
+  EXPECT_THAT(messages_.warnings, IsEmpty());
+}
+
+TEST_F(HomeWindowTest, SpeaksTheLanguageOfTheDesktop) {
+  locales_ = {"en_GB"};
+  Open();
+  EXPECT_EQ(Caption("language"), "English");
+  EXPECT_EQ(Caption("user"), "Nobody (without a name)");
+}
+
+TEST_F(HomeWindowTest, LeadsToTheModuleByEnter) {
+  Open();
+  const Surrounding fake("FAKE_MODULE", "SHOWN wait MENUE 0");
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
+  ASSERT_TRUE(ServeUntil([this] { return !window_->isVisible(); }));
+  EXPECT_TRUE(host_->ModuleRuns());
+  kill(static_cast<pid_t>(host_->module_process()), SIGTERM);
+  ASSERT_TRUE(ServeUntil([this] { return window_->isVisible(); }));
+  EXPECT_EQ(window_->focusWidget(), Find<QWidget>("start"));
+  EXPECT_THAT(messages_.warnings, IsEmpty());
+  EXPECT_THAT(messages_.questions, IsEmpty());
+}
+
+TEST_F(HomeWindowTest, StartsByEnterFromAListToo) {
+  Open();
+  Find<QWidget>("language")->setFocus();
+  const Surrounding fake("FAKE_MODULE", "SHOWN MENUE 0");
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(host_->ModuleRuns());
+  EXPECT_TRUE(ServeUntil([this] { return !host_->ModuleRuns(); }));
+}
+
+TEST_F(HomeWindowTest, HasRoomForEveryWordOfEveryLanguage) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  host_->ChooseOutput("USB Digital Piano");
+  host_->ChooseSoundfont("");
+  for (const QSize size : {QSize(1024, 730), QSize(2560, 1440)}) {
+    window_->showNormal();
+    window_->resize(size);
+    Serve();
+    for (int i = 0; i < Find<QComboBox>("language")->count(); ++i) {
+      Choose("language", i);
+      EXPECT_THAT(window_->CaptionsThatDoNotFit(), IsEmpty())
+          << Caption("language").toStdString() << " at " << size.width();
+    }
+  }
+}
+
+TEST_F(HomeWindowTest, GrowsWithTheDisplay) {
+  Open();
+  window_->showNormal();
+  window_->resize(2048, 1460);
+  EXPECT_DOUBLE_EQ(window_->factor(), 2);
+  EXPECT_EQ(Find<QWidget>("start")->height(), 2 * 78);
+}
+
+// ---- Language
+
+TEST_F(HomeWindowTest, ChangesItsWordsAtOnceAndKeepsTheLanguage) {
+  Open();
+  const QStringList languages = Entries("language");
+  Choose("language", static_cast<int>(languages.indexOf("English")));
+  EXPECT_EQ(Caption("test"), "Test the sound");
+  EXPECT_EQ(Caption("output"), "Built-in synthesiser");
+  Open();
+  EXPECT_EQ(Caption("language"), "English");
+  EXPECT_EQ(Caption("test"), "Test the sound");
+}
+
+// ---- Users
+
+TEST_F(HomeWindowTest, AddsAUserWhoIsThenTheOneWhoLearns) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  EXPECT_EQ(Plain(Caption("user")), "Berg, Anna (4711)");
+  EXPECT_EQ(Entries("user").size(), 2);
+  EXPECT_EQ(host_->ChosenUser(), "4711");
+  Open();
+  EXPECT_EQ(Plain(Caption("user")), "Berg, Anna (4711)");
+}
+
+TEST_F(HomeWindowTest, LetsAnotherUserOrNobodyLearn) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  AddUser("0815", "Tal", "Ida");
+  EXPECT_EQ(host_->ChosenUser(), "0815");
+  Choose("user", 1);
+  EXPECT_EQ(host_->ChosenUser(), "4711");
+  Choose("user", 0);
+  EXPECT_EQ(host_->ChosenUser(), "");
+  EXPECT_FALSE(Find<QWidget>("change_user")->isEnabled());
+  EXPECT_FALSE(Find<QWidget>("remove_user")->isEnabled());
+}
+
+TEST_F(HomeWindowTest, AsksAgainUntilANumberCanBeTaken) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  Then([](UserDialog& dialog) {
+    auto* const fault = dialog.findChild<QLabel*>("fault");
+    EXPECT_FALSE(fault->isVisible());
+    Click(dialog, "ok");
+    EXPECT_THAT(fault->text().toStdString(), HasSubstr("Matrikelnummer ein"));
+    Type(dialog, "number", "4711");
+    Click(dialog, "ok");
+    EXPECT_THAT(fault->text().toStdString(), HasSubstr("steht schon in der Liste"));
+    Type(dialog, "number", "4712");
+    Type(dialog, "name", QString(10'000, 'x'));
+    Click(dialog, "ok");
+    EXPECT_THAT(fault->text().toStdString(), HasSubstr("zu lang"));
+    Type(dialog, "name", "Tal");
+    Click(dialog, "ok");
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  Press("add_user");
+  EXPECT_EQ(host_->ChosenUser(), "4712");
+  EXPECT_THAT(host_->Users(), SizeIs(2));
+}
+
+TEST_F(HomeWindowTest, ChangesTheNamesOfAUserButNotHisNumber) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  Then([](UserDialog& dialog) {
+    EXPECT_TRUE(dialog.findChild<QLineEdit*>("number")->isReadOnly());
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("name")->text(), "Berg");
+    Type(dialog, "name", "Tal");
+    Click(dialog, "ok");
+  });
+  Press("change_user");
+  EXPECT_EQ(Plain(Caption("user")), "Tal, Anna (4711)");
+}
+
+TEST_F(HomeWindowTest, LeavesAUserAsHeIsWhenTheDialogIsLeft) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  Then([](UserDialog& dialog) {
+    Type(dialog, "name", "Tal");
+    Click(dialog, "cancel");
+  });
+  Press("change_user");
+  EXPECT_EQ(Plain(Caption("user")), "Berg, Anna (4711)");
+}
+
+TEST_F(HomeWindowTest, RemovesAUserOnlyIfTheAnswerIsYes) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  Press("remove_user");
+  ASSERT_THAT(messages_.questions, SizeIs(1));
+  EXPECT_THAT(messages_.questions[0].text, HasSubstr("bleiben erhalten"));
+  EXPECT_THAT(host_->Users(), SizeIs(1));
+  messages_.answer = MessageBox::Answer::kYes;
+  Press("remove_user");
+  EXPECT_THAT(host_->Users(), IsEmpty());
+  EXPECT_EQ(Caption("user"), "Niemand (ohne Namen)");
+}
+
+// ---- Sound
+
+TEST_F(HomeWindowTest, ShowsADeviceThatComesAndGoes) {
+  Open();
+  EXPECT_EQ(Entries("output"), QStringList{"Eingebauter Synthesizer"});
+  ports_->Plug({"Piano"});
+  host_->RefreshOutputs();
+  EXPECT_EQ(Entries("output"), (QStringList{"Piano", "Eingebauter Synthesizer"}));
+  EXPECT_EQ(Caption("output"), "Eingebauter Synthesizer");
+  Choose("output", 0);
+  EXPECT_EQ(Caption("output_note"), "");
+  ports_->Plug({});
+  host_->RefreshOutputs();
+  EXPECT_EQ(Caption("output"), "Piano (nicht angeschlossen)");
+  EXPECT_THAT(Caption("output_note").toStdString(), HasSubstr("eingebaute Synthesizer"));
+  ports_->Plug({"Expander", "Piano"});
+  host_->RefreshOutputs();
+  EXPECT_EQ(Caption("output"), "Piano");
+  EXPECT_EQ(Caption("output_note"), "");
+}
+
+TEST_F(HomeWindowTest, LooksForDevicesByItself) {
+  Open();
+  ports_->Plug({"Piano"});
+  EXPECT_TRUE(ServeUntil([this] { return Entries("output").size() == 2; }));
+}
+
+TEST_F(HomeWindowTest, RemembersADeviceByNameWhileItIsGone) {
+  ports_->Plug({"Piano", "Expander"});
+  Open();
+  Choose("output", 1);
+  ports_->Plug({});
+  Open();
+  EXPECT_EQ(Caption("output"), "Expander (nicht angeschlossen)");
+}
+
+TEST_F(HomeWindowTest, TakesOverAnOutputThatIsNamedFromOutside) {
+  ports_->Plug({"Piano", "Expander"});
+  HostSetup setup = HostOfTest();
+  setup.midi = "Exp";
+  Open(std::move(setup));
+  EXPECT_EQ(Caption("output"), "Expander");
+  Open();
+  EXPECT_EQ(Caption("output"), "Expander");
+}
+
+TEST_F(HomeWindowTest, TellsWhatBecameOfTheTest) {
+  ports_->Plug({"Piano"});
+  Open();
+  Choose("output", 0);
+  Press("test");
+  EXPECT_FALSE(Find<QWidget>("test")->isEnabled());
+  EXPECT_EQ(Caption("verdict"), "Es wird ein Akkord gespielt…");
+  ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
+  EXPECT_TRUE(Find<QWidget>("test")->isEnabled());
+  EXPECT_THAT(Caption("verdict").toStdString(), HasSubstr("Das MIDI-Gerät „Piano“ hat"));
+  Choose("language", static_cast<int>(Entries("language").indexOf("English")));
+  EXPECT_THAT(Caption("verdict").toStdString(), HasSubstr("the MIDI device"));
+}
+
+TEST_F(HomeWindowTest, LeadsOnByEnterAfterAUserWasAdded) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  EXPECT_EQ(window_->focusWidget(), Find<QWidget>("start"));
+}
+
+TEST_F(HomeWindowTest, KeepsTheFocusOnTheTestForAnother) {
+  ports_->Plug({"Piano"});
+  Open();
+  Choose("output", 0);
+  Find<QWidget>("test")->setFocus();
+  Press("test");
+  EXPECT_NE(window_->focusWidget(), Find<QWidget>("test"));
+  ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
+  EXPECT_EQ(window_->focusWidget(), Find<QWidget>("test"));
+}
+
+TEST_F(HomeWindowTest, StopsATestWhenTheModuleStarts) {
+  ports_->Plug({"Piano"});
+  Open();
+  Choose("output", 0);
+  Press("test");
+  RunModule("SHOWN MENUE 0");
+  EXPECT_FALSE(host_->TestRuns());
+  EXPECT_TRUE(Find<QWidget>("test")->isEnabled());
+}
+
+// ---- The module
+
+TEST_F(HomeWindowTest, ComesBackAndSaysSoWhenTheModuleCrashes) {
+  for (const char* const script : {"SHOWN abort", "SHOWN 0", "7"}) {
+    messages_.questions.clear();
+    Open();
+    RunModule(script);
+    EXPECT_TRUE(window_->isVisible());
+    ASSERT_THAT(messages_.questions, SizeIs(1)) << script;
+    EXPECT_THAT(messages_.questions[0].text, HasSubstr("unerwartet"));
+    ASSERT_THAT(host_->Log(), testing::Not(IsEmpty()));
+    EXPECT_EQ(host_->Log().back().source, "melvado");
+  }
+}
+
+TEST_F(HomeWindowTest, ComesBackWhenTheModuleIsKilled) {
+  Open();
+  const Surrounding fake("FAKE_MODULE", "SHOWN wait");
+  Press("start");
+  ASSERT_TRUE(ServeUntil([this] { return !window_->isVisible(); }));
+  kill(static_cast<pid_t>(host_->module_process()), SIGKILL);
+  ASSERT_TRUE(ServeUntil([this] { return window_->isVisible(); }));
+  EXPECT_THAT(messages_.questions, SizeIs(1));
+  EXPECT_THAT(host_->Log().back().text, HasSubstr("signal 9"));
+}
+
+TEST_F(HomeWindowTest, ShowsTheEndOfTheLogAfterACrashIfItIsWanted) {
+  Open();
+  messages_.answer = MessageBox::Answer::kYes;
+  RunModule("SHOWN abort");
+  ASSERT_NE(window_->log_window(), nullptr);
+  EXPECT_TRUE(window_->log_window()->isVisible());
+  const auto* lines = window_->log_window()->findChild<QTableWidget*>("lines");
+  ASSERT_GT(lines->rowCount(), 0);
+  EXPECT_EQ(lines->currentRow(), lines->rowCount() - 1);
+  EXPECT_EQ(lines->item(lines->rowCount() - 1, 4)->text(), "melvado");
+}
+
+TEST_F(HomeWindowTest, SaysThatTheModuleCannotBeStarted) {
+  HostSetup setup = HostOfTest();
+  setup.module = "/nowhere/vmod17";
+  Open(std::move(setup));
+  RunModule("");
+  ASSERT_THAT(messages_.warnings, SizeIs(1));
+  EXPECT_THAT(messages_.warnings[0].text, HasSubstr("ließ sich nicht starten"));
+  EXPECT_TRUE(window_->isVisible());
+  EXPECT_TRUE(Find<QWidget>("start")->isEnabled());
+}
+
+TEST_F(HomeWindowTest, SaysThatTheModuleWasOpenBefore) {
+  Open();
+  RunModule("OPEN 0");
+  ASSERT_THAT(messages_.warnings, SizeIs(1));
+  EXPECT_THAT(messages_.warnings[0].text, HasSubstr("schon geöffnet"));
+}
+
+TEST_F(HomeWindowTest, StaysAsItIsWhileTheModuleStarts) {
+  Open();
+  const Surrounding fake("FAKE_MODULE", "wait SHOWN MENUE 0");
+  Press("start");
+  EXPECT_EQ(Caption("start"), "Wird gestartet…");
+  for (const char* name : {"user", "language", "output", "test", "add_user"}) {
+    EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
+  }
+  const qint64 first = host_->module_process();
+  Press("start");
+  EXPECT_EQ(host_->module_process(), first);
+  kill(static_cast<pid_t>(first), SIGTERM);
+  ASSERT_TRUE(ServeUntil([this] { return !host_->ModuleRuns(); }));
+  Serve();
+  EXPECT_TRUE(Find<QWidget>("user")->isEnabled());
+}
+
+// ---- The log
+
+TEST_F(HomeWindowTest, ShowsTheLogNewestLastAndCopiesItAsAReport) {
+  Open();
+  RunModule("3");
+  RunModule("4");
+  Press("log");
+  LogWindow* const log = window_->log_window();
+  const auto* lines = log->findChild<QTableWidget*>("lines");
+  ASSERT_EQ(lines->rowCount(), 2);
+  EXPECT_EQ(lines->item(0, 2)->text(), "3");
+  EXPECT_EQ(lines->item(1, 2)->text(), "4");
+  log->findChild<QPushButton*>("copy")->click();
+  const std::string report = QGuiApplication::clipboard()->text().toStdString();
+  for (const char* part : {"Melvado 1.", "System: ", "Qt 6", "Sound output: built-in synthesiser",
+                           "Soundfont: the system's", "ERROR 4 in Host.ModuleEnded"}) {
+    EXPECT_THAT(report, HasSubstr(part));
+  }
+}
+
+TEST_F(HomeWindowTest, ReadsTheLogAgain) {
+  Open();
+  Press("log");
+  LogWindow* const log = window_->log_window();
+  const auto* lines = log->findChild<QTableWidget*>("lines");
+  EXPECT_EQ(lines->rowCount(), 0);
+  RunModule("3");
+  log->findChild<QPushButton*>("refresh")->click();
+  EXPECT_EQ(lines->rowCount(), 1);
+}
+
+TEST_F(HomeWindowTest, AsksForHelpByF1AndByTheButton) {
+  Open();
+  int asked = 0;
+  window_->on_help = [&] { ++asked; };
+  QTest::keyClick(window_->focusWidget(), Qt::Key_F1);
+  Press("help");
+  EXPECT_EQ(asked, 2);
+  Press("log");
+  QTest::keyClick(window_->log_window()->findChild<QTableWidget*>("lines"), Qt::Key_F1);
+  EXPECT_EQ(asked, 3);
+}
+
+TEST_F(HomeWindowTest, AsksToQuitWhenItIsClosed) {
+  Open();
+  int asked = 0;
+  window_->on_quit = [&] { ++asked; };
+  window_->close();
+  Press("quit");
+  EXPECT_EQ(asked, 2);
+}
+
+}  // namespace
+}  // namespace vmod17

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "melvado/module_process.h"
+
+#include <signal.h>
+
+#include <QFile>
+
+#include "melvado_testing.h"
+
+namespace vmod17 {
+namespace {
+
+using Kind = ModuleEnd::Kind;
+
+class ModuleProcessTest : public testing::Test {
+ protected:
+  ModuleProcessTest() {
+    process_.on_shown = [this] { ++shown_; };
+    process_.on_end = [this](const ModuleEnd& end) { ends_.push_back(end); };
+  }
+
+  ModuleEnd Run(const QByteArray& script) {
+    const Surrounding fake("FAKE_MODULE", script);
+    process_.Start(FAKE_MODULE, "");
+    EXPECT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+    EXPECT_FALSE(process_.runs());
+    return ends_.empty() ? ModuleEnd() : ends_[0];
+  }
+
+  ModuleProcess process_;
+  int shown_ = 0;
+  std::vector<ModuleEnd> ends_;
+};
+
+TEST_F(ModuleProcessTest, TellsThatTheModuleIsShownAndGivesControlBack) {
+  EXPECT_EQ(Run("SHOWN MENUE 0").kind, Kind::kMenu);
+  EXPECT_EQ(shown_, 1);
+  EXPECT_EQ(ends_.size(), 1u);
+}
+
+TEST_F(ModuleProcessTest, TakesAnEndWithoutAWordForBroken) {
+  const ModuleEnd end = Run("SHOWN 0");
+  EXPECT_EQ(end.kind, Kind::kBroken);
+  EXPECT_FALSE(end.crashed);
+  EXPECT_EQ(end.code, 0);
+}
+
+TEST_F(ModuleProcessTest, TellsTheStatusOfABrokenModule) {
+  const ModuleEnd end = Run("3");
+  EXPECT_EQ(end.kind, Kind::kBroken);
+  EXPECT_EQ(end.code, 3);
+}
+
+TEST_F(ModuleProcessTest, TellsACrashByItsSignal) {
+  const ModuleEnd end = Run("SHOWN abort");
+  EXPECT_EQ(end.kind, Kind::kBroken);
+  EXPECT_TRUE(end.crashed);
+  EXPECT_EQ(end.code, SIGABRT);
+}
+
+TEST_F(ModuleProcessTest, TellsThatTheModuleWasOpenBefore) {
+  EXPECT_EQ(Run("OPEN 0").kind, Kind::kOpenBefore);
+  EXPECT_EQ(shown_, 0);
+}
+
+TEST_F(ModuleProcessTest, IgnoresLinesThatItDoesNotKnow) {
+  EXPECT_EQ(Run("NEWS menue 0").kind, Kind::kBroken);
+}
+
+TEST_F(ModuleProcessTest, TellsWhyAModuleDoesNotStart) {
+  process_.Start("/nowhere/vmod17", "");
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(ends_[0].kind, Kind::kNotStarted);
+  EXPECT_FALSE(ends_[0].reason.isEmpty());
+  EXPECT_FALSE(process_.runs());
+}
+
+TEST_F(ModuleProcessTest, RunsOneModuleAtATime) {
+  const Surrounding fake("FAKE_MODULE", "SHOWN wait MENUE 0");
+  process_.Start(FAKE_MODULE, "");
+  ASSERT_TRUE(ServeUntil([this] { return shown_ == 1; }));
+  const qint64 first = process_.process_id();
+  process_.Start(FAKE_MODULE, "");
+  EXPECT_EQ(process_.process_id(), first);
+  kill(static_cast<pid_t>(first), SIGTERM);
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(ends_[0].kind, Kind::kMenu);
+}
+
+TEST_F(ModuleProcessTest, HandsOnTheStoreAndKeepsTheOutputThatItHasTakenOver) {
+  const QTemporaryDir folder;
+  const QString notes = folder.filePath("notes");
+  const Surrounding file("FAKE_MODULE_NOTES", notes.toUtf8());
+  const Surrounding output("MELVADO_MIDI", "Piano");
+  const Surrounding fake("FAKE_MODULE", "MENUE");
+  process_.Start(FAKE_MODULE, "/some/store");
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  QFile written(notes);
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_EQ(written.readAll(), "MELVADO_HOST=1\nMELVADO_STORE=/some/store\nMELVADO_MIDI=none\n");
+}
+
+TEST(ModuleProcess, EndsItsModuleByTheModulesOwnWayWhenTheHostGoes) {
+  const QTemporaryDir folder;
+  const Surrounding fake("FAKE_MODULE", "SHOWN wait MENUE 0");
+  qint64 id = 0;
+  {
+    ModuleProcess process;
+    bool shown = false;
+    process.on_shown = [&] { shown = true; };
+    process.Start(FAKE_MODULE, "");
+    ASSERT_TRUE(ServeUntil([&] { return shown; }));
+    id = process.process_id();
+  }
+  EXPECT_NE(kill(static_cast<pid_t>(id), 0), 0);
+}
+
+}  // namespace
+}  // namespace vmod17

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The two programs as processes: the second start, the kill, and what the module says to its host.
+
+#include <signal.h>
+
+#include <QDir>
+#include <QProcess>
+
+#include "app/places.h"
+#include "melvado_testing.h"
+#include "platform/qt/single_instance.h"
+
+namespace vmod17 {
+namespace {
+
+class Programs : public testing::Test {
+ protected:
+  std::string Store() const { return folder_.filePath("store.sqlite").toStdString(); }
+
+  QProcessEnvironment Surroundings() const {
+    QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
+    surroundings.insert("MELVADO_STORE", QString::fromStdString(Store()));
+    surroundings.insert("MELVADO_HOST", "1");
+    surroundings.insert("XDG_DATA_HOME", folder_.path());
+    return surroundings;
+  }
+  std::unique_ptr<QProcess> Start(const char* program) const {
+    auto process = std::make_unique<QProcess>();
+    process->setProcessEnvironment(Surroundings());
+    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process->start(program, QStringList());
+    EXPECT_TRUE(process->waitForStarted());
+    return process;
+  }
+  static QByteArray Line(QProcess& process) {
+    while (!process.canReadLine() && process.waitForReadyRead(30'000)) {
+    }
+    return process.readLine().trimmed();
+  }
+  static int Status(QProcess& process) {
+    if (process.state() != QProcess::NotRunning) process.waitForFinished(30'000);
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+  }
+  static void End(QProcess& process) {
+    process.terminate();
+    EXPECT_EQ(Status(process), 0);
+  }
+
+  QTemporaryDir folder_;
+  Surrounding runtime_{"XDG_RUNTIME_DIR", folder_.path().toUtf8()};
+};
+
+TEST_F(Programs, TheModuleTellsItsHostThatItIsShownAndThatItEnds) {
+  const auto module = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*module), "SHOWN");
+  module->terminate();
+  EXPECT_EQ(Line(*module), "MENUE");
+  EXPECT_EQ(Status(*module), 0);
+}
+
+TEST_F(Programs, ASecondModuleOfOneUserEndsAtOnceWithStatus0) {
+  const auto first = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*first), "SHOWN");
+  const auto second = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*second), "OPEN");
+  EXPECT_EQ(Status(*second), 0);
+  EXPECT_EQ(first->state(), QProcess::Running);
+  End(*first);
+}
+
+TEST_F(Programs, AnotherUserMayRunAModuleOfHisOwn) {
+  const auto nobodys = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*nobodys), "SHOWN");
+  StoreOptions options;
+  options.address = Store();
+  HostStore(std::move(options)).SetUser({"4711", "Berg", "Anna"});
+  const auto annas = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*annas), "SHOWN");
+  End(*annas);
+  End(*nobodys);
+}
+
+TEST_F(Programs, AModuleStartsAgainAfterItWasKilled) {
+  const auto killed = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*killed), "SHOWN");
+  killed->kill();
+  killed->waitForFinished();
+  const auto next = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*next), "SHOWN");
+  End(*next);
+}
+
+TEST_F(Programs, AModuleOutlivesAHostThatListensNoMore) {
+  const auto module = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*module), "SHOWN");
+  module->closeReadChannel(QProcess::StandardOutput);
+  End(*module);
+}
+
+TEST_F(Programs, ASecondHostEndsAtOnceWithStatus0) {
+  const auto first = Start(MELVADO_PROGRAM);
+  ASSERT_TRUE(ServeUntil([this] { return SingleInstance::BringToFront(HostKey(Store())); }));
+  const auto second = Start(MELVADO_PROGRAM);
+  EXPECT_EQ(Status(*second), 0);
+  EXPECT_EQ(first->state(), QProcess::Running);
+  End(*first);
+}
+
+TEST_F(Programs, OneStoreHasOneKeyHoweverItIsNamed) {
+  const QString twisted =
+      folder_.path() + "/./../" + QDir(folder_.path()).dirName() + "/store.sqlite";
+  EXPECT_EQ(HostKey(twisted.toStdString()), HostKey(Store()));
+  EXPECT_NE(ModuleKey(Store(), ""), ModuleKey(Store(), "4711"));
+}
+
+TEST(SingleInstance, AsksTheFirstToComeToTheFront) {
+  const QTemporaryDir folder;
+  const Surrounding runtime("XDG_RUNTIME_DIR", folder.path().toUtf8());
+  EXPECT_FALSE(SingleInstance::BringToFront("key"));
+  SingleInstance first("key");
+  int asked = 0;
+  first.come_to_front = [&] { ++asked; };
+  EXPECT_TRUE(first.Claim());
+  SingleInstance second("key");
+  EXPECT_FALSE(second.Claim());
+  EXPECT_TRUE(ServeUntil([&] { return asked == 1; }));
+  SingleInstance other("another key");
+  EXPECT_TRUE(other.Claim());
+  first.Release();
+  EXPECT_TRUE(second.Claim());
+}
+
+TEST(SingleInstance, LetsEveryProcessBeTheFirstWhereThereIsNoFolder) {
+  const QTemporaryDir folder;
+  QFile(folder.filePath("file")).open(QIODevice::WriteOnly);
+  const Surrounding runtime("XDG_RUNTIME_DIR", "/nowhere/at/all");
+  const Surrounding temporary("TMPDIR", folder.filePath("file").toUtf8());
+  SingleInstance first("key");
+  EXPECT_TRUE(first.Claim());
+  SingleInstance second("key");
+  EXPECT_TRUE(second.Claim());
+}
+
+}  // namespace
+}  // namespace vmod17
