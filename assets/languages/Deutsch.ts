@@ -977,5 +977,9 @@
         <source></source>
         <translation>Das Protokoll ist leer.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Es ist ein Fehler aufgetreten, mit dem das Programm nicht gerechnet hat (%1). Er steht im Protokoll; Sie können weitermachen. Bitte schicken Sie den Fehlerbericht aus dem Protokoll ein.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>The log is empty.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>An error has occurred that the program did not expect (%1). It is in the log; you can go on. Please send the fault report from the log.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>El registro está vacío.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Se ha producido un error que el programa no esperaba (%1). Está en el registro; puede continuar. Envíe el informe de error del registro.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>Le journal est vide.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Une erreur que le programme n’attendait pas est survenue (%1). Elle figure dans le journal ; vous pouvez continuer. Veuillez envoyer le rapport d’erreur depuis le journal.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>Il registro è vuoto.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Si è verificato un errore che il programma non prevedeva (%1). È nel registro; puoi continuare. Invia il rapporto di errore preso dal registro.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>Het logboek is leeg.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Er is een fout opgetreden waarop het programma niet rekende (%1). Ze staat in het logboek; u kunt doorgaan. Stuur het foutrapport uit het logboek op.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>Dziennik jest pusty.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Wystąpił błąd, którego program nie przewidział (%1). Jest w dzienniku; możesz kontynuować. Wyślij raport o błędzie z dziennika.</translation>
+    </message>
 </context>
 </TS>

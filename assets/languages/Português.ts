@@ -977,5 +977,9 @@
         <source></source>
         <translation>O histórico está vazio.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Ocorreu um erro que o programa não esperava (%1). Está no histórico; você pode continuar. Envie o relatório de erro do histórico.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>Protokol je prázdný.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Došlo k chybě, se kterou program nepočítal (%1). Je v protokolu; můžete pokračovat. Pošlete prosím hlášení o chybě z protokolu.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>Журнал пуст.</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>Произошла ошибка, которой программа не ожидала (%1). Она записана в журнал; можно продолжать. Отправьте отчёт об ошибке из журнала.</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>日志为空。</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>发生了程序未预料到的错误（%1）。该错误已记入日志，您可以继续。请发送日志中的错误报告。</translation>
+    </message>
 </context>
 </TS>

@@ -977,5 +977,9 @@
         <source></source>
         <translation>ログは空です。</translation>
     </message>
+    <message id="9467s">
+        <source></source>
+        <translation>予期しないエラーが発生しました（%1）。ログに記録しました。そのまま続けられます。ログから障害報告をお送りください。</translation>
+    </message>
 </context>
 </TS>

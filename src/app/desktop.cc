@@ -116,6 +116,7 @@ bool Desktop::ReturnToHost() {
 StoreOptions Desktop::HostOptions() {
   StoreOptions options;
   options.address = system_.Environment("MELVADO_STORE").value_or("");
+  options.session = system_.Environment(kSessionVariable).value_or("");
   options.desktop_language = [this] { return languages_.DesktopLanguage(); };
   options.language_installed = [this](const std::string& name) {
     const auto table = languages_.Table();

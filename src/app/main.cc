@@ -4,6 +4,8 @@
 #include <signal.h>
 
 #include <QApplication>
+#include <QIcon>
+#include <QTimer>
 
 #include "app/desktop.h"
 #include "app/end_on_signal.h"
@@ -14,6 +16,8 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   QApplication::setApplicationDisplayName("Melvado");
   QApplication::setQuitOnLastWindowClosed(false);
+  // Once the first screen stands.
+  QTimer::singleShot(0, [] { QApplication::setWindowIcon(QIcon(":/melvado.svg")); });
   vmod17::Desktop desktop;
   const vmod17::EndOnSignal end_on_signal([&desktop] { desktop.Leave(); });
   return desktop.Run();

@@ -33,6 +33,8 @@ inline constexpr const char* kOpen = "OPEN";    ///< another process is at work,
 
 /// Set in the surroundings of a module that a host has started.
 inline constexpr const char* kHostVariable = "MELVADO_HOST";
+/// What the host has chosen, as `HostStore::Session` gives it.
+inline constexpr const char* kSessionVariable = "MELVADO_SESSION";
 
 /// Says a line to the host. Does nothing where nobody listens.
 void SayToHost(const char* line);

@@ -158,7 +158,7 @@ void HomeWindow::BuildSound() {
                           [this] { ChooseSoundfont(); });
   usual_soundfont_ =
       MakeButton("usual_soundfont", ButtonPlace({x + half + 10, y + 180, half, 36}, 14),
-                 [this] { host_.ChooseSoundfont(""); });
+                 [this] { TakeSoundfont(""); });
   soundfont_note_ = Make<TextWidget>(
       "soundfont_note", {.rect = {x, y + 218, kField, 30}, .look = Look::kQuiet, .text = 13});
   verdict_ =
@@ -437,9 +437,12 @@ void HomeWindow::ChooseSoundfont() {
   constexpr const char* kEndings = "sf2 *.sf3 *.SF2 *.SF3";
   const QString title = host_.words().Say(9437, "Choose a soundfont");
   const std::optional<std::string> path = dialog_.AskToOpen(title.toStdString(), kEndings);
-  if (!path) return;
+  if (path) TakeSoundfont(*path);
+}
+
+void HomeWindow::TakeSoundfont(const std::string& path) {
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  const std::optional<Notice> fault = host_.ChooseSoundfont(*path);
+  const std::optional<Notice> fault = host_.ChooseSoundfont(path);
   QGuiApplication::restoreOverrideCursor();
   if (fault) messages_.Warn(host_.words().Say(*fault).toStdString(), "Melvado");
 }

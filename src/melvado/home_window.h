@@ -92,6 +92,7 @@ class HomeWindow : public QWidget {
   void AskForUser(bool known);
   void RemoveUser();
   void ChooseSoundfont();
+  void TakeSoundfont(const std::string& path);
   void Test();
   void Start();
   void ModuleEnded(const ModuleEnd& end);

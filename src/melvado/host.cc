@@ -14,6 +14,7 @@
 #include "platform/midi/soundfonts.h"
 #include "platform/qt/single_instance.h"
 #include "platform/store/store_address.h"
+#include "platform/store/store_notices.h"
 #include "version.h"
 
 namespace vmod17 {
@@ -21,6 +22,11 @@ namespace {
 
 constexpr int kLogLines = 1000;
 constexpr const char* kFirstLanguage = "Deutsch";
+
+std::string Version() {
+  return std::to_string(kVersionMajor) + '.' + std::to_string(kVersionMinor) + '.' +
+         std::to_string(kVersionRevision);
+}
 
 HostSetup Completed(HostSetup setup) {
   // One connection to the system's ports serves the list and the tests.
@@ -44,10 +50,12 @@ Host::Host(HostSetup setup, EventLoop& loop)
   module_.on_end = [this](const ModuleEnd& end) { ModuleEnded(end); };
   ports_->Prepare();
   if (setup_.midi) {
-    Store([this] { store_.SetMidiDevice(*setup_.midi); });
+    Choose([this] { store_.SetMidiDevice(*setup_.midi); });
   }
   SpeakLanguage();
   RefreshOutputs();
+  TaggedValue slot;
+  store_.Service()->Action("LOGMESS", "melvado " + Version() + " start", slot);
   for (const std::string& file : languages_.problems()) {
     Tell({9251,
           "The language file %1 cannot be read and is left out. If it came with the "
@@ -61,6 +69,7 @@ Host::~Host() = default;
 StoreOptions Host::HostStoreOptions() {
   StoreOptions options;
   options.address = setup_.store;
+  options.busy_timeout_ms = setup_.store_patience_ms;
   options.desktop_language = [this] { return languages_.BestFor(setup_.locales); };
   options.language_installed = [this](const std::string& name) {
     const std::vector<std::string> names = Languages();
@@ -89,14 +98,20 @@ void Host::Tell(const Notice& notice) {
   TellLater();
 }
 
-/// False when the store is locked, of which it has told by itself.
-bool Host::Store(const std::function<void()>& work) {
+/// Returns that the store is locked, in place of the store's own word, which comes once only.
+std::optional<Notice> Host::Store(const std::function<void()>& work) {
+  const std::size_t before = untold_.size();
   try {
     work();
-    return true;
+    return std::nullopt;
   } catch (const RunTimeError&) {
-    return false;
+    untold_.erase(untold_.begin() + static_cast<std::ptrdiff_t>(before), untold_.end());
+    return LockedStoreNotice(ParseStoreAddress(setup_.store).Display());
   }
+}
+
+void Host::Choose(const std::function<void()>& work) {
+  if (const auto trouble = Store(work)) Tell(*trouble);
 }
 
 // --- Who is learning
@@ -120,28 +135,28 @@ void Host::ChooseUser(const std::string& id) {
   for (const StoreUser& user : Users()) {
     if (user.id == id) chosen = user;
   }
-  Store([&] { store_.SetUser(chosen); });
+  Choose([&] { store_.SetUser(chosen); });
 }
 
 std::optional<Notice> Host::AddUser(const StoreUser& typed) {
   const StoreUser user = Cleaned(typed);
   if (const auto fault = FaultOf(user)) return fault;
   bool added = true;
-  const bool stored = Store([&] { added = store_.SaveUser(user, HostStore::UserIs::kNew); });
+  const auto trouble = Store([&] { added = store_.SaveUser(user, HostStore::UserIs::kNew); });
+  if (trouble) return trouble;
   if (!added) return NumberTakenNotice(user.id);
-  if (stored) ChooseUser(user.id);
+  ChooseUser(user.id);
   return std::nullopt;
 }
 
 std::optional<Notice> Host::ChangeUser(const StoreUser& typed) {
   const StoreUser user = Cleaned(typed);
   if (const auto fault = FaultOf(user)) return fault;
-  Store([&] { store_.SaveUser(user, HostStore::UserIs::kKnown); });
-  return std::nullopt;
+  return Store([&] { store_.SaveUser(user, HostStore::UserIs::kKnown); });
 }
 
 void Host::RemoveUser(const std::string& id) {
-  Store([&] { store_.RemoveUser(id); });
+  Choose([&] { store_.RemoveUser(id); });
 }
 
 // --- Language
@@ -161,14 +176,14 @@ void Host::SpeakLanguage() {
 }
 
 void Host::ChooseLanguage(const std::string& name) {
-  Store([&] { store_.SetLanguage(name); });
+  Choose([&] { store_.SetLanguage(name); });
   SpeakLanguage();
 }
 
 // --- Sound
 
 void Host::ChooseOutput(const std::string& name) {
-  Store([&] { store_.SetMidiDevice(name); });
+  Choose([&] { store_.SetMidiDevice(name); });
   verdict_.reset();
   RefreshOutputs();
 }
@@ -196,7 +211,7 @@ std::optional<Notice> Host::ChooseSoundfont(const std::string& path) {
                   "stays as it was.",
                   {path}};
   }
-  Store([&] { store_.SetSoundfont(path); });
+  if (const auto trouble = Store([&] { store_.SetSoundfont(path); })) return trouble;
   verdict_.reset();
   return std::nullopt;
 }
@@ -216,7 +231,8 @@ void Host::TestSound(std::function<void()> done) {
 void Host::StartModule() {
   if (module_.runs()) return;
   test_.Stop();  // a sound card may serve one program at a time
-  module_.Start(QString::fromStdString(setup_.module), QString::fromStdString(setup_.store));
+  module_.Start(QString::fromStdString(setup_.module), QString::fromStdString(setup_.store),
+                QString::fromStdString(store_.Session()));
 }
 
 bool Host::BringModuleToFront() {
@@ -233,23 +249,24 @@ void Host::ModuleEnded(const ModuleEnd& end) {
   } else if (end.kind == ModuleEnd::Kind::kBroken) {
     what = "vmod17 ended without a word, with status " + std::to_string(end.code);
   }
-  if (!what.empty()) {
-    TaggedValue slot;
-    store_.Service()->Action(
-        "LOGERR", TaggedValue::Array{"Host.ModuleEnded", end.code, what, "melvado"}, slot);
-  }
+  if (!what.empty()) LogError("Host.ModuleEnded", end.code, what, "melvado");
   RefreshOutputs();
   if (on_module_end) on_module_end(end);
 }
 
 // --- The log
 
+void Host::LogError(const std::string& place, int number, const std::string& text,
+                    const std::string& source) {
+  TaggedValue slot;
+  store_.Service()->Action("LOGERR", TaggedValue::Array{place, number, text, source}, slot);
+}
+
 std::vector<LogEntry> Host::Log() { return store_.Log(kLogLines); }
 
 FaultFacts Host::Facts() {
   FaultFacts facts;
-  facts.version = std::to_string(kVersionMajor) + '.' + std::to_string(kVersionMinor) + '.' +
-                  std::to_string(kVersionRevision);
+  facts.version = Version();
   facts.system = QSysInfo::prettyProductName().toStdString() + ", " +
                  QSysInfo::kernelType().toStdString() + ' ' +
                  QSysInfo::kernelVersion().toStdString() + ", " +

@@ -26,6 +26,7 @@ namespace vmod17 {
 /// What a host is made of; empty members stand for what is usual.
 struct HostSetup {
   std::string store;  ///< see `ParseStoreAddress`
+  int store_patience_ms = StoreOptions().busy_timeout_ms;
   std::vector<std::filesystem::path> language_folders;
   std::vector<std::string> locales;  ///< what the desktop's user reads, best first
   std::string module;                ///< path of the program
@@ -37,7 +38,8 @@ struct HostSetup {
 /// and the module that runs. All members are called on the program's one thread.
 ///
 /// What is chosen is stored at once. A store that cannot take it says so through `tell`, and the
-/// choice holds as long as the host runs.
+/// choice holds as long as the host runs, also for the module. While another program holds the
+/// store, the choice stays as it was.
 class Host {
  public:
   /// `loop` outlives the host.
@@ -61,7 +63,7 @@ class Host {
   void ChooseUser(const std::string& id);
   /// Adds and chooses. Returns why it cannot be done; nothing when it is.
   std::optional<Notice> AddUser(const StoreUser& typed);
-  /// Changes the names of the user with this number.
+  /// Changes the names of the user with this number. Returns why it cannot be done.
   std::optional<Notice> ChangeUser(const StoreUser& typed);
   void RemoveUser(const std::string& id);
 
@@ -97,6 +99,9 @@ class Host {
   bool BringModuleToFront();
 
   // --- The log
+  /// Logs an error of the host itself.
+  void LogError(const std::string& place, int number, const std::string& text,
+                const std::string& source);
   std::vector<LogEntry> Log();
   std::string Report();
 
@@ -104,7 +109,8 @@ class Host {
   StoreOptions HostStoreOptions();
   void Tell(const Notice& notice);
   void TellLater();
-  bool Store(const std::function<void()>& work);
+  std::optional<Notice> Store(const std::function<void()>& work);
+  void Choose(const std::function<void()>& work);
   void SpeakLanguage();
   void ModuleEnded(const ModuleEnd& end);
   FaultFacts Facts();

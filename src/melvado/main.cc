@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <QApplication>
+#include <QIcon>
 #include <QLocale>
 #include <QTimer>
 #include <memory>
@@ -71,8 +72,14 @@ int Run() {
   };
   loop.on_error = [&](const std::exception_ptr& error) {
     const RunTimeError what = AsRunTimeError(error);
-    messages.Warn(std::string(what.what()) + " (" + std::to_string(what.number()) + ", " +
-                      what.source() + ")",
+    host.LogError("run_time", what.number(), what.what(), what.source());
+    const QString said = QString::fromStdString(what.what());
+    messages.Warn(host.words()
+                      .Say(9467,
+                           "An error has occurred that the program did not expect (%1). It is in "
+                           "the log; you can go on. Please send the fault report from the log.",
+                           {said})
+                      .toStdString(),
                   "Melvado");
   };
   HomeWindow window(host, loop, messages, dialog);
@@ -84,6 +91,7 @@ int Run() {
   window.Open();
   // Once the user has something to look at.
   QTimer::singleShot(0, &window, [&] {
+    QApplication::setWindowIcon(QIcon(":/melvado.svg"));
     host.SetTell([&](const Notice& notice) {
       messages.Warn(host.words().Say(notice).toStdString(), "Melvado");
     });

@@ -21,7 +21,7 @@ ModuleProcess::~ModuleProcess() {
   process_->waitForFinished(kTimeToEndMs);
 }
 
-void ModuleProcess::Start(const QString& program, const QString& store) {
+void ModuleProcess::Start(const QString& program, const QString& store, const QString& session) {
   if (process_) return;
   menu_ = open_before_ = false;
   process_ = std::make_unique<QProcess>();
@@ -30,6 +30,7 @@ void ModuleProcess::Start(const QString& program, const QString& store) {
   QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
   surroundings.insert(kHostVariable, "1");
   if (!store.isEmpty()) surroundings.insert("MELVADO_STORE", store);
+  surroundings.insert(kSessionVariable, session);
   // Taken over by the host, where it may have been changed since.
   surroundings.remove("MELVADO_MIDI");
   process.setProcessEnvironment(surroundings);

@@ -36,8 +36,9 @@ class ModuleProcess {
   std::function<void()> on_shown;
   std::function<void(const ModuleEnd&)> on_end;
 
-  /// `store`  handed on, see `ParseStoreAddress`
-  void Start(const QString& program, const QString& store);
+  /// `store`    handed on, see `ParseStoreAddress`
+  /// `session`  handed on, see `HostStore::Session`
+  void Start(const QString& program, const QString& store, const QString& session);
   bool runs() const { return process_ != nullptr; }
   /// 0 when none runs.
   qint64 process_id() const { return process_ ? process_->processId() : 0; }

@@ -38,8 +38,8 @@ int main() {
   sigaddset(&signals, SIGTERM);
   sigprocmask(SIG_BLOCK, &signals, nullptr);
   if (const char* notes = std::getenv("FAKE_MODULE_NOTES")) {
-    std::ofstream(notes, std::ios::app)
-        << Given("MELVADO_HOST") << Given("MELVADO_STORE") << Given("MELVADO_MIDI");
+    std::ofstream(notes, std::ios::app) << Given("MELVADO_HOST") << Given("MELVADO_STORE")
+                                        << Given("MELVADO_SESSION") << Given("MELVADO_MIDI");
   }
   const char* script = std::getenv("FAKE_MODULE");
   std::istringstream words(script != nullptr ? script : "");

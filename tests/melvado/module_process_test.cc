@@ -23,7 +23,7 @@ class ModuleProcessTest : public testing::Test {
 
   ModuleEnd Run(const QByteArray& script) {
     const Surrounding fake("FAKE_MODULE", script);
-    process_.Start(FAKE_MODULE, "");
+    process_.Start(FAKE_MODULE, "", "");
     EXPECT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
     EXPECT_FALSE(process_.runs());
     return ends_.empty() ? ModuleEnd() : ends_[0];
@@ -70,7 +70,7 @@ TEST_F(ModuleProcessTest, IgnoresLinesThatItDoesNotKnow) {
 }
 
 TEST_F(ModuleProcessTest, TellsWhyAModuleDoesNotStart) {
-  process_.Start("/nowhere/vmod17", "");
+  process_.Start("/nowhere/vmod17", "", "");
   ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
   EXPECT_EQ(ends_[0].kind, Kind::kNotStarted);
   EXPECT_FALSE(ends_[0].reason.isEmpty());
@@ -79,27 +79,29 @@ TEST_F(ModuleProcessTest, TellsWhyAModuleDoesNotStart) {
 
 TEST_F(ModuleProcessTest, RunsOneModuleAtATime) {
   const Surrounding fake("FAKE_MODULE", "SHOWN wait MENUE 0");
-  process_.Start(FAKE_MODULE, "");
+  process_.Start(FAKE_MODULE, "", "");
   ASSERT_TRUE(ServeUntil([this] { return shown_ == 1; }));
   const qint64 first = process_.process_id();
-  process_.Start(FAKE_MODULE, "");
+  process_.Start(FAKE_MODULE, "", "");
   EXPECT_EQ(process_.process_id(), first);
   kill(static_cast<pid_t>(first), SIGTERM);
   ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
   EXPECT_EQ(ends_[0].kind, Kind::kMenu);
 }
 
-TEST_F(ModuleProcessTest, HandsOnTheStoreAndKeepsTheOutputThatItHasTakenOver) {
+TEST_F(ModuleProcessTest, HandsOnStoreAndSessionAndKeepsTheOutputThatItHasTakenOver) {
   const QTemporaryDir folder;
   const QString notes = folder.filePath("notes");
   const Surrounding file("FAKE_MODULE_NOTES", notes.toUtf8());
   const Surrounding output("MELVADO_MIDI", "Piano");
   const Surrounding fake("FAKE_MODULE", "MENUE");
-  process_.Start(FAKE_MODULE, "/some/store");
+  process_.Start(FAKE_MODULE, "/some/store", "what was chosen");
   ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
   QFile written(notes);
   ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-  EXPECT_EQ(written.readAll(), "MELVADO_HOST=1\nMELVADO_STORE=/some/store\nMELVADO_MIDI=none\n");
+  EXPECT_EQ(written.readAll(),
+            "MELVADO_HOST=1\nMELVADO_STORE=/some/store\n"
+            "MELVADO_SESSION=what was chosen\nMELVADO_MIDI=none\n");
 }
 
 TEST(ModuleProcess, EndsItsModuleByTheModulesOwnWayWhenTheHostGoes) {
@@ -110,7 +112,7 @@ TEST(ModuleProcess, EndsItsModuleByTheModulesOwnWayWhenTheHostGoes) {
     ModuleProcess process;
     bool shown = false;
     process.on_shown = [&] { shown = true; };
-    process.Start(FAKE_MODULE, "");
+    process.Start(FAKE_MODULE, "", "");
     ASSERT_TRUE(ServeUntil([&] { return shown; }));
     id = process.process_id();
   }

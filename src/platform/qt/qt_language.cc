@@ -91,7 +91,9 @@ std::optional<std::string> QtLanguageList::DesktopLanguage() const {
 }
 
 std::optional<std::string> QtLanguageList::BestFor(const std::vector<std::string>& locales) const {
-  for (const std::string& locale : locales) {
+  std::vector<std::string> wishes = locales;
+  wishes.emplace_back("en");
+  for (const std::string& locale : wishes) {
     for (const File& file : files_) {
       if (LanguageCode(file.locale) == LanguageCode(locale)) return file.name;
     }

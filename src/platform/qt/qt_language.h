@@ -29,8 +29,8 @@ class QtLanguageList : public LanguageList {
   /// Files that are no readable translation and therefore not listed: their paths, UTF-8.
   const std::vector<std::string>& problems() const { return problems_; }
 
-  /// The name of the installed language that the desktop's user would want first; none if he wants
-  /// none of them.
+  /// The name of the installed language that the desktop's user would want first; English if he
+  /// wants none of them, and none if that is not installed.
   std::optional<std::string> DesktopLanguage() const;
   /// The same for a given order of wishes, as locale names such as "de-AT".
   std::optional<std::string> BestFor(const std::vector<std::string>& locales) const;

@@ -52,6 +52,22 @@ std::string SeatOfThisMachine() {
   return (QSysInfo::machineHostName() + '/' + login).toStdString();
 }
 
+std::map<std::string, std::string> SettingsOf(const std::string& session) {
+  std::map<std::string, std::string> settings;
+  if (session.empty()) return settings;
+  try {
+    const TaggedValue value = DecodeTaggedValue(session);
+    const TaggedValue::Array& pairs = value.Elements();
+    for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
+      settings[pairs[i].String()] = pairs[i + 1].String();
+    }
+  } catch (const RunTimeError&) {
+    // Not from a process of this version: the store knows the settings, too.
+    return {};
+  }
+  return settings;
+}
+
 // The commands without arguments are sent with an empty value or with a string.
 void CheckNoArguments(const TaggedValue& args) {
   if (!args.IsEmpty()) static_cast<void>(args.String());
@@ -97,7 +113,9 @@ class HostStore::Front : public HostService {
 
 HostStore::HostStore(StoreOptions options)
     : options_(std::move(options)),
-      address_(std::make_unique<StoreAddress>(ParseStoreAddress(options_.address))) {
+      address_(std::make_unique<StoreAddress>(ParseStoreAddress(options_.address))),
+      session_(SettingsOf(options_.session)),
+      settings_(session_) {
   if (!options_.clock) options_.clock = SystemTime;
   if (options_.seat.empty() && !IsFile()) options_.seat = SeatOfThisMachine();
 }
@@ -262,16 +280,35 @@ std::vector<LogEntry> HostStore::Log(int count) {
   return entries;
 }
 
+std::string HostStore::Session() {
+  TaggedValue::Array pairs;
+  for (const auto& [name, value] : CurrentSettings()) {
+    pairs.emplace_back(name);
+    pairs.emplace_back(value);
+  }
+  return EncodeTaggedValue(pairs);
+}
+
 void HostStore::ChangeSettings(const Settings& changes) {
+  Settings all = changes;
+  all.insert(pending_settings_.begin(), pending_settings_.end());
+  bool written = false;
   try {
-    WithStore(Patience::kWait, [&](StoreTables& tables) {
+    written = WithStore(Patience::kWait, [&](StoreTables& tables) {
       if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
-      tables.SetSettings(options_.seat, changes);
+      tables.SetSettings(options_.seat, all);
     });
   } catch (const SqlError& error) {
     WriteFailed(error);
   }
-  for (const auto& [name, value] : changes) settings_[name] = value;
+  pending_settings_ = written ? Settings() : all;
+  for (const auto& [name, value] : changes) SetHere(name, value);
+}
+
+/// A setting that the store knows already, or will be told.
+void HostStore::SetHere(const std::string& name, const std::string& value) {
+  settings_[name] = value;
+  if (pending_settings_.contains(name)) pending_settings_[name] = value;
 }
 
 // ---- Users
@@ -327,8 +364,8 @@ bool HostStore::SaveUser(const StoreUser& user, UserIs is) {
     pending_users_[user.id] = user;
   }
   if (Setting(kUserId) == user.id) {
-    settings_[kUserName] = user.name;
-    settings_[kUserFirstName] = user.first_name;
+    SetHere(kUserName, user.name);
+    SetHere(kUserFirstName, user.first_name);
   }
   return true;
 }
@@ -339,7 +376,7 @@ void HostStore::RemoveUser(const std::string& id) {
   } else {
     pending_users_[id] = std::nullopt;
   }
-  if (Setting(kUserId) == id) settings_[kUserId].clear();
+  if (Setting(kUserId) == id) SetHere(kUserId, "");
 }
 
 bool HostStore::WriteUser(const Work& work) {
@@ -441,6 +478,11 @@ void HostStore::WritePending() {
     pending_.clear();
   }
   WritePendingUsers();
+  if (!pending_settings_.empty() && WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
+        tables.SetSettings(options_.seat, pending_settings_);
+      })) {
+    pending_settings_.clear();
+  }
 }
 
 void HostStore::PutAside(const RecordKey& key, const std::string& value) {
@@ -532,7 +574,10 @@ bool HostStore::OpenAnew(int wait_ms) {
   }
   read_only_ = connection_->IsReadOnly();
   has_user_table_ = version.value_or(kStoreVersion) >= kStoreVersion || TryToUpgrade();
-  if (!was_open_) settings_ = tables_->Settings(options_.seat);
+  if (!was_open_) {
+    settings_ = session_;
+    settings_.merge(tables_->Settings(options_.seat));
+  }
   was_open_ = true;
   if (read_only_) Tell(ReadOnlyStoreNotice(address_->Display()));
   return true;

@@ -35,6 +35,9 @@ struct StoreOptions {
   /// Whose settings these are among those of one store. "" stands for the one user of a file, and
   /// on a server for this machine and the name under which the user is logged in on it.
   std::string seat;
+  /// The settings of another process, from its `Session()`, which go before those of the store; ""
+  /// for none.
+  std::string session;
   /// The language of the desktop, if it is installed.
   std::function<std::optional<std::string>()> desktop_language;
   /// Whether a language is installed. Without it, the language of the settings is trusted.
@@ -59,7 +62,7 @@ struct StoreOptions {
 /// Each "STORE", each `Together` and each setter is one transaction, on the disk when the call
 /// returns. Log lines are handed to the system and may be lost with the power, not with the
 /// process. The settings are read once, when the store is opened: a process belongs to the user for
-/// whom it was started.
+/// whom it was started. What the store does not take of them is kept like a record.
 ///
 /// A store that is missing is made. Of a store that does not work the user is told once:
 ///
@@ -117,6 +120,10 @@ class HostStore {
   /// locked.
   void RemoveUser(const std::string& id);
 
+  /// The settings as they hold in this process, for one that it starts: the store may not have
+  /// taken them all, and another process may have changed them in it.
+  std::string Session();
+
   /// The newest `count` log lines, oldest first; none when the store cannot be read.
   std::vector<LogEntry> Log(int count);
 
@@ -160,6 +167,7 @@ class HostStore {
   void WritePendingUsers();
   void PutAside(const RecordKey& key, const std::string& value);
   void ChangeSettings(const Settings& changes);
+  void SetHere(const std::string& name, const std::string& value);
   const Settings& CurrentSettings();
   std::string Setting(const std::string& name);
 
@@ -178,10 +186,12 @@ class HostStore {
   bool waited_in_vain_ = false;
   int wait_ms_ = 0;                                   // as set in the connection
   std::pair<std::uint64_t, std::uint64_t> identity_;  // of the file that is open
+  Settings session_;
   Settings settings_;
   std::optional<Records> together_;  // what was stored so far, while `Together` runs
   Records pending_;                  // what the database did not take
   std::map<std::string, UserChange> pending_users_;
+  Settings pending_settings_;
   std::int64_t log_bytes_to_trim_ = 0;  // 0: before the next line
   std::set<int> told_;
 };

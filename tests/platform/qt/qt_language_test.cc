@@ -107,7 +107,14 @@ TEST_F(QtLanguageListTest, ChoosesTheFirstOfTheUsersWishesThatIsInstalled) {
   const QtLanguageList list({Folder()});
   EXPECT_EQ(list.BestFor({"it-IT", "fr-CA", "de-DE"}), "Francais");
   EXPECT_EQ(list.BestFor({"de"}), "Deutsch");
-  EXPECT_EQ(list.BestFor({"it-IT"}), std::nullopt);
+}
+
+TEST_F(QtLanguageListTest, ChoosesEnglishIfNoWishIsInstalled) {
+  Put("Kurz.qm", "Deutsch.qm");
+  const std::vector<std::string> wishes = {"it-IT", "C"};
+  EXPECT_EQ(QtLanguageList({Folder()}).BestFor(wishes), std::nullopt);
+  const QtLanguageList installed({fs::path(PROGRAM_LANGUAGES)});
+  EXPECT_EQ(installed.BestFor({"da-DK", "C"}), "English");
 }
 
 TEST(InstalledLanguages, HaveAWordForTheTitleOfTheProgram) {

@@ -470,6 +470,78 @@ TEST_F(TroubledStore, LosesNothingOnAFullDiskAndStoresWhenThereIsRoomAgain) {
   EXPECT_TRUE(ReadValue(next, "E1") == TaggedValue(Array(100'000, TaggedValue("long"))));
 }
 
+TEST_F(TroubledStore, KeepsSettingsThatAreRefusedAndStoresThemWithTheNextRecord) {
+  HostStore store(Options());
+  store.SetUser({"1", "Tal", "Ida"});
+  OtherHand hand(Path());
+  hand.Run(
+      "CREATE TRIGGER refusal BEFORE UPDATE ON melvado_setting "
+      "BEGIN SELECT RAISE(ABORT, 'no room'); END");
+  store.SetUser({"4711", "Berg", "Anna"});
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9105});
+  EXPECT_EQ(HostStore(Options()).User()->id, "1");
+  StoreValue(store, "E1", Array{"Anna's"});
+  EXPECT_EQ(HostStore(Options()).User()->id, "1");
+  hand.Run("DROP TRIGGER refusal");
+  StoreValue(store, "A1", Array{"Anna's"});
+  HostStore later(Options());
+  EXPECT_EQ(later.User()->id, "4711");
+  ExpectPair(later, "Anna's", "Anna's");
+}
+
+TEST_F(TroubledStore, ForgetsARefusedChoiceOfAUserWhoIsTakenOffTheList) {
+  HostStore store(Options());
+  store.SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew);
+  store.SetUser({"1", "Tal", "Ida"});
+  OtherHand hand(Path());
+  hand.Run(
+      "CREATE TRIGGER refusal BEFORE UPDATE ON melvado_setting "
+      "BEGIN SELECT RAISE(ABORT, 'no room'); END");
+  store.SetUser({"4711", "Berg", "Anna"});
+  hand.Run("DROP TRIGGER refusal");
+  store.RemoveUser("4711");
+  StoreValue(store, "E1", Array{"nobody's"});
+  EXPECT_EQ(HostStore(Options()).User(), std::nullopt);
+}
+
+// ---- Handed on from process to process
+
+TEST_F(TroubledStore, GoesByTheSettingsThatAnotherProcessHandsOn) {
+  HostStore host(Options());
+  host.SetUser({"4711", "Berg", "Anna"});
+  host.SetLanguage("English");
+  StoreOptions options = Options();
+  options.session = host.Session();
+  // Meanwhile somebody else chooses at the same place.
+  HostStore(Options()).SetUser({"1", "Tal", "Ida"});
+  HostStore module(options);
+  EXPECT_EQ(module.User(), (StoreUser{"4711", "Berg", "Anna"}));
+  EXPECT_EQ(module.Language(), "English");
+  StoreValue(module, "E1", Array{"Anna's"});
+  host.SetUser({"4711", "Berg", "Anna"});
+  EXPECT_EQ(ReadValue(host, "E1"), TaggedValue(Array{"Anna's"}));
+}
+
+TEST_F(TroubledStore, HandsOnWhatTheStoreDoesNotTake) {
+  StoreOptions unusable = TestOptions((Path() + "/no folder/store.sqlite").toStdString());
+  MakeStoreWith(Array{"old"});
+  HostStore host(unusable);
+  host.SetUser({"4711", "Berg \"Anna\";", "Ä"});
+  unusable.session = host.Session();
+  TaggedValue login;
+  EXPECT_TRUE(HostStore(unusable).Service()->Action("LOGIN", "", login));
+  EXPECT_EQ(login, TaggedValue(Array{"4711", "Berg \"Anna\";", "Ä"}));
+}
+
+TEST_F(TroubledStore, GoesByItsOwnSettingsWhenNoneThatItUnderstandsAreHandedOn) {
+  HostStore(Options()).SetUser({"4711", "Berg", "Anna"});
+  for (const char* session : {"", "1", "mv1 00000000 a0:"}) {
+    StoreOptions options = Options();
+    options.session = session;
+    EXPECT_EQ(HostStore(options).User()->id, "4711") << session;
+  }
+}
+
 class PairOnAFullDisk : public TroubledStore {
  protected:
   // Leaves the process with a pair in memory: of the two one alone would find room.
