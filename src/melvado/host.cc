@@ -232,7 +232,7 @@ void Host::StartModule() {
   if (module_.runs()) return;
   test_.Stop();  // a sound card may serve one program at a time
   module_.Start(QString::fromStdString(setup_.module), QString::fromStdString(setup_.store),
-                QString::fromStdString(store_.Session()));
+                QString::fromStdString(Session()));
 }
 
 bool Host::BringModuleToFront() {

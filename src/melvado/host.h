@@ -93,6 +93,8 @@ class Host {
   std::function<void()> on_module_shown;
   std::function<void(const ModuleEnd&)> on_module_end;
   void StartModule();
+  /// What the module is given of the choices.
+  std::string Session() { return store_.Session(); }
   bool ModuleRuns() const { return module_.runs(); }
   qint64 module_process() const { return module_.process_id(); }
   /// False when there is none to be brought.

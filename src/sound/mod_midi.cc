@@ -17,8 +17,8 @@ constexpr int kStandardStaerke = 100;
 
 }  // namespace
 
-std::map<int, MidiDevice> ModMIDI::MidiGeraeteListe(MidiOutput& control) {
-  std::map<int, MidiDevice> liste;
+std::map<int, MidiGeraet> ModMIDI::MidiGeraeteListe(MidiOutput& control) {
+  std::map<int, MidiGeraet> liste;
   const int zahl = static_cast<int>(control.Get(MidiMember::GeraeteZahl));
   for (int nr = -1; nr < zahl; ++nr) {
     control.Set(MidiMember::GeraetNr, nr);

@@ -14,7 +14,7 @@
 namespace vmod17 {
 
 /// A device of the list: what it is known by.
-struct MidiDevice {
+struct MidiGeraet {
   double kennung = 0;
   std::string name;
 };
@@ -32,7 +32,7 @@ class ModMIDI {
   ModMIDI(EventLoop& loop, const ModServer& server) : loop_(loop), server_(server) {}
 
   /// The devices by number, from -1, and the choice of the one to open: the host's, or the last.
-  std::map<int, MidiDevice> MidiGeraeteListe(MidiOutput& control);
+  std::map<int, MidiGeraet> MidiGeraeteListe(MidiOutput& control);
   /// Takes the control for all further sound and opens the chosen device.
   void MidiOeffnen(MidiOutput& control);
   /// Stop, close, open: all sound dies at once.

@@ -49,6 +49,8 @@ TEST(TheTree, HasNoWordsThatHaveNoPlaceInIt) { EXPECT_THAT(WordFaults(TheTree())
 
 TEST(TheTree, SaysOfEachSourceWhoseItIs) { EXPECT_THAT(HeadFaults(TheTree()), IsEmpty()); }
 
+TEST(TheTree, HasATypeOfANameOnce) { EXPECT_THAT(TypeFaults(TheTree()), IsEmpty()); }
+
 TEST(TheTree, HasNoTestThatWaitsForTheRealClock) { EXPECT_THAT(SleepFaults(TheTree()), IsEmpty()); }
 
 TEST(TheTree, HasAWordForEachTextIdInEachLanguage) {
@@ -161,6 +163,22 @@ TEST(Heads, NameOwnerAndLicenceAndIncludeOnce) {
   EXPECT_THAT(HeadFaults({{"src/a.h", head}}), ElementsAre(HasSubstr("#pragma once")));
   EXPECT_THAT(HeadFaults({{"src/a.cc", ""}}), SizeIs(2));
   EXPECT_THAT(HeadFaults({{"tests/CMakeLists.txt", "\n\n\n\n\n" + head}}), SizeIs(2));
+}
+
+TEST(Types, HaveTheirNameForThemselvesInTheirNamespace) {
+  const std::string device = "namespace vmod17 {\nstruct Device {\n";
+  EXPECT_THAT(TypeFaults({{"src/a.h", device}, {"src/b.cc", device}, {"tests/b.h", device}}),
+              IsEmpty());
+  EXPECT_THAT(TypeFaults({{"src/a.h", device},
+                          {"src/b.h", "namespace vmod17 {\nclass Device;\nstruct Devices {};\n"},
+                          {"src/c.h", "namespace vmod17::lint {\nstruct Device {};\n"}}),
+              IsEmpty());
+  for (const char* type : {"class Device : public Thing {", "enum class Device { kOne };"}) {
+    EXPECT_THAT(TypeFaults({{"src/a.h", device},
+                            {"src/b.h", std::string("namespace vmod17 {\n") + type + "\n"}}),
+                ElementsAre("src/b.h:2: vmod17::Device is also in src/a.h"))
+        << type;
+  }
 }
 
 TEST(Sleeps, AreRefusedInTests) {

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <regex>
 #include <sstream>
 #include <string_view>
 #include <utility>
@@ -499,6 +500,29 @@ Faults HeadFaults(const Tree& tree) {
     if (!copyright) faults.push_back(Fault(path, 1, "does not say whose it is"));
     if (!licence) faults.push_back(Fault(path, 1, "does not name its licence"));
     if (path.ends_with(".h") && !once) faults.push_back(Fault(path, 1, "lacks #pragma once"));
+  }
+  return faults;
+}
+
+Faults TypeFaults(const Tree& tree) {
+  static const std::regex kNamespace("namespace ([A-Za-z0-9_:]+) \\{.*");
+  static const std::regex kType(
+      "(?:class|struct|enum class|enum) ([A-Za-z0-9_]+)(?: [^;(]*)?\\{.*");
+  Faults faults;
+  std::map<std::string, std::string> homes;
+  for (const auto& [path, text] : tree) {
+    if (!path.starts_with("src/") || !path.ends_with(".h")) continue;
+    std::string space;
+    for (const Line& line : Lines(text)) {
+      const std::string code(line.text);
+      std::smatch found;
+      if (std::regex_match(code, found, kNamespace)) space = found[1];
+      if (!std::regex_match(code, found, kType)) continue;
+      const auto [home, is_new] = homes.try_emplace(space + "::" + found[1].str(), path);
+      if (!is_new) {
+        faults.push_back(Fault(path, line.number, home->first + " is also in " + home->second));
+      }
+    }
   }
   return faults;
 }

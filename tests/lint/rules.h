@@ -40,6 +40,10 @@ Faults WordFaults(const Tree& tree);
 /// each header.
 Faults HeadFaults(const Tree& tree);
 
+/// A type that a header of src/ defines has its name for itself. Two of one name in one program are
+/// taken for each other without a word of the linker.
+Faults TypeFaults(const Tree& tree);
+
 /// No test waits for the real clock.
 Faults SleepFaults(const Tree& tree);
 

@@ -26,6 +26,7 @@ inline std::string Wort(int id) { return "[" + std::to_string(id) + "s]"; }
 ///     p.ToResults([](Einstellung1& e) { e.akkzahl_cmb.Choose(1); });
 class ResultsFixture : public ModeFixture {
  public:
+  using ModeFixture::ModeFixture;
   using Choose = std::function<void(Einstellung1&)>;
 
   /// To the results of a test whose time is up before anything was answered.

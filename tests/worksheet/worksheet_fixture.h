@@ -25,6 +25,8 @@ class WorksheetFixture : public ProgramFixture {
   static constexpr double kPauses = 150;  ///< ms from the call of a playing to its sound
 
   explicit WorksheetFixture(double clock = kEarly) : ProgramFixture(clock) {}
+  explicit WorksheetFixture(HostServiceFactory make_host)
+      : ProgramFixture(kEarly, {}, std::move(make_host)) {}
 
   /// From the start of the program to the worksheet. The Klangtypen count for chords of 3 to 7
   /// notes; voicings, `akk_form` 1, need only groups.
