@@ -9,7 +9,7 @@ set(CPACK_PACKAGE_VENDOR "The Melvado authors")
 set(CPACK_PACKAGE_CONTACT "The Melvado authors <melvado@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "learn to recognise jazz chords by ear")
 set(CPACK_PACKAGE_DESCRIPTION
-    "Plays one to four of 134 jazz chords over MIDI or its own synthesiser; the student names\n each by a click on a board that shows the chords in notation and as symbols. With free\n practice, training, test and exam.")
+    "Plays one to four of 134 jazz chords over MIDI or its own synthesiser;\nthe student names each by a click on a board that shows the chords in\nnotation and as symbols. With free practice, training, test and exam.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -12,6 +12,7 @@
 #include "platform/store/host_store.h"
 #include "platform/store/store_address.h"
 #include "postgres_server.h"
+#include "shared_contract.h"
 #include "store_process.h"
 #include "store_testing.h"
 #include "user_list_contract.h"
@@ -288,6 +289,10 @@ TEST_F(PostgresStore, KeepsTheNewestLinesOfALogThatHasReachedItsSize) {
   EXPECT_LT(log.size(), 250u);
   ASSERT_GT(log.size(), 150u);
   EXPECT_EQ(log.back().text, "line 499");
+}
+
+TEST_F(PostgresStore, KeepsToTheContractInTwoProcessesAtOnce) {
+  ExpectContractInTwoProcesses(address_);
 }
 
 TEST_F(PostgresStore, TakesEverythingFromProcessesThatStartAndWriteAtOnce) {

@@ -53,11 +53,12 @@ class StoreProcess {
 
   /// What it says until it ends.
   QString HearTheRest() {
-    process_.waitForFinished();
+    process_.waitForFinished(120'000);
     return QString::fromUtf8(process_.readAll());
   }
 
-  /// Once it has ended: whether it was ended by a signal.
+  /// Once it has ended: its exit status, and whether it was ended by a signal.
+  int Status() const { return WasKilled() ? -1 : process_.exitCode(); }
   bool WasKilled() const { return process_.exitStatus() == QProcess::CrashExit; }
 
  private:

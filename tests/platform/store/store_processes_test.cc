@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/store/host_store.h"
+#include "shared_contract.h"
 #include "store_process.h"
 #include "store_testing.h"
 
@@ -39,6 +40,10 @@ TEST_F(SharedStore, ShowsEachOfTwoProcessesWhatTheOtherStores) {
   }
   EXPECT_EQ(first.Ask("notices"), "");
   EXPECT_EQ(second.Ask("notices"), "");
+}
+
+TEST_F(SharedStore, KeepsToTheContractInTwoProcessesAtOnce) {
+  ExpectContractInTwoProcesses(Path().toStdString());
 }
 
 TEST_F(SharedStore, TakesEverythingFromProcessesThatStartAndWriteAtOnce) {
