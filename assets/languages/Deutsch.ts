@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>Die Übung war schon geöffnet. Ihr Fenster ist jetzt im Vordergrund.</translation>
+        <translation>Die Übung ist schon geöffnet. Nach „OK“ kommt ihr Fenster nach vorn.</translation>
     </message>
     <message id="9453s">
         <source></source>

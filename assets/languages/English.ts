@@ -215,7 +215,7 @@
     </message>
     <message id="238s">
         <source></source>
-        <translation>fixed (A = 440 Hz)</translation>
+        <translation>fixed (A&#xa0;=&#xa0;440&#xa0;Hz)</translation>
     </message>
     <message id="243s">
         <source></source>
@@ -232,7 +232,7 @@
     </message>
     <message id="278s">
         <source></source>
-        <translation>all at once (no arpeggio)</translation>
+        <translation>all at once (no&#xa0;arpeggio)</translation>
     </message>
     <message id="287s">
         <source></source>
@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>The exercise was open already. Its window is in front now.</translation>
+        <translation>The exercise is open already. After OK its window comes to the front.</translation>
     </message>
     <message id="9453s">
         <source></source>

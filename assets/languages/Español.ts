@@ -30,11 +30,11 @@
     </message>
     <message id="45s">
         <source></source>
-        <translation>Voicings a dos manos</translation>
+        <translation>Voicings a 2 manos</translation>
     </message>
     <message id="49s">
         <source></source>
-        <translation>Acordes de 3 a 7 notas</translation>
+        <translation>De 3 a 7 notas</translation>
     </message>
     <message id="51s">
         <source></source>
@@ -215,7 +215,7 @@
     </message>
     <message id="238s">
         <source></source>
-        <translation>fija (la3 = 440 Hz)</translation>
+        <translation>fija (la3&#xa0;=&#xa0;440&#xa0;Hz)</translation>
     </message>
     <message id="243s">
         <source></source>
@@ -232,7 +232,7 @@
     </message>
     <message id="278s">
         <source></source>
-        <translation>notas simultáneas (sin arpegio)</translation>
+        <translation>simultáneas (sin&#xa0;arpegio)</translation>
     </message>
     <message id="287s">
         <source></source>
@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>El ejercicio ya estaba abierto. Su ventana está ahora en primer plano.</translation>
+        <translation>El ejercicio ya está abierto. Al pulsar OK, su ventana pasa al primer plano.</translation>
     </message>
     <message id="9453s">
         <source></source>

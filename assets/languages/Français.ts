@@ -34,7 +34,7 @@
     </message>
     <message id="49s">
         <source></source>
-        <translation>Accords de 3 à 7 sons</translation>
+        <translation>De 3 à 7 sons</translation>
     </message>
     <message id="51s">
         <source></source>
@@ -215,7 +215,7 @@
     </message>
     <message id="238s">
         <source></source>
-        <translation>fixe (la3 = 440&#xa0;Hz)</translation>
+        <translation>fixe (la3&#xa0;=&#xa0;440&#xa0;Hz)</translation>
     </message>
     <message id="243s">
         <source></source>
@@ -232,7 +232,7 @@
     </message>
     <message id="278s">
         <source></source>
-        <translation>notes simultanées (sans arpège)</translation>
+        <translation>simultanées (sans&#xa0;arpège)</translation>
     </message>
     <message id="287s">
         <source></source>
@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>L’exercice était déjà ouvert. Sa fenêtre est maintenant au premier plan.</translation>
+        <translation>L’exercice est déjà ouvert. Après OK, sa fenêtre passe au premier plan.</translation>
     </message>
     <message id="9453s">
         <source></source>

@@ -215,7 +215,7 @@
     </message>
     <message id="238s">
         <source></source>
-        <translation>fisso (la3 = 440 Hz)</translation>
+        <translation>fisso (la3&#xa0;=&#xa0;440&#xa0;Hz)</translation>
     </message>
     <message id="243s">
         <source></source>
@@ -232,7 +232,7 @@
     </message>
     <message id="278s">
         <source></source>
-        <translation>note simultanee (senza arpeggio)</translation>
+        <translation>note simultanee (senza&#xa0;arpeggio)</translation>
     </message>
     <message id="287s">
         <source></source>
@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>L’esercizio era già aperto. La sua finestra è ora in primo piano.</translation>
+        <translation>L’esercizio è già aperto. Dopo OK la sua finestra passa in primo piano.</translation>
     </message>
     <message id="9453s">
         <source></source>

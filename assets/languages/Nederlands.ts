@@ -215,7 +215,7 @@
     </message>
     <message id="238s">
         <source></source>
-        <translation>vast (a' = 440 Hz)</translation>
+        <translation>vast (a'&#xa0;=&#xa0;440&#xa0;Hz)</translation>
     </message>
     <message id="243s">
         <source></source>
@@ -232,7 +232,7 @@
     </message>
     <message id="278s">
         <source></source>
-        <translation>gelijktijdig (geen arpeggio)</translation>
+        <translation>gelijktijdig (geen&#xa0;arpeggio)</translation>
     </message>
     <message id="287s">
         <source></source>
@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>De oefening was al geopend. Het venster staat nu op de voorgrond.</translation>
+        <translation>De oefening is al geopend. Na OK komt het venster op de voorgrond.</translation>
     </message>
     <message id="9453s">
         <source></source>

@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>Ćwiczenie było już otwarte. Jego okno jest teraz na wierzchu.</translation>
+        <translation>Ćwiczenie jest już otwarte. Po naciśnięciu OK jego okno pojawi się na wierzchu.</translation>
     </message>
     <message id="9453s">
         <source></source>

@@ -30,11 +30,11 @@
     </message>
     <message id="45s">
         <source></source>
-        <translation>Voicings a duas mãos</translation>
+        <translation>Voicings a 2 mãos</translation>
     </message>
     <message id="49s">
         <source></source>
-        <translation>Acordes de 3 a 7 notas</translation>
+        <translation>De 3 a 7 notas</translation>
     </message>
     <message id="51s">
         <source></source>
@@ -215,7 +215,7 @@
     </message>
     <message id="238s">
         <source></source>
-        <translation>fixa (lá3 = 440 Hz)</translation>
+        <translation>fixa (lá3&#xa0;=&#xa0;440&#xa0;Hz)</translation>
     </message>
     <message id="243s">
         <source></source>
@@ -232,7 +232,7 @@
     </message>
     <message id="278s">
         <source></source>
-        <translation>notas simultâneas (sem arpejo)</translation>
+        <translation>simultâneas (sem&#xa0;arpejo)</translation>
     </message>
     <message id="287s">
         <source></source>
@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>O exercício já estava aberto. A sua janela está agora em primeiro plano.</translation>
+        <translation>O exercício já está aberto. Depois de OK, a sua janela passa para primeiro plano.</translation>
     </message>
     <message id="9453s">
         <source></source>

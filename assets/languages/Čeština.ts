@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>Cvičení už bylo otevřené. Jeho okno je teď v popředí.</translation>
+        <translation>Cvičení už je otevřené. Po stisknutí OK se jeho okno přesune do popředí.</translation>
     </message>
     <message id="9453s">
         <source></source>

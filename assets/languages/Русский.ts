@@ -34,7 +34,7 @@
     </message>
     <message id="49s">
         <source></source>
-        <translation>Аккорды из 3–7 звуков</translation>
+        <translation>От 3 до 7 звуков</translation>
     </message>
     <message id="51s">
         <source></source>
@@ -150,7 +150,7 @@
     <message id="142s">
         <source></source>
         <extracomment>the tasks follow by themselves</extracomment>
-        <translation>автоматически</translation>
+        <translation>авто</translation>
     </message>
     <message id="153s">
         <source></source>
@@ -232,7 +232,7 @@
     </message>
     <message id="278s">
         <source></source>
-        <translation>все сразу (без арпеджио)</translation>
+        <translation>все сразу (без&#xa0;арпеджио)</translation>
     </message>
     <message id="287s">
         <source></source>
@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>Упражнение уже было открыто. Его окно теперь впереди.</translation>
+        <translation>Упражнение уже открыто. После нажатия OK его окно выйдет на передний план.</translation>
     </message>
     <message id="9453s">
         <source></source>

@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>练习已经打开，其窗口现已置于最前。</translation>
+        <translation>练习已经打开。点击“确定”后，其窗口将置于最前。</translation>
     </message>
     <message id="9453s">
         <source></source>

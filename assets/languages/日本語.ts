@@ -237,7 +237,7 @@
     <message id="287s">
         <source></source>
         <extracomment>window title of the first screen, after 347 and 700; begins with the blank after 700</extracomment>
-        <translation> スタート</translation>
+        <translation> 開始</translation>
     </message>
     <message id="297s">
         <source></source>
@@ -931,7 +931,7 @@
     </message>
     <message id="9452s">
         <source></source>
-        <translation>練習はすでに開いていました。そのウィンドウを前面に表示しました。</translation>
+        <translation>練習はすでに開いています。「OK」を押すと、そのウィンドウを前面に表示します。</translation>
     </message>
     <message id="9453s">
         <source></source>

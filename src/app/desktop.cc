@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 #include <QLocale>
 #include <QWidget>
 #include <algorithm>
@@ -18,6 +19,9 @@
 
 namespace vmod17 {
 namespace {
+
+// Until a window that is shown has been painted too: the desktop is asked first.
+constexpr int kTimeToPaintMs = 100;
 
 ProgramIdentity Identity() {
   return {QFileInfo(QCoreApplication::applicationFilePath()).baseName().toStdString(),
@@ -174,6 +178,8 @@ void Desktop::AfterEvent() {
   // What takes time begins once the user has something to look at.
   loop_.Post([this] {
     output_->BeginLoading();
+    loop_.StartTimer(kTimeToPaintMs, EventLoop::Repeat::kOnce,
+                     [] { QApplication::setWindowIcon(QIcon(":/melvado.svg")); });
     TellOfLanguages();
   });
 }

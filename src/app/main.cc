@@ -4,8 +4,6 @@
 #include <signal.h>
 
 #include <QApplication>
-#include <QIcon>
-#include <QTimer>
 
 #include "app/desktop.h"
 #include "app/end_on_signal.h"
@@ -15,9 +13,8 @@ int main(int argc, char* argv[]) {
   signal(SIGPIPE, SIG_IGN);
   QApplication application(argc, argv);
   QApplication::setApplicationDisplayName("Melvado");
+  QApplication::setDesktopFileName("melvado");
   QApplication::setQuitOnLastWindowClosed(false);
-  // Once the first screen stands.
-  QTimer::singleShot(0, [] { QApplication::setWindowIcon(QIcon(":/melvado.svg")); });
   vmod17::Desktop desktop;
   const vmod17::EndOnSignal end_on_signal([&desktop] { desktop.Leave(); });
   return desktop.Run();

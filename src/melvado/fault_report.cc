@@ -3,14 +3,33 @@
 
 #include "melvado/fault_report.h"
 
+#include <QRegularExpression>
+#include <QString>
+#include <algorithm>
+
 namespace vmod17 {
 namespace {
+
+constexpr std::size_t kMostLines = 1000;
 
 std::string Line(const LogEntry& entry) {
   std::string line = entry.at + "  ";
   if (entry.kind == LogEntry::Kind::kMessage) return line + entry.text;
   return line + "ERROR " + std::to_string(entry.number) + " in " + entry.place + ": " + entry.text +
          " [" + entry.source + "]";
+}
+
+/// Also in what the log and the sound test quote.
+std::string WithoutNames(const std::string& text, const std::string& home) {
+  QString rest = QString::fromStdString(text);
+  if (home.size() > 1) {
+    // The name of another user's folder may begin with the same letters.
+    const QString whole = QRegularExpression::escape(QString::fromStdString(home)) + "(?!\\w)";
+    rest.replace(QRegularExpression(whole, QRegularExpression::UseUnicodePropertiesOption), "~");
+  }
+  static const QRegularExpression kUserOfServer("(postgres(?:ql)?://)[^/\\s]*@");
+  rest.replace(kUserOfServer, "\\1");
+  return rest.toStdString();
 }
 
 }  // namespace
@@ -20,9 +39,14 @@ std::string FaultReport(const FaultFacts& facts, const std::vector<LogEntry>& lo
                        "\nLanguage: " + facts.language + "\nStore: " + facts.store +
                        "\nSound output: " + facts.output + "\nSoundfont: " + facts.soundfont + '\n';
   if (!facts.verdict.empty()) report += "Sound test: " + facts.verdict + '\n';
-  report += "\nLog, newest last:\n";
-  for (const LogEntry& entry : log) report += Line(entry) + '\n';
-  return report;
+  const std::size_t taken = std::min(log.size(), kMostLines);
+  report += "\nLog, newest last";
+  if (taken < log.size()) {
+    report += " (" + std::to_string(taken) + " of " + std::to_string(log.size()) + " lines)";
+  }
+  report += ":\n";
+  for (std::size_t i = log.size() - taken; i < log.size(); ++i) report += Line(log[i]) + '\n';
+  return WithoutNames(report, facts.home);
 }
 
 }  // namespace vmod17

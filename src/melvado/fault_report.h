@@ -19,9 +19,11 @@ struct FaultFacts {
   std::string output;  ///< what is chosen, and whether it is there
   std::string soundfont;
   std::string verdict;  ///< of the last sound test, "" without one
+  std::string home;     ///< the folder that is called by its user, which the report calls ~
 };
 
-/// The facts and the log as a plain text, in English, for a mail. Names of users are not in it.
+/// The facts and the newest 1000 lines of the log as a plain text, in English, for a mail. Names of
+/// users are not in it, neither as that of the home folder nor in the address of a server.
 std::string FaultReport(const FaultFacts& facts, const std::vector<LogEntry>& log);
 
 }  // namespace vmod17

@@ -17,6 +17,7 @@
 
 #include "melvado/log_window.h"
 #include "melvado/user_dialog.h"
+#include "platform/qt/help_window.h"
 #include "platform/qt/look.h"
 #include "platform/qt/signs.h"
 #include "version.h"
@@ -175,7 +176,7 @@ void HomeWindow::BuildFooter() {
                      .align = Qt::AlignCenter};
   };
   help_ = MakeButton("help", quiet(kLeft, 150), [this] {
-    if (on_help) on_help();
+    if (on_help) on_help("melvado");
   });
   log_button_ = MakeButton("log", quiet(kLeft + 162, 150), [this] { ShowLog(); });
   quit_ = MakeButton("quit", quiet(kLeft + kWidth - 150, 150), [this] { close(); });
@@ -200,6 +201,7 @@ void HomeWindow::Connect() {
   host_.on_module_shown = [this] {
     if (log_) log_->hide();
     hide();
+    if (on_module_shown) on_module_shown();
   };
   host_.on_module_end = [this](const ModuleEnd& end) {
     loop_.Deliver([this, end] { ModuleEnded(end); });
@@ -376,18 +378,20 @@ std::vector<std::string> HomeWindow::CaptionsThatDoNotFit() {
 }
 
 void HomeWindow::Open() {
-  if (const QScreen* display = screen()) setGeometry(display->availableGeometry());
-  showMaximized();
+  if (!std::exchange(was_open_, true)) {
+    // Where nothing manages windows, none is maximised either.
+    if (const QScreen* display = screen()) setGeometry(display->availableGeometry());
+    setWindowState(Qt::WindowMaximized);
+  }
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
   activateWindow();
   start_->setFocus(Qt::OtherFocusReason);
   poll_->start();
 }
 
 void HomeWindow::ComeToFront() {
-  if (host_.ModuleRuns() && !isVisible()) {
-    host_.BringModuleToFront();
-    return;
-  }
+  if (host_.ModuleRuns() && !isVisible() && host_.BringModuleToFront()) return;
   for (QWidget* window : {static_cast<QWidget*>(this), QApplication::activeModalWidget()}) {
     if (window == nullptr) continue;
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
@@ -469,14 +473,18 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
   const Words& words = host_.words();
   Refresh();
   if (!isVisible()) Open();
+  start_->setFocus(Qt::OtherFocusReason);
   switch (end.kind) {
     case ModuleEnd::Kind::kMenu:
       return;
     case ModuleEnd::Kind::kOpenBefore:
-      return messages_.Warn(
-          words.Say(9452, "The exercise was open already. Its window is in front now.")
+      messages_.Warn(
+          words.Say(9452, "The exercise is open already. After OK its window comes to the front.")
               .toStdString(),
           "Melvado");
+      // It has come once, but the message and this window have covered it.
+      host_.BringModuleToFront();
+      return;
     case ModuleEnd::Kind::kNotStarted:
       return messages_.Warn(
           words
@@ -548,12 +556,18 @@ void HomeWindow::paintEvent(QPaintEvent*) {
   look::DrawCard(painter, Pixels(kVerdictCard), verdict_ground_, style_.factor);
 }
 
-/// From every window but one that waits for an answer, behind which the help would be out of reach.
-bool HomeWindow::AskHelp(const QKeyEvent& key) {
-  if (key.key() != Qt::Key_F1 || !on_help || QApplication::activeModalWidget() != nullptr) {
-    return false;
+/// From every window but the help's, which knows by itself what was asked for.
+bool HomeWindow::AskHelp(const QWidget& asked, const QKeyEvent& key) {
+  const QWidget* const window = asked.window();
+  if (key.key() != Qt::Key_F1 || !on_help) return false;
+  if (dynamic_cast<const HelpWindow*>(window) != nullptr) return false;
+  const char* page = "melvado";
+  if (dynamic_cast<const UserDialog*>(QApplication::activeModalWidget()) != nullptr) {
+    page = "user";
+  } else if (log_ && window == log_.get()) {
+    page = "log";
   }
-  if (!key.isAutoRepeat()) on_help();
+  if (!key.isAutoRepeat()) on_help(page);
   return true;
 }
 
@@ -576,7 +590,10 @@ void HomeWindow::keyPressEvent(QKeyEvent* event) {
 
 bool HomeWindow::eventFilter(QObject* watched, QEvent* event) {
   const bool key = event->type() == QEvent::KeyPress;
-  if (key && watched->isWidgetType() && AskHelp(static_cast<const QKeyEvent&>(*event))) return true;
+  if (key && watched->isWidgetType() &&
+      AskHelp(static_cast<const QWidget&>(*watched), static_cast<const QKeyEvent&>(*event))) {
+    return true;
+  }
   if (!key && event->type() != QEvent::MouseButtonPress) return false;
   if (style_.keyboard != key) {
     style_.keyboard = key;

@@ -34,14 +34,19 @@ class HomeWindow : public QWidget {
   HomeWindow(Host& host, QtEventLoop& loop, MessageBox& messages, FileDialog& dialog);
   ~HomeWindow() override;
 
-  /// Asked for by F1 and by the button.
-  std::function<void()> on_help;
+  /// Asked for by F1, also in a dialog, and by the button. `page` is that of the window in front:
+  /// "melvado", "log" or "user".
+  std::function<void(const std::string& page)> on_help;
+  /// The module's first screen stands: nothing of the host is to stay on the desktop.
+  std::function<void()> on_module_shown;
   /// The user wants to end the program.
   std::function<void()> on_quit;
 
-  /// Shows the window as large as the screen, with the focus on the button that leads on.
+  /// Shows the window with the focus on the button that leads on: at first as large as the screen,
+  /// later as the user has left it.
   void Open();
-  /// Brings whatever the user works with to the front: the exercise, or this window.
+  /// Brings whatever the user works with to the front: the exercise, or this window, also when the
+  /// exercise does not answer.
   void ComeToFront();
   /// The names of captions that are larger than their places.
   std::vector<std::string> CaptionsThatDoNotFit();
@@ -97,7 +102,7 @@ class HomeWindow : public QWidget {
   void Start();
   void ModuleEnded(const ModuleEnd& end);
   void ShowLog();
-  bool AskHelp(const QKeyEvent& key);
+  bool AskHelp(const QWidget& asked, const QKeyEvent& key);
 
   Host& host_;
   QtEventLoop& loop_;
@@ -112,6 +117,7 @@ class HomeWindow : public QWidget {
   QColor verdict_ground_;
   const QWidget* test_refuge_ = nullptr;  // where the focus is while the button is locked
   bool filling_ = false;                  // a list changes by the program, not by the user
+  bool was_open_ = false;
 
   TextWidget* title_ = nullptr;
   TextWidget* subtitle_ = nullptr;

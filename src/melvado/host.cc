@@ -3,10 +3,12 @@
 
 #include "melvado/host.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QSysInfo>
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "app/places.h"
@@ -20,7 +22,6 @@
 namespace vmod17 {
 namespace {
 
-constexpr int kLogLines = 1000;
 constexpr const char* kFirstLanguage = "Deutsch";
 
 std::string Version() {
@@ -183,6 +184,7 @@ void Host::ChooseLanguage(const std::string& name) {
 // --- Sound
 
 void Host::ChooseOutput(const std::string& name) {
+  test_.Stop();  // its verdict would be taken for that on the new output
   Choose([&] { store_.SetMidiDevice(name); });
   verdict_.reset();
   RefreshOutputs();
@@ -212,6 +214,7 @@ std::optional<Notice> Host::ChooseSoundfont(const std::string& path) {
                   {path}};
   }
   if (const auto trouble = Store([&] { store_.SetSoundfont(path); })) return trouble;
+  test_.Stop();
   verdict_.reset();
   return std::nullopt;
 }
@@ -262,7 +265,7 @@ void Host::LogError(const std::string& place, int number, const std::string& tex
   store_.Service()->Action("LOGERR", TaggedValue::Array{place, number, text, source}, slot);
 }
 
-std::vector<LogEntry> Host::Log() { return store_.Log(kLogLines); }
+std::vector<LogEntry> Host::Log() { return store_.Log(std::numeric_limits<int>::max()); }
 
 FaultFacts Host::Facts() {
   FaultFacts facts;
@@ -273,6 +276,7 @@ FaultFacts Host::Facts() {
                  QSysInfo::currentCpuArchitecture().toStdString() + ", Qt " + qVersion() + " on " +
                  QGuiApplication::platformName().toStdString();
   facts.language = language_;
+  facts.home = QDir::homePath().toStdString();
   facts.store = ParseStoreAddress(setup_.store).Display();
   const Output& chosen = outputs_.outputs[static_cast<std::size_t>(outputs_.chosen)];
   facts.output = chosen.name.empty() ? "built-in synthesiser" : chosen.name;

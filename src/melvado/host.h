@@ -74,6 +74,8 @@ class Host {
 
   // --- Sound
   const OutputChoice& outputs() const { return outputs_; }
+  /// A test that runs ends without a verdict.
+  ///
   /// `name`  of an output, "" for the synthesiser
   void ChooseOutput(const std::string& name);
   /// Looks whether a device has come or gone. Cheap.
@@ -83,7 +85,8 @@ class Host {
   bool SoundfontIsThere();
   /// Named from outside, which goes before any choice.
   bool SoundfontIsNamed() const { return !setup_.sound.soundfont.empty(); }
-  /// Takes a soundfont that can be loaded, or "". Returns why another one is not taken.
+  /// Takes a soundfont that can be loaded, or ""; a test that runs ends then. Returns why another
+  /// one is not taken.
   std::optional<Notice> ChooseSoundfont(const std::string& path);
   void TestSound(std::function<void()> done);
   bool TestRuns() const { return test_.runs(); }
@@ -97,13 +100,14 @@ class Host {
   std::string Session() { return store_.Session(); }
   bool ModuleRuns() const { return module_.runs(); }
   qint64 module_process() const { return module_.process_id(); }
-  /// False when there is none to be brought.
+  /// False when there is none to be brought, or it does not answer in some seconds.
   bool BringModuleToFront();
 
   // --- The log
   /// Logs an error of the host itself.
   void LogError(const std::string& place, int number, const std::string& text,
                 const std::string& source);
+  /// The whole of it, some 10,000 lines; see `StoreOptions::log_limit_bytes`.
   std::vector<LogEntry> Log();
   std::string Report();
 

@@ -47,6 +47,7 @@ LogWindow::LogWindow(Host& host, QtEventLoop& loop, QWidget* parent)
   line_->setTabChangesFocus(true);
   note_->setObjectName("note");
   note_->setTextFormat(Qt::PlainText);
+  note_->setWordWrap(true);
   refresh_ = MakeButton("refresh", [this] { Read(); });
   copy_ = MakeButton("copy", [this] { Copy(); });
   close_ = MakeButton("close", [this] { close(); });
@@ -67,6 +68,8 @@ QPushButton* LogWindow::MakeButton(const char* name, std::function<void()> act) 
   auto* const button = new QPushButton(this);
   button->setObjectName(name);
   button->setAutoDefault(false);
+  // The style's least width would let the note beside it cut the words.
+  button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   connect(button, &QPushButton::clicked, this,
           [this, act = std::move(act)] { loop_.Deliver(act); });
   return button;
@@ -98,7 +101,7 @@ void LogWindow::ShowWords() {
 
 QString LogWindow::ShownTime(const std::string& at) const {
   const QString text = QString::fromStdString(at);
-  const QDateTime time = QDateTime::fromString(text, "yyyy-MM-dd hh:mm:ss");
+  const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
   const QLocale& locale = host_.words().locale();
   if (!time.isValid()) return text;
   return locale.toString(time.date(), QLocale::ShortFormat) + ' ' + time.toString("hh:mm:ss");

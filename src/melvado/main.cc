@@ -35,8 +35,9 @@ HostSetup SetupOfThisMachine() {
   return setup;
 }
 
-/// The page of the home window. Made when it is first asked for: most starts need none.
-void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& host) {
+/// Made when it is first asked for: most starts need none.
+void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& host,
+              const std::string& page) {
   if (!help) {
     help = std::make_unique<HelpWindow>(HelpFolders());
     help->owner = [&window] { return &window; };
@@ -50,7 +51,7 @@ void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& ho
                                word(9394, english.missing)};
     };
   }
-  help->Show("melvado", host.words().locale().name().toStdString());
+  help->Show(page, host.words().locale().name().toStdString());
 }
 
 int Run() {
@@ -85,7 +86,10 @@ int Run() {
   HomeWindow window(host, loop, messages, dialog);
   front = &window;
   std::unique_ptr<HelpWindow> help;
-  window.on_help = [&] { ShowHelp(help, window, host); };
+  window.on_help = [&](const std::string& page) { ShowHelp(help, window, host, page); };
+  window.on_module_shown = [&help] {
+    if (help) help->hide();
+  };
   window.on_quit = [&loop] { loop.Quit(); };
   instance.come_to_front = [&window] { window.ComeToFront(); };
   window.Open();

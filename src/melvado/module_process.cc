@@ -8,11 +8,6 @@
 #include "app/places.h"
 
 namespace vmod17 {
-namespace {
-
-constexpr int kTimeToEndMs = 5000;
-
-}  // namespace
 
 ModuleProcess::~ModuleProcess() {
   if (!process_) return;
@@ -45,7 +40,8 @@ void ModuleProcess::Start(const QString& program, const QString& store, const QS
                      ModuleEnd end;
                      end.crashed = status == QProcess::CrashExit;
                      end.code = code;
-                     if (menu_) end.kind = ModuleEnd::Kind::kMenu;
+                     // What a module writes at its end may be lost when it crashes there.
+                     if (menu_ && !end.crashed) end.kind = ModuleEnd::Kind::kMenu;
                      if (open_before_ && !end.crashed) end.kind = ModuleEnd::Kind::kOpenBefore;
                      End(std::move(end));
                    });

@@ -20,12 +20,6 @@ struct OutputChoice {
   std::vector<Output> outputs;  ///< the synthesiser last, and always there
   int chosen = 0;               ///< the one that is remembered
 
-  /// What is heard: the chosen one, or the synthesiser in its place.
-  const Output& Playing() const {
-    const Output& wanted = outputs[static_cast<std::size_t>(chosen)];
-    return wanted.is_there ? wanted : outputs.back();
-  }
-
   bool operator==(const OutputChoice&) const = default;
 };
 

@@ -4,6 +4,8 @@
 #include "melvado/sound_test.h"
 
 #include <array>
+#include <chrono>
+#include <thread>
 #include <utility>
 
 namespace vmod17 {
@@ -16,6 +18,9 @@ constexpr int kVelocity = 100;
 // An output tells the end of its queue within 4 s of the sound card's death; this is for one that
 // never does.
 constexpr int kPatienceMs = 10'000;
+// What was done meanwhile is told by the same thread, which may hang in a device.
+constexpr int kPatienceForFactsMs = 2000;
+constexpr std::chrono::milliseconds kTimeToLetGo{2000};
 
 void Do(MidiDeviceOutput& output, MidiBefehl befehl) {
   output.Set(MidiMember::Befehl, static_cast<int>(befehl));
@@ -47,7 +52,7 @@ void SoundTest::Start(const std::string& port, const std::string& soundfont, Don
   Do(*output_, MidiBefehl::kOeffnen);
   QueueChord();
   Do(*output_, MidiBefehl::kStart);
-  patience_ = loop_.StartTimer(kPatienceMs, EventLoop::Repeat::kOnce, [this] { AskForFacts(); });
+  patience_ = loop_.StartTimer(kPatienceMs, EventLoop::Repeat::kOnce, [this] { LosePatience(); });
 }
 
 void SoundTest::QueueChord() {
@@ -68,22 +73,45 @@ void SoundTest::Send(int status, int data1, int data2) {
 }
 
 void SoundTest::AskForFacts() {
-  if (!output_) return;
   output_->AskFacts(
       [this](const SoundFacts& facts) { End(Judge(port_, facts, troubles_, kWholeMs)); });
+}
+
+void SoundTest::LosePatience() {
+  patience_ = loop_.StartTimer(kPatienceForFactsMs, EventLoop::Repeat::kOnce, [this] {
+    LetGo();
+    gone_ = {};  // nobody need wait for what hangs
+    End(Judge(port_, SoundFacts(), troubles_, kWholeMs));
+  });
+  AskForFacts();
 }
 
 void SoundTest::End(const Verdict& verdict) {
   const Done done = std::exchange(done_, nullptr);
   loop_.StopTimer(std::exchange(patience_, 0));
+  LetGo();
   if (done) done(verdict);
 }
 
 void SoundTest::Stop() {
   loop_.StopTimer(std::exchange(patience_, 0));
   done_ = nullptr;
-  output_.reset();
+  LetGo();
+  // Whoever stops a test wants the device for somebody else. One that hangs is waited for once.
+  if (gone_.valid()) gone_.wait_for(kTimeToLetGo);
+  gone_ = {};
   troubles_.clear();
+}
+
+/// An output goes only when the thread that talks to its device has ended, which takes a moment for
+/// a sound card, and for ever when a driver hangs. That must not stop the program, so another
+/// thread waits for it, to the end of the process if need be.
+void SoundTest::LetGo() {
+  if (!output_) return;
+  output_->FallSilent();
+  std::packaged_task<void()> go([output = std::move(output_)]() mutable { output.reset(); });
+  gone_ = go.get_future();
+  std::thread(std::move(go)).detach();
 }
 
 }  // namespace vmod17

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <future>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,9 +30,12 @@ class SoundTest {
 
   /// `port`       name of a MIDI port, "" for the synthesiser
   /// `soundfont`  path, "" for the usual ones
-  /// `done`       called once, after some two seconds, unless the test is stopped before
+  /// `done`       called once, after some two seconds, unless the test is stopped before. A new
+  /// test
+  ///              may be started from there.
   void Start(const std::string& port, const std::string& soundfont, Done done);
-  /// Ends a test and lets go of the sound device.
+  /// Ends a test and lets go of the sound device. Waits for that no longer than a device that works
+  /// may take.
   void Stop();
   bool runs() const { return done_ != nullptr; }
 
@@ -39,11 +43,14 @@ class SoundTest {
   void QueueChord();
   void Send(int status, int data1, int data2);
   void AskForFacts();
+  void LosePatience();
   void End(const Verdict& verdict);
+  void LetGo();
 
   const MidiOptions options_;
   EventLoop& loop_;
   std::unique_ptr<MidiDeviceOutput> output_;
+  std::future<void> gone_;  // tells that an earlier output has let go of its device
   std::string port_;
   std::vector<Notice> troubles_;
   Done done_;

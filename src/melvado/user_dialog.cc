@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "melvado/dialog_look.h"
@@ -76,6 +77,8 @@ void UserDialog::Try() {
   if (!fault) return accept();
   fault_->setText(words_.Say(*fault));
   fault_->show();
+  // A window grows by itself for what is wide, but not for what is high.
+  resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }
 
 }  // namespace vmod17

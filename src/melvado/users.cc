@@ -22,10 +22,14 @@ QString Without(const QString& text, bool (*unwanted)(QChar)) {
 bool IsControl(QChar c) { return c.category() == QChar::Other_Control; }
 bool IsUnseen(QChar c) { return IsControl(c) || c.category() == QChar::Other_Format; }
 
-/// Marks that turn the direction of what follows, also beyond the name.
+/// Marks that turn the direction of what follows, also beyond the name. Letters that run from the
+/// right do so without them.
 bool TurnsDirection(QChar c) {
-  return (c >= QChar(0x202A) && c <= QChar(0x202E)) || (c >= QChar(0x2066) && c <= QChar(0x2069));
+  return c == QChar(0x061C) || c == QChar(0x200E) || c == QChar(0x200F) ||
+         (c >= QChar(0x202A) && c <= QChar(0x202E)) || (c >= QChar(0x2066) && c <= QChar(0x2069));
 }
+/// Others that are not seen join or part the letters of some scripts.
+bool IsUnwantedInNames(QChar c) { return IsControl(c) || TurnsDirection(c); }
 
 std::string Clean(const std::string& typed, bool (*unwanted)(QChar)) {
   // A line break parts words, so blanks are set straight first.
@@ -46,8 +50,8 @@ QString Isolated(const std::string& text) {
 }  // namespace
 
 StoreUser Cleaned(const StoreUser& typed) {
-  return {Clean(typed.id, IsUnseen), Clean(typed.name, IsControl),
-          Clean(typed.first_name, IsControl)};
+  return {Clean(typed.id, IsUnseen), Clean(typed.name, IsUnwantedInNames),
+          Clean(typed.first_name, IsUnwantedInNames)};
 }
 
 std::optional<Notice> FaultOf(const StoreUser& user) {

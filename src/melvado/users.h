@@ -17,9 +17,10 @@ namespace vmod17 {
 inline constexpr int kLongestNumber = 50;
 inline constexpr int kLongestName = 100;
 
-/// A user as he was typed, made fit to be kept: without blanks around, line breaks and control
-/// characters, letters in their composed form; in the number also without what is not seen, so that
-/// two numbers that look alike are one.
+/// A user as he was typed, made fit to be kept: without blanks around, line breaks, control
+/// characters and marks of direction, which reach beyond the name wherever it is shown or printed;
+/// letters in their composed form; in the number also without what is not seen, so that two numbers
+/// that look alike are one.
 StoreUser Cleaned(const StoreUser& typed);
 
 /// Why a cleaned user cannot be kept; nothing when he can. That the number is another's already is

@@ -227,6 +227,19 @@ TEST(Languages, HaveEachKeyOnceAndNoEmptyOrUnfinishedWord) {
   EXPECT_THAT(faults, SizeIs(3));
 }
 
+TEST(Languages, AreWrittenInUtf8) {
+  Faults faults;
+  ReadLanguage("A.ts", Message("1s", "Übungsart für 日本語 🎵"), faults);
+  EXPECT_THAT(faults, IsEmpty());
+  for (const char* word : {"\xDC"
+                           "bungsart",
+                           "\xFF\xFE", "\xC3", "a\x80"}) {
+    faults.clear();
+    ReadLanguage("A.ts", Message("1s", word), faults);
+    EXPECT_THAT(faults, ElementsAre("A.ts:1: is not in UTF-8"));
+  }
+}
+
 TEST(Notices, SayInEnglishWhatTheLanguageFileSays) {
   const std::string english = Message("9101s", "Not there: %1 &amp; &quot;b&quot;.");
   EXPECT_THAT(NoticeFaults({{"assets/languages/English.ts", english},

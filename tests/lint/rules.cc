@@ -395,6 +395,20 @@ void AddDifferences(const std::string& path, const Words& first, const Words& wo
   }
 }
 
+/// Whether every byte is part of a character; overlong ones are let pass.
+bool IsUtf8(std::string_view text) {
+  int to_come = 0;
+  for (const unsigned char byte : text) {
+    if ((byte & 0xC0) == 0x80) {
+      if (to_come-- == 0) return false;
+      continue;
+    }
+    if (to_come != 0 || byte > 0xF4) return false;
+    to_come = byte >= 0xF0 ? 3 : byte >= 0xE0 ? 2 : byte >= 0xC0 ? 1 : 0;
+  }
+  return to_come == 0;
+}
+
 }  // namespace
 
 Tree ReadTree(const std::filesystem::path& root) {
@@ -579,6 +593,7 @@ std::map<std::string, std::string> ReadLanguage(const std::string& path, const s
     }
   }
   if (words.empty()) faults.push_back(Fault(path, 1, "has no words"));
+  if (!IsUtf8(text)) faults.push_back(Fault(path, 1, "is not in UTF-8"));
   return words;
 }
 

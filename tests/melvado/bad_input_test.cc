@@ -4,8 +4,6 @@
 // What a user, a file or a device may do to the host, and what becomes of it.
 
 #include <QFile>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 
 #include "melvado_testing.h"
 #include "platform/midi/soundfonts.h"
@@ -20,17 +18,6 @@ using ::testing::SizeIs;
 
 class BadInput : public HostStage {
  protected:
-  void RunOnStore(const QString& statement) {
-    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "bad input");
-    database.setDatabaseName(At("store.sqlite"));
-    ASSERT_TRUE(database.open());
-    {
-      QSqlQuery query(database);
-      ASSERT_TRUE(query.exec(statement));
-    }
-    database = QSqlDatabase();
-    QSqlDatabase::removeDatabase("bad input");
-  }
   /// A soundfont under a name that can be taken away.
   QString LinkToSoundfont(const QString& name) {
     const auto existing = ExistingSoundfonts(UsualSoundfonts());

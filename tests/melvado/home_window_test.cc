@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -24,8 +26,65 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
+/// The words of a dialog that are larger than their places.
+std::vector<std::string> CutWords(const QWidget& window) {
+  std::vector<std::string> cut;
+  for (const auto* button : window.findChildren<QPushButton*>()) {
+    if (button->width() < button->sizeHint().width()) cut.push_back(button->text().toStdString());
+  }
+  for (const auto* label : window.findChildren<QLabel*>()) {
+    if (!label->isVisible()) continue;
+    const bool whole = label->wordWrap() ? label->height() >= label->heightForWidth(label->width())
+                                         : label->width() >= label->sizeHint().width();
+    if (!whole) cut.push_back(label->text().toStdString());
+  }
+  for (const auto* field : window.findChildren<QLineEdit*>()) {
+    if (field->height() < field->sizeHint().height()) {
+      cut.push_back(field->objectName().toStdString());
+    }
+  }
+  for (const auto* table : window.findChildren<QTableWidget*>()) {
+    const QHeaderView& header = *table->horizontalHeader();
+    for (int i = 0; i < header.count(); ++i) {
+      if (header.sectionSize(i) >= header.sectionSizeHint(i)) continue;
+      cut.push_back(table->horizontalHeaderItem(i)->text().toStdString());
+    }
+  }
+  return cut;
+}
+
 class HomeWindowTest : public HostStage {
  protected:
+  /// Does it in each language.
+  void InEachLanguage(const std::function<void(const std::string& language)>& act) {
+    const QStringList languages = Entries("language");
+    ASSERT_GE(languages.size(), 2);
+    for (int i = 0; i < languages.size(); ++i) {
+      Choose("language", i);
+      ASSERT_EQ(Caption("language"), languages[i]);
+      act(languages[i].toStdString());
+    }
+  }
+  void ExpectRoomForEveryWord() {
+    for (const QSize size : {QSize(1024, 730), QSize(2560, 1440)}) {
+      window_->showNormal();
+      window_->resize(size);
+      Serve();
+      InEachLanguage([&](const std::string& language) {
+        EXPECT_THAT(window_->CaptionsThatDoNotFit(), IsEmpty())
+            << language << " at " << size.width();
+      });
+    }
+  }
+  void ExpectWhole(const QWidget& dialog, const std::string& language) {
+    Serve();
+    for (const auto* label : dialog.findChildren<QLabel*>()) {
+      EXPECT_EQ(label->font().pixelSize(), dialog.font().pixelSize()) << language;
+    }
+    EXPECT_THAT(CutWords(dialog), IsEmpty()) << language;
+    EXPECT_TRUE(QRect(0, 0, 1024, 768).contains(QRect(QPoint(), dialog.size())))
+        << language << ": " << dialog.width() << " by " << dialog.height();
+  }
   static UserDialog* Dialog() {
     return dynamic_cast<UserDialog*>(QApplication::activeModalWidget());
   }
@@ -99,19 +158,106 @@ TEST_F(HomeWindowTest, StartsByEnterFromAListToo) {
 
 TEST_F(HomeWindowTest, HasRoomForEveryWordOfEveryLanguage) {
   Open();
+  ExpectRoomForEveryWord();
   AddUser("4711", "Berg", "Anna");
   host_->ChooseOutput("USB Digital Piano");
   host_->ChooseSoundfont("");
-  for (const QSize size : {QSize(1024, 730), QSize(2560, 1440)}) {
-    window_->showNormal();
-    window_->resize(size);
-    Serve();
-    for (int i = 0; i < Find<QComboBox>("language")->count(); ++i) {
-      Choose("language", i);
-      EXPECT_THAT(window_->CaptionsThatDoNotFit(), IsEmpty())
-          << Caption("language").toStdString() << " at " << size.width();
-    }
-  }
+  ExpectRoomForEveryWord();
+}
+
+TEST_F(HomeWindowTest, HasRoomForASoundfontThatIsThereOrMissing) {
+  HostSetup setup = HostOfTest();
+  setup.sound.soundfont = At("Concert Grand Piano.sf2").toStdString();
+  Open(setup);
+  EXPECT_THAT(Caption("soundfont_note").toStdString(), HasSubstr("fehlt"));
+  ExpectRoomForEveryWord();
+  QFile file(At("Concert Grand Piano.sf2"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("RIFF\x10\x00\x00\x00sfbk", 12);
+  file.close();
+  Open(setup);
+  Choose("language", static_cast<int>(Entries("language").indexOf("Deutsch")));
+  EXPECT_EQ(Caption("soundfont_note").toStdString(), "Soundfont: Concert Grand Piano.sf2");
+  ExpectRoomForEveryWord();
+}
+
+TEST_F(HomeWindowTest, HasRoomForWhatTheTestSays) {
+  ports_->Plug({"Digital Piano:Digital Piano MIDI 1"});
+  Open();
+  Choose("output", 0);
+  Press("test");
+  ExpectRoomForEveryWord();
+  EXPECT_TRUE(host_->TestRuns());
+  ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
+  ASSERT_TRUE(host_->verdict()->left_the_program);
+  ExpectRoomForEveryWord();
+  ports_->Plug({});
+  host_->RefreshOutputs();
+  Press("test");
+  ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
+  ASSERT_FALSE(host_->verdict()->left_the_program);
+  ExpectRoomForEveryWord();
+}
+
+TEST_F(HomeWindowTest, HasRoomForTheWordsOfAStart) {
+  Open();
+  const Surrounding fake("FAKE_MODULE", "wait SHOWN MENUE 0");
+  Press("start");
+  ExpectRoomForEveryWord();
+  EXPECT_TRUE(host_->ModuleRuns());
+  kill(static_cast<pid_t>(host_->module_process()), SIGTERM);
+  EXPECT_TRUE(ServeUntil([this] { return !host_->ModuleRuns(); }));
+}
+
+TEST_F(HomeWindowTest, ShowsItsOwnWordsWholeInTheLists) {
+  Open();
+  InEachLanguage([this](const std::string& language) {
+    EXPECT_EQ(Caption("user").toStdString(), host_->words().Say(9403, "").toStdString());
+    EXPECT_EQ(Caption("output").toStdString(), host_->words().Say(9409, "").toStdString());
+    host_->ChooseOutput("USB Piano");
+    host_->RefreshOutputs();
+    Choose("user", 0);  // shows the outputs anew
+    EXPECT_EQ(Caption("output").toStdString(),
+              host_->words().Say(9410, "", {"USB Piano"}).toStdString())
+        << language;
+    host_->ChooseOutput("");
+  });
+}
+
+TEST_F(HomeWindowTest, ShowsTheDialogOfAUserWholeInEveryLanguage) {
+  Open();
+  AddUser("4711", "Berg", "Anna");
+  InEachLanguage([this](const std::string& language) {
+    Then([&](UserDialog& dialog) {
+      ExpectWhole(dialog, language);
+      for (const char* number : {"", "4711"}) {
+        Type(dialog, "number", number);
+        Click(dialog, "ok");
+        ASSERT_TRUE(dialog.findChild<QLabel*>("fault")->isVisible());
+        ExpectWhole(dialog, language);
+      }
+      Type(dialog, "number", "4712");
+      Type(dialog, "name", QString(10'000, 'x'));
+      Click(dialog, "ok");
+      ExpectWhole(dialog, language);
+      dialog.reject();
+    });
+    Press("add_user");
+  });
+}
+
+TEST_F(HomeWindowTest, ShowsTheLogWholeInEveryLanguage) {
+  Open();
+  RunModule("3");
+  InEachLanguage([this](const std::string& language) {
+    Press("log");
+    LogWindow& log = *window_->log_window();
+    ExpectWhole(log, language);
+    log.findChild<QPushButton*>("copy")->click();
+    ASSERT_FALSE(log.findChild<QLabel*>("note")->text().isEmpty());
+    ExpectWhole(log, language);
+    log.close();
+  });
 }
 
 TEST_F(HomeWindowTest, GrowsWithTheDisplay) {
@@ -415,7 +561,7 @@ TEST_F(HomeWindowTest, ReadsTheLogAgain) {
 TEST_F(HomeWindowTest, AsksForHelpByF1AndByTheButton) {
   Open();
   int asked = 0;
-  window_->on_help = [&] { ++asked; };
+  window_->on_help = [&](const std::string&) { ++asked; };
   QTest::keyClick(window_->focusWidget(), Qt::Key_F1);
   Press("help");
   EXPECT_EQ(asked, 2);

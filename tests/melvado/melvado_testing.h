@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <algorithm>
@@ -150,6 +152,17 @@ class HostStage : public testing::Test {
   void Close() {
     window_.reset();
     host_.reset();
+  }
+  void RunOnStore(const QString& statement) {
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "test");
+    database.setDatabaseName(At("store.sqlite"));
+    ASSERT_TRUE(database.open());
+    {
+      QSqlQuery query(database);
+      ASSERT_TRUE(query.exec(statement));
+    }
+    database = QSqlDatabase();
+    QSqlDatabase::removeDatabase("test");
   }
 
   template <typename Widget>

@@ -60,6 +60,17 @@ TEST_F(ModuleProcessTest, TellsACrashByItsSignal) {
   EXPECT_EQ(end.code, SIGABRT);
 }
 
+TEST_F(ModuleProcessTest, TakesACrashOnTheWayOutForACrash) {
+  const ModuleEnd end = Run("SHOWN MENUE abort");
+  EXPECT_EQ(end.kind, Kind::kBroken);
+  EXPECT_TRUE(end.crashed);
+  EXPECT_EQ(end.code, SIGABRT);
+}
+
+TEST(ModuleProcess, GivesItsModuleMoreTimeToSaveThanTheStoreTakesForAWrite) {
+  EXPECT_GE(kTimeToEndMs, 2 * StoreOptions().busy_timeout_ms);
+}
+
 TEST_F(ModuleProcessTest, TellsThatTheModuleWasOpenBefore) {
   EXPECT_EQ(Run("OPEN 0").kind, Kind::kOpenBefore);
   EXPECT_EQ(shown_, 0);

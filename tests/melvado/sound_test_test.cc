@@ -3,6 +3,8 @@
 
 #include "melvado/sound_test.h"
 
+#include <chrono>
+#include <condition_variable>
 #include <filesystem>
 #include <optional>
 
@@ -14,6 +16,66 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+
+/// Two ports, of which the driver of "Piano" hangs until the test lets it go on.
+class HangingPorts : public MidiPorts {
+ public:
+  enum class In { kOpen, kSend };
+  explicit HangingPorts(In where) : where_(where) {}
+
+  bool Hangs() {
+    const std::lock_guard lock(mutex_);
+    return hangs_;
+  }
+  void GoOn() {
+    const std::lock_guard lock(mutex_);
+    goes_on_ = true;
+    wake_.notify_all();
+  }
+
+  std::vector<std::string> Names() override { return {"Piano", "Expander"}; }
+  std::unique_ptr<MidiPort> Open(const std::string& name) override {
+    if (name != "Piano") return std::make_unique<Port>(nullptr);
+    if (where_ == In::kOpen) Hang();
+    return std::make_unique<Port>(where_ == In::kSend ? this : nullptr);
+  }
+
+ private:
+  class Port : public MidiPort {
+   public:
+    explicit Port(HangingPorts* hanging) : hanging_(hanging) {}
+    bool Send(const MidiBytes&) override {
+      if (hanging_ != nullptr) hanging_->Hang();
+      return true;
+    }
+    bool IsThere() override { return true; }
+
+   private:
+    HangingPorts* const hanging_;
+  };
+
+  void Hang() {
+    std::unique_lock lock(mutex_);
+    hangs_ = true;
+    // A test that fails must end, too.
+    wake_.wait_for(lock, std::chrono::seconds(30), [this] { return goes_on_; });
+    hangs_ = false;
+  }
+
+  const In where_;
+  std::mutex mutex_;
+  std::condition_variable wake_;
+  bool hangs_ = false;
+  bool goes_on_ = false;
+};
+
+/// A loop whose time runs faster.
+class HastyLoop : public QtEventLoop {
+ public:
+  int StartTimer(int ms, Repeat repeat, Handler handler) override {
+    return QtEventLoop::StartTimer(ms / 50, repeat, std::move(handler));
+  }
+};
 
 class SoundTestTest : public testing::Test {
  protected:
@@ -84,6 +146,71 @@ TEST_F(SoundTestTest, SaysThatAPortWasPulledOutWhileItPlayed) {
   ASSERT_TRUE(ServeUntil([&] { return verdict.has_value(); }));
   EXPECT_FALSE(verdict->left_the_program);
   EXPECT_THAT(verdict->Ids(), Contains(9155));
+}
+
+TEST_F(SoundTestTest, LetsGoOfItsDeviceWithTheVerdict) {
+  ports_->Plug({"Piano"});
+  for (const char* port : {"Piano", ""}) {
+    SoundTest test(Options(), loop_);
+    const auto without_output = ports_.use_count();
+    bool said = false;
+    test.Start(port, "", [&](const Verdict&) { said = true; });
+    EXPECT_GT(ports_.use_count(), without_output);
+    ASSERT_TRUE(ServeUntil([&] { return said; }));
+    EXPECT_TRUE(ServeUntil([&] { return ports_.use_count() == without_output; })) << port;
+  }
+}
+
+TEST_F(SoundTestTest, MayStartAnotherOrGoWhileItSaysItsVerdict) {
+  ports_->Plug({"Piano", "Expander"});
+  auto test = std::make_unique<SoundTest>(Options(), loop_);
+  std::vector<std::string> played;
+  test->Start("Piano", "", [&](const Verdict& first) {
+    played.push_back(first.words[0].details[0]);
+    test->Start("Expander", "", [&](const Verdict& second) {
+      played.push_back(second.words[0].details[0]);
+      test.reset();
+    });
+  });
+  ASSERT_TRUE(ServeUntil([&] { return test == nullptr; }));
+  EXPECT_THAT(played, ElementsAre("Piano", "Expander"));
+}
+
+TEST_F(SoundTestTest, SaysSoWhenADriverHangsAndDoesNotWaitForIt) {
+  for (const auto where : {HangingPorts::In::kOpen, HangingPorts::In::kSend}) {
+    const auto ports = std::make_shared<HangingPorts>(where);
+    {
+      HastyLoop loop;
+      MidiOptions options = Options();
+      options.ports = ports;
+      SoundTest test(std::move(options), loop);
+      std::optional<Verdict> verdict;
+      test.Start("Piano", "", [&](const Verdict& said) { verdict = said; });
+      ASSERT_TRUE(ServeUntil([&] { return verdict.has_value(); }));
+      EXPECT_THAT(verdict->Ids(), ElementsAre(9441, 9450));
+      EXPECT_TRUE(ports->Hangs());
+    }
+    // The loop has gone as well. What the driver does now reaches nobody.
+    EXPECT_TRUE(ports->Hangs());
+    ports->GoOn();
+    EXPECT_TRUE(ServeUntil([&] { return ports.use_count() == 1; }));
+  }
+}
+
+TEST_F(SoundTestTest, CanBeStoppedWhileADriverHangsAndTestsAnotherDevice) {
+  const auto ports = std::make_shared<HangingPorts>(HangingPorts::In::kOpen);
+  MidiOptions options = Options();
+  options.ports = ports;
+  SoundTest test(std::move(options), loop_);
+  test.Start("Piano", "", [](const Verdict&) { ADD_FAILURE(); });
+  ASSERT_TRUE(ServeUntil([&] { return ports->Hangs(); }));
+  test.Stop();
+  std::optional<Verdict> verdict;
+  test.Start("Expander", "", [&](const Verdict& said) { verdict = said; });
+  ASSERT_TRUE(ServeUntil([&] { return verdict.has_value(); }));
+  EXPECT_TRUE(verdict->left_the_program);
+  EXPECT_TRUE(ports->Hangs());
+  ports->GoOn();
 }
 
 TEST_F(SoundTestTest, SaysNothingOnceItIsStopped) {

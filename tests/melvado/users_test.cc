@@ -18,6 +18,20 @@ TEST(Users, AreCleanedOfWhatNobodySees) {
             (StoreUser{"4711", "von der Heide", "Anna"}));
 }
 
+TEST(Users, AreCleanedOfMarksThatTurnTheDirectionOfWhatFollows) {
+  EXPECT_EQ(Cleaned({"\u2067"
+                     "1\u2069",
+                     "\u202EBerg\u202C", "\u2066\u05D0\u05D1\u200F\u2069"}),
+            (StoreUser{"1", "Berg", "\u05D0\u05D1"}));
+  EXPECT_EQ(Cleaned({"1", "\u200E\u202A\u061C", " \u202B\u202DAnna \u2068"}),
+            (StoreUser{"1", "", "Anna"}));
+}
+
+TEST(Users, KeepWhatJoinsAndPartsTheLettersOfTheirNames) {
+  const StoreUser user{"1", "\u0645\u06CC\u200C\u062E", "\u0915\u094D\u200D\u0937"};
+  EXPECT_EQ(Cleaned(user), user);
+}
+
 TEST(Users, HaveOneNumberHoweverItsLettersAreComposed) {
   EXPECT_EQ(Cleaned({"A\u0308 7", "", ""}).id, Cleaned({"\u00C4 7", "", ""}).id);
 }

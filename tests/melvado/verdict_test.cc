@@ -117,7 +117,18 @@ TEST(Verdict, FitsItsPlaceInEveryLanguage) {
   lost.is_there = false;
   SoundFacts stuck = Played();
   stuck.frames = 0;
+  SoundFacts silent = Played();
+  silent.peak = 0.0f;
+  SoundFacts unheard = Played();
+  unheard.peak.reset();
   const std::vector<Verdict> verdicts = {
+      Judge("", unheard, {}, kMs),
+      Judge("", silent, {}, kMs),
+      Judge("", {}, {}, kMs),
+      Judge("", {}, {NoSoundfontNotice({"/usr/share/sounds/sf2", "/usr/share/soundfonts"})}, kMs),
+      Judge("", Played(), {AudioLostNotice()}, kMs),
+      Judge("Digital Piano:Digital Piano MIDI 1", Sent(), {}, kMs),
+      JudgeMissing("Digital Piano:Digital Piano MIDI 1"),
       Judge("", Played(), {OtherSoundfontNotice("/home/anna/Sounds/Grand Piano.sf2", "/usr/b.sf2")},
             kMs),
       Judge("", stuck, {}, kMs),

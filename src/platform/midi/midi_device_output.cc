@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <mutex>
 #include <utility>
 
 #include "platform/midi/player.h"
@@ -41,8 +42,37 @@ SynthSetup SetupOf(const MidiOptions& options) {
 
 }  // namespace
 
+/// The way from an output's threads to the program, until it is cut.
+class ProgramLink : public std::enable_shared_from_this<ProgramLink> {
+ public:
+  explicit ProgramLink(EventLoop& loop) : loop_(&loop) {}
+
+  /// Any thread.
+  void Post(std::function<void()> work) {
+    const std::lock_guard lock(mutex_);
+    if (!loop_) return;
+    loop_->Post([link = shared_from_this(), work = std::move(work)] {
+      if (!link->IsCut()) work();
+    });
+  }
+  /// The program's thread, so that nothing of the output is being delivered.
+  void Cut() {
+    const std::lock_guard lock(mutex_);
+    loop_ = nullptr;
+  }
+
+ private:
+  bool IsCut() {
+    const std::lock_guard lock(mutex_);
+    return loop_ == nullptr;
+  }
+
+  std::mutex mutex_;
+  EventLoop* loop_;
+};
+
 MidiDeviceOutput::MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify notify)
-    : loop_(loop),
+    : program_(std::make_shared<ProgramLink>(loop)),
       notify_(std::move(notify)),
       audio_(options.audio),
       sample_rate_(options.sample_rate),
@@ -57,9 +87,9 @@ MidiDeviceOutput::MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify 
     hooks.now = &SteadyMs;
   }
   hooks.post = [this](std::function<void()> work) { Do(std::move(work)); };
-  hooks.notify = [this, alive = std::weak_ptr(alive_)](const Notice& notice) {
-    loop_.Post([this, alive, notice] {
-      if (!alive.expired() && notify_) notify_(notice);
+  hooks.notify = [this](const Notice& notice) {
+    program_->Post([this, notice] {
+      if (notify_) notify_(notice);
     });
   };
   player_ = std::make_unique<Player>(SetupOf(options), *ports_, *volume_, std::move(hooks));
@@ -69,9 +99,12 @@ MidiDeviceOutput::MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify 
 }
 
 MidiDeviceOutput::~MidiDeviceOutput() {
+  FallSilent();
   if (thread_) thread_->End();
   player_.reset();
 }
+
+void MidiDeviceOutput::FallSilent() { program_->Cut(); }
 
 void MidiDeviceOutput::Do(std::function<void()> work) {
   if (thread_) {
@@ -94,10 +127,8 @@ void MidiDeviceOutput::UseSoundfont(const std::string& path) {
 }
 
 void MidiDeviceOutput::AskFacts(std::function<void(const SoundFacts&)> answer) {
-  Do([this, alive = std::weak_ptr(alive_), answer = std::move(answer)] {
-    loop_.Post([alive, answer, facts = player_->Facts()] {
-      if (!alive.expired()) answer(facts);
-    });
+  Do([this, answer = std::move(answer)] {
+    program_->Post([answer, facts = player_->Facts()] { answer(facts); });
   });
 }
 
@@ -212,10 +243,9 @@ void MidiDeviceOutput::Start() {
 }
 
 std::function<void()> MidiDeviceOutput::RaiseQueueEmpty() {
-  return [this, alive = std::weak_ptr(alive_), generation = generation_] {
-    loop_.Post([this, alive, generation] {
-      if (alive.expired() || generation != generation_) return;
-      if (QueueEmpty) QueueEmpty();
+  return [this, generation = generation_] {
+    program_->Post([this, generation] {
+      if (generation == generation_ && QueueEmpty) QueueEmpty();
     });
   };
 }

@@ -20,6 +20,7 @@ namespace vmod17 {
 
 class Player;
 class SoundThread;
+class ProgramLink;
 struct DeviceChoice;
 struct SynthVolume;
 
@@ -31,6 +32,10 @@ class MidiDeviceOutput : public MidiOutput {
   /// missing soundfont, missing or lost audio, a port that vanished, a number that names no device.
   MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify notify);
   ~MidiDeviceOutput() override;
+
+  /// From now on the program hears nothing of this output, not even what is under way. It may then
+  /// go on any thread, also after the loop.
+  void FallSilent();
 
   /// Loads the synthesiser and looks for ports, beside the program. Meant for the moment at which
   /// the first screen stands; opening the synthesiser does the same where nobody has. Returns at
@@ -72,7 +77,7 @@ class MidiDeviceOutput : public MidiOutput {
   std::function<void()> RaiseQueueEmpty();
   void Do(std::function<void()> work);
 
-  EventLoop& loop_;
+  const std::shared_ptr<ProgramLink> program_;
   const Notify notify_;
   const SynthAudio audio_;
   const double sample_rate_;
@@ -92,9 +97,8 @@ class MidiDeviceOutput : public MidiOutput {
   mutable std::vector<std::string> names_;  // as last listed
 
   // Tells a QueueEmpty of the queue that runs from one that was dropped while the event was under
-  // way, and keeps events from an output that is gone.
+  // way.
   int generation_ = 0;
-  std::shared_ptr<int> alive_ = std::make_shared<int>(0);
 
   double rendered_ms_ = 0;
   std::unique_ptr<SynthVolume> volume_;

@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QScreen>
 #include <QTextBrowser>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -218,11 +219,30 @@ void HelpWindow::BringToFront() {
     place.moveCenter(room.center());
     setGeometry(place);
   }
+  StandBefore(QApplication::activeModalWidget());
   if (isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
   browser_->setFocus(Qt::OtherFocusReason);
+}
+
+/// `dialog`  that the window is to belong to; null for none
+void HelpWindow::StandBefore(QWidget* dialog) {
+  if (dialog_ == dialog) return;
+  if (dialog_ != nullptr) dialog_->removeEventFilter(this);
+  dialog_ = dialog;
+  if (dialog != nullptr) dialog->installEventFilter(this);
+  const bool shown = isVisible();
+  // Whom a window belongs to is looked at only when it comes up.
+  moves_ = true;
+  hide();
+  winId();
+  windowHandle()->setTransientParent(dialog == nullptr ? nullptr : dialog->windowHandle());
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  setVisible(shown);
+  setAttribute(Qt::WA_ShowWithoutActivating, false);
+  moves_ = false;
 }
 
 void HelpWindow::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), look::kPage); }
@@ -245,8 +265,18 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
 
 /// The keyboard goes back to the program even where no window manager sees to it.
 void HelpWindow::hideEvent(QHideEvent*) {
-  QWidget* const window = owner ? owner() : nullptr;
-  if (window != nullptr && window->isVisible() && !isMinimized()) window->activateWindow();
+  if (moves_ || isMinimized()) return;
+  QWidget* window = dialog_;
+  if (window == nullptr && owner) window = owner();
+  if (window != nullptr && window->isVisible()) window->activateWindow();
+}
+
+/// The dialog goes; another one may still wait behind it.
+bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == dialog_ && event->type() == QEvent::Hide) {
+    StandBefore(QApplication::activeModalWidget());
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace vmod17

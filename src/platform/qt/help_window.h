@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 #include <array>
@@ -22,6 +23,9 @@ namespace vmod17 {
 /// "help/de/arbeitsblatt1.html"; links, pictures and style sheets in it are named relative to it.
 /// Each file is taken from the first folder that has it, so that a teacher needs to keep only those
 /// that he has changed. A link that leads out of the folders is not followed.
+///
+/// Over a dialog that waits for an answer it belongs to that dialog, which would block it
+/// otherwise; with the end of the dialog it is a window of its own again.
 ///
 /// A QApplication must exist before it and outlive it.
 class HelpWindow : public QWidget {
@@ -47,8 +51,9 @@ class HelpWindow : public QWidget {
   /// keyboard back; may be null, and may answer null.
   std::function<QWidget*()> owner;
 
-  /// Shows a page and brings the window to the front. Without the page in that language the English
-  /// one is shown, and without that a sentence that tells where it was looked for.
+  /// Shows a page and brings the window to the front, also of a modal dialog. Without the page in
+  /// that language the English one is shown, and without that a sentence that tells where it was
+  /// looked for.
   ///
   /// `page`    name without folder and ending, such as "arbeitsblatt1"
   /// `locale`  such as "de_DE" or "de"; "" stands for English
@@ -62,6 +67,7 @@ class HelpWindow : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   class Browser;
@@ -75,6 +81,7 @@ class HelpWindow : public QWidget {
   void TakeWords();
   void Arrange();
   void BringToFront();
+  void StandBefore(QWidget* dialog);
 
   const std::vector<std::filesystem::path> folders_;
   PictureSource pictures_;
@@ -86,6 +93,8 @@ class HelpWindow : public QWidget {
   std::string locale_;
   double zoom_ = 1;  // of the type, by the user's choice
   bool placed_ = false;
+  bool moves_ = false;        // from one dialog to another, not out of sight
+  QPointer<QWidget> dialog_;  // to which the window belongs
 };
 
 }  // namespace vmod17

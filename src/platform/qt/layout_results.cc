@@ -30,6 +30,8 @@ constexpr double kUserCard = 384;
 constexpr double kBetween = 16;
 constexpr double kUserType = 15;
 constexpr double kUserLine = 36;
+constexpr double kUserNames = 120;  // the column of names, at least and at most
+constexpr double kWidestUserNames = 150;
 constexpr double kHeadline = 58;
 
 /// The parts of the page that both faces share.
@@ -244,12 +246,21 @@ QRectF UserCard(const Form& form, const Sheet& sheet) {
   return QRectF(sheet.body.topLeft(), QSizeF(kUserCard, kHeadline + lines * kUserLine + 12));
 }
 
+/// As wide as its longest name.
+double UserNames(const Form& form) {
+  double widest = 0;
+  for (int k = 0; k < kUserLines; ++k) {
+    widest = std::max(widest, WidthOf(CaptionOf(form, IdOf("g_einst_lab", k)), kUserType));
+  }
+  return std::clamp(widest * 1.05, kUserNames, kWidestUserNames);
+}
+
 void FillUser(Layout& layout, const Form& form, const QRectF& card) {
   layout.places["gr_einst"] = {.rect = card, .named_by = "grd_einst_head"};
   layout.places["grd_einst_head"] = Headline(card);
   layout.backdrops.push_back(CardIn("gr_einst", card, card));
   const QRectF room = BelowHeadline(card);
-  Table table{room, 120, {}};
+  Table table{room, UserNames(form), {}};
   for (int k = 0; k < kUserLines; ++k) {
     table.rows.emplace_back(IdOf("g_einst_lab", k), IdOf("g_einst_inh", k));
   }

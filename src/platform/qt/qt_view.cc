@@ -227,9 +227,7 @@ void QtView::SetPointer(const Form* form) {
 }
 
 bool QtView::AskHelp(const QKeyEvent& key) {
-  if (key.key() != Qt::Key_F1 || !on_help || QApplication::activeModalWidget() != nullptr) {
-    return false;
-  }
+  if (key.key() != Qt::Key_F1 || !on_help) return false;
   const Form* const form = page_form_;
   if (form != nullptr && !key.isAutoRepeat()) on_help(form->name());
   return form != nullptr;

@@ -33,7 +33,7 @@ class QtView : public FormView {
   QtView& operator=(const QtView&) = delete;
 
   /// Called with the name of the screen in front when the user asks for help by F1, from whichever
-  /// window of the program, unless a message waits for an answer.
+  /// window of the program, also from a message that waits for an answer.
   std::function<void(const std::string& form_name)> on_help;
 
   void Attach(Form& form) override;

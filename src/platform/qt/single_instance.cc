@@ -51,7 +51,10 @@ bool Reach(const QString& path) {
 SingleInstance::SingleInstance(const std::string& key) : path_(SocketPath(key)) {
   server_.setSocketOptions(QLocalServer::UserAccessOption);
   QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
-    while (QLocalSocket* socket = server_.nextPendingConnection()) socket->deleteLater();
+    while (QLocalSocket* socket = server_.nextPendingConnection()) {
+      socket->close();  // the answer
+      socket->deleteLater();
+    }
     if (come_to_front) come_to_front();
   });
 }
@@ -69,7 +72,13 @@ bool SingleInstance::Claim() {
 
 bool SingleInstance::BringToFront(const std::string& key) {
   const QString path = SocketPath(key);
-  return !path.isEmpty() && Reach(path);
+  if (path.isEmpty()) return false;
+  QLocalSocket socket;
+  socket.connectToServer(path);
+  if (!socket.waitForConnected(kPatienceMs)) return false;
+  // The system connects to a process that hangs, too.
+  return socket.state() == QLocalSocket::UnconnectedState ||
+         socket.waitForDisconnected(kPatienceMs);
 }
 
 }  // namespace vmod17

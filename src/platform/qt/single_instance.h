@@ -30,7 +30,8 @@ class SingleInstance {
   /// From now on another process may be the first.
   void Release() { server_.close(); }
 
-  /// Asks the process that works under `key` to come to the front; false when there is none.
+  /// Asks the process that works under `key` to come to the front; false when there is none, or it
+  /// does not answer within 3 s.
   static bool BringToFront(const std::string& key);
 
  private:

@@ -16,8 +16,10 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QWindow>
 #include <QXmlStreamReader>
 
+#include "finished_test.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_system.h"
 #include "platform/qt/qt_view.h"
@@ -31,7 +33,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
-using ::testing::SizeIs;
+using ::testing::ResultOf;
 
 // --- the pages of the program
 
@@ -73,9 +75,11 @@ QStringList NamedIn(const QString& page, QString& error) {
   return named;
 }
 
+bool IsPicture(const QString& named) { return named.endsWith(".png"); }
+
 TEST(HelpPages, HaveEachScreenInBothLanguages) {
-  for (const char* page : {"melvado", "grd_einst", "einstellung1", "arbeitsblatt1", "testergebnis",
-                           "modes", "score", "sound", "index"}) {
+  for (const char* page : {"melvado", "user", "log", "grd_einst", "einstellung1", "arbeitsblatt1",
+                           "testergebnis", "modes", "score", "sound", "index"}) {
     EXPECT_THAT(PagesOf("de"), Contains(QString(page) + ".html")) << page;
   }
   EXPECT_EQ(PagesOf("de"), PagesOf("en"));
@@ -95,10 +99,17 @@ TEST(HelpPages, NameOnlyWhatIsThere) {
     for (const QString& named : NamedIn(page, error)) {
       const QString path = QDir(QFileInfo(Pages().filePath(page)).path()).filePath(named);
       EXPECT_TRUE(QFile::exists(path)) << page.toStdString() << " names " << named.toStdString();
-      if (named.endsWith(".png")) {
+      if (IsPicture(named)) {
         EXPECT_FALSE(QImage(path).isNull()) << named.toStdString();
       }
     }
+  }
+}
+
+TEST(HelpPages, HaveAPictureEach) {
+  for (const QString& page : AllPages()) {
+    QString error;
+    EXPECT_THAT(NamedIn(page, error), Contains(ResultOf(IsPicture, true))) << page.toStdString();
   }
 }
 
@@ -348,6 +359,18 @@ class HelpKeyTest : public testing::Test {
   }
   void PressF1() { QTest::keyClick(view_.Window()->focusWidget(), Qt::Key_F1); }
   std::string Page() { return help_.Page().stem().string(); }
+  /// Asks a question before the window, and answers it with "no" if `act` does not. Returns what
+  /// was answered.
+  int WhileAsked(const std::function<void(QMessageBox&)>& act) {
+    QMessageBox box(QMessageBox::Question, {}, "?", QMessageBox::Yes | QMessageBox::No,
+                    view_.Window());
+    box.setDefaultButton(QMessageBox::Yes);
+    QTimer::singleShot(0, &box, [&] {
+      act(box);
+      if (box.isVisible()) box.done(QMessageBox::No);
+    });
+    return box.exec();
+  }
 
   ProgramFixture p_;
   QtEventLoop qt_loop_;
@@ -368,13 +391,34 @@ TEST_F(HelpKeyTest, OpensThePageOfTheScreenInFront) {
   view_.Refresh();
   PressF1();
   EXPECT_EQ(Page(), "einstellung1");
-  p_.settings_screen().cmdOK.Press();
+  ToResults(p_);
+  Attach(p_.results());
+  PressF1();
+  EXPECT_EQ(Page(), "testergebnis");
+  EXPECT_THAT(asked_, ElementsAre("grd_einst", "einstellung1", "testergebnis"));
+}
+
+TEST_F(HelpKeyTest, OpensThePageOfTheWorksheet) {
+  p_.ToWorksheet();
   Attach(p_.worksheet());
-  p_.loop.Advance(200);
-  view_.Refresh();
   PressF1();
   EXPECT_EQ(Page(), "arbeitsblatt1");
-  EXPECT_THAT(asked_, ElementsAre("grd_einst", "einstellung1", "arbeitsblatt1"));
+}
+
+TEST_F(HelpKeyTest, HasAPageForEachScreenInBothLanguages) {
+  p_.ToFirstScreen();
+  p_.first().cmdOK.Press();
+  p_.loop.Advance(200);
+  ToResults(p_);
+  const std::vector<Form*> screens = {&p_.first(), &p_.settings_screen(), &p_.worksheet(),
+                                      &p_.results()};
+  for (const Form* screen : screens) {
+    for (const char* language : {"de", "en"}) {
+      help_.Show(screen->name(), language);
+      EXPECT_EQ(help_.Page(), std::filesystem::path(PROGRAM_HELP) / language /
+                                  (std::string(screen->name()) + ".html"));
+    }
+  }
 }
 
 TEST_F(HelpKeyTest, IsWhatTheHelpButtonSends) {
@@ -394,19 +438,77 @@ TEST_F(HelpKeyTest, BringsTheHelpBackToTheScreenInFrontFromItsOwnWindow) {
   EXPECT_EQ(Page(), "grd_einst");
 }
 
-TEST_F(HelpKeyTest, WaitsUntilAMessageHasBeenAnswered) {
+TEST_F(HelpKeyTest, ShowsThePageOfTheScreenUnderAMessage) {
+  p_.ToSettings();
+  Attach(p_.settings_screen());
+  WhileAsked([&](QMessageBox& box) {
+    QTest::keyClick(&box, Qt::Key_F1);
+    EXPECT_EQ(Page(), "einstellung1");
+    EXPECT_TRUE(box.isVisible());
+  });
+  EXPECT_THAT(asked_, ElementsAre("einstellung1"));
+}
+
+TEST_F(HelpKeyTest, CanBeReadWhileAMessageWaitsAndGivesItTheKeyboardBack) {
   p_.ToFirstScreen();
   Attach(p_.first());
-  QMessageBox box(view_.Window());
-  box.addButton(QMessageBox::Ok);
-  QTimer::singleShot(0, [&] {
+  const int answer = WhileAsked([&](QMessageBox& box) {
     QTest::keyClick(&box, Qt::Key_F1);
-    box.accept();
+    ASSERT_TRUE(help_.isVisible());
+    // Through the window system, as the user's keys come.
+    QTest::keyClick(help_.windowHandle(), Qt::Key_Plus, Qt::ControlModifier);
+    QTest::mouseClick(help_.windowHandle(), Qt::LeftButton, {},
+                      ButtonOf(help_, "help_contents").geometry().center());
+    EXPECT_EQ(Page(), "index");
+    QTest::keyClick(help_.windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(help_.isVisible());
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_EQ(QApplication::activeWindow(), &box);
+    QTest::keyClick(box.windowHandle(), Qt::Key_Return);
   });
-  box.exec();
-  EXPECT_THAT(asked_, IsEmpty());
+  EXPECT_EQ(answer, QMessageBox::Yes);
+}
+
+TEST_F(HelpKeyTest, BringsAHelpThatWasOpenBeforeTheMessageInFrontOfIt) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
   PressF1();
-  EXPECT_THAT(asked_, SizeIs(1));
+  ASSERT_EQ(help_.windowHandle()->transientParent(), nullptr);
+  WhileAsked([&](QMessageBox& box) {
+    QTest::keyClick(help_.windowHandle(), Qt::Key_Escape);
+    EXPECT_TRUE(help_.isVisible()) << "not blocked";
+    QTest::keyClick(&box, Qt::Key_F1);
+    EXPECT_EQ(help_.windowHandle()->transientParent(), box.windowHandle());
+    QTest::keyClick(help_.windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(help_.isVisible());
+  });
+}
+
+TEST_F(HelpKeyTest, StaysOpenAfterTheMessageOverWhichItWasOpened) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  WhileAsked([&](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_F1); });
+  EXPECT_TRUE(help_.isVisible());
+  EXPECT_EQ(help_.windowHandle()->transientParent(), nullptr);
+  QTest::keyClick(help_.windowHandle(), Qt::Key_F1);
+  EXPECT_EQ(Page(), "grd_einst");
+  QTest::keyClick(help_.windowHandle(), Qt::Key_Escape);
+  EXPECT_FALSE(help_.isVisible());
+  EXPECT_EQ(QApplication::activeWindow(), view_.Window());
+}
+
+TEST_F(HelpKeyTest, BelongsToTheOuterMessageAgainWhenTheInnerOneIsAnswered) {
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  WhileAsked([&](QMessageBox& outer) {
+    WhileAsked([&](QMessageBox& inner) { QTest::keyClick(&inner, Qt::Key_F1); });
+    EXPECT_EQ(help_.windowHandle()->transientParent(), outer.windowHandle());
+    QTest::keyClick(help_.windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(help_.isVisible());
+  });
+  PressF1();
+  EXPECT_TRUE(help_.isVisible());
+  EXPECT_EQ(help_.windowHandle()->transientParent(), nullptr);
 }
 
 TEST_F(HelpKeyTest, DoesNotPressAnythingOnTheScreen) {

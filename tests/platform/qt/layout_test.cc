@@ -5,14 +5,21 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QImage>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
 #include <cstdlib>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "finished_test.h"
+#include "platform/qt/help_window.h"
 #include "platform/qt/look.h"
+#include "platform/qt/qt_message_box.h"
 #include "shown_page.h"
 #include "spoken_program.h"
 
@@ -37,10 +44,12 @@ TEST_P(LayoutIn, ShowsTheSettingsWholeWithEveryEntryOfTheLists) {
                          &p.settings_screen().Combo_tonraum, &p.settings_screen().akkzahl_cmb,
                          &p.settings_screen().Channel_Combo, &p.settings_screen().ComboPatch,
                          &p.settings_screen().training_Combo, &p.settings_screen().prfnr_Comb}) {
+    Shown shown(p.settings_screen(), kSmall);
     for (int i = 0; i < list->count(); ++i) {
       list->Select(i);
-      Shown shown(p.settings_screen(), kSmall);
+      shown.page().Refresh();
       ExpectNoCaptionIsCut(shown);
+      ExpectNoWordIsMissing(p.settings_screen());
     }
   }
 }
@@ -120,8 +129,112 @@ TEST_P(LayoutIn, ShowsGroupButtonsInPlaceOfTheTiles) {
   EXPECT_EQ(shown.At("ergebnis(1)").size(), QSize(169, 41));
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, LayoutIn, testing::Values("Deutsch", "English"),
-                         [](const auto& test) { return test.param; });
+/// The longest that the action box says, by whichever of its controls.
+void SayTheLongest(Arbeitsblatt1& sheet, const TextLookup& texts) {
+  for (int slot = 1; slot <= 4; ++slot) {
+    sheet.nrakk[slot].visible = sheet.ergebnis[slot].visible = true;
+    sheet.akk_lfdnr[slot].visible = sheet.jzakk_box[0].visible;
+    sheet.akk_lfdnr[slot].caption = texts.Sprachtext(374) + " 24";
+    sheet.ergebnis[slot].caption = texts.Sprachtext(232);
+  }
+  for (int i = 0; i < 2; ++i) sheet.zaehler[i].caption = "188";
+  sheet.whlgzaehler.caption = "188";
+  sheet.wieder2.caption = texts.Sprachtext(632);
+  sheet.CmdNextAufg.caption = sheet.LbNextAufg.caption = texts.Sprachtext(129) + " 188";
+}
+
+TEST_P(LayoutIn, ShowsTheWorksheetWholeInEachModeByChordAndByGroup) {
+  for (const int mode : {0, 1, 3, 4}) {
+    for (const int answer : {0, 1}) {
+      SpokenProgram p(GetParam());
+      p.ToSettings();
+      Einstellung1& screen = p.settings_screen();
+      screen.akk_grp.Check(answer);
+      screen.klang_alle[0].Press();
+      screen.grp_alle[0].Press();
+      screen.training_Combo.Select(mode);
+      p.StartRun();
+      ASSERT_NE(p.program.arbeitsblatt1(), nullptr) << mode << answer;
+      Arbeitsblatt1& sheet = p.worksheet();
+      const TextLookup& texts = p.program.texts();
+      ExpectWellLaidOut(sheet);
+      SayTheLongest(sheet, texts);
+      ExpectWellLaidOut(sheet);
+      sheet.CmdNextAufg.caption = sheet.LbNextAufg.caption = texts.Sprachtext(420);
+      sheet.zurueck.caption = texts.Sprachtext(625);
+      sheet.WaitMeldung.visible = sheet.WaitMeld.visible = true;
+      Shown shown(sheet, kSmall);
+      ExpectNoCaptionIsCut(shown);
+    }
+  }
+}
+
+TEST_P(LayoutIn, ShowsTheResultsWholeWithoutAUser) {
+  SpokenProgram p(GetParam());
+  p.ToSettings();
+  ToResults(p);
+  ExpectWellLaidOut(p.results());
+  EXPECT_TRUE(p.results().cmdOK[0].Press());
+  ExpectWellLaidOut(p.results());
+}
+
+TEST_P(LayoutIn, ShowsTheButtonsOfTheHelpWhole) {
+  SpokenProgram p(GetParam());
+  p.ToFirstScreen();
+  const auto word = [&](int id) { return p.program.texts().Sprachtext(id); };
+  HelpWindow help({std::filesystem::path(PROGRAM_HELP)});
+  help.words = [&] {
+    return HelpWindow::Words{word(9421), word(9391), word(9392), word(9393), word(9394)};
+  };
+  help.Show("index", GetParam());
+  for (const QSize& size : {kSmall, help.minimumSize()}) {
+    help.resize(size);
+    QCoreApplication::processEvents();
+    const QList<PressWidget*> buttons = help.findChildren<PressWidget*>();
+    EXPECT_EQ(buttons.size(), 3);
+    for (PressWidget* button : buttons) {
+      EXPECT_TRUE(button->CaptionFits())
+          << button->caption().toStdString() << " at " << size.width();
+      EXPECT_FALSE(button->caption().contains(TextLookup::kOhneWort));
+    }
+  }
+}
+
+/// The longest text of the language, and the answers under it.
+TEST_P(LayoutIn, ShowsMessagesWhole) {
+  SpokenProgram p(GetParam());
+  const auto& words = p.languages.languages.at(0).second.words;
+  std::string longest;
+  for (const auto& [key, text] : words) {
+    if (text.size() > longest.size()) longest = text;
+  }
+  QtMessageBox messages(nullptr);
+  messages.words = [&] {
+    return QtMessageBox::Words{words.at("432s"), words.at("9001s"), words.at("9002s")};
+  };
+  QTimer::singleShot(0, [] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(QRect(QPoint(), kSmall).contains(QRect(QPoint(), box->size())));
+    for (const auto* label : box->findChildren<QLabel*>()) {
+      if (!label->isVisible() || label->text().isEmpty()) continue;
+      EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+      EXPECT_TRUE(box->rect().contains(QRect(label->mapTo(box, QPoint()), label->size())));
+    }
+    for (const auto* button : box->buttons()) {
+      EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+    }
+    box->close();
+  });
+  messages.Ask(longest, "Melvado");
+}
+
+TEST(Languages, ThatComeWithTheProgramAreAllTested) {
+  EXPECT_GE(LocalesOfTheProgram().size(), std::size_t{PROGRAM_LANGUAGE_COUNT});
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, LayoutIn, testing::ValuesIn(LocalesOfTheProgram()),
+                         [](const auto& test) { return InTestName(test.param); });
 
 TEST(Layout, GrowsWithTheWindowAndNeverShrinksBelowItsUnits) {
   ProgramFixture p;

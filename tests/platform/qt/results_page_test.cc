@@ -50,10 +50,10 @@ TEST_P(ResultsIn, ShowsBothFacesWholeBeforeAndAfterTheyArePrinted) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ResultsIn,
-                         testing::Combine(testing::Values("Deutsch", "English"),
+                         testing::Combine(testing::ValuesIn(LocalesOfTheProgram()),
                                           testing::Values(0, 1)),
                          [](const auto& test) {
-                           return std::get<0>(test.param) +
+                           return InTestName(std::get<0>(test.param)) +
                                   (std::get<1>(test.param) == 0 ? "Chords" : "Voicings");
                          });
 
@@ -132,7 +132,7 @@ TEST(ResultsLayout, CentresTheTwoLinesOfAnUnknownUser) {
 }
 
 TEST(ResultsLayout, WrapsALongListOfGroupsAndMovesNothingOntoIt) {
-  SpokenProgram p("Deutsch");
+  SpokenProgram p("de_DE");
   p.ToSettings();
   ChooseAll(p.settings_screen(), 0);
   ToResults(p);

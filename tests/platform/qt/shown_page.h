@@ -10,6 +10,7 @@
 
 #include "platform/qt/page.h"
 #include "platform/qt/qt_event_loop.h"
+#include "shell/text_lookup.h"
 
 namespace vmod17 {
 
@@ -108,7 +109,23 @@ inline void ExpectNoEntryIsCut(Shown& shown) {
   }
 }
 
+/// Also in what is not shown now.
+inline void ExpectNoWordIsMissing(const Form& form) {
+  const auto expect = [](const std::string& text, const std::string& where) {
+    EXPECT_EQ(text.find(TextLookup::kOhneWort), std::string::npos) << where << ": " << text;
+  };
+  expect(form.caption, form.name());
+  for (const Control* control : form.controls()) {
+    expect(control->caption, control->Id());
+    expect(control->description, control->Id());
+    const auto* const list = dynamic_cast<const ItemList*>(control);
+    if (list == nullptr) continue;
+    for (const ItemList::Entry& entry : list->entries()) expect(entry.text, control->Id());
+  }
+}
+
 inline void ExpectWellLaidOut(Form& form) {
+  ExpectNoWordIsMissing(form);
   for (const QSize& size : {kSmall, kLarge}) {
     Shown shown(form, size);
     ExpectAllIsOnThePage(shown);

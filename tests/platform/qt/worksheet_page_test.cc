@@ -95,8 +95,8 @@ TEST_P(Header, SaysTheGaugeWithItsValueAndWhatItsEndsMean) {
   EXPECT_NE(ends.find(sheet().ergebnis_anz[2].caption), std::string::npos);
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, Header, testing::Values("Deutsch", "English"),
-                         [](const auto& test) { return test.param; });
+INSTANTIATE_TEST_SUITE_P(Languages, Header, testing::ValuesIn(LocalesOfTheProgram()),
+                         [](const auto& test) { return InTestName(test.param); });
 
 TEST(Gauge, GoesFromGreenToRedAndShowsWhereTheTrainingStands) {
   ProgramFixture p;
