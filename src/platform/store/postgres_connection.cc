@@ -48,8 +48,18 @@ bool PostgresConnection::HasTable(const QString& name) {
 }
 
 void PostgresConnection::LockSchema() {
-  // The number only has to be the same in every process: the letters "melv".
+  // The number only has to be the same in every process: the letters "melv". The next one is that
+  // of `Append`.
   Run(QStringLiteral("SELECT pg_advisory_xact_lock(1835363446)"));
+}
+
+void PostgresConnection::Append(const std::function<void()>& append) {
+  // Two statements at once would both see the same last row. The lock is a statement before them,
+  // since a statement sees what was there when it began.
+  InTransaction([&] {
+    Run(QStringLiteral("SELECT pg_advisory_xact_lock(1835363447)"));
+    append();
+  });
 }
 
 void PostgresConnection::SetWait(int wait_ms) {

@@ -19,6 +19,7 @@ class PostgresConnection : public SqlConnection {
   void Open(int wait_ms) override;
   bool HasTable(const QString& name) override;
   void LockSchema() override;
+  void Append(const std::function<void()>& append) override;
   void SetWait(int wait_ms) override;
   /// The server's own setting decides, by default to disk.
   void SetSync(Sync) override {}

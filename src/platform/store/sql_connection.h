@@ -62,6 +62,9 @@ class SqlConnection {
   virtual bool HasTable(const QString& name) = 0;
   /// Within a transaction, keeps other processes from making the tables at the same time.
   virtual void LockSchema() = 0;
+  /// Runs `append`, which adds a row that builds on the last one of its table, such that no other
+  /// process adds one between the two. A transaction of its own.
+  virtual void Append(const std::function<void()>& append) = 0;
   virtual void SetWait(int wait_ms) = 0;
   virtual void SetSync(Sync sync) = 0;
   /// Makes the database fit for two processes at a time. Called once the version is known.

@@ -23,6 +23,8 @@ class SqliteConnection : public SqlConnection {
   bool HasTable(const QString& name) override;
   /// A writing transaction holds the whole file already.
   void LockSchema() override {}
+  /// One statement holds off all other writers.
+  void Append(const std::function<void()>& append) override { append(); }
   void SetWait(int wait_ms) override;
   void SetSync(Sync sync) override;
   void Prepare() override;

@@ -213,14 +213,16 @@ std::int64_t StoreTables::AppendLog(const LogEntry& entry) {
                             static_cast<std::int64_t>(entry.user.size()) + kRowOverhead;
   // A log line may be lost with the power, so it does not wait for the disk.
   connection_.SetSync(SqlConnection::Sync::kToSystem);
-  connection_.Run(
-      QStringLiteral("INSERT INTO melvado_log (at, user_id, kind, place, number, text, source, "
-                     "total) VALUES (?, ?, ?, ?, ?, ?, ?, "
-                     "COALESCE((SELECT total FROM melvado_log ORDER BY id DESC LIMIT 1), 0) + ?)"),
-      {Text(entry.at), Text(entry.user),
-       entry.kind == LogEntry::Kind::kError ? QStringLiteral("ERR") : QStringLiteral("MESS"), place,
-       QVariant::fromValue<qlonglong>(entry.number), text, source,
-       QVariant::fromValue<qlonglong>(size)});
+  connection_.Append([&] {
+    connection_.Run(
+        QStringLiteral("INSERT INTO melvado_log (at, user_id, kind, place, number, text, source, "
+                       "total) VALUES (?, ?, ?, ?, ?, ?, ?, COALESCE("
+                       "(SELECT total FROM melvado_log ORDER BY id DESC LIMIT 1), 0) + ?)"),
+        {Text(entry.at), Text(entry.user),
+         entry.kind == LogEntry::Kind::kError ? QStringLiteral("ERR") : QStringLiteral("MESS"),
+         place, QVariant::fromValue<qlonglong>(entry.number), text, source,
+         QVariant::fromValue<qlonglong>(size)});
+  });
   return size;
 }
 

@@ -12,6 +12,7 @@
 #include "platform/store/host_store.h"
 #include "platform/store/store_address.h"
 #include "store_testing.h"
+#include "store_upgrade_contract.h"
 #include "support/host_contract.h"
 #include "user_list_contract.h"
 
@@ -43,6 +44,17 @@ INSTANTIATE_TEST_SUITE_P(SqliteStore, HostContract,
 
 class FileStoreForUsers : public StoreForUsers {
  public:
+  StoreOptions Options() override { return TestOptions((folder_ / "store.sqlite").toStdString()); }
+
+ private:
+  ScratchFolder folder_;
+};
+
+INSTANTIATE_TEST_SUITE_P(SqliteStore, UserListContract,
+                         ::testing::Values([] { return std::make_unique<FileStoreForUsers>(); }));
+
+class FileStoreForUpgrade : public StoreForUpgrade {
+ public:
   std::string Address() override { return (folder_ / "store.sqlite").toStdString(); }
   void Run(const QString& statement) override {
     QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "users");
@@ -60,8 +72,8 @@ class FileStoreForUsers : public StoreForUsers {
   ScratchFolder folder_;
 };
 
-INSTANTIATE_TEST_SUITE_P(SqliteStore, UserListContract,
-                         ::testing::Values([] { return std::make_unique<FileStoreForUsers>(); }));
+INSTANTIATE_TEST_SUITE_P(SqliteStore, StoreUpgradeContract,
+                         ::testing::Values([] { return std::make_unique<FileStoreForUpgrade>(); }));
 
 class SqliteStore : public ::testing::Test {
  protected:

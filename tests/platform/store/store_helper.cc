@@ -35,6 +35,7 @@ class Helper {
     if (command == "pair") return StorePair(words);
     if (command == "read") return Read(words);
     if (command == "log") return Log(words);
+    if (command == "logs") return LogMany(words);
     if (command == "notices") return Notices();
     if (command == "add") return Add(words);
     if (command == "users") return Users();
@@ -125,6 +126,23 @@ class Helper {
     words >> text;
     TaggedValue result;
     return store_->Service()->Action("LOGMESS", text, result) ? "kept" : "lost";
+  }
+
+  // logs NAME COUNT LENGTH: so many lines "NAME number ....", counted from 0, of at least so many
+  // bytes
+  std::string LogMany(std::istringstream& words) {
+    std::string name;
+    int count = 0;
+    std::size_t length = 0;
+    words >> name >> count >> length;
+    int kept = 0;
+    for (int number = 0; number < count; ++number) {
+      std::string line = name + ' ' + std::to_string(number) + ' ';
+      if (line.size() < length) line.resize(length, '.');
+      TaggedValue result;
+      if (store_->Service()->Action("LOGMESS", line, result)) ++kept;
+    }
+    return "kept " + std::to_string(kept);
   }
 
   std::string Notices() const {

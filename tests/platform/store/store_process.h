@@ -59,6 +59,7 @@ class StoreProcess {
 
   /// Once it has ended: its exit status, and whether it was ended by a signal.
   int Status() const { return WasKilled() ? -1 : process_.exitCode(); }
+  bool HasEnded() const { return process_.state() == QProcess::NotRunning; }
   bool WasKilled() const { return process_.exitStatus() == QProcess::CrashExit; }
 
  private:

@@ -3,13 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include <QRegularExpression>
+#include <QFileInfo>
 #include <memory>
 #include <random>
 #include <vector>
 
 #include "platform/store/host_store.h"
 #include "shared_contract.h"
+#include "shared_log.h"
 #include "store_process.h"
 #include "store_testing.h"
 
@@ -43,7 +44,7 @@ TEST_F(SharedStore, ShowsEachOfTwoProcessesWhatTheOtherStores) {
 }
 
 TEST_F(SharedStore, KeepsToTheContractInTwoProcessesAtOnce) {
-  ExpectContractInTwoProcesses(Path().toStdString());
+  TwoProcessContract(Path().toStdString()).ExpectThatBothKeepToIt();
 }
 
 TEST_F(SharedStore, TakesEverythingFromProcessesThatStartAndWriteAtOnce) {
@@ -92,6 +93,11 @@ TEST_F(SharedStore, GivesANumberToOneOfTwoProcessesOnly) {
     EXPECT_EQ(answers.count("taken"), 1) << n;
   }
   EXPECT_EQ(first.Ask("users"), second.Ask("users"));
+}
+
+TEST_F(SharedStore, KeepsALogBelowItsSizeThatTwoProcessesFillAtOnce) {
+  ExpectALogOfTwoProcessesThatStaysSmall(Path().toStdString(), 40'000, 100);
+  EXPECT_LT(QFileInfo(Path()).size(), 10'000'000);
 }
 
 TEST_F(SharedStore, HoldsAWholeValueWheneverTheProcessIsKilled) {
