@@ -30,9 +30,8 @@ class SoundTest {
 
   /// `port`       name of a MIDI port, "" for the synthesiser
   /// `soundfont`  path, "" for the usual ones
-  /// `done`       called once, after some two seconds, unless the test is stopped before. A new
-  /// test
-  ///              may be started from there.
+  /// `done`       called once, after some two seconds, unless the test is stopped before; a new
+  ///              test may be started from there
   void Start(const std::string& port, const std::string& soundfont, Done done);
   /// Ends a test and lets go of the sound device. Waits for that no longer than a device that works
   /// may take.
