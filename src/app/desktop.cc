@@ -191,12 +191,7 @@ void Desktop::SpeakAsTheLanguage() {
 }
 
 void Desktop::TellOfLanguages() {
-  for (const std::string& file : languages_.problems()) {
-    Tell({9251,
-          "The language file %1 cannot be read and is left out. If it came with the "
-          "program, install the program again.",
-          {file}});
-  }
+  for (const Notice& notice : languages_.Notices()) Tell(notice);
   if (program_->texts().Sprachtext(700) == TextLookup::kOhneWort) {
     Tell({9252,
           "No words were found for the language of this program, which is why its texts "

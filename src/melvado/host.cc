@@ -56,13 +56,8 @@ Host::Host(HostSetup setup, EventLoop& loop)
   SpeakLanguage();
   RefreshOutputs();
   TaggedValue slot;
-  store_.Service()->Action("LOGMESS", "melvado " + Version() + " start", slot);
-  for (const std::string& file : languages_.problems()) {
-    Tell({9251,
-          "The language file %1 cannot be read and is left out. If it came with the "
-          "program, install the program again.",
-          {file}});
-  }
+  store_.Service()->Action("LOGMESS", "melvado " + Version(), slot);
+  for (const Notice& notice : languages_.Notices()) Tell(notice);
 }
 
 Host::~Host() = default;

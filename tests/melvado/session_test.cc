@@ -163,7 +163,7 @@ TEST_F(SessionTest, BeginsWithEnglishWhereTheLanguageOfTheDesktopIsNotInstalled)
 
 TEST_F(SessionTest, IsLoggedFromItsStartOnWithTheHostsOwnErrors) {
   Open();
-  EXPECT_THAT(LogLines(), Contains(QString("melvado 1.0.0 start")));
+  EXPECT_THAT(LogLines(), Contains(QString("melvado 1.0.0")));
   host_->LogError("run_time", 13, "an odd thing", "melvado.Host");
   const LogEntry last = host_->Log().back();
   EXPECT_EQ(last.kind, LogEntry::Kind::kError);

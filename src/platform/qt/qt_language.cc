@@ -82,6 +82,17 @@ std::unique_ptr<Language> QtLanguageList::Create(const std::string& class_name) 
                      "vmod17.QtLanguageList");
 }
 
+std::vector<Notice> QtLanguageList::Notices() const {
+  std::vector<Notice> notices;
+  for (const std::string& file : problems_) {
+    notices.push_back({9251,
+                       "The language file %1 cannot be read and is left out. If it came with the "
+                       "program, install the program again.",
+                       {file}});
+  }
+  return notices;
+}
+
 std::optional<std::string> QtLanguageList::DesktopLanguage() const {
   std::vector<std::string> locales;
   for (const QString& locale : QLocale::system().uiLanguages()) {

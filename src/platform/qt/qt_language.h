@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/language.h"
+#include "platform/notice.h"
 
 namespace vmod17 {
 
@@ -28,6 +29,8 @@ class QtLanguageList : public LanguageList {
 
   /// Files that are no readable translation and therefore not listed: their paths, UTF-8.
   const std::vector<std::string>& problems() const { return problems_; }
+  /// What the user should be told of them.
+  std::vector<Notice> Notices() const;
 
   /// The name of the installed language that the desktop's user would want first; English if he
   /// wants none of them, and none if that is not installed.
