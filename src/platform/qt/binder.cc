@@ -30,6 +30,7 @@ class PressBinding : public Binding {
     image_ = picture_->image;
     press_.SetImage(image_);
   }
+  void WithdrawKind() override { press_.SetImage(image_ = {}); }
 
  private:
   PressWidget& press_;
@@ -50,6 +51,7 @@ class TextBinding : public Binding {
     image_ = picture_->image;
     text_.SetImage(image_);
   }
+  void WithdrawKind() override { text_.SetImage(image_ = {}); }
 
  private:
   TextWidget& text_;
@@ -96,6 +98,7 @@ class EntriesShown {
     shown_ = list_.entries();
     return true;
   }
+  void Forget() { known_ = false; }
 
  private:
   const ItemList& list_;
@@ -123,6 +126,11 @@ class DropDownBinding : public Binding {
     }
     if (combo_.currentIndex() != list_.list_index()) combo_.setCurrentIndex(list_.list_index());
     if (combo_.caption() != combo_.currentText()) combo_.SetCaption(combo_.currentText());
+  }
+  void WithdrawKind() override {
+    const QSignalBlocker quiet(&combo_);
+    combo_.clear();
+    entries_.Forget();
   }
 
  private:
@@ -154,6 +162,11 @@ class ListBinding : public Binding {
     if (selected_ == list_.list_index()) return;
     selected_ = list_.list_index();
     if (selected_ >= 0) box_.setCurrentRow(selected_);
+  }
+  void WithdrawKind() override {
+    const QSignalBlocker quiet(&box_);
+    box_.clear();
+    entries_.Forget();
   }
 
  private:
@@ -204,6 +217,10 @@ class GaugeBinding : public Binding {
     if (!bar_.SetEnds(low, high)) return;
     bar_.setAccessibleDescription(QString("0% %1, 100% %2").arg(low, high));
   }
+  void WithdrawKind() override {
+    bar_.SetEnds({}, {});
+    bar_.setAccessibleDescription({});
+  }
 
  private:
   const Control* low_ = nullptr;
@@ -217,6 +234,9 @@ class PlateBinding : public Binding {
   PlateBinding(Control& control, PlateWidget& widget, const BindingSite& site)
       : Binding(control, widget, widget) {
     widget.move_focus = [&control, move = site.move_focus](int key) { return move(control, key); };
+    auto* const frame = dynamic_cast<Frame*>(&control);
+    if (frame == nullptr || !frame->MenuAsked) return;
+    widget.ask_menu = [frame, ask = site.ask_menu] { ask(*frame); };
   }
 };
 
@@ -225,6 +245,14 @@ bool IsButton(const Control& control) {
   if (dynamic_cast<const Button*>(&control) != nullptr) return true;
   const auto* pressable = dynamic_cast<const Pressable*>(&control);
   return pressable != nullptr && pressable->Click != nullptr;
+}
+
+/// Whether the screen it belongs to shows it.
+bool IsShown(const Control& control) {
+  for (const Control* c = &control; c != nullptr; c = c->container) {
+    if (!c->visible) return false;
+  }
+  return true;
 }
 
 bool IsPlate(const Control& control, Look look) {
@@ -252,9 +280,28 @@ Binding::Binding(Control& control, QWidget& widget, Dressed& dressed)
   widget.setObjectName(Text(control.Id()));
 }
 
+void Binding::Withdraw() {
+  if (withdrawn_ || IsShown(control_)) return;
+  withdrawn_ = true;
+  caption_.reset();
+  dressed_.SetCaption({});
+  WriteName({});
+  WriteDescription({});
+  WithdrawKind();
+}
+
 bool Binding::Refresh() {
-  RefreshTexts();
-  RefreshKind();
+  const bool moved = RefreshPlace();
+  if (IsShown(control_)) {
+    withdrawn_ = false;
+    RefreshTexts();
+    RefreshKind();
+    RefreshLook();
+  }
+  return moved;
+}
+
+void Binding::RefreshLook() {
   if (control_.back_color != back_color_ || control_.fore_color != fore_color_) {
     back_color_ = control_.back_color;
     fore_color_ = control_.fore_color;
@@ -264,7 +311,6 @@ bool Binding::Refresh() {
     enabled_ = control_.enabled;
     widget_.setEnabled(enabled_);
   }
-  return RefreshPlace();
 }
 
 void Binding::RefreshTexts() {
@@ -294,13 +340,14 @@ void Binding::WriteName(const std::string& name) {
   name_ = name;
   const QString said = Text(name).simplified();
   widget_.setAccessibleName(said);
-  if (!key_.isEmpty()) widget_.setToolTip(QString("%1 (%2)").arg(said, key_));
+  if (key_.isEmpty()) return;
+  widget_.setToolTip(said.isEmpty() ? QString() : QString("%1 (%2)").arg(said, key_));
 }
 
 bool Binding::RefreshPlace() {
-  const Frame frame{control_.left, control_.top, control_.width, control_.height};
-  const bool same = frame == frame_ && control_.visible == visible_;
-  frame_ = frame;
+  const SetPlace place{control_.left, control_.top, control_.width, control_.height};
+  const bool same = place == set_place_ && control_.visible == visible_;
+  set_place_ = place;
   if (control_.visible != visible_) {
     visible_ = control_.visible;
     widget_.setVisible(visible_);

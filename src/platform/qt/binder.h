@@ -25,12 +25,17 @@ struct BindingSite {
   std::function<void(const EventLoop::Handler&)> deliver;
   /// Moves the focus from a widget in the direction of an arrow key, among controls of one array.
   std::function<bool(const Control& from, int key)> move_focus;
+  /// Asks for the menu of a frame.
+  std::function<void(Frame& frame)> ask_menu;
   /// The group in which the options of one name exclude each other.
   std::function<QButtonGroup*(const std::string& name)> option_group;
 };
 
 /// Ties a control to its widget: a user's action reaches the control, and `Refresh` shows on the
 /// widget what the control says, writing only what differs.
+///
+/// A control that is hidden, or stands in something hidden, may know what the user must not: the
+/// widget has nothing of it then, in no text, picture or property, and raises no event.
 class Binding {
  public:
   Binding(Control& control, QWidget& widget, Dressed& dressed);
@@ -49,18 +54,24 @@ class Binding {
   /// The key that presses it, for its tool tip.
   void SetKey(const QString& key) { key_ = key; }
 
+  /// Takes everything off a widget whose control is hidden by now. To be called for all bindings of
+  /// a page before the first is refreshed, since an area takes what stands in it out of sight.
+  void Withdraw();
   /// Returns whether the control's place or visibility differs from the last time.
   bool Refresh();
 
  protected:
   /// Shows what the control's kind has beyond the common; called by `Refresh`.
   virtual void RefreshKind() {}
+  /// Takes that off again.
+  virtual void WithdrawKind() {}
   /// Kinds whose caption is not that of the control set it themselves.
   virtual bool OwnCaption() const { return false; }
 
  private:
-  using Frame = std::array<std::optional<int>, 4>;
+  using SetPlace = std::array<std::optional<int>, 4>;
 
+  void RefreshLook();
   void RefreshTexts();
   void WriteName(const std::string& name);
   void WriteDescription(const std::string& description);
@@ -77,9 +88,10 @@ class Binding {
   std::string description_;
   std::optional<Color> back_color_;
   std::optional<Color> fore_color_;
+  bool withdrawn_ = true;
   bool enabled_ = true;
   bool visible_ = true;
-  Frame frame_;
+  SetPlace set_place_;
 };
 
 /// Makes the widget for a control, by the control's kind. Null for a kind that is never shown.

@@ -3,6 +3,7 @@
 
 #include "platform/qt/entry_list.h"
 
+#include <QComboBox>
 #include <algorithm>
 #include <functional>
 
@@ -68,9 +69,22 @@ QStringList RowTexts(const QAbstractItemView& view) {
   return texts;
 }
 
+DropDownEntries::DropDownEntries(QComboBox& closed) : QListView(&closed), closed_(closed) {}
+
 void DropDownEntries::keyboardSearch(const QString& text) {
   const int row = search_.Type(text, RowTexts(*this), currentIndex().row());
   if (row >= 0) setCurrentIndex(model()->index(row, 0));
+}
+
+void DropDownEntries::TakeEntry(int row) {
+  if (!closed_.isEnabled()) return;
+  closed_.setCurrentIndex(row);
+  emit closed_.activated(row);
+  closed_.hidePopup();
+}
+
+int DropDownEntries::ChosenEntry() const {
+  return isVisible() ? currentIndex().row() : closed_.currentIndex();
 }
 
 }  // namespace vmod17

@@ -9,6 +9,10 @@
 #include <QString>
 #include <QStringList>
 
+#include "platform/qt/accessible.h"
+
+class QComboBox;
+
 namespace vmod17 {
 
 /// Finds entries by what is typed: letters that follow each other within a second belong together.
@@ -29,12 +33,15 @@ QStringList RowTexts(const QAbstractItemView& view);
 
 /// The list that a drop-down list shows, with a search that also finds within names. The closed
 /// list searches through it too.
-class DropDownEntries : public QListView {
+class DropDownEntries : public QListView, public TakesEntries {
  public:
-  using QListView::QListView;
+  explicit DropDownEntries(QComboBox& closed);
   void keyboardSearch(const QString& text) override;
+  void TakeEntry(int row) override;
+  int ChosenEntry() const override;
 
  private:
+  QComboBox& closed_;
   TypedSearch search_;
 };
 

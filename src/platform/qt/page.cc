@@ -38,13 +38,14 @@ Page::Page(Form& form, QtEventLoop& loop, PictureSource& pictures, QWidget* pare
       form_(&form),
       loop_(loop),
       style_{pictures},
-      site_{style_, {}, {}, {}},
+      site_{style_, {}, {}, {}, {}},
       menu_(*this, [this](const EventLoop::Handler& handler) { Deliver(handler); }) {
   setObjectName(QString::fromStdString(form.name()));
   setFocusPolicy(Qt::ClickFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
   site_.deliver = [this](const EventLoop::Handler& handler) { Deliver(handler); };
   site_.move_focus = [this](const Control& from, int key) { return MoveFocus(from, key); };
+  site_.ask_menu = [this](Frame& frame) { AskMenuOf(&frame, QPoint(-1, -1)); };
   site_.option_group = [this](const std::string& name) {
     QButtonGroup*& group = option_groups_[name];
     if (group == nullptr) group = new QButtonGroup(this);
@@ -98,6 +99,7 @@ void Page::Refresh() {
   if (form_ == nullptr) return;
   QWidget* const before = window()->focusWidget();
   bool moved = false;
+  for (const auto& binding : bindings_) binding->Withdraw();
   for (const auto& binding : bindings_) moved |= binding->Refresh();
   if (moved) Place();
   if (title_ != form_->caption || ground_ != form_->back_color) {

@@ -4,6 +4,7 @@
 #include "platform/qt/widgets.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -35,6 +36,11 @@ std::optional<QColor> Optional(const std::optional<Color>& color) {
 
 // --- Dressed
 
+Dressed::Dressed(QWidget& self, const PageStyle& style, const Placement& place)
+    : self_(self), style_(style), place_(place) {
+  QAccessible::installFactory(&MakeAccessible);  // more than once does no harm
+}
+
 void Dressed::SetCaption(const QString& caption) {
   caption_ = caption.trimmed();  // a blank at an end keeps a distance that the layout keeps as well
   self_.update();
@@ -46,12 +52,20 @@ void Dressed::SetColors(const std::optional<Color>& back, const std::optional<Co
   self_.update();
 }
 
+look::Setting Dressed::SetInto(const QString& caption, const QSizeF& box) const {
+  return look::SetText(caption, box, Px(place_.text),
+                       place_.bold ? look::Weight::kBold : look::Weight::kNormal);
+}
+
+bool Dressed::Fits(const QString& caption) const {
+  return caption.trimmed().isEmpty() || SetInto(caption.trimmed(), TextBox()).fits;
+}
+
 const look::Setting& Dressed::Set() {
   const QSizeF box = TextBox();
   const double pixels = Px(place_.text);
   if (set_pixels_ != pixels || set_box_ != box || set_caption_ != caption_) {
-    setting_ = look::SetText(caption_, box, pixels,
-                             place_.bold ? look::Weight::kBold : look::Weight::kNormal);
+    setting_ = SetInto(caption_, box);
     set_pixels_ = pixels;
     set_box_ = box;
     set_caption_ = caption_;
@@ -370,7 +384,7 @@ DropDownWidget::DropDownWidget(QWidget* parent, const PageStyle& style, const Pl
   setMaxVisibleItems(15);
   // Some styles would show all entries at once, from one edge of the screen to the other.
   setStyleSheet("combobox-popup: 0");
-  setView(new DropDownEntries(this));
+  setView(new DropDownEntries(*this));
 }
 
 QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(34), height()); }
@@ -452,9 +466,8 @@ ListWidget::ListWidget(QWidget* parent, const PageStyle& style, const Placement&
   setItemDelegate(new Delegate(*this));
   viewport()->setAutoFillBackground(false);
   viewport()->setCursor(Qt::PointingHandCursor);
-  connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
-    if (choose) choose(row(item));
-  });
+  connect(this, &QListWidget::itemClicked, this,
+          [this](QListWidgetItem* item) { TakeEntry(row(item)); });
 }
 
 double ListWidget::RowWidth() const { return width() - Px(12); }
@@ -500,11 +513,15 @@ void ListWidget::paintEvent(QPaintEvent* event) {
   QListWidget::paintEvent(event);
 }
 
+void ListWidget::TakeEntry(int row) {
+  if (isEnabled() && choose) choose(row);
+}
+
 void ListWidget::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void ListWidget::keyPressEvent(QKeyEvent* event) {
   if (!IsEnter(event) && event->key() != Qt::Key_Space) return QListWidget::keyPressEvent(event);
-  if (!event->isAutoRepeat() && currentRow() >= 0 && choose) choose(currentRow());
+  if (!event->isAutoRepeat() && currentRow() >= 0) TakeEntry(currentRow());
 }
 
 void ListWidget::keyboardSearch(const QString& text) {

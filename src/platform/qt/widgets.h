@@ -15,6 +15,7 @@
 #include <optional>
 
 #include "platform/controls.h"
+#include "platform/qt/accessible.h"
 #include "platform/qt/entry_list.h"
 #include "platform/qt/layout.h"
 #include "platform/qt/look.h"
@@ -37,8 +38,7 @@ struct PageStyle {
 /// What all widgets have: a caption, colours that the program sets, and a dress.
 class Dressed {
  public:
-  Dressed(QWidget& self, const PageStyle& style, const Placement& place)
-      : self_(self), style_(style), place_(place) {}
+  Dressed(QWidget& self, const PageStyle& style, const Placement& place);
   virtual ~Dressed() = default;
 
   void SetCaption(const QString& caption);
@@ -47,8 +47,9 @@ class Dressed {
   /// Draws the control with its upper left corner at the origin, on whatever the painter draws on.
   /// What only serves to be pressed has nothing to draw on paper.
   virtual void Paint(QPainter&) {}
-  /// False when the caption is larger than its place allows.
-  bool CaptionFits() { return caption_.isEmpty() || Set().fits; }
+  /// False when a caption would be larger than the place allows.
+  bool Fits(const QString& caption) const;
+  bool CaptionFits() const { return Fits(caption_); }
 
  protected:
   virtual QSizeF TextBox() const { return self_.size(); }
@@ -56,6 +57,7 @@ class Dressed {
   bool ShowsFocus() const { return style_.keyboard && self_.hasFocus(); }
   /// The caption as it is set into its box, kept until one of the two changes.
   const look::Setting& Set();
+  look::Setting SetInto(const QString& caption, const QSizeF& box) const;
   QColor TextColor(const QColor& otherwise) const;
 
   QWidget& self_;
@@ -127,6 +129,8 @@ class PlateWidget : public QGroupBox, public Dressed {
 
   /// Moves the focus from this widget in the direction of an arrow key; returns whether it could.
   std::function<bool(int key)> move_focus;
+  /// Asks for the menu of the frame; none if it has none.
+  std::function<void()> ask_menu;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -161,12 +165,14 @@ class DropDownWidget : public QComboBox, public Dressed {
 };
 
 /// A list box. The cursor is where the keyboard is; nothing in it stays chosen.
-class ListWidget : public QListWidget, public Dressed {
+class ListWidget : public QListWidget, public Dressed, public TakesEntries {
  public:
   ListWidget(QWidget* parent, const PageStyle& style, const Placement& place);
   /// The user means this entry.
   std::function<void(int row)> choose;
   void keyboardSearch(const QString& text) override;
+  void TakeEntry(int row) override;
+  int ChosenEntry() const override { return -1; }
   /// False when an entry is longer than its row allows at the smallest type.
   bool EntriesFit() const;
 

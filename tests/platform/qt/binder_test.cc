@@ -64,7 +64,7 @@ class Binder : public testing::Test {
   TestForm form_;
   PictureSource pictures_;
   PageStyle style_{pictures_};
-  BindingSite site_{style_, {}, {}, {}};
+  BindingSite site_{style_, {}, {}, {}, {}};
   QButtonGroup group_;
   QWidget window_;
   std::vector<std::unique_ptr<Binding>> bindings_;
