@@ -62,6 +62,46 @@ double SharpestShift(const QPainterPath& path) {
   return best_shift;
 }
 
+/// A circle, with a bar through it or without, as the stroker of the smallest size makes it: the
+/// pixels there are the ones that have always been shown. Larger, its straight lines would be seen.
+QPainterPath CircleInStraightLines(const QRectF& circle, const QLineF& bar, bool with_bar,
+                                   double pen) {
+  QPainterPath shape;
+  shape.addEllipse(circle);
+  if (with_bar) {
+    shape.moveTo(bar.p1());
+    shape.lineTo(bar.p2());
+  }
+  QPainterPathStroker stroker;
+  stroker.setWidth(pen);
+  return stroker.createStroke(shape).simplified();
+}
+
+// The ring and the bar of the larger sizes run clockwise around what is black, so that they can lie
+// on each other.
+
+QPainterPath Ring(const QRectF& middle, double pen) {
+  const double half = pen / 2;
+  QPainterPath inside;
+  inside.addEllipse(middle.adjusted(half, half, -half, -half));
+  QPainterPath ring;
+  ring.addEllipse(middle.adjusted(-half, -half, half, half));
+  ring.addPath(inside.toReversed());
+  return ring;
+}
+
+/// A straight stroke that reaches half its width beyond its ends.
+QPainterPath Bar(const QLineF& axis, double pen) {
+  const QPointF along = (axis.p2() - axis.p1()) / axis.length() * pen / 2;
+  const QPointF aside(along.y(), -along.x());
+  const QPointF first = axis.p1() - along;
+  const QPointF last = axis.p2() + along;
+  QPainterPath bar;
+  bar.addPolygon(QPolygonF({first + aside, last + aside, last - aside, first - aside}));
+  bar.closeSubpath();
+  return bar;
+}
+
 /// Sets characters from the left to the right.
 class Setter {
  public:
@@ -125,15 +165,14 @@ class Setter {
     constexpr double kPen = 1.2;
     const double size = line.capital - kPen;
     const QRectF circle(x_ + 1.2, line.base - line.capital + kPen / 2, size, size);
-    QPainterPath shape;
-    shape.addEllipse(circle);
-    if (half) {
-      shape.moveTo(circle.bottomLeft() + QPointF(-0.6, 0.6));
-      shape.lineTo(circle.topRight() + QPointF(0.6, -0.6));
+    const QLineF bar(circle.bottomLeft() + QPointF(-0.6, 0.6),
+                     circle.topRight() + QPointF(0.6, -0.6));
+    if (scale_ == 1) {
+      path_.addPath(CircleInStraightLines(circle, bar, half, kPen));
+    } else {
+      path_.addPath(Ring(circle, kPen));
+      if (half) path_.addPath(Bar(bar, kPen));
     }
-    QPainterPathStroker pen;
-    pen.setWidth(kPen);
-    path_.addPath(pen.createStroke(shape).simplified());
     x_ = circle.right() + 1.6;
   }
 

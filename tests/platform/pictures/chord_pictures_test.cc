@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QImage>
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "catalogue/chord_table.h"
@@ -194,6 +195,36 @@ TEST(EveryPicture, IsDrawnInGreysOnly) {
       EXPECT_FALSE(image.hasAlphaChannel());
     }
   }
+}
+
+/// How far the edge of a circle is from being one: the difference between its largest and smallest
+/// radius, in pixels of the smallest size. The circle is all that is dark right of the root.
+double Unevenness(int klang, int scale) {
+  const QImage image = Symbol(klang, scale);
+  const auto dark = [&](double x, double y) { return qGray(image.pixel(int(x), int(y))) < 128; };
+  QRect box;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 11 * scale; x < image.width(); ++x) {
+      if (dark(x, y)) box |= QRect(x, y, 1, 1);
+    }
+  }
+  double least = box.width();
+  double most = 0;
+  for (double angle = 0; angle < 6.28; angle += 0.01) {
+    double edge = 0;
+    for (double r = 0; r <= box.width() / 2.0; r += 0.05) {
+      const double x = box.x() + box.width() / 2.0 + r * std::cos(angle);
+      const double y = box.y() + box.height() / 2.0 + r * std::sin(angle);
+      if (dark(x, y)) edge = r;
+    }
+    least = std::min(least, edge);
+    most = std::max(most, edge);
+  }
+  return (most - least) / scale;
+}
+
+TEST(ChordPictures, HaveARoundDiminishedSignInTheLargestSize) {
+  EXPECT_LT(Unevenness(22, 8), 0.15);
 }
 
 TEST(ChordPictures, ShowTheRootOnItsLedgerLineOrInTheBass) {
