@@ -33,6 +33,7 @@ vmod17_test(
           settings/settings_test_file_test.cc
           settings/settings_walk_test.cc
           settings/sound_check_test.cc
+          platform/caption_test.cc
           platform/store/memory_host_test.cc
           platform/xml/memory_xml_document_test.cc
   LIBRARIES vmod17_program test_support rapidcheck)

@@ -11,7 +11,7 @@
     </message>
     <message id="2s">
         <source></source>
-        <translation>(für 4-7 Klänge und voicings)</translation>
+        <translation>( für 4-7Klänge und voicings)</translation>
     </message>
     <message id="6s">
         <source></source>
@@ -63,7 +63,7 @@
     <message id="78s">
         <source></source>
         <extracomment>how one task follows another</extracomment>
-        <translation>Abfolge</translation>
+        <translation>Abfolge </translation>
     </message>
     <message id="84s">
         <source></source>
@@ -73,12 +73,12 @@
     <message id="87s">
         <source></source>
         <extracomment>whether the root is accented</extracomment>
-        <translation>Akkord-Grundton</translation>
+        <translation>Akkord- Grundton </translation>
     </message>
     <message id="88s">
         <source></source>
         <extracomment>chords in one task</extracomment>
-        <translation>Akkord-Anzahl</translation>
+        <translation>Akkord- Anzahl </translation>
     </message>
     <message id="95s">
         <source></source>
@@ -92,7 +92,7 @@
     </message>
     <message id="107s">
         <source></source>
-        <translation>Tonraum</translation>
+        <translation>Tonraum </translation>
     </message>
     <message id="109s">
         <source></source>
@@ -211,7 +211,7 @@
     </message>
     <message id="232s">
         <source></source>
-        <translation>Falsch</translation>
+        <translation>falsch</translation>
     </message>
     <message id="238s">
         <source></source>
@@ -294,7 +294,7 @@
     <message id="374s">
         <source></source>
         <extracomment>a number follows</extracomment>
-        <translation>lfd. Nr.:</translation>
+        <translation>lfd Nr.:</translation>
     </message>
     <message id="379s">
         <source></source>
@@ -423,7 +423,7 @@
     </message>
     <message id="547s">
         <source></source>
-        <translation>Tempo</translation>
+        <translation>Tempo </translation>
     </message>
     <message id="550s">
         <source></source>

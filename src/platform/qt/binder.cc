@@ -7,6 +7,8 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "platform/caption.h"
+
 namespace vmod17 {
 namespace {
 
@@ -316,7 +318,7 @@ void Binding::RefreshLook() {
 void Binding::RefreshTexts() {
   if (caption_ != control_.caption) {
     caption_ = control_.caption;
-    if (!OwnCaption()) dressed_.SetCaption(Text(control_.caption));
+    if (!OwnCaption()) dressed_.SetCaption(Text(ShownCaption(control_.caption)));
   }
   // What is described as a whole, and has no words beside, is called by that.
   if (named_by_ == nullptr && control_.caption.empty() && !control_.description.empty()) {
@@ -332,13 +334,13 @@ void Binding::RefreshTexts() {
 void Binding::WriteDescription(const std::string& description) {
   if (description_ == description) return;
   description_ = description;
-  widget_.setAccessibleDescription(Text(description));
+  widget_.setAccessibleDescription(Text(ShownCaption(description)));
 }
 
 void Binding::WriteName(const std::string& name) {
   if (name_ == name) return;
   name_ = name;
-  const QString said = Text(name).simplified();
+  const QString said = Text(ShownCaption(name)).simplified();
   widget_.setAccessibleName(said);
   if (key_.isEmpty()) return;
   widget_.setToolTip(said.isEmpty() ? QString() : QString("%1 (%2)").arg(said, key_));

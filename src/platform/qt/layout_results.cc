@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/caption.h"
 #include "platform/qt/layout.h"
 #include "platform/qt/look.h"
 
@@ -58,7 +59,7 @@ bool Visible(const Form& form, const std::string& id) {
 
 QString CaptionOf(const Form& form, const std::string& id) {
   const Control* const control = FindControl(form, id);
-  return control == nullptr ? QString() : QString::fromStdString(control->caption).trimmed();
+  return control == nullptr ? QString() : QString::fromStdString(ShownCaption(control->caption));
 }
 
 /// A card within a frame.
@@ -187,7 +188,8 @@ void FillTable(Layout& layout, const Form& form, const Table& table) {
     layout.places[name] = {.rect = QRectF(row.topLeft(), QSizeF(table.names, heights[i])),
                            .look = Look::kQuiet,
                            .text = size,
-                           .align = Qt::AlignLeft | Qt::AlignTop};
+                           .align = Qt::AlignLeft | Qt::AlignTop,
+                           .capital = true};
     layout.places[value] = {.rect = row.adjusted(table.names + kBetween, 0, 0, 0),
                             .text = size,
                             .align = Qt::AlignLeft | Qt::AlignTop,

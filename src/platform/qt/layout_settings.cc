@@ -88,7 +88,8 @@ class CardBuilder {
         .rect = QRectF(Left(), card_.top() + 3, Inside() - kLock, kHead - 4),
         .look = Look::kHeading,
         .text = 14,
-        .bold = true};
+        .bold = true,
+        .capital = true};
   }
 
   void Options(const std::string& name) { Options(name, Inside()); }

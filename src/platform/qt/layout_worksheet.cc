@@ -174,7 +174,8 @@ void FillCounters(Layout& layout, const QRectF& box, double middle) {
     layout.places[IdOf("true_false", i)] = {.rect = QRectF(left, y, 74, 20),
                                             .look = Look::kQuiet,
                                             .text = 14,
-                                            .align = Qt::AlignCenter};
+                                            .align = Qt::AlignCenter,
+                                            .capital = true};
     layout.places[IdOf("zaehler", i)] = {.rect = QRectF(left, y + 20, 74, 32),
                                          .text = 24,
                                          .align = Qt::AlignCenter,

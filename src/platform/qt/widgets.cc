@@ -42,7 +42,8 @@ Dressed::Dressed(QWidget& self, const PageStyle& style, const Placement& place)
 }
 
 void Dressed::SetCaption(const QString& caption) {
-  caption_ = caption.trimmed();  // a blank at an end keeps a distance that the layout keeps as well
+  caption_ = caption.trimmed();
+  if (place_.capital && !caption_.isEmpty()) caption_[0] = caption_[0].toUpper();
   self_.update();
 }
 

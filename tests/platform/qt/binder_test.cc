@@ -113,6 +113,28 @@ TEST_F(Binder, NamesAWidgetForTheProgramAndForTheReaderOfAScreen) {
   EXPECT_EQ(widget.accessibleName(), "richtig");
 }
 
+TEST_F(Binder, ShowsAndSaysACaptionWithoutTheBlanksThatArePartOfIt) {
+  form_.label.caption = "Akkord- Anzahl ";
+  auto& label = Show<TextWidget>(form_.label);
+  auto& list = Show<DropDownWidget>(form_.list);
+  bindings_.back()->NameBy(&form_.label);
+  Refresh();
+  EXPECT_EQ(label.caption(), "Akkord-Anzahl");
+  EXPECT_EQ(label.accessibleName(), "Akkord-Anzahl");
+  EXPECT_EQ(list.accessibleName(), "Akkord-Anzahl");
+}
+
+TEST_F(Binder, BeginsWhatHeadsSomethingWithACapital) {
+  Placement heading;
+  heading.capital = true;
+  form_.label.caption = "übungsart";
+  bindings_.push_back(Bind(form_.label, heading, site_, &window_));
+  Refresh();
+  EXPECT_EQ(bindings_.back()->dressed().caption(), "Übungsart");
+  form_.mark.caption = "bestimmen";
+  EXPECT_EQ(Show<TextWidget>(form_.mark, Look::kMark).caption(), "bestimmen");
+}
+
 TEST_F(Binder, NamesAListByTheLabelThatBelongsToIt) {
   form_.label.caption = "Tempo";
   auto& widget = Show<DropDownWidget>(form_.list);

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The German captions, as the screens have carried them from the beginning.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "finished_test.h"
+#include "shown_page.h"
+#include "spoken_program.h"
+
+namespace vmod17 {
+namespace {
+
+using Captions = std::vector<std::pair<int, std::string>>;
+
+const Captions kFirstScreen = {{586, "Übungsart"}, {154, "bestimmen"}, {160, "bilden"},
+                               {496, "spielen"},   {432, "OK"},        {223, "ENDE"}};
+
+const Captions kGroups = {{379, "Major-Sept"},
+                          {380, "Major-Sept, alt."},
+                          {409, "Moll-Sept"},
+                          {200, "Dominant-Sept"},
+                          {201, "Dominant-Sept, alt."},
+                          {410, "Moll-Tonika "},
+                          {312, "Halbvermindert"},
+                          {609, "vermindert"}};
+
+const Captions kSound = {{277, "gleichbleibend"}, {589, "unterschiedlich"}};
+
+const Captions kWorksheet = {{56, "4-7 Klänge/two-hand-voicings: Bestimmung Akkordgruppe"},
+                             {95, "Akk"},
+                             {700, ":"},
+                             {426, "Nr."},
+                             {232, "falsch"},
+                             {374, "lfd Nr.:"},
+                             {468, "Richtig"},
+                             {629, "wiederholen"},
+                             {632, "wiederholen (Kontrolle)"},
+                             {420, "nächste Aufgabe"},
+                             {640, "zurück"},
+                             {130, "Aufgabe gelöst"},
+                             {638, "zu schwer !!"},
+                             {552, "Teststand ausblenden"},
+                             {551, "Teststand einblenden"},
+                             {726, "Einen Moment bitte !"},
+                             {438, "Prüfung"}};
+
+const Captions kOptions = {{383, "manuell"},
+                           {142, "automatisch"},
+                           {238, "fest (a'440 Hz)"},
+                           {603, "variabel"},
+                           {97, "Akkord"},
+                           {301, "Gruppe"},
+                           {507, "Struktur + Symbol"},
+                           {429, "nur Symbol"},
+                           {49, "3-7 - Klänge"},
+                           {45, "2-hand-voicings"},
+                           {623, "wechselnd"},
+                           {588, "unbetont"},
+                           {156, "betont"}};
+
+const Captions kLists = {{140, "Auswählen"},
+                         {135, "Ausgewählt"},
+                         {395, "mindestens 1 !!"},
+                         {396, "mindestens 2 !!"},
+                         {2, "( für 4-7Klänge und voicings)"},
+                         {139, "Auswahl??"}};
+
+const Captions kFrames = {{243, "Frequenz"},         {107, "Tonraum "},
+                          {153, "Bereich"},          {302, "Gruppen-Auswahl"},
+                          {88, "Akkord- Anzahl "},   {78, "Abfolge "},
+                          {138, "Auswahl"},          {587, "Übungsmodus"},
+                          {297, "Grundton"},         {469, "Richtung"},
+                          {116, "Arpeggio-Tempo"},   {364, "Klang-Auswahl"},
+                          {114, "Akk.-Anzeige"},     {365, "Klangfarbe"},
+                          {87, "Akkord- Grundton "}, {366, "Klang-Kontrolle"},
+                          {372, "Lautstärke"},       {547, "Tempo "},
+                          {615, "von unten aufwärts"}};
+
+const Captions kResults = {{109, "Anwender"}};
+
+TEST(GermanCaptions, AreThoseOfTheScreensToTheLastBlank) {
+  const auto german = LanguagesOfTheProgram().Create("melvadolang.Deutsch");
+  for (const Captions* captions :
+       {&kFirstScreen, &kGroups, &kSound, &kWorksheet, &kOptions, &kLists, &kFrames, &kResults}) {
+    for (const auto& [id, words] : *captions) {
+      EXPECT_EQ(german->Wort(std::to_string(id) + "s"), words) << id;
+    }
+  }
+}
+
+std::string CaptionShown(Form& form, const std::string& id) {
+  const Shown shown(form, kSmall);
+  return dynamic_cast<TextWidget&>(shown.At(id)).caption().toStdString();
+}
+
+TEST(GermanCaptions, AreShownWithoutTheirBlanksAndAsHeadingsWithACapital) {
+  SpokenProgram p("de_DE");
+  p.ToSettings();
+  EXPECT_EQ(CaptionShown(p.settings_screen(), "geinst_lb(3)"), "Bestimmen");
+  EXPECT_EQ(CaptionShown(p.settings_screen(), "geinst_lb(4)"), "Akkord-Anzahl");
+  EXPECT_EQ(CaptionShown(p.settings_screen(), "geinst_lb(1)"), "Tonraum");
+  p.StartRun();
+  EXPECT_EQ(CaptionShown(p.worksheet(), "true_false(1)"), "Falsch");
+  p.worksheet().zurueck.Press();
+  ToResults(p);
+  EXPECT_EQ(CaptionShown(p.results(), "einst_lab(5)"), "Bestimmen");
+  EXPECT_EQ(CaptionShown(p.results(), "einst_lab(4)"), "Akkord-Anzahl");
+}
+
+}  // namespace
+}  // namespace vmod17
