@@ -18,6 +18,7 @@
 #include "platform/qt/qt_system.h"
 #include "platform/qt/qt_view.h"
 #include "platform/qt/single_instance.h"
+#include "platform/qt/theme.h"
 #include "platform/store/host_store.h"
 #include "platform/xml/pugi_test_files.h"
 #include "shell/uniform_random.h"
@@ -61,6 +62,7 @@ class Desktop {
   QtSystem system_;
   UniformRandom random_;
   QtLanguageList languages_;
+  Theme theme_;
   QtView view_{loop_};
   QtMessageBox messages_{[this] { return view_.Window(); }};
   HelpWindow help_;

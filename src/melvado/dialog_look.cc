@@ -5,39 +5,97 @@
 
 #include <QDialog>
 #include <QString>
+#include <utility>
 
 #include "platform/qt/look.h"
 
 namespace vmod17 {
+namespace {
+
+constexpr double kText = 15;
+
+constexpr const char* kStyle =
+    "QDialog { background: PAGE; }"
+    // A widget that is polished anew would fall back to the type of the desktop.
+    "QDialog QWidget { font-family: \"FAMILY\"; font-size: SIZE; }"
+    "QLabel { color: TEXT; }"
+    "QLabel#fault { color: HINT; }"
+    "QLineEdit, QTableWidget, QPlainTextEdit { background: CARD; color: TEXT;"
+    "  border: 1px solid LINE; border-radius: EDGE; padding: EDGE;"
+    "  selection-background-color: ACCENT; selection-color: ON_ACCENT; }"
+    // What the focus adds to the border it takes from the inside.
+    "QLineEdit:focus, QTableWidget:focus, QPlainTextEdit:focus { border: 2px solid FOCUS;"
+    "  padding: INSIDE; }"
+    "QLineEdit:read-only { background: SECTION; }"
+    "QHeaderView::section { background: SECTION; color: TEXT; border: 0; padding: EDGE;"
+    "  font-size: SIZE; }"
+    "QPushButton { background: BUTTON; color: TEXT; border: 1px solid LINE; border-radius: EDGE;"
+    "  padding: EDGE SIDE; min-height: HIGH; min-width: WIDE; }"
+    "QPushButton:hover { background: HOVER; }"
+    "QPushButton:disabled { background: LOCKED; color: FAINT; }"
+    "QPushButton:default { background: ACCENT; color: ON_ACCENT; border-color: ACCENT; }"
+    "QPushButton:focus { border: 2px solid FOCUS; }";
+
+/// The style with its words in capitals put in.
+QString StyleFor(const look::Palette& colors, const QString& family, double factor) {
+  const auto px = [factor](double units, int less = 0) {
+    return QString::number(qRound(units * factor) - less) + "px";
+  };
+  // A word that another one contains comes after it.
+  const std::pair<const char*, QString> words[] = {
+      {"ON_ACCENT", look::TextOn(colors.accent).name()},
+      {"ACCENT", colors.accent.name()},
+      {"PAGE", colors.page.name()},
+      {"CARD", colors.card.name()},
+      {"SECTION", colors.section.name()},
+      {"TEXT", colors.text.name()},
+      {"HINT", colors.hint.name()},
+      {"BUTTON", colors.button.name()},
+      {"LINE", colors.button_line.name()},
+      {"FOCUS", colors.focus.name()},
+      {"HOVER", colors.hover.name()},
+      {"LOCKED", colors.disabled_fill.name()},
+      {"FAINT", colors.disabled_text.name()},
+      {"FAMILY", family},
+      {"SIZE", px(kText)},
+      {"EDGE", px(6)},
+      {"INSIDE", px(6, 1)},
+      {"SIDE", px(18)},
+      {"HIGH", px(24)},
+      {"WIDE", px(72)}};
+  QString style(kStyle);
+  for (const auto& [word, value] : words) style.replace(word, value);
+  return style;
+}
+
+/// Dresses a dialog anew when the colours change while it is open.
+class Dresser : public QObject {
+ public:
+  Dresser(QDialog& dialog, double factor) : QObject(&dialog), dialog_(dialog), factor_(factor) {
+    dialog.installEventFilter(this);
+    Dress();
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ApplicationPaletteChange) Dress();
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void Dress() {
+    dialog_.setStyleSheet(StyleFor(look::PresentColors(), dialog_.font().family(), factor_));
+  }
+
+  QDialog& dialog_;
+  double factor_;
+};
+
+}  // namespace
 
 void Dress(QDialog& dialog, double factor) {
-  constexpr double kText = 15;
   dialog.setFont(look::Type(kText * factor, look::Weight::kNormal));
-  const auto px = [factor](double units) { return QString::number(qRound(units * factor)) + "px"; };
-  const QString style =
-      "QDialog { background: %1; }"
-      // A widget that is polished anew would fall back to the type of the desktop.
-      "QDialog QWidget { font-family: \"%14\"; font-size: %13; }"
-      "QLabel { color: %2; }"
-      "QLineEdit, QTableWidget, QPlainTextEdit { background: %3; color: %2;"
-      "  border: 1px solid %4; border-radius: %5; padding: %6;"
-      "  selection-background-color: %7; selection-color: white; }"
-      "QLineEdit:focus, QTableWidget:focus, QPlainTextEdit:focus { border: 2px solid %8;"
-      "  padding: %15; }"
-      "QLineEdit:read-only { background: %9; }"
-      "QHeaderView::section { background: %9; color: %2; border: 0; padding: %6; font-size: %13; }"
-      "QPushButton { background: %3; color: %2; border: 1px solid %4; border-radius: %5;"
-      "  padding: %6 %12; min-height: %10; min-width: %11; }"
-      "QPushButton:hover { background: %9; }"
-      "QPushButton:default { background: %7; color: white; border-color: %7; }"
-      "QPushButton:focus { border: 2px solid %8; }";
-  dialog.setStyleSheet(style
-                           .arg(look::kPage.name(), look::kText.name(), look::kCard.name(),
-                                look::kButtonLine.name(), px(6), px(6), look::kAccent.name(),
-                                look::kFocus.name(), look::kSection.name())
-                           .arg(px(24), px(72), px(18), px(kText), dialog.font().family())
-                           // What the focus adds to the border it takes from the inside.
-                           .arg(QString::number(qRound(6 * factor) - 1) + "px"));
+  delete dialog.findChild<Dresser*>();
+  new Dresser(dialog, factor);
 }
 
 }  // namespace vmod17

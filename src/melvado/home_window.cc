@@ -44,8 +44,6 @@ constexpr double kSmallest = 0.75;  // pixels of a unit in the smallest window
 constexpr double kWidestEntry = 560;
 
 constexpr int kPollMs = 1500;
-const QColor kGood(0xE4, 0xF3, 0xE8);
-const QColor kBad(0xFC, 0xE6, 0xE6);
 
 Placement ButtonPlace(const QRectF& rect, double text = 15) {
   return {.rect = rect, .text = text, .align = Qt::AlignCenter};
@@ -71,9 +69,11 @@ HomeWindow::HomeWindow(Host& host, QtEventLoop& loop, MessageBox& messages, File
   setObjectName("melvado_home");
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMinimumSize((kCanvas * kSmallest).toSize());
-  title_ = Make<TextWidget>("title", {.rect = {kLeft + 36, 40, 560, 44}, .text = 32, .bold = true});
-  subtitle_ = Make<TextWidget>("subtitle", {.rect = {kLeft + 36, 86, 560, 30}, .text = 17});
-  for (TextWidget* text : {title_, subtitle_}) text->SetColors({}, Color{255, 255, 255});
+  title_ = Make<TextWidget>(
+      "title",
+      {.rect = {kLeft + 36, 40, 560, 44}, .look = Look::kOnBanner, .text = 32, .bold = true});
+  subtitle_ = Make<TextWidget>(
+      "subtitle", {.rect = {kLeft + 36, 86, 560, 30}, .look = Look::kOnBanner, .text = 17});
   BuildUsers();
   BuildSound();
   start_ = MakeButton(
@@ -162,10 +162,8 @@ void HomeWindow::BuildSound() {
                  [this] { TakeSoundfont(""); });
   soundfont_note_ = Make<TextWidget>(
       "soundfont_note", {.rect = {x, y + 218, kField, 30}, .look = Look::kQuiet, .text = 13});
-  verdict_ =
-      Make<TextWidget>("verdict", {.rect = kVerdictCard.adjusted(kPadding, 8, -kPadding, -10),
-                                   .look = Look::kQuiet,
-                                   .text = 16});
+  verdict_ = Make<TextWidget>(
+      "verdict", {.rect = kVerdictCard.adjusted(kPadding, 8, -kPadding, -10), .text = 16});
 }
 
 void HomeWindow::BuildFooter() {
@@ -336,19 +334,17 @@ void HomeWindow::ShowSoundfont() {
 void HomeWindow::ShowVerdict() {
   const Words& words = host_.words();
   QString text;
-  verdict_ground_ = look::kCard;
+  verdict_is_good_.reset();
   if (host_.TestRuns()) {
     text = words.Say(9417, "A chord is being played…");
   } else if (const auto& verdict = host_.verdict()) {
     for (const Notice& notice : verdict->words) {
       text += (text.isEmpty() ? "" : " ") + words.Say(notice);
     }
-    verdict_ground_ = verdict->left_the_program ? kGood : kBad;
+    verdict_is_good_ = verdict->left_the_program;
   } else {
     text = words.Say(9418, "The sound test plays a chord and tells what became of it.");
   }
-  const bool is_said = verdict_ground_ != look::kCard;
-  verdict_->SetColors({}, is_said ? std::optional(Color{0x1E, 0x26, 0x33}) : std::nullopt);
   update();
   SetWords(*verdict_, *verdict_, text);
   test_->setEnabled(!host_.TestRuns());
@@ -537,23 +533,22 @@ void HomeWindow::resizeEvent(QResizeEvent*) { Arrange(); }
 
 void HomeWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), look::kPage);
+  const look::Palette& colors = style_.colors();
+  painter.fillRect(rect(), colors.page);
   painter.setRenderHint(QPainter::Antialiasing);
   const double radius = look::kCardRadius * style_.factor;
   const QRectF banner = Pixels(kBanner);
-  QLinearGradient ground(banner.topLeft(), banner.bottomRight());
-  ground.setColorAt(0, look::kAccentDark.darker(125));
-  ground.setColorAt(1, look::kAccent);
   QPainterPath path;
   path.addRoundedRect(banner, radius, radius);
-  painter.fillPath(path, ground);
-  painter.save();
-  painter.setClipPath(path);
-  DrawStaff(painter, banner, QColor(255, 255, 255, 46));
-  painter.restore();
-  look::DrawCard(painter, Pixels(kUserCard), look::kCard, style_.factor);
-  look::DrawCard(painter, Pixels(kSoundCard), look::kCard, style_.factor);
-  look::DrawCard(painter, Pixels(kVerdictCard), verdict_ground_, style_.factor);
+  look::DrawBanner(painter, banner, path);
+  const auto card = [&](const QRectF& units, const QColor& fill) {
+    look::DrawCard(painter, Pixels(units), colors, fill, style_.factor);
+  };
+  card(kUserCard, colors.card);
+  card(kSoundCard, colors.card);
+  card(kVerdictCard, !verdict_is_good_   ? colors.card
+                     : *verdict_is_good_ ? colors.good
+                                         : colors.bad);
 }
 
 /// From every window but the help's, which knows by itself what was asked for.

@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include <QColor>
 #include <QRectF>
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "melvado/host.h"
@@ -114,7 +114,7 @@ class HomeWindow : public QWidget {
   std::vector<StoreUser> users_;
   std::unique_ptr<QTimer> poll_;
   std::unique_ptr<LogWindow> log_;
-  QColor verdict_ground_;
+  std::optional<bool> verdict_is_good_;   // none: no test has come to its end
   const QWidget* test_refuge_ = nullptr;  // where the focus is while the button is locked
   bool filling_ = false;                  // a list changes by the program, not by the user
   bool was_open_ = false;

@@ -16,6 +16,7 @@
 #include "platform/qt/qt_message_box.h"
 #include "platform/qt/qt_system.h"
 #include "platform/qt/single_instance.h"
+#include "platform/qt/theme.h"
 #include "shell/error_report.h"
 
 namespace vmod17 {
@@ -55,6 +56,7 @@ void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& ho
 }
 
 int Run() {
+  const Theme theme;
   QtEventLoop loop;
   const EndOnSignal end_on_signal([&loop] { loop.Quit(); });
   HostSetup setup = SetupOfThisMachine();

@@ -13,7 +13,6 @@
 #include <utility>
 
 #include "melvado/dialog_look.h"
-#include "platform/qt/look.h"
 
 namespace vmod17 {
 
@@ -35,7 +34,6 @@ UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& use
   fault_->setObjectName("fault");
   fault_->setTextFormat(Qt::PlainText);
   fault_->setWordWrap(true);
-  fault_->setStyleSheet("color: " + look::kHint.name());
   fault_->hide();
 
   auto* const form = new QFormLayout;

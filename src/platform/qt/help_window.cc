@@ -245,7 +245,7 @@ void HelpWindow::StandBefore(QWidget* dialog) {
   moves_ = false;
 }
 
-void HelpWindow::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), look::kPage); }
+void HelpWindow::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), style_.colors().page); }
 
 void HelpWindow::resizeEvent(QResizeEvent*) { Arrange(); }
 

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QColor>
 #include <QKeySequence>
 #include <QMarginsF>
 #include <QRectF>
@@ -33,7 +32,8 @@ enum class Look {
   kTile,       ///< the picture of a tile, in the tile's frame
   kCell,       ///< a panel that can have the focus, to be read with what it holds
   kMark,       ///< a panel that shows a result
-  kNotice      ///< a frame that stands above all others
+  kNotice,     ///< a frame that stands above all others
+  kOnBanner    ///< a label on the coloured band
 };
 
 /// The head of a card, which shows the colour that the program gives it.
@@ -87,9 +87,8 @@ struct Layout {
   /// The form's caption as a title; an empty rect shows none.
   QRectF title;
   double title_text = 22;
-  QColor title_color;
   Qt::Alignment title_align = Qt::AlignCenter;
-  QRectF banner;  ///< a coloured band with an ornament
+  QRectF banner;  ///< a coloured band with an ornament, which the title stands on
 };
 
 /// The layout of a form on a page of this size. Depends on the form's name and on what its controls

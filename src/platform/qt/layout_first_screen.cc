@@ -25,7 +25,6 @@ Layout LayoutFirstScreen(const Form&, const QSizeF& page) {
   layout.title = QRectF(x + kMargin, y + 12, inside - kOrnament, kBanner - 24);
   layout.title_text = 25;
   layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
-  layout.title_color = Qt::white;
 
   auto& places = layout.places;
   places["PicAktion"] = {.rect = QRectF(x, y, kWidth, kHeight)};

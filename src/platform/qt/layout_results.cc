@@ -73,7 +73,6 @@ void FillHeader(Layout& layout, const Form& form, const Sheet& sheet) {
   const QRectF inside = sheet.header.adjusted(kEdge, 0, -kEdge, 0);
   layout.title = QRectF(inside.left(), inside.top() + (dated ? 4 : 0), 600, dated ? 34 : kHeader);
   layout.title_text = 20;
-  layout.title_color = look::kText;
   layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
   layout.places["datum"] = {
       .rect = QRectF(inside.left(), inside.top() + 36, 600, 18), .look = Look::kQuiet, .text = 13};

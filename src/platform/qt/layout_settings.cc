@@ -272,7 +272,6 @@ Layout LayoutSettings(const Form&, const QSizeF& page) {
   const double y = (page.height() - height) / 2;
 
   layout.title = QRectF(x + kRing, y, width - 2 * kRing, kTitle - 8);
-  layout.title_color = look::kText;
   layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
   FillCards(layout, QPointF(x + kRing, y + kTitle + kRing));
   const QRectF bar(x, y + height - kBar, width, kBar);

@@ -80,7 +80,6 @@ void FillStrip(Layout& layout, const Form& form, const QRectF& strip) {
                          : QRectF(middle - 210, y, 420, strip.height());
   layout.title_text = counted ? 15 : 19;
   if (counted) layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
-  layout.title_color = look::kText;
 }
 
 /// Tops and heights of tiles and symbols are the program's; here is where they stand in a row.
@@ -204,8 +203,9 @@ void FillButtons(Layout& layout, const QRectF& box, double middle) {
                                   .text = 14,
                                   .align = Qt::AlignCenter,
                                   .named_by = "wieder"};
+  // The red of its signal reads well on the yellow only in large and bold type.
   layout.places["zurueck"] = {
-      .rect = row(50, 42), .text = 16, .align = Qt::AlignCenter, .bold = true};
+      .rect = row(50, 42), .text = 20, .align = Qt::AlignCenter, .bold = true};
 }
 
 void FillKeys(Layout& layout) {

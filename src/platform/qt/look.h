@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QRectF>
 #include <QString>
 #include <optional>
@@ -12,41 +13,68 @@
 #include "platform/controls.h"
 
 class QPainter;
+class QPainterPath;
 
 // The program's look: its colours, its type, and the few shapes that all widgets are drawn with.
 // Lengths are in units; `factor` is the number of pixels of a unit.
 
 namespace vmod17::look {
 
-inline const QColor kPage{0xF2, 0xF4, 0xF8};
-inline const QColor kCard{0xFF, 0xFF, 0xFF};
-inline const QColor kSection{0xE4, 0xE9, 0xF2};
-inline const QColor kSlot{0xE9, 0xED, 0xF5};
-inline const QColor kSlotLine{0xCB, 0xD4, 0xE2};
-inline const QColor kLockedCard{0xF4, 0xF2, 0xF4};
-inline const QColor kHint{0xC0, 0x10, 0x20};
-inline const QColor kLine{0xD9, 0xDF, 0xE8};
-inline const QColor kText{0x1E, 0x26, 0x33};
-inline const QColor kQuietText{0x5A, 0x65, 0x75};
-inline const QColor kDisabledText{0xA2, 0xAB, 0xB8};
-inline const QColor kDisabledFill{0xEC, 0xEF, 0xF4};
-inline const QColor kButton{0xFF, 0xFF, 0xFF};
-inline const QColor kButtonLine{0xB9, 0xC3, 0xD2};
-inline const QColor kHover{0xEA, 0xF0, 0xFB};
-inline const QColor kPressed{0xD5, 0xE1, 0xF6};
-inline const QColor kAccent{0x2B, 0x5C, 0xB8};
-inline const QColor kAccentDark{0x1F, 0x46, 0x90};
-inline const QColor kSolved{0x3F, 0xA9, 0x5F};
-inline const QColor kHalfWay{0xF0, 0xCE, 0x6A};
-inline const QColor kTooHard{0xDB, 0x54, 0x54};
-inline const QColor kFocus{0x12, 0x4B, 0xC4};
+/// The colours of all for which the program names none.
+struct Palette {
+  QColor page;
+  QColor section;  ///< ground on which cards stand that belong together
+  QColor card;
+  QColor locked_card;
+  QColor slot;  ///< place of a card that is not there
+  QColor slot_line;
+  QColor line;
+  QColor shadow;
+  QColor text;
+  QColor quiet_text;
+  QColor disabled_text;
+  QColor hint;
+  QColor button;
+  QColor button_line;
+  QColor disabled_fill;
+  QColor hover;
+  QColor pressed;
+  QColor accent;
+  QColor accent_hover;
+  QColor focus;
+  QColor focus_inside;  ///< keeps the ring of the focus apart from what it goes around
+  QColor good;          ///< grounds of a verdict
+  QColor bad;
+  QColor solved;  ///< the gauge from its bottom to its top
+  QColor half_way;
+  QColor too_hard;
+  QColor solved_text;
+  QColor too_hard_text;
+};
+
+extern const Palette kLight;
+extern const Palette kDark;
+
+// The banner is the same in both, and what is written on it is white.
+inline constexpr QColor kBannerBegin{0x19, 0x38, 0x73};
+inline constexpr QColor kBannerEnd{0x2B, 0x5C, 0xB8};
+
+/// The colours for the application's palette as it is now: dark where its windows are.
+const Palette& PresentColors();
+/// The same colours for what the toolkit draws by itself: message boxes, menus, tool tips.
+QPalette ForToolkit(const Palette& colors);
 
 inline constexpr double kRadius = 8;
 inline constexpr double kCardRadius = 12;
 
 QColor ToQ(const Color& color);
+/// How far two colours stand apart, from 1 to 21, as in WCAG 2. Text wants 4.5.
+double Contrast(const QColor& one, const QColor& other);
+bool IsReadable(const QColor& text, const QColor& ground);
 /// Black or white, whichever reads better on a ground.
 QColor TextOn(const QColor& ground);
+/// A colour as it can be read on a ground: itself, or as much lighter or darker as it takes.
+QColor Readable(const QColor& color, const QColor& ground);
 
 enum class Weight { kNormal, kBold };
 
@@ -71,13 +99,17 @@ void DrawText(QPainter& painter, const QRectF& box, const QString& text, const S
 void DrawPlate(QPainter& painter, const QRectF& box, const QColor& fill, const QColor& edge,
                double radius, double edge_width);
 /// A card: a plate with a hint of shadow under it.
-void DrawCard(QPainter& painter, const QRectF& box, const QColor& fill, double factor);
+void DrawCard(QPainter& painter, const QRectF& box, const Palette& colors, const QColor& fill,
+              double factor);
 /// The upper part of a card in a colour of its own; `box` is the card's.
 void DrawCardHead(QPainter& painter, const QRectF& box, double height, const QColor& fill,
                   double factor);
 /// Where a card would stand that is not there.
-void DrawSlot(QPainter& painter, const QRectF& box, double factor);
+void DrawSlot(QPainter& painter, const QRectF& box, const Palette& colors, double factor);
+/// The band with the program's name.
+void DrawBanner(QPainter& painter, const QRectF& box, const QPainterPath& shape);
 /// The ring around what has the keyboard's focus, within `box`.
-void DrawFocusRing(QPainter& painter, const QRectF& box, double radius, double factor);
+void DrawFocusRing(QPainter& painter, const QRectF& box, const Palette& colors, double radius,
+                   double factor);
 
 }  // namespace vmod17::look

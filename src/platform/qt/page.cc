@@ -143,8 +143,7 @@ void Page::PlaceBackdrops() {
     const Control* const control = FindControl(*form_, backdrop.control);
     if (control == nullptr || !control->visible) continue;
     const QRectF place = PlaceOf(*control).marginsAdded(backdrop.beyond);
-    cards.push_back(
-        {Pixels(place), control->back_color ? look::ToQ(*control->back_color) : look::kCard});
+    cards.push_back({Pixels(place), control->back_color});
   }
   std::vector<QRect> vacancies;
   for (const std::string& id : layout_.vacancies) {
@@ -404,31 +403,29 @@ void Page::PaintBanner(QPainter& painter) const {
   path.setFillRule(Qt::WindingFill);
   path.addRoundedRect(banner, radius, radius);
   path.addRect(banner.adjusted(0, radius, 0, 0));
-  QLinearGradient ground(banner.topLeft(), banner.bottomRight());
-  ground.setColorAt(0, look::kAccentDark.darker(125));
-  ground.setColorAt(1, look::kAccent);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.fillPath(path, ground);
-  DrawStaff(painter, banner, QColor(255, 255, 255, 46));
+  look::DrawBanner(painter, banner, path);
 }
 
 /// What stands behind all cards.
 void Page::PaintGround(QPainter& painter) const {
   const double radius = (look::kCardRadius + 4) * style_.factor;
   for (const QRectF& section : layout_.sections) {
-    look::DrawPlate(painter, QRectF(Pixels(section)), look::kSection, {}, radius, 0);
+    look::DrawPlate(painter, QRectF(Pixels(section)), style_.colors().section, {}, radius, 0);
   }
-  for (const QRect& slot : vacancies_) look::DrawSlot(painter, QRectF(slot), style_.factor);
+  for (const QRect& slot : vacancies_)
+    look::DrawSlot(painter, QRectF(slot), style_.colors(), style_.factor);
 }
 
 /// A screen with a ground of its own is to be printed: its cards are bare lines then.
 void Page::PaintCards(QPainter& painter) const {
   const double f = style_.factor;
+  const look::Palette& colors = style_.colors();
   for (const Card& card : cards_) {
+    const QColor fill = card.fill ? look::ToQ(*card.fill) : colors.card;
     if (ground_) {
-      look::DrawPlate(painter, QRectF(card.rect), card.fill, look::kLine, look::kCardRadius * f, f);
+      look::DrawPlate(painter, QRectF(card.rect), fill, colors.line, look::kCardRadius * f, f);
     } else {
-      look::DrawCard(painter, QRectF(card.rect), card.fill, f);
+      look::DrawCard(painter, QRectF(card.rect), colors, fill, f);
     }
   }
 }
@@ -440,12 +437,12 @@ void Page::PaintTitle(QPainter& painter) const {
   look::DrawText(
       painter, box, title,
       look::SetText(title, box.size(), layout_.title_text * style_.factor, look::Weight::kBold),
-      layout_.title_color, layout_.title_align);
+      layout_.banner.isEmpty() ? style_.colors().text : QColor(Qt::white), layout_.title_align);
 }
 
 void Page::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), ground_ ? look::ToQ(*ground_) : look::kPage);
+  painter.fillRect(rect(), ground_ ? look::ToQ(*ground_) : style_.colors().page);
   PaintGround(painter);
   PaintCards(painter);
   PaintBanner(painter);

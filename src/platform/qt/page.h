@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QColor>
 #include <QRect>
 #include <QWidget>
 #include <map>
@@ -98,7 +97,7 @@ class Page : public QWidget {
   QSize size_;
   struct Card {
     QRect rect;
-    QColor fill;
+    std::optional<Color> fill;
     bool operator==(const Card&) const = default;
   };
   std::vector<Card> cards_;

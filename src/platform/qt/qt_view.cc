@@ -47,7 +47,9 @@ class QtView::MainWindow : public QWidget {
   }
 
  protected:
-  void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), look::kPage); }
+  void paintEvent(QPaintEvent*) override {
+    QPainter(this).fillRect(rect(), look::PresentColors().page);
+  }
   void resizeEvent(QResizeEvent*) override { view_.Resized(); }
   void closeEvent(QCloseEvent* event) override {
     event->ignore();

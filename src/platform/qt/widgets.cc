@@ -74,9 +74,16 @@ const look::Setting& Dressed::Set() {
   return setting_;
 }
 
-QColor Dressed::TextColor(const QColor& otherwise) const {
-  if (!self_.isEnabled()) return look::kDisabledText;
-  return fore_.value_or(otherwise);
+QColor Dressed::GroundBelow() const {
+  const auto* const frame = dynamic_cast<const PlateWidget*>(self_.parentWidget());
+  return frame == nullptr ? colors().card : frame->GroundAt(self_.geometry().center());
+}
+
+QColor Dressed::InkOn(const QColor& ground, const QColor& usual) const {
+  if (!self_.isEnabled()) return colors().disabled_text;
+  // Where the program sets both, it knows how they go together.
+  if (fore_) return back_ ? *fore_ : look::Readable(*fore_, ground);
+  return look::IsReadable(usual, ground) ? usual : look::TextOn(ground);
 }
 
 // --- PressWidget
@@ -96,28 +103,27 @@ QSizeF PressWidget::TextBox() const {
   return QSizeF(width() - Px(side), height() - Px(6));
 }
 
-QColor PressWidget::Fill() const {
+QColor PressWidget::Ground() const {
+  if (place_.look == Look::kTile) return back_.value_or(QColor(Qt::white));
   if (back_) return isDown() ? back_->darker(112) : underMouse() ? back_->darker(104) : *back_;
-  if (!isEnabled()) return look::kDisabledFill;
+  if (!isEnabled()) return colors().disabled_fill;
   if (place_.look == Look::kPrimary) {
-    return isDown() || underMouse() ? look::kAccentDark : look::kAccent;
+    return isDown() || underMouse() ? colors().accent_hover : colors().accent;
   }
-  if (isDown()) return look::kPressed;
-  return underMouse() ? look::kHover : look::kButton;
+  if (isDown()) return colors().pressed;
+  return underMouse() ? colors().hover : colors().button;
 }
 
-QColor PressWidget::Edge(const QColor& fill) const {
+QColor PressWidget::Edge() const {
   if (back_) return back_->darker(130);
-  if (!isEnabled()) return look::kLine;
-  return place_.look == Look::kPrimary ? fill : look::kButtonLine;
+  if (!isEnabled()) return colors().line;
+  return place_.look == Look::kPrimary ? Ground() : colors().button_line;
 }
 
-QColor PressWidget::Ink(const QColor& fill) const {
-  if (fore_) return *fore_;
-  if (back_) return look::TextOn(*back_);
-  if (!isEnabled()) return look::kDisabledText;
-  if (place_.look == Look::kQuiet) return look::kAccent;
-  return place_.look == Look::kPrimary ? look::TextOn(fill) : look::kText;
+QColor PressWidget::Ink() const {
+  if (back_) return fore_.value_or(look::TextOn(*back_));
+  if (place_.look == Look::kTile) return Qt::black;
+  return InkOn(Ground(), place_.look == Look::kQuiet ? colors().accent : colors().text);
 }
 
 void PressWidget::paintEvent(QPaintEvent*) {
@@ -130,11 +136,10 @@ void PressWidget::paintEvent(QPaintEvent*) {
 }
 
 void PressWidget::PaintTile(QPainter& painter) {
-  const QColor ground = back_.value_or(QColor(Qt::white));
-  painter.fillRect(rect(), ground);
+  painter.fillRect(rect(), Ground());
   const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
   if (picture.isNull()) {
-    look::DrawText(painter, QRectF(rect()), caption(), Set(), Qt::black, Qt::AlignCenter);
+    look::DrawText(painter, QRectF(rect()), caption(), Set(), Ink(), Qt::AlignCenter);
   } else {
     const QSizeF size = picture.deviceIndependentSize();
     const QPoint corner(qRound((width() - size.width()) / 2),
@@ -147,23 +152,21 @@ void PressWidget::PaintTile(QPainter& painter) {
   if (isEnabled() && (isDown() || underMouse())) {
     painter.fillRect(rect(), QColor(0x2B, 0x5C, 0xB8, isDown() ? 60 : 22));
   }
-  if (ShowsFocus()) look::DrawFocusRing(painter, QRectF(rect()), Px(2), style_.factor);
+  if (ShowsFocus()) look::DrawFocusRing(painter, QRectF(rect()), colors(), Px(2), style_.factor);
 }
 
 void PressWidget::PaintButton(QPainter& painter) {
   const QRectF box(rect());
   const bool round = place_.look == Look::kQuiet;
   const double radius = round ? box.height() / 2 : Px(look::kRadius);
-  const QColor fill = Fill();
-  look::DrawPlate(painter, box, fill, Edge(fill), radius, Px(1.2));
+  look::DrawPlate(painter, box, Ground(), Edge(), radius, Px(1.2));
   const QRectF inside = box.adjusted(Px(10), Px(3), -Px(10), -Px(3));
-  const QColor ink = Ink(fill);
   if (image_.kind == PictureId::Kind::kNone) {
-    look::DrawText(painter, inside, caption(), Set(), ink, place_.align);
+    look::DrawText(painter, inside, caption(), Set(), Ink(), place_.align);
   } else {
-    DrawSign(painter, image_.kind, box, ink);
+    DrawSign(painter, image_.kind, box, Ink());
   }
-  if (ShowsFocus()) look::DrawFocusRing(painter, box, radius, style_.factor);
+  if (ShowsFocus()) look::DrawFocusRing(painter, box, colors(), radius, style_.factor);
 }
 
 void PressWidget::keyPressEvent(QKeyEvent* event) {
@@ -214,13 +217,41 @@ bool TextWidget::HasGround() const {
   return back_ && (place_.look == Look::kMark || *back_ != QColor(Qt::white));
 }
 
+QColor TextWidget::Ground() const {
+  const bool is_picture =
+      image_.kind == PictureId::Kind::kNotation || image_.kind == PictureId::Kind::kSymbol;
+  if (is_picture) return Qt::white;
+  if (HasGround()) return *back_;
+  if (place_.look == Look::kOnBanner) return look::kBannerEnd;
+  return place_.look == Look::kPrimary ? colors().hover : GroundBelow();
+}
+
 QColor TextWidget::Ink() const {
-  if (place_.look == Look::kMark && back_) return fore_.value_or(look::TextOn(*back_));
-  if (place_.look == Look::kPrimary) return TextColor(look::kAccent);
-  if (place_.look == Look::kHint) return fore_.value_or(look::kHint);
-  // What a locked frame is about is still to be read.
-  if (place_.look == Look::kHeading) return fore_.value_or(look::kText);
-  return TextColor(place_.look == Look::kQuiet ? look::kQuietText : look::kText);
+  const QColor ground = Ground();
+  const auto usual = [&](const QColor& color) { return InkOn(ground, color); };
+  // What a locked frame is about is still to be read, and what is missing or came out as well.
+  const auto always = [&](const QColor& color) {
+    return isEnabled()                       ? usual(color)
+           : look::IsReadable(color, ground) ? color
+                                             : look::TextOn(ground);
+  };
+  switch (place_.look) {
+    case Look::kMark:
+      if (back_) return fore_.value_or(look::TextOn(ground));
+      return usual(colors().text);
+    case Look::kHeading:
+      return always(colors().text);
+    case Look::kHint:
+      return always(colors().hint);
+    case Look::kPrimary:
+      return usual(colors().accent);
+    case Look::kQuiet:
+      return usual(colors().quiet_text);
+    case Look::kOnBanner:
+      return Qt::white;
+    default:
+      return usual(colors().text);
+  }
 }
 
 /// The largest drawing, brought to its size by the printer itself.
@@ -236,9 +267,9 @@ void TextWidget::PaintImage(QPainter& painter) {
   if (style_.paper) return PaintImageOnPaper(painter);
   const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
   if (picture.isNull()) {
-    DrawSign(painter, image_.kind, QRectF(rect()), look::kAccent);
-    if (place_.look == Look::kMark) painter.fillRect(rect(), Qt::white);
-    look::DrawText(painter, QRectF(rect()), caption(), Set(), Qt::black, place_.align);
+    DrawSign(painter, image_.kind, QRectF(rect()), colors().accent);
+    if (place_.look == Look::kMark) painter.fillRect(rect(), Ground());
+    look::DrawText(painter, QRectF(rect()), caption(), Set(), Ink(), place_.align);
     return;
   }
   const QSizeF size = picture.deviceIndependentSize();
@@ -266,7 +297,7 @@ void TextWidget::Paint(QPainter& painter) {
     look::DrawPlate(painter, box, *back_, back_->darker(120), Px(mark ? 3 : look::kRadius), Px(1));
     box.adjust(Px(4), 0, -Px(4), 0);
   } else if (place_.look == Look::kPrimary) {
-    look::DrawPlate(painter, box, look::kHover, look::kAccent, Px(look::kRadius), Px(1.2));
+    look::DrawPlate(painter, box, colors().hover, colors().accent, Px(look::kRadius), Px(1.2));
     box.adjust(Px(4), 0, -Px(4), 0);
   }
   look::DrawText(painter, box, caption(), Set(), Ink(), place_.align);
@@ -292,7 +323,7 @@ void PlateWidget::Paint(QPainter& painter) {
       if (back_) look::DrawPlate(painter, box, *back_, {}, Px(4), 0);
       return;
     case Look::kCard:
-      look::DrawCard(painter, box, look::kCard, style_.factor);
+      look::DrawCard(painter, box, colors(), colors().card, style_.factor);
       if (back_) look::DrawCardHead(painter, box, Px(kCardHead), *back_, style_.factor);
       return;
     case Look::kSmallCard:
@@ -300,7 +331,7 @@ void PlateWidget::Paint(QPainter& painter) {
     case Look::kCell:
       return PaintCell(painter);
     case Look::kNotice:
-      look::DrawPlate(painter, box, back_.value_or(look::kCard), look::kAccent,
+      look::DrawPlate(painter, box, back_.value_or(colors().card), colors().accent,
                       Px(look::kCardRadius), Px(2));
       return;
     case Look::kPlain:
@@ -310,27 +341,47 @@ void PlateWidget::Paint(QPainter& painter) {
     case Look::kPrimary:
     case Look::kLarge:
     case Look::kMark:
+    case Look::kOnBanner:
       return;
+  }
+}
+
+QColor PlateWidget::GroundAt(const QPoint& point) const {
+  switch (place_.look) {
+    case Look::kTile:
+      return back_.value_or(GroundBelow());
+    case Look::kCard:
+      return back_ && point.y() < Px(kCardHead) ? *back_ : colors().card;
+    case Look::kSmallCard:
+      if (back_ && point.y() < Px(kSmallCardHead)) return *back_;
+      return isEnabled() ? colors().card : colors().locked_card;
+    case Look::kCell:
+      return Qt::white;
+    case Look::kNotice:
+      return back_.value_or(colors().card);
+    default:
+      return GroundBelow();
   }
 }
 
 void PlateWidget::PaintSmallCard(QPainter& painter) {
   const QRectF box(rect());
-  look::DrawCard(painter, box, isEnabled() ? look::kCard : look::kLockedCard, style_.factor);
+  look::DrawCard(painter, box, colors(), isEnabled() ? colors().card : colors().locked_card,
+                 style_.factor);
   if (back_) look::DrawCardHead(painter, box, Px(kSmallCardHead), *back_, style_.factor);
   if (isEnabled()) return;
   const double side = Px(15);
   DrawLock(painter, QRectF(width() - side - Px(9), (Px(kSmallCardHead) - side) / 2, side, side),
-           back_ ? look::TextOn(*back_) : look::kText);
+           back_ ? look::TextOn(*back_) : colors().text);
 }
 
 void PlateWidget::PaintCell(QPainter& painter) {
   const QRectF box(rect());
   const bool bare = !back_ || *back_ == QColor(Qt::white);
-  look::DrawPlate(painter, box, Qt::white, bare ? look::kButtonLine : *back_, Px(6),
+  look::DrawPlate(painter, box, Qt::white, bare ? colors().button_line : *back_, Px(6),
                   Px(bare ? 1 : 2.5));
   if (ShowsFocus() && !style_.paper) {
-    look::DrawFocusRing(painter, box, Px(6), style_.factor);
+    look::DrawFocusRing(painter, box, colors(), Px(6), style_.factor);
   }
 }
 
@@ -358,22 +409,23 @@ void OptionWidget::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF box(rect());
   if (isEnabled() && (underMouse() || isDown())) {
-    look::DrawPlate(painter, box, isDown() ? look::kPressed : look::kHover, {}, Px(6), 0);
+    look::DrawPlate(painter, box, isDown() ? colors().pressed : colors().hover, {}, Px(6), 0);
   }
   const double side = Px(18);
   const QRectF circle(Px(6), (height() - side) / 2, side, side);
-  const QColor line = !isEnabled() ? look::kLine : isChecked() ? look::kAccent : look::kButtonLine;
+  const look::Palette& tones = colors();
+  const QColor line = !isEnabled() ? tones.line : isChecked() ? tones.accent : tones.button_line;
   painter.setPen(QPen(line, Px(isChecked() ? 2 : 1.5)));
-  painter.setBrush(isEnabled() ? look::kButton : look::kDisabledFill);
+  painter.setBrush(isEnabled() ? colors().button : colors().disabled_fill);
   painter.drawEllipse(circle.adjusted(Px(1), Px(1), -Px(1), -Px(1)));
   if (isChecked()) {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isEnabled() ? look::kAccent : look::kDisabledText);
+    painter.setBrush(isEnabled() ? colors().accent : colors().disabled_text);
     painter.drawEllipse(circle.center(), Px(4.5), Px(4.5));
   }
-  look::DrawText(painter, box.adjusted(Px(32), 0, -Px(2), 0), caption(), Set(),
-                 TextColor(look::kText), Qt::AlignLeft | Qt::AlignVCenter);
-  if (ShowsFocus()) look::DrawFocusRing(painter, box, Px(6), style_.factor);
+  look::DrawText(painter, box.adjusted(Px(32), 0, -Px(2), 0), caption(), Set(), Ink(),
+                 Qt::AlignLeft | Qt::AlignVCenter);
+  if (ShowsFocus()) look::DrawFocusRing(painter, box, colors(), Px(6), style_.factor);
 }
 
 // --- DropDownWidget
@@ -398,22 +450,24 @@ void DropDownWidget::showPopup() {
   QComboBox::showPopup();
 }
 
+QColor DropDownWidget::Ground() const {
+  if (!isEnabled()) return colors().disabled_fill;
+  return underMouse() ? colors().hover : back_.value_or(colors().button);
+}
+
 void DropDownWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRectF box(rect());
-  const QColor fill = !isEnabled()   ? look::kDisabledFill
-                      : underMouse() ? look::kHover
-                                     : back_.value_or(look::kButton);
-  const QColor edge = isEnabled() ? look::kButtonLine : look::kLine;
-  look::DrawPlate(painter, box, fill, edge, Px(6), Px(1.2));
-  look::DrawText(painter, box.adjusted(Px(10), 0, -Px(24), 0), caption(), Set(),
-                 TextColor(look::kText), Qt::AlignLeft | Qt::AlignVCenter);
-  painter.setPen(QPen(isEnabled() ? look::kQuietText : look::kDisabledText, Px(1.8), Qt::SolidLine,
-                      Qt::RoundCap, Qt::RoundJoin));
+  const QColor edge = isEnabled() ? colors().button_line : colors().line;
+  look::DrawPlate(painter, box, Ground(), edge, Px(6), Px(1.2));
+  look::DrawText(painter, box.adjusted(Px(10), 0, -Px(24), 0), caption(), Set(), Ink(),
+                 Qt::AlignLeft | Qt::AlignVCenter);
+  const QColor arrow = isEnabled() ? colors().quiet_text : colors().disabled_text;
+  painter.setPen(QPen(arrow, Px(1.8), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   const QPointF tip(width() - Px(14), height() / 2.0 + Px(2.5));
   painter.drawPolyline(
       QPolygonF{{tip + QPointF(-Px(5), -Px(5)), tip, tip + QPointF(Px(5), -Px(5))}});
-  if (ShowsFocus()) look::DrawFocusRing(painter, box, Px(6), style_.factor);
+  if (ShowsFocus()) look::DrawFocusRing(painter, box, colors(), Px(6), style_.factor);
 }
 
 void DropDownWidget::keyPressEvent(QKeyEvent* event) {
@@ -444,11 +498,12 @@ class ListWidget::Delegate : public QStyledItemDelegate {
     const bool cursor = list_.hasFocus() && list_.currentRow() == index.row();
     const bool hovered = list_.isEnabled() && (option.state & QStyle::State_MouseOver);
     if (cursor || hovered) {
-      const QColor fill = cursor ? look::kPressed : look::kHover;
-      look::DrawPlate(*painter, row, fill, look::kAccent, 4 * f, cursor ? f : 0);
+      const look::Palette& colors = list_.colors();
+      const QColor fill = cursor ? colors.pressed : colors.hover;
+      look::DrawPlate(*painter, row, fill, colors.accent, 4 * f, cursor ? f : 0);
     }
     painter->setFont(list_.font());
-    painter->setPen(list_.isEnabled() ? list_.TextColor(look::kText) : look::kQuietText);
+    painter->setPen(list_.Ink());
     painter->drawText(row.adjusted(5 * f, -1, 0, 1), Qt::AlignLeft | Qt::AlignVCenter,
                       index.data().toString());
     painter->restore();
@@ -495,6 +550,15 @@ bool ListWidget::EntriesFit() const {
   return count() * static_cast<int>(Px(kListRow)) <= height();
 }
 
+QColor ListWidget::Ground() const {
+  return isEnabled() ? back_.value_or(colors().button) : colors().disabled_fill;
+}
+
+/// What is chosen is to be read also where it is locked.
+QColor ListWidget::Ink() const {
+  return isEnabled() ? InkOn(Ground(), colors().text) : colors().quiet_text;
+}
+
 void ListWidget::resizeEvent(QResizeEvent* event) {
   QListWidget::resizeEvent(event);
   scheduleDelayedItemsLayout();  // the rows grow with the page
@@ -504,10 +568,9 @@ void ListWidget::paintEvent(QPaintEvent* event) {
   {
     QPainter painter(viewport());
     const QRectF box(viewport()->rect());
-    const QColor fill = isEnabled() ? back_.value_or(look::kButton) : look::kDisabledFill;
-    look::DrawPlate(painter, box, fill, isEnabled() ? look::kButtonLine : look::kLine, Px(6),
-                    Px(1.2));
-    if (ShowsFocus()) look::DrawFocusRing(painter, box, Px(6), style_.factor);
+    look::DrawPlate(painter, box, Ground(), isEnabled() ? colors().button_line : colors().line,
+                    Px(6), Px(1.2));
+    if (ShowsFocus()) look::DrawFocusRing(painter, box, colors(), Px(6), style_.factor);
   }
   const QFont type = EntryType();
   if (font() != type) setFont(type);
@@ -574,9 +637,9 @@ bool GaugeWidget::EndsFit() const {
 void GaugeWidget::PaintScale(QPainter& painter) const {
   const QRectF track = Track();
   QLinearGradient ground(track.topLeft(), track.topRight());
-  ground.setColorAt(0, look::kSolved);
-  ground.setColorAt(0.5, look::kHalfWay);
-  ground.setColorAt(1, look::kTooHard);
+  ground.setColorAt(0, colors().solved);
+  ground.setColorAt(0.5, colors().half_way);
+  ground.setColorAt(1, colors().too_hard);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(ground);
@@ -593,8 +656,8 @@ void GaugeWidget::PaintPointer(QPainter& painter) const {
   const QRectF track = Track();
   const double share = std::clamp(value(), 0, 100) / 100.0;
   const QPointF at(track.left() + track.width() * share, track.center().y());
-  painter.setPen(QPen(Qt::white, Px(2)));
-  painter.setBrush(look::kText);
+  painter.setPen(QPen(colors().card, Px(2)));
+  painter.setBrush(colors().text);
   painter.drawEllipse(at, Px(7), Px(7));
 }
 
@@ -610,9 +673,9 @@ void GaugeWidget::paintEvent(QPaintEvent*) {
   };
   const QRectF low = PlaceOfEnd(false);
   const QRectF high = PlaceOfEnd(true);
-  write(low, low_, look::kSolved.darker(150), look::Weight::kNormal, Qt::AlignLeft);
-  write(high, high_, look::kTooHard.darker(130), look::Weight::kNormal, Qt::AlignRight);
-  write(QRectF(low.topRight(), high.bottomLeft()), QString("%1%").arg(value()), look::kText,
+  write(low, low_, colors().solved_text, look::Weight::kNormal, Qt::AlignLeft);
+  write(high, high_, colors().too_hard_text, look::Weight::kNormal, Qt::AlignRight);
+  write(QRectF(low.topRight(), high.bottomLeft()), QString("%1%").arg(value()), colors().text,
         look::Weight::kBold, Qt::AlignHCenter);
 }
 
@@ -629,14 +692,14 @@ void SliderWidget::paintEvent(QPaintEvent*) {
   const double range = std::max(1, maximum() - minimum());
   const double x = knob + (width() - 2 * knob) * (value() - minimum()) / range;
   QRectF groove(knob, height() / 2.0 - Px(3), width() - 2 * knob, Px(6));
-  look::DrawPlate(painter, groove, look::kLine, {}, Px(3), 0);
+  look::DrawPlate(painter, groove, colors().line, {}, Px(3), 0);
   groove.setRight(x);
-  const QColor color = isEnabled() ? look::kAccent : look::kDisabledText;
+  const QColor color = isEnabled() ? colors().accent : colors().disabled_text;
   look::DrawPlate(painter, groove, color, {}, Px(3), 0);
-  painter.setPen(QPen(Qt::white, Px(2)));
+  painter.setPen(QPen(colors().card, Px(2)));
   painter.setBrush(color);
   painter.drawEllipse(QPointF(x, height() / 2.0), knob - Px(1), knob - Px(1));
-  if (ShowsFocus()) look::DrawFocusRing(painter, QRectF(rect()), Px(6), style_.factor);
+  if (ShowsFocus()) look::DrawFocusRing(painter, QRectF(rect()), colors(), Px(6), style_.factor);
 }
 
 void SliderWidget::GoTo(double x) {

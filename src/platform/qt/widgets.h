@@ -33,6 +33,8 @@ struct PageStyle {
   double factor = 1;     ///< pixels of a unit
   bool keyboard = true;  ///< the user works by keyboard: the focus is shown
   bool paper = false;    ///< drawn for a printer, whose pixels are many and small
+
+  const look::Palette& colors() const { return paper ? look::kLight : look::PresentColors(); }
 };
 
 /// What all widgets have: a caption, colours that the program sets, and a dress.
@@ -50,15 +52,25 @@ class Dressed {
   /// False when a caption would be larger than the place allows.
   bool Fits(const QString& caption) const;
   bool CaptionFits() const { return Fits(caption_); }
+  /// The caption's type, made smaller where its place is narrow.
+  const QFont& Type() { return Set().font; }
+  /// What the caption stands on, and its own colour.
+  virtual QColor Ground() const { return GroundBelow(); }
+  virtual QColor Ink() const { return InkOn(Ground(), colors().text); }
 
  protected:
   virtual QSizeF TextBox() const { return self_.size(); }
   double Px(double units) const { return units * style_.factor; }
+  const look::Palette& colors() const { return style_.colors(); }
   bool ShowsFocus() const { return style_.keyboard && self_.hasFocus(); }
   /// The caption as it is set into its box, kept until one of the two changes.
   const look::Setting& Set();
   look::Setting SetInto(const QString& caption, const QSizeF& box) const;
-  QColor TextColor(const QColor& otherwise) const;
+  /// The ground of the frame that the control stands in.
+  QColor GroundBelow() const;
+  /// The usual colour on a ground, unless the control is locked, the program has set another one,
+  /// or it could not be read there.
+  QColor InkOn(const QColor& ground, const QColor& usual) const;
 
   QWidget& self_;
   const PageStyle& style_;
@@ -83,6 +95,8 @@ class PressWidget : public QAbstractButton, public Dressed {
   std::function<bool(int key)> move_focus;
 
   void SetImage(const PictureId& image);
+  QColor Ground() const override;
+  QColor Ink() const override;
 
  protected:
   QSizeF TextBox() const override;
@@ -94,9 +108,7 @@ class PressWidget : public QAbstractButton, public Dressed {
  private:
   void PaintTile(QPainter& painter);
   void PaintButton(QPainter& painter);
-  QColor Fill() const;
-  QColor Edge(const QColor& fill) const;
-  QColor Ink(const QColor& fill) const;
+  QColor Edge() const;
 
   PictureId image_;
 };
@@ -107,13 +119,14 @@ class TextWidget : public QLabel, public Dressed {
   TextWidget(QWidget* parent, const PageStyle& style, const Placement& place);
   void SetImage(const PictureId& image);
   void Paint(QPainter& painter) override;
+  QColor Ground() const override;
+  QColor Ink() const override;
 
  protected:
   QSizeF TextBox() const override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QColor Ink() const;
   bool HasGround() const;
   void PaintImage(QPainter& painter);
   void PaintImageOnPaper(QPainter& painter);
@@ -126,6 +139,8 @@ class PlateWidget : public QGroupBox, public Dressed {
  public:
   PlateWidget(QWidget* parent, const PageStyle& style, const Placement& place);
   void Paint(QPainter& painter) override;
+  /// The colour at a place of it.
+  QColor GroundAt(const QPoint& point) const;
 
   /// Moves the focus from this widget in the direction of an arrow key; returns whether it could.
   std::function<bool(int key)> move_focus;
@@ -156,6 +171,7 @@ class DropDownWidget : public QComboBox, public Dressed {
  public:
   DropDownWidget(QWidget* parent, const PageStyle& style, const Placement& place);
   void showPopup() override;
+  QColor Ground() const override;
 
  protected:
   QSizeF TextBox() const override;
@@ -175,6 +191,8 @@ class ListWidget : public QListWidget, public Dressed, public TakesEntries {
   int ChosenEntry() const override { return -1; }
   /// False when an entry is longer than its row allows at the smallest type.
   bool EntriesFit() const;
+  QColor Ground() const override;
+  QColor Ink() const override;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

@@ -298,8 +298,8 @@ TEST(Layout, LeavesAQuietPlaceWhereAFrameIsHidden) {
   EXPECT_FALSE(p.settings_screen().grdeinst[2].visible);
   const QRect frame = shown.OnPage(shown.At("grdeinst(2)"));
   const QImage image = shown.page().grab().toImage();
-  EXPECT_EQ(image.pixelColor(frame.center()), look::kSlot);
-  EXPECT_EQ(image.pixelColor(frame.center().x(), frame.top() - 5), look::kSection);
+  EXPECT_EQ(image.pixelColor(frame.center()), look::kLight.slot);
+  EXPECT_EQ(image.pixelColor(frame.center().x(), frame.top() - 5), look::kLight.section);
 }
 
 TEST(Layout, KeepsTheSettingsWithinASmallScreenLessItsBars) {

@@ -229,7 +229,7 @@ TEST_F(ResultsPage, ShowsWhichCellHasTheFocus) {
   Key(Qt::Key_Shift);
   const QImage with = Look("klang_pan(3)");
   EXPECT_NE(without, with);
-  EXPECT_EQ(with.pixelColor(1, with.height() / 2), look::kFocus);
+  EXPECT_EQ(with.pixelColor(1, with.height() / 2), look::kLight.focus);
 }
 
 TEST_F(ResultsPage, GoesOnByEnterFromWhereItBegins) {
@@ -278,7 +278,7 @@ TEST_F(ResultsPage, GivesTheFocusToTheWayOnWhenTheButtonThatPrintedIsLocked) {
 
 TEST_F(ResultsPage, TurnsWhiteAsAWholeWhenItIsPrinted) {
   const auto ground = [this] { return view_.page()->grab().toImage().pixelColor(2, 2); };
-  EXPECT_EQ(ground(), look::kPage);
+  EXPECT_EQ(ground(), look::kLight.page);
   EXPECT_EQ(Look("akk_group(1)").pixelColor(8, 10), QColor(192, 255, 255));
   screen().cmdPrint[0].Press();
   view_.Refresh();

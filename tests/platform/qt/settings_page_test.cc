@@ -173,11 +173,11 @@ TEST_F(SettingsPage, TellsALockedFrameByItsColourALockAndItsGround) {
   };
   const QPoint ground(frame.width() / 2, frame.height() - 10);
   EXPECT_EQ(lock(), 0);
-  EXPECT_EQ(Pixel(frame, ground), look::kCard);
+  EXPECT_EQ(Pixel(frame, ground), look::kLight.card);
   screen().training_Combo.Select(4);
   view_.Refresh();
   EXPECT_GT(lock(), 20);
-  EXPECT_EQ(Pixel(frame, ground), look::kLockedCard);
+  EXPECT_EQ(Pixel(frame, ground), look::kLight.locked_card);
   EXPECT_EQ(Pixel(frame, QPoint(frame.width() / 2, 3)), QColor(0xFF, 0xC0, 0xC0));
   EXPECT_FALSE(At("aus_w(0)").isEnabled());
   screen().training_Combo.Select(0);
@@ -193,7 +193,8 @@ TEST_F(SettingsPage, ShowsTheHintInRedAsLongAsNothingIsChosen) {
   const QImage image = hint.grab().toImage();
   int red = 0;
   for (int x = 0; x < image.width(); ++x) {
-    for (int y = 0; y < image.height(); ++y) red += image.pixelColor(x, y) == look::kHint ? 1 : 0;
+    for (int y = 0; y < image.height(); ++y)
+      red += image.pixelColor(x, y) == look::kLight.hint ? 1 : 0;
   }
   EXPECT_GT(red, 20);
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "forced_palette.h"
 #include "platform/qt/page.h"
 #include "platform/qt/qt_event_loop.h"
 #include "shell/text_lookup.h"
@@ -97,6 +98,33 @@ inline void ExpectNoCaptionIsCut(Shown& shown) {
   }
 }
 
+/// Type that is high or bold enough may stand out less.
+inline double LeastContrast(Dressed& dressed, const QWidget& widget) {
+  constexpr double kSize = 24;
+  constexpr double kSizeIfBold = 18.66;
+  const QFont type = dressed.Type();
+  const bool large = type.pixelSize() >= (type.bold() ? kSizeIfBold : kSize);
+  return large || !widget.isEnabled() ? 3 : 4.5;
+}
+
+/// By the solution, as the mark of a slot is in the end.
+inline bool IsCovered(Shown& shown, const Binding& binding) {
+  if (binding.control().name() != "ergebnis") return false;
+  const QWidget* const solution = shown.Find(QString("erg(%1)").arg(binding.control().index()));
+  return solution != nullptr && solution->isVisibleTo(&shown.page());
+}
+
+inline void ExpectAllCanBeRead(Shown& shown) {
+  for (const Binding* binding : shown.Visible()) {
+    Dressed& dressed = binding->dressed();
+    if (dressed.caption().isEmpty() || IsCovered(shown, *binding)) continue;
+    EXPECT_GE(look::Contrast(dressed.Ink(), dressed.Ground()),
+              LeastContrast(dressed, binding->widget()))
+        << binding->control().Id() << ": " << dressed.caption().toStdString() << ", "
+        << dressed.Ink().name().toStdString() << " on " << dressed.Ground().name().toStdString();
+  }
+}
+
 inline void ExpectTheEndsOfAScaleAreWhole(Shown& shown) {
   for (const auto& binding : shown.page().bindings()) {
     const auto* const gauge = dynamic_cast<const GaugeWidget*>(&binding->widget());
@@ -137,6 +165,11 @@ inline void ExpectWellLaidOut(Form& form) {
     ExpectNoCaptionIsCut(shown);
     ExpectNoEntryIsCut(shown);
     ExpectTheEndsOfAScaleAreWhole(shown);
+  }
+  for (const bool dark : {false, true}) {
+    const ForcedPalette desktop(dark);
+    Shown shown(form, kSmall);
+    ExpectAllCanBeRead(shown);
   }
 }
 

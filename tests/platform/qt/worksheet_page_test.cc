@@ -110,7 +110,7 @@ TEST(Gauge, GoesFromGreenToRedAndShowsWhereTheTrainingStands) {
     int left = image.width();
     int right = 0;
     for (int x = 0; x < image.width(); ++x) {
-      if (image.pixelColor(x, 12) != look::kText) continue;
+      if (image.pixelColor(x, 12) != look::kLight.text) continue;
       left = std::min(left, x);
       right = std::max(right, x);
     }
@@ -126,10 +126,10 @@ TEST(Gauge, GoesFromGreenToRedAndShowsWhereTheTrainingStands) {
   const QImage scale = shown.At("matboxanz").grab().toImage();
   const QImage low = scale.copy(0, 0, scale.width() / 4, 20);
   const QImage high = scale.copy(scale.width() * 3 / 4, 0, scale.width() / 4, 20);
-  EXPECT_GT(Count(low, look::kSolved), 50);
-  EXPECT_EQ(Count(low, look::kTooHard), 0);
-  EXPECT_GT(Count(high, look::kTooHard), 50);
-  EXPECT_EQ(Count(high, look::kSolved), 0);
+  EXPECT_GT(Count(low, look::kLight.solved), 50);
+  EXPECT_EQ(Count(low, look::kLight.too_hard), 0);
+  EXPECT_GT(Count(high, look::kLight.too_hard), 50);
+  EXPECT_EQ(Count(high, look::kLight.solved), 0);
 }
 
 TEST(HeaderSign, TellsTrainingAndTestApart) {
@@ -140,7 +140,7 @@ TEST(HeaderSign, TellsTrainingAndTestApart) {
     p.StartRun();
     const Shown shown(p.worksheet(), kSmall);
     const QImage sign = shown.At(mode == 1 ? "PicUetyp(0)" : "PicUetyp(1)").grab().toImage();
-    EXPECT_GT(Count(sign, look::kAccent), 100) << mode;
+    EXPECT_GT(Count(sign, look::kLight.accent), 100) << mode;
   }
 }
 
