@@ -4,6 +4,7 @@
 #include "melvado/dialog_look.h"
 
 #include <QDialog>
+#include <QEvent>
 #include <QString>
 #include <utility>
 
@@ -13,6 +14,7 @@ namespace vmod17 {
 namespace {
 
 constexpr double kText = 15;
+constexpr char kDresser[] = "dresser";
 
 constexpr const char* kStyle =
     "QDialog { background: PAGE; }"
@@ -72,6 +74,7 @@ QString StyleFor(const look::Palette& colors, const QString& family, double fact
 class Dresser : public QObject {
  public:
   Dresser(QDialog& dialog, double factor) : QObject(&dialog), dialog_(dialog), factor_(factor) {
+    setObjectName(kDresser);
     dialog.installEventFilter(this);
     Dress();
   }
@@ -94,7 +97,7 @@ class Dresser : public QObject {
 
 void Dress(QDialog& dialog, double factor) {
   dialog.setFont(look::Type(kText * factor, look::Weight::kNormal));
-  delete dialog.findChild<Dresser*>();
+  delete dialog.findChild<QObject*>(kDresser, Qt::FindDirectChildrenOnly);
   new Dresser(dialog, factor);
 }
 

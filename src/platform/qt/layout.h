@@ -49,7 +49,7 @@ struct Placement {
   double text = 14;  ///< height of the type
   Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter;
   bool bold = false;
-  bool capital = false;      ///< heads something, and begins large whatever its word does elsewhere
+  bool capital = false;    ///< heads something, and begins large whatever its word does elsewhere
   std::string named_by{};  ///< the control whose caption names or explains this one
   /// Of a gauge: the controls whose captions tell what 0 and 100 per cent mean.
   std::array<std::string, 2> ends{};
