@@ -981,5 +981,93 @@
         <source></source>
         <translation>Es ist ein Fehler aufgetreten, mit dem das Programm nicht gerechnet hat (%1). Er steht im Protokoll; Sie können weitermachen. Bitte schicken Sie den Fehlerbericht aus dem Protokoll ein.</translation>
     </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Einlesen Test</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Einstellungen Speichern</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Name:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Vorname:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>Matrikel-Nr.:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Prüfung</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>Die Datei oder ihren Ordner gibt es nicht.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>Der Zugriff auf die Datei ist nicht erlaubt.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>Das ist ein Ordner und keine Datei.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>Die Festplatte ist voll.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>Das System meldet: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>Das ist keine Datei, die sich lesen lässt.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>Die Datei ist zu groß für einen Test.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>Der Test ist zu groß für eine Datei.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>Ein Zeichen lässt sich nicht lesen.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>Der Text ist kein wohlgeformtes XML.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>Das oberste Element heißt nicht „%1“.</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>Es gibt ein zweites oberstes Element.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>In „%1“ fehlt das Element „%2“.</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>In „%1“ fehlt das Attribut „%2“.</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>In „%1“ steht keine ganze Zahl.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Diese Seite der Hilfe gibt es nur auf Englisch.</translation>
+    </message>
 </context>
 </TS>

@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>No frame is marked for a test. Right-click the frames whose settings the test is to fix, and choose “Prüfung”.</translation>
+        <translation>No frame is marked for a test. Right-click the frames whose settings the test is to fix, and choose “Exam”.</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>An error has occurred that the program did not expect (%1). It is in the log; you can go on. Please send the fault report from the log.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Read a test</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Save settings</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Name:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>First name:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>Matriculation no.:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Exam</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>The file or its folder does not exist.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>Access to the file is denied.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>This is a folder, not a file.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>The disk is full.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>The system says: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>This is not a file that can be read.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>The file is too large for a test.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>The test is too large for a file.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>There is a character that cannot be read.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>The text is not well-formed XML.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>The root element is not "%1".</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>There is a second root element.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>"%1" has no element "%2".</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>"%1" has no attribute "%2".</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>"%1" holds no whole number.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>This page of the help is in English.</translation>
     </message>
 </context>
 </TS>

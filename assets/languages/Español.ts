@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>No hay ningún recuadro marcado para un test. Haga clic con el botón derecho en los recuadros cuyos ajustes deba fijar el test y elija «Prüfung».</translation>
+        <translation>No hay ningún recuadro marcado para un test. Haga clic con el botón derecho en los recuadros cuyos ajustes deba fijar el test y elija «Examen».</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>Se ha producido un error que el programa no esperaba (%1). Está en el registro; puede continuar. Envíe el informe de error del registro.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Leer test</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Guardar ajustes</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Apellidos:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Nombre:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>N.º de matrícula:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Examen</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>El archivo o su carpeta no existe.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>No se permite el acceso al archivo.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>Esto es una carpeta, no un archivo.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>El disco está lleno.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>El sistema indica: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>Esto no es un archivo que se pueda leer.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>El archivo es demasiado grande para un test.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>El test es demasiado grande para un archivo.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>Hay un carácter que no se puede leer.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>El texto no es XML bien formado.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>El elemento raíz no es «%1».</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>Hay un segundo elemento raíz.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>En «%1» falta el elemento «%2».</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>En «%1» falta el atributo «%2».</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>En «%1» no hay un número entero.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Esta página de la ayuda está en inglés.</translation>
     </message>
 </context>
 </TS>

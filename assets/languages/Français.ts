@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>Aucun cadre n’est marqué pour un test. Faites un clic droit sur les cadres dont le test doit imposer les réglages et choisissez «&#xa0;Prüfung&#xa0;».</translation>
+        <translation>Aucun cadre n’est marqué pour un test. Faites un clic droit sur les cadres dont le test doit imposer les réglages et choisissez «&#xa0;Examen&#xa0;».</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>Une erreur que le programme n’attendait pas est survenue (%1). Elle figure dans le journal ; vous pouvez continuer. Veuillez envoyer le rapport d’erreur depuis le journal.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Lire un test</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Enregistrer les réglages</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Nom :</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Prénom :</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>N° d’étudiant :</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Examen</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>Le fichier ou son dossier n’existe pas.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>L’accès au fichier est refusé.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>C’est un dossier et non un fichier.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>Le disque est plein.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>Le système signale : %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>Ce n’est pas un fichier lisible.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>Le fichier est trop volumineux pour un test.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>Le test est trop volumineux pour un fichier.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>Un caractère est illisible.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>Le texte n’est pas du XML bien formé.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>L’élément racine n’est pas « %1 ».</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>Il y a un second élément racine.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>Dans « %1 », il manque l’élément « %2 ».</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>Dans « %1 », il manque l’attribut « %2 ».</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>« %1 » ne contient pas de nombre entier.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Cette page de l’aide est en anglais.</translation>
     </message>
 </context>
 </TS>

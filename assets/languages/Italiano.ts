@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>Nessun riquadro è contrassegnato per un test. Fai clic con il tasto destro sui riquadri di cui il test deve fissare le impostazioni e scegli «Prüfung».</translation>
+        <translation>Nessun riquadro è contrassegnato per un test. Fai clic con il tasto destro sui riquadri di cui il test deve fissare le impostazioni e scegli «Esame».</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>Si è verificato un errore che il programma non prevedeva (%1). È nel registro; puoi continuare. Invia il rapporto di errore preso dal registro.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Leggi test</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Salva impostazioni</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Cognome:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Nome:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>N. di matricola:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Esame</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>Il file o la sua cartella non esiste.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>L’accesso al file non è consentito.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>Questa è una cartella, non un file.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>Il disco è pieno.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>Il sistema segnala: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>Questo non è un file leggibile.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>Il file è troppo grande per un test.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>Il test è troppo grande per un file.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>C’è un carattere illeggibile.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>Il testo non è XML ben formato.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>L’elemento radice non è «%1».</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>C’è un secondo elemento radice.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>In «%1» manca l’elemento «%2».</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>In «%1» manca l’attributo «%2».</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>«%1» non contiene un numero intero.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Questa pagina della guida è in inglese.</translation>
     </message>
 </context>
 </TS>

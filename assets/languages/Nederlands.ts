@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>Er is geen kader voor een test gemarkeerd. Klik met de rechtermuisknop op de kaders waarvan de test de instellingen moet vastleggen, en kies ‘Prüfung’.</translation>
+        <translation>Er is geen kader voor een test gemarkeerd. Klik met de rechtermuisknop op de kaders waarvan de test de instellingen moet vastleggen, en kies ‘Examen’.</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>Er is een fout opgetreden waarop het programma niet rekende (%1). Ze staat in het logboek; u kunt doorgaan. Stuur het foutrapport uit het logboek op.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Test inlezen</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Instellingen opslaan</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Naam:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Voornaam:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>Studentnr.:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Examen</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>Het bestand of de map bestaat niet.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>Toegang tot het bestand is niet toegestaan.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>Dit is een map en geen bestand.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>De schijf is vol.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>Het systeem meldt: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>Dit is geen bestand dat gelezen kan worden.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>Het bestand is te groot voor een test.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>De test is te groot voor een bestand.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>Er staat een teken in dat niet gelezen kan worden.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>De tekst is geen welgevormde XML.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>Het hoofdelement heet niet ‘%1’.</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>Er is een tweede hoofdelement.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>In ‘%1’ ontbreekt het element ‘%2’.</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>In ‘%1’ ontbreekt het attribuut ‘%2’.</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>In ‘%1’ staat geen geheel getal.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Deze pagina van de help is in het Engels.</translation>
     </message>
 </context>
 </TS>

@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>Żadna ramka nie jest zaznaczona do testu. Kliknij prawym przyciskiem myszy ramki, których ustawienia ma określać test, i wybierz „Prüfung”.</translation>
+        <translation>Żadna ramka nie jest zaznaczona do testu. Kliknij prawym przyciskiem myszy ramki, których ustawienia ma określać test, i wybierz „Egzamin”.</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>Wystąpił błąd, którego program nie przewidział (%1). Jest w dzienniku; możesz kontynuować. Wyślij raport o błędzie z dziennika.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Wczytaj test</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Zapisz ustawienia</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Nazwisko:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Imię:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>Nr albumu:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Egzamin</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>Plik lub jego folder nie istnieje.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>Brak uprawnień dostępu do pliku.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>To jest folder, a nie plik.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>Dysk jest pełny.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>System zgłasza: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>To nie jest plik, który można odczytać.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>Plik jest za duży jak na test.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>Test jest za duży, by zapisać go w pliku.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>Jednego ze znaków nie można odczytać.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>Tekst nie jest poprawnie zbudowanym XML.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>Element główny nie nazywa się „%1”.</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>Jest drugi element główny.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>W „%1” brakuje elementu „%2”.</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>W „%1” brakuje atrybutu „%2”.</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>W „%1” nie ma liczby całkowitej.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Ta strona pomocy jest po angielsku.</translation>
     </message>
 </context>
 </TS>

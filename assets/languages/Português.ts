@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>Nenhum quadro está marcado para um teste. Clique com o botão direito nos quadros cujas configurações o teste deve fixar e escolha “Prüfung”.</translation>
+        <translation>Nenhum quadro está marcado para um teste. Clique com o botão direito nos quadros cujas configurações o teste deve fixar e escolha “Exame”.</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>Ocorreu um erro que o programa não esperava (%1). Está no histórico; você pode continuar. Envie o relatório de erro do histórico.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Ler teste</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Guardar configurações</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Sobrenome:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Nome:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>N.º de matrícula:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Exame</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>O ficheiro ou a sua pasta não existe.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>O acesso ao ficheiro não é permitido.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>Isto é uma pasta, não um ficheiro.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>O disco está cheio.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>O sistema indica: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>Isto não é um ficheiro que se possa ler.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>O ficheiro é demasiado grande para um teste.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>O teste é demasiado grande para um ficheiro.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>Há um carácter que não se pode ler.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>O texto não é XML bem formado.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>O elemento raiz não é «%1».</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>Há um segundo elemento raiz.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>Em «%1» falta o elemento «%2».</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>Em «%1» falta o atributo «%2».</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>Em «%1» não há um número inteiro.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Esta página da ajuda está em inglês.</translation>
     </message>
 </context>
 </TS>

@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>Pro test není označen žádný rámeček. Klikněte pravým tlačítkem myši na rámečky, jejichž nastavení má test určovat, a zvolte „Prüfung“.</translation>
+        <translation>Pro test není označen žádný rámeček. Klikněte pravým tlačítkem myši na rámečky, jejichž nastavení má test určovat, a zvolte „Zkouška“.</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>Došlo k chybě, se kterou program nepočítal (%1). Je v protokolu; můžete pokračovat. Pošlete prosím hlášení o chybě z protokolu.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Načíst test</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Uložit nastavení</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Příjmení:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Jméno:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>Studijní číslo:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Zkouška</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>Soubor nebo jeho složka neexistuje.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>Přístup k souboru není povolen.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>Toto je složka, ne soubor.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>Disk je plný.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>Systém hlásí: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>Toto není soubor, který lze číst.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>Soubor je na test příliš velký.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>Test je na soubor příliš velký.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>Jeden znak nelze přečíst.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>Text není správně utvořené XML.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>Kořenový element není „%1“.</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>Je zde druhý kořenový element.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>V „%1“ chybí element „%2“.</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>V „%1“ chybí atribut „%2“.</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>V „%1“ není celé číslo.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Tato stránka nápovědy je v angličtině.</translation>
     </message>
 </context>
 </TS>

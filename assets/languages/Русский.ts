@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>Ни одна рамка не отмечена для теста. Щёлкните правой кнопкой мыши по рамкам, настройки которых должен задавать тест, и выберите «Prüfung».</translation>
+        <translation>Ни одна рамка не отмечена для теста. Щёлкните правой кнопкой мыши по рамкам, настройки которых должен задавать тест, и выберите «Экзамен».</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>Произошла ошибка, которой программа не ожидала (%1). Она записана в журнал; можно продолжать. Отправьте отчёт об ошибке из журнала.</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>Открыть тест</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>Сохранить настройки</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>Фамилия:</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>Имя:</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>№ студента:</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>Экзамен</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>Файл или его папка не существует.</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>Доступ к файлу запрещён.</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>Это папка, а не файл.</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>Диск заполнен.</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>Система сообщает: %1.</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>Это не файл, который можно прочитать.</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>Файл слишком велик для теста.</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>Тест слишком велик для файла.</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>Один из символов не удаётся прочитать.</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>Текст не является правильно построенным XML.</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>Корневой элемент — не «%1».</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>Есть второй корневой элемент.</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>В «%1» нет элемента «%2».</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>В «%1» нет атрибута «%2».</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>В «%1» нет целого числа.</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>Эта страница справки на английском языке.</translation>
     </message>
 </context>
 </TS>

@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>尚未为测验标记任何设置框。请右键单击要由测验规定设置的框，然后选择“Prüfung”。</translation>
+        <translation>尚未为测验标记任何设置框。请右键单击要由测验规定设置的框，然后选择“考试”。</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>发生了程序未预料到的错误（%1）。该错误已记入日志，您可以继续。请发送日志中的错误报告。</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>读入测验</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>保存设置</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>姓：</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>名：</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>学号：</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>考试</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>文件或其所在文件夹不存在。</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>没有访问该文件的权限。</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>这是文件夹，不是文件。</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>磁盘已满。</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>系统提示：%1。</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>这不是可以读取的文件。</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>文件过大，不是测验文件。</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>测验过大，无法存入文件。</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>有一个字符无法读取。</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>文本不是格式正确的 XML。</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>根元素不是“%1”。</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>存在第二个根元素。</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>“%1”中缺少元素“%2”。</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>“%1”中缺少属性“%2”。</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>“%1”中不是整数。</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>本帮助页面为英文。</translation>
     </message>
 </context>
 </TS>

@@ -591,7 +591,7 @@
     </message>
     <message id="9011s">
         <source></source>
-        <translation>テスト用に指定された枠がありません。テストで設定を固定したい枠を右クリックし、「Prüfung」を選んでください。</translation>
+        <translation>テスト用に指定された枠がありません。テストで設定を固定したい枠を右クリックし、「試験」を選んでください。</translation>
     </message>
     <message id="9012s">
         <source></source>
@@ -980,6 +980,94 @@
     <message id="9467s">
         <source></source>
         <translation>予期しないエラーが発生しました（%1）。ログに記録しました。そのまま続けられます。ログから障害報告をお送りください。</translation>
+    </message>
+    <message id="9601s">
+        <source></source>
+        <translation>テストを読み込む</translation>
+    </message>
+    <message id="9602s">
+        <source></source>
+        <translation>設定を保存</translation>
+    </message>
+    <message id="9603s">
+        <source></source>
+        <translation>姓：</translation>
+    </message>
+    <message id="9604s">
+        <source></source>
+        <translation>名：</translation>
+    </message>
+    <message id="9605s">
+        <source></source>
+        <translation>学籍番号：</translation>
+    </message>
+    <message id="9606s">
+        <source></source>
+        <translation>試験</translation>
+    </message>
+    <message id="9611s">
+        <source></source>
+        <translation>ファイルまたはそのフォルダーがありません。</translation>
+    </message>
+    <message id="9612s">
+        <source></source>
+        <translation>このファイルへのアクセスは許可されていません。</translation>
+    </message>
+    <message id="9613s">
+        <source></source>
+        <translation>これはフォルダーで、ファイルではありません。</translation>
+    </message>
+    <message id="9614s">
+        <source></source>
+        <translation>ディスクがいっぱいです。</translation>
+    </message>
+    <message id="9615s">
+        <source></source>
+        <translation>システムの報告: %1。</translation>
+    </message>
+    <message id="9616s">
+        <source></source>
+        <translation>読み取れるファイルではありません。</translation>
+    </message>
+    <message id="9617s">
+        <source></source>
+        <translation>ファイルがテストとしては大きすぎます。</translation>
+    </message>
+    <message id="9618s">
+        <source></source>
+        <translation>テストが大きすぎてファイルに保存できません。</translation>
+    </message>
+    <message id="9619s">
+        <source></source>
+        <translation>読み取れない文字があります。</translation>
+    </message>
+    <message id="9620s">
+        <source></source>
+        <translation>テキストが整形式の XML ではありません。</translation>
+    </message>
+    <message id="9621s">
+        <source></source>
+        <translation>最上位の要素が「%1」ではありません。</translation>
+    </message>
+    <message id="9622s">
+        <source></source>
+        <translation>最上位の要素が二つあります。</translation>
+    </message>
+    <message id="9623s">
+        <source></source>
+        <translation>「%1」に要素「%2」がありません。</translation>
+    </message>
+    <message id="9624s">
+        <source></source>
+        <translation>「%1」に属性「%2」がありません。</translation>
+    </message>
+    <message id="9625s">
+        <source></source>
+        <translation>「%1」が整数ではありません。</translation>
+    </message>
+    <message id="9631s">
+        <source></source>
+        <translation>このヘルプページは英語です。</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -15,6 +16,17 @@ struct Notice {
   std::string english;               ///< the same text, for a language that has no word for the id
   std::vector<std::string> details;  ///< UTF-8: names, folders, what the system said
 };
+
+/// A text with the details in the places of %1, %2.
+inline std::string WithDetails(std::string text, const std::vector<std::string>& details) {
+  // From the last placeholder down: a detail may hold what looks like one.
+  for (std::size_t i = details.size(); i > 0; --i) {
+    const std::string placeholder = "%" + std::to_string(i);
+    const std::size_t at = text.find(placeholder);
+    if (at != std::string::npos) text.replace(at, placeholder.size(), details[i - 1]);
+  }
+  return text;
+}
 
 /// Takes a notice on the program's thread. The same notice, by id and details, is shown once in a
 /// process; a call never blocks.

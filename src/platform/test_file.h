@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/notice.h"
 #include "platform/run_time_error.h"
 
 namespace vmod17 {
@@ -33,18 +34,24 @@ struct TestDocument {
   bool operator==(const TestDocument&) const = default;
 };
 
-/// A test file that cannot be read. Lines and columns count from 1; 0 where there is no such place.
+/// A test file that cannot be read or written. Lines and columns count from 1; 0 where there is no
+/// such place.
 class TestFileError : public RunTimeError {
  public:
-  TestFileError(const std::string& description, int line, int column)
-      : RunTimeError(ErrorNumber::kFile, description, "vmod17.TestFile"),
+  TestFileError(const Notice& reason, int line, int column)
+      : RunTimeError(ErrorNumber::kFile, WithDetails(reason.english, reason.details),
+                     "vmod17.TestFile"),
+        reason_(reason),
         line_(line),
         column_(column) {}
 
+  /// The reason as the user is told it, in one sentence.
+  const Notice& reason() const { return reason_; }
   int line() const { return line_; }
   int column() const { return column_; }
 
  private:
+  Notice reason_;
   int line_;
   int column_;
 };

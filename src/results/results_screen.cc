@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "platform/caption.h"
+#include "results/own_words.h"
 #include "shell/numbers.h"
 
 namespace vmod17 {
@@ -31,11 +33,6 @@ constexpr Raster kKlangRaster = {.zeilenschritt = 164, .versatz = 0, .kachelhoeh
 
 const Raster& RasterFuer(int letzter_klangtyp) {
   return letzter_klangtyp == kVoicing ? kVoicingRaster : kKlangRaster;
-}
-
-/// One of the group names ends in a blank.
-std::string OhneBlankAmEnde(const std::string& text) {
-  return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 }  // namespace
@@ -121,8 +118,8 @@ void Testergebnis::testtimer_Timer() {
 void Testergebnis::BaueAuf() {
   cmdOK[1].tag = "OK";
   const TextLookup& texts = shell_.texts;
-  caption =
-      texts.ueb_typ_name_ar.at(shell_.state.uebTyp) + texts.Sprachtext(700) + texts.titel_ar[2];
+  caption = Oder(texts.ueb_typ_name_ar.at(shell_.state.uebTyp), EigenesWort(348)) + Wort(700) +
+            Oder(texts.titel_ar[2], EigenesWort(224));
   LbGrdEinst();
   LbEinst();
   // A page that failed has closed the screen by itself.
@@ -170,8 +167,8 @@ void Testergebnis::BaueZelle(int e) {
   akk_group[e].width = 96;
   akk_group[e].height = 20;
   akk_group[e].back_color = kGruppenFarbe;
-  akk_group[e].caption =
-      shell_.texts.grp_name_ar.at(entry.group == kLangerName ? kKurzName : entry.group);
+  const int name = entry.group == kLangerName ? kKurzName : entry.group;
+  akk_group[e].caption = Oder(shell_.texts.grp_name_ar.at(name), EigenerGruppenName(name));
   ergebnis[e].top = oben + raster.versatz + 138;
   ergebnis[e].height = 20;
 }
@@ -188,7 +185,7 @@ void Testergebnis::ZeigeErgebnisse() {
     ergebnis[i].caption = item.zaehlt ? ProzentText(item.p * 100, punkt) : "";
     ergebnis[i].back_color = item.zaehlt ? std::optional(ErgebnisFarbe(item.p)) : std::nullopt;
     // What a reader of the screen says of the cell as a whole.
-    klang_pan[i].description = jz_kl[i].caption + ", " + OhneBlankAmEnde(akk_group[i].caption);
+    klang_pan[i].description = jz_kl[i].caption + ", " + ShownCaption(akk_group[i].caption);
     if (item.zaehlt) klang_pan[i].description += ", " + ergebnis[i].caption;
   }
   if (gesamt.Leer()) {
@@ -204,16 +201,20 @@ void Testergebnis::ZeigeErgebnisse() {
 }
 
 void Testergebnis::SetzeTexte() {
-  lab_ges.caption = Wort(275, "Gesamt");
+  lab_ges.caption = Wort(275);
   for (int i : {0, 1}) {
-    cmdOK[i].caption = Wort(625, "weiter");
-    cmdPrint[i].caption = Wort(1, "Drucken");
+    cmdOK[i].caption = Wort(625);
+    cmdPrint[i].caption = Wort(1);
   }
 }
 
-std::string Testergebnis::Wort(int id, const char* eigenes, const std::string& danach) const {
+std::string Testergebnis::Wort(int id) const {
+  return shell_.texts.SprachtextOder(id, EigenesWort(id));
+}
+
+std::string Testergebnis::Ueberschrift(int id) const {
   const std::string wort = shell_.texts.Sprachtext(id);
-  return wort.empty() || wort == TextLookup::kOhneWort ? eigenes : wort + danach;
+  return TextLookup::Fehlt(wort) ? EigenesWort(id) + ":" : wort + " " + Wort(700);
 }
 
 void Testergebnis::cmdOK_Click(int index) {

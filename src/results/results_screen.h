@@ -84,12 +84,15 @@ class Testergebnis : public Form {
   void BaueZelle(int e);
   void ZeigeErgebnisse();
   void SetzeTexte();
-  /// A word of the language in use with `danach` behind it, or the form's own where it has none.
-  std::string Wort(int id, const char* eigenes, const std::string& danach = "") const;
+  /// The word for a text id, or the screen's own where the language in use has none.
+  std::string Wort(int id) const;
+  /// The same with the colon behind it.
+  std::string Ueberschrift(int id) const;
 
   // results_pages.cc
   void LbGrdEinst();
   void LbEinst();
+  std::string ModusMitNummer() const;
   void KlangfarbenZeile();
   void SchliesseMitFehler();
   void ZeigeZeile(int k, const std::string& name, const std::string& wert);

@@ -284,9 +284,9 @@ void Einstellung1::SetzeTexte() {
   lb15[0].caption = text(547);
   lb15[1].caption = "=MM";
   lb15[2].caption = text(615);
-  cmdOptionRead.caption = "Einlesen Test";
-  cmdOptionSave.caption = "Einstellungen Speichern";
-  popPruefung.caption = kMarke;
+  cmdOptionRead.caption = shell_.texts.SprachtextOder(9601, "Einlesen Test");
+  cmdOptionSave.caption = shell_.texts.SprachtextOder(9602, "Einstellungen Speichern");
+  popPruefung.caption = shell_.texts.SprachtextOder(9606, kMarke);
   for (const ControlArray<Button>* alle : {&klang_alle, &grp_alle}) {
     (*alle)[0].caption = "»";
     (*alle)[0].description = text(9017);

@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 
+#include "platform/caption.h"
 #include "settings/settings_screen.h"
 #include "shell/numbers.h"
 
@@ -74,7 +75,7 @@ std::string Einstellung1::RahmenTitel(const Control& rahmen) const {
   const auto& mit_titel = geinst_lb.indexes();
   return std::find(mit_titel.begin(), mit_titel.end(), rahmen.index()) == mit_titel.end()
              ? ""
-             : geinst_lb[rahmen.index()].caption;
+             : ShownCaption(geinst_lb[rahmen.index()].caption);
 }
 
 void Einstellung1::cmdOptionSave_Click() {
@@ -97,7 +98,8 @@ void Einstellung1::cmdOptionSave_Click() {
   try {
     parts_.test_files.Write(*file, dokument);
   } catch (const TestFileError& error) {
-    shell_.messages.Warn(texts.Sprachtext(9012) + "\n" + error.what(), cmdOptionSave.caption);
+    shell_.messages.Warn(texts.Sprachtext(9012) + "\n" + texts.Words(error.reason()),
+                         cmdOptionSave.caption);
   }
 }
 
@@ -111,7 +113,7 @@ void Einstellung1::cmdOptionRead_Click() {
     WendeAn(parts_.test_files.Read(*file));
   } catch (const TestFileError& error) {
     const TextLookup& texts = shell_.texts;
-    std::string text = texts.Sprachtext(9013) + "\n" + error.what();
+    std::string text = texts.Sprachtext(9013) + "\n" + texts.Words(error.reason());
     if (error.line() > 0) {
       text += "\n" + texts.Sprachtext(9014) + " " + DecimalText(error.line()) + ", " +
               texts.Sprachtext(9015) + " " + DecimalText(error.column());

@@ -16,11 +16,6 @@ namespace {
 constexpr std::size_t kLocaleInColumn = 0;
 constexpr std::size_t kNameInColumn = 1;
 
-void Replace(std::string& text, const std::string& placeholder, const std::string& by) {
-  const std::size_t at = text.find(placeholder);
-  if (at != std::string::npos) text.replace(at, placeholder.size(), by);
-}
-
 }  // namespace
 
 const std::array<std::string, 10> TextLookup::tempo_name_ar = {
@@ -67,14 +62,13 @@ std::string TextLookup::Sprachtext(int id) const {
   }
 }
 
+std::string TextLookup::SprachtextOder(int id, const std::string& eigenes) const {
+  const std::string text = Sprachtext(id);
+  return Fehlt(text) ? eigenes : text;
+}
+
 std::string TextLookup::Words(const Notice& notice) const {
-  std::string text = Sprachtext(notice.text_id);
-  if (text.empty() || text == kOhneWort) text = notice.english;
-  // From the last placeholder down: a detail may hold what looks like one.
-  for (std::size_t i = notice.details.size(); i > 0; --i) {
-    Replace(text, "%" + std::to_string(i), notice.details[i - 1]);
-  }
-  return text;
+  return WithDetails(SprachtextOder(notice.text_id, notice.english), notice.details);
 }
 
 void TextLookup::TexteLaden() {

@@ -36,6 +36,13 @@ class TextLookup {
 
   /// The word for a text id in the language in use, asked anew each time; "VOID" without one.
   std::string Sprachtext(int id) const;
+  /// The same, but `eigenes` where the language in use has no word or an empty one.
+  std::string SprachtextOder(int id, const std::string& eigenes) const;
+  /// Whether a text tells nothing: no word was found for it, or for a part of it.
+  static bool Fehlt(const std::string& text) {
+    return text.find_first_not_of(' ') == std::string::npos ||
+           text.find(kOhneWort) != std::string::npos;
+  }
   /// The words of a notice, its details in their places; its English ones where the language in use
   /// has none.
   std::string Words(const Notice& notice) const;

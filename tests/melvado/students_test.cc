@@ -71,9 +71,9 @@ TEST_F(Students, SeeTheirDataOnTheResultsPage) {
   Train("4711", 3);
   const auto anna = ModuleOf("4711");
   anna->ToResults();
-  EXPECT_EQ(anna->UserLine(3), (ResultsFixture::Line{"Name:", " Berg"}));
-  EXPECT_EQ(anna->UserLine(4), (ResultsFixture::Line{"Vorname:", " Anna"}));
-  EXPECT_EQ(anna->UserLine(5), (ResultsFixture::Line{"Matrikel-Nr.:", " 4711"}));
+  EXPECT_EQ(anna->UserLine(3), (ResultsFixture::Line{Wort(9603), " Berg"}));
+  EXPECT_EQ(anna->UserLine(4), (ResultsFixture::Line{Wort(9604), " Anna"}));
+  EXPECT_EQ(anna->UserLine(5), (ResultsFixture::Line{Wort(9605), " 4711"}));
   const auto nobody = ModuleOf("");
   nobody->ToResults();
   EXPECT_EQ(nobody->UserLine(3), ResultsFixture::Line());

@@ -22,6 +22,8 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
+using Line = ResultsFixture::Line;
+
 // ---- Set-up -------------------------------------------------------------------------------------
 
 TEST(ResultsScreen, WaitsHiddenUntilItsTimerBuildsIt) {
@@ -76,11 +78,74 @@ TEST(ResultsScreen, ShowsItsOwnGermanWordsWhereALanguageHasNone) {
   p.host.user = {"4711", "Berg", "Anna"};
   p.ToResults();
   const Testergebnis& r = p.results();
-  EXPECT_EQ(r.lab_ges.caption, "Gesamt");
+  EXPECT_EQ(r.lab_ges.caption, "Gesamtergebnis");
   EXPECT_EQ(r.cmdOK[0].caption, "weiter");
   EXPECT_EQ(r.cmdPrint[1].caption, "Drucken");
   EXPECT_EQ(p.UserLine(0).first, "Datum:");
   EXPECT_EQ(p.UserLine(2).first, "Anwender:");
+}
+
+void ExpectNothingIsWithoutWords(const Testergebnis& r) {
+  const auto expect = [](const std::string& text, const std::string& where) {
+    EXPECT_EQ(text.find(TextLookup::kOhneWort), std::string::npos) << where << ": " << text;
+  };
+  expect(r.caption, "title");
+  for (const Control* control : r.controls()) {
+    expect(control->caption, control->Id());
+    expect(control->description, control->Id());
+    const bool worded = control->name() == "einst_lab" || control->name() == "g_einst_lab";
+    if (worded && control->visible) {
+      EXPECT_NE(control->caption.find_first_not_of(" :"), std::string::npos) << control->Id();
+    }
+  }
+}
+
+TEST(ResultsScreen, IsWhollyInGermanWithoutAnyLanguage) {
+  for (const int akk_form : {0, 1}) {
+    ResultsFixture p;
+    p.languages.no_list = true;
+    p.host.user = {"4711", "Berg", "Anna"};
+    p.ToResults([akk_form](Einstellung1& e) {
+      ChooseMaterial(e, akk_form, 0, {4});
+      e.kl_farb.Choose(1);
+    });
+    ExpectNothingIsWithoutWords(p.results());
+    EXPECT_EQ(p.results().caption, "Jazz-Akkorde bestimmen: Ergebnis");
+    // Its entry is C6 of four notes; of the voicings the draw decides.
+    if (akk_form == 0) {
+      EXPECT_EQ(p.results().akk_group[1].caption, "Major-Sept");
+    }
+    EXPECT_EQ(p.SettingsLine(0), (Line{"Übungsmodus", "Test"}));
+    EXPECT_EQ(p.SettingsLine(3), (Line{"Abfolge ", "automatisch"}));
+    EXPECT_EQ(p.SettingsLine(5), (Line{"bestimmen", "Akkord"}));
+    EXPECT_EQ(p.SettingsLine(14).first, "Gruppen-Auswahl");
+    EXPECT_EQ(p.UserLine(1), (Line{"Übungsart ", " bestimmen"}));
+    EXPECT_EQ(p.UserLine(3), (Line{"Name:", " Berg"}));
+  }
+}
+
+TEST(ResultsScreen, TellsTheRangeAndTheVoicesInGermanWithoutAnyLanguage) {
+  ResultsFixture p;
+  p.languages.no_list = true;
+  p.ToResults([](Einstellung1& e) {
+    e.kl_farb.Choose(1);
+    e.oktav_cmb.Choose(1);
+  });
+  EXPECT_EQ(p.SettingsLine(1).first, "Stimme  1; Stimme  2; Stimme  3");
+  EXPECT_EQ(p.SettingsLine(9), (Line{"Tonraum ", " 3 Oktaven"}));
+  EXPECT_EQ(p.SettingsLine(10), (Line{"Bereich", "c bis c'''"}));
+  EXPECT_EQ(p.SettingsLine(13), (Line{"Klang-Auswahl", "Dreiklänge"}));
+}
+
+TEST(ResultsScreen, IsInGermanWhereALanguageAnswersWithNothing) {
+  ResultsFixture p;
+  for (int id = 1; id < 1000; ++id) {
+    p.languages.languages[0].second.words[std::to_string(id) + "s"] = "";
+  }
+  p.ToResults();
+  ExpectNothingIsWithoutWords(p.results());
+  EXPECT_EQ(p.SettingsLine(7), (Line{"Akkord- Grundton ", "unbetont"}));
+  EXPECT_EQ(p.results().cmdPrint[0].caption, "Drucken");
 }
 
 // ---- The grid -----------------------------------------------------------------------------------
@@ -266,8 +331,6 @@ TEST(ResultsPercentages, LeaveACellEmptyThatHadNoPartInTheTraining) {
 
 // ---- The settings page --------------------------------------------------------------------------
 
-using Line = ResultsFixture::Line;
-
 TEST(SettingsPage, TellsTheSettingsAsTheUserSawThem) {
   ResultsFixture p;
   p.ToResults([](Einstellung1& e) {
@@ -388,9 +451,9 @@ TEST(UserData, TellsAKnownUserAndTheMachine) {
   EXPECT_EQ(p.UserLine(0), (Line{"[189s] [700s]", " 04.03.2027 05:06"}));
   EXPECT_EQ(p.UserLine(1), (Line{p.first().grdeinst_lb[0].caption + " ", " [154s]"}));
   EXPECT_EQ(p.UserLine(2), (Line{"[109s] [700s]", " tonstudio"}));
-  EXPECT_EQ(p.UserLine(3), (Line{"Name:", " Berg"}));
-  EXPECT_EQ(p.UserLine(4), (Line{"Vorname:", " Anna"}));
-  EXPECT_EQ(p.UserLine(5), (Line{"Matrikel-Nr.:", " 4711"}));
+  EXPECT_EQ(p.UserLine(3), (Line{Wort(9603), " Berg"}));
+  EXPECT_EQ(p.UserLine(4), (Line{Wort(9604), " Anna"}));
+  EXPECT_EQ(p.UserLine(5), (Line{Wort(9605), " 4711"}));
 }
 
 TEST(UserData, TellsOfAnUnknownUserNoMoreThanDateAndExercise) {
@@ -416,8 +479,8 @@ TEST(UserData, StaysWholeWhenTheHostNoLongerTellsTheUser) {
   p.host.Raise("LOGIN");
   p.loop.Advance(300);
   EXPECT_TRUE(p.results().visible);
-  EXPECT_EQ(p.UserLine(3), (Line{"Name:", " "}));
-  EXPECT_EQ(p.UserLine(5), (Line{"Matrikel-Nr.:", " Unbekannt"}));
+  EXPECT_EQ(p.UserLine(3), (Line{Wort(9603), " "}));
+  EXPECT_EQ(p.UserLine(5), (Line{Wort(9605), " Unbekannt"}));
   EXPECT_THAT(p.messages.warnings, IsEmpty());
 }
 

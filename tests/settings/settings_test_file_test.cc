@@ -73,7 +73,7 @@ TEST_F(TestFile, IsNotWrittenWhenNoFrameIsMarked) {
   dialog.to_save = "test.xml";
   EXPECT_TRUE(screen().cmdOptionSave.Press());
   EXPECT_THAT(messages.warnings,
-              ElementsAre(ScriptedMessageBox::Shown{"[9011s]", "Einstellungen Speichern"}));
+              ElementsAre(ScriptedMessageBox::Shown{"[9011s]", "[9602s]"}));
   EXPECT_THAT(dialog.proposals, IsEmpty());
   EXPECT_THAT(test_files.files, IsEmpty());
 }
@@ -177,10 +177,10 @@ TEST_F(TestFile, ForgetsAFrameWhoseMarkIsTakenBack) {
 
 TEST_F(TestFile, TellsWhenItCannotBeWritten) {
   Mark({3});
-  test_files.trouble = TestFileError("the disk is full", 0, 0);
+  test_files.trouble = TestFileError({9614, "The disk is full.", {}}, 0, 0);
   Save();
   ASSERT_THAT(messages.warnings, SizeIs(1));
-  EXPECT_THAT(messages.warnings[0].text, AllOf(HasSubstr("[9012s]"), HasSubstr("disk is full")));
+  EXPECT_THAT(messages.warnings[0].text, AllOf(HasSubstr("[9012s]"), HasSubstr("[9614s]")));
   EXPECT_TRUE(screen().visible);
 }
 
@@ -239,7 +239,7 @@ TEST_F(TestFile, ListsWhatTheScreenDoesNotHaveAndAppliesTheRest) {
   EXPECT_EQ(settings().arp_richtung, 3);
   EXPECT_THAT(FramesLockedByTest(), ElementsAre(5));
   ASSERT_THAT(messages.warnings, SizeIs(1));
-  EXPECT_EQ(messages.warnings[0].title, "Einlesen Test");
+  EXPECT_EQ(messages.warnings[0].title, "[9601s]");
   EXPECT_THAT(messages.warnings[0].text,
               AllOf(StartsWith("[9016s]"), HasSubstr("breit"), HasSubstr("250"), HasSubstr("third"),
                     HasSubstr("neun"), HasSubstr("minus"), Not(HasSubstr("automatisch"))));
@@ -259,14 +259,14 @@ TEST_F(TestFile, DoesNotReachControlsThatArePartOfNoTest) {
 }
 
 TEST_F(TestFile, ChangesNothingWhenItIsBrokenAndTellsTheLineAndTheColumn) {
-  test_files.trouble = TestFileError("an end tag is missing", 7, 12);
+  test_files.trouble = TestFileError({9620, "The text is not well-formed XML.", {}}, 7, 12);
   dialog.to_open = "broken.xml";
   EXPECT_TRUE(screen().cmdOptionRead.Press());
   EXPECT_THAT(FramesLockedByTest(), IsEmpty());
   ASSERT_THAT(messages.warnings, SizeIs(1));
-  EXPECT_EQ(messages.warnings[0].title, "Einlesen Test");
-  EXPECT_THAT(messages.warnings[0].text,
-              AllOf(HasSubstr("[9013s]"), HasSubstr("[9014s] 7"), HasSubstr("[9015s] 12")));
+  EXPECT_EQ(messages.warnings[0].title, "[9601s]");
+  EXPECT_THAT(messages.warnings[0].text, AllOf(HasSubstr("[9013s]"), HasSubstr("[9620s]"),
+                                               HasSubstr("[9014s] 7"), HasSubstr("[9015s] 12")));
 }
 
 TEST_F(TestFile, TellsNoPlaceWhenThereIsNone) {

@@ -79,7 +79,7 @@ class MemoryTestFiles : public TestFiles {
   TestDocument Read(const std::string& file) override {
     if (trouble) throw *trouble;
     const auto found = files.find(file);
-    if (found == files.end()) throw TestFileError("no file " + file, 0, 0);
+    if (found == files.end()) throw TestFileError({9611, "The file does not exist.", {}}, 0, 0);
     return found->second;
   }
 };

@@ -211,13 +211,14 @@ class PugiDocument : public XmlDocument {
     StringWriter writer;
     document_.save(writer, "  ", pugi::format_indent, pugi::encoding_utf8);
     const FileName name(file_name_);
-    const std::string refusal = name.folder.empty()
-                                    ? "no folder is named"
-                                    : WriteWholeFile(name.folder + '/' + name.base, writer.text);
-    if (refusal.empty()) return true;
+    std::string refusal = "no folder is named";
+    if (!name.folder.empty()) {
+      const int error = WriteWholeFile(name.folder + '/' + name.base, writer.text);
+      if (error == 0) return true;
+      refusal = SystemReason(error);
+    }
     const std::string elsewhere = fallback_folder_ + '/' + name.base;
-    if (MakePrivateFolder(fallback_folder_).empty() &&
-        WriteWholeFile(elsewhere, writer.text).empty()) {
+    if (MakePrivateFolder(fallback_folder_) == 0 && WriteWholeFile(elsewhere, writer.text) == 0) {
       Tell(SavedElsewhereNotice(name.folder, refusal, elsewhere));
       return true;
     }

@@ -13,7 +13,6 @@
 #include <cstddef>
 #include <pugixml.hpp>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include "platform/xml/whole_file.h"
@@ -80,16 +79,34 @@ std::string DocumentText(const TestDocument& document) {
 
 // --- reading
 
-[[noreturn]] void Fail(const std::string& what) { throw TestFileError(what, 0, 0); }
+[[noreturn]] void Fail(const Notice& reason) { throw TestFileError(reason, 0, 0); }
 
-std::string Reason(int error) { return std::generic_category().message(error); }
+/// What the system says to one of its error numbers, in the program's words where it has some.
+Notice SystemSays(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+      return {9611, "The file or its folder does not exist.", {}};
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return {9612, "Access to the file is denied.", {}};
+    case EISDIR:
+      return {9613, "This is a folder, not a file.", {}};
+    case ENOSPC:
+    case EDQUOT:
+      return {9614, "The disk is full.", {}};
+    default:
+      return {9615, "The system says: %1.", {SystemReason(error)}};
+  }
+}
 
 class OpenFile {
  public:
   // A pipe must not keep the program waiting for a writer.
   explicit OpenFile(const std::string& path)
       : handle_(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
-    if (handle_ < 0) Fail(Reason(errno));
+    if (handle_ < 0) Fail(SystemSays(errno));
   }
   ~OpenFile() { ::close(handle_); }
   OpenFile(const OpenFile&) = delete;
@@ -101,7 +118,7 @@ class OpenFile {
     std::size_t done = 0;
     while (done < most) {
       const ssize_t got = ::read(handle_, bytes.data() + done, most - done);
-      if (got < 0 && errno != EINTR) Fail(Reason(errno));
+      if (got < 0 && errno != EINTR) Fail(SystemSays(errno));
       if (got == 0) break;
       if (got > 0) done += static_cast<std::size_t>(got);
     }
@@ -110,9 +127,9 @@ class OpenFile {
   }
   void NeedRegular() const {
     struct stat facts {};
-    if (::fstat(handle_, &facts) != 0) Fail(Reason(errno));
-    if (S_ISDIR(facts.st_mode)) Fail(Reason(EISDIR));
-    if (!S_ISREG(facts.st_mode)) Fail("Not a file that can be read");
+    if (::fstat(handle_, &facts) != 0) Fail(SystemSays(errno));
+    if (S_ISDIR(facts.st_mode)) Fail(SystemSays(EISDIR));
+    if (!S_ISREG(facts.st_mode)) Fail({9616, "This is not a file that can be read.", {}});
   }
 
  private:
@@ -123,12 +140,14 @@ std::string Bytes(const std::string& path) {
   const OpenFile file(path);
   file.NeedRegular();
   std::string bytes = file.Read(PugiTestFiles::kMaxBytes + 1);
-  if (bytes.size() > PugiTestFiles::kMaxBytes) Fail("The file is too large for a test");
+  if (bytes.size() > PugiTestFiles::kMaxBytes) {
+    Fail({9617, "The file is too large for a test.", {}});
+  }
   return bytes;
 }
 
 /// Raises the error with the line and column of a place in a UTF-8 text.
-[[noreturn]] void FailAt(std::string_view text, std::size_t offset, const std::string& what) {
+[[noreturn]] void FailAt(std::string_view text, std::size_t offset, const Notice& reason) {
   const std::string_view before = text.substr(0, std::min(offset, text.size()));
   const auto line = std::count(before.begin(), before.end(), '\n') + 1;
   const std::size_t start = before.rfind('\n') + 1;  // npos + 1 is 0
@@ -136,7 +155,7 @@ std::string Bytes(const std::string& path) {
   const auto column = std::count_if(in_line.begin(), in_line.end(),
                                     [](char byte) { return !IsContinuation(byte); }) +
                       1;
-  throw TestFileError(what, static_cast<int>(line), static_cast<int>(column));
+  throw TestFileError(reason, static_cast<int>(line), static_cast<int>(column));
 }
 
 bool SaysLatin1(std::string_view bytes) {
@@ -177,7 +196,7 @@ std::string Decoded(std::string bytes) {
   if (allowed == text) return text;
   const auto wrong = std::mismatch(text.begin(), text.end(), allowed.begin(), allowed.end()).first;
   FailAt(text, static_cast<std::size_t>(wrong - text.begin()),
-         "There is a character that cannot be read");
+         {9619, "There is a character that cannot be read.", {}});
 }
 
 /// Walks through the elements of a test.
@@ -187,14 +206,19 @@ class Reader {
     const pugi::xml_parse_result result = document_.load_buffer(
         text_.data(), text_.size(), pugi::parse_default | pugi::parse_ws_pcdata_single,
         pugi::encoding_utf8);
-    if (!result) FailAt(text_, static_cast<std::size_t>(result.offset), result.description());
+    if (result) return;
+    FailAt(text_, static_cast<std::size_t>(result.offset),
+           {9620, "The text is not well-formed XML.", {}});
   }
 
   TestDocument Read() const {
     const pugi::xml_node root = document_.document_element();
-    if (root.name() != std::string_view("test")) FailIn(root, "The root element is not \"test\"");
+    if (root.name() != std::string_view("test")) {
+      FailIn(root, {9621, "The root element is not \"%1\".", {"test"}});
+    }
     for (pugi::xml_node other = root.next_sibling(); other; other = other.next_sibling()) {
-      if (other.type() == pugi::node_element) FailIn(other, "There is a second root element");
+      if (other.type() != pugi::node_element) continue;
+      FailIn(other, {9622, "There is a second root element.", {}});
     }
     const pugi::xml_node basic = Child(root, "basic");
     TestDocument test{Text(basic, "modul"), Text(basic, "type"), Text(basic, "description"), {}};
@@ -220,14 +244,14 @@ class Reader {
   pugi::xml_node Child(pugi::xml_node parent, const char* name) const {
     const pugi::xml_node child = parent.child(name);
     if (!child) {
-      FailIn(parent, "\"" + std::string(parent.name()) + "\" has no element \"" + name + "\"");
+      FailIn(parent, {9623, "\"%1\" has no element \"%2\".", {parent.name(), name}});
     }
     return child;
   }
   std::string Attribute(pugi::xml_node node, const char* name) const {
     const pugi::xml_attribute attribute = node.attribute(name);
     if (!attribute) {
-      FailIn(node, "\"" + std::string(node.name()) + "\" has no attribute \"" + name + "\"");
+      FailIn(node, {9624, "\"%1\" has no attribute \"%2\".", {node.name(), name}});
     }
     return XmlText(attribute.value());
   }
@@ -247,15 +271,15 @@ class Reader {
     int number = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
     if (result.ec != std::errc() || result.ptr != text.data() + text.size()) {
-      FailIn(node, "\"" + std::string(node.name()) + "\" holds no whole number");
+      FailIn(node, {9625, "\"%1\" holds no whole number.", {node.name()}});
     }
     return number;
   }
 
-  [[noreturn]] void FailIn(pugi::xml_node node, const std::string& what) const {
+  [[noreturn]] void FailIn(pugi::xml_node node, const Notice& reason) const {
     // The place of an element is known by its name, one behind the bracket.
     const std::ptrdiff_t at = node.offset_debug();
-    FailAt(text_, at > 0 ? static_cast<std::size_t>(at - 1) : 0, what);
+    FailAt(text_, at > 0 ? static_cast<std::size_t>(at - 1) : 0, reason);
   }
 
   std::string text_;
@@ -266,8 +290,8 @@ class Reader {
 
 void PugiTestFiles::Write(const std::string& file, const TestDocument& document) {
   const std::string text = DocumentText(document);
-  if (text.size() > kMaxBytes) Fail("The test is too large for a file");
-  if (const std::string refusal = WriteWholeFile(file, text); !refusal.empty()) Fail(refusal);
+  if (text.size() > kMaxBytes) Fail({9618, "The test is too large for a file.", {}});
+  if (const int error = WriteWholeFile(file, text); error != 0) Fail(SystemSays(error));
   // A teacher writes it for others to read. Where the file system knows no rights, nothing is lost.
   static_cast<void>(::chmod(file.c_str(), 0644));
 }

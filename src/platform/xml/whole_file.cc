@@ -14,8 +14,6 @@
 namespace vmod17 {
 namespace {
 
-std::string Reason(int error) { return std::generic_category().message(error); }
-
 std::string FolderOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   if (slash == std::string::npos) return ".";
@@ -43,31 +41,32 @@ void SyncFolder(const std::string& folder) {
 
 }  // namespace
 
-std::string WriteWholeFile(const std::string& path, std::string_view bytes) {
+int WriteWholeFile(const std::string& path, std::string_view bytes) {
   std::string temporary = path + ".tmp-XXXXXX";
   const int file = ::mkostemp(temporary.data(), O_CLOEXEC);
-  if (file < 0) return Reason(errno);
+  if (file < 0) return errno;
   int error = WriteAll(file, bytes);
   // Some network file systems tell only here that they had no room.
   if (::close(file) != 0 && error == 0) error = errno;
   if (error == 0 && ::rename(temporary.c_str(), path.c_str()) != 0) error = errno;
   if (error != 0) {
     ::unlink(temporary.c_str());
-    return Reason(error);
+    return error;
   }
   SyncFolder(FolderOf(path));
-  return {};
+  return 0;
 }
 
-std::string MakePrivateFolder(const std::string& path) {
+int MakePrivateFolder(const std::string& path) {
   struct stat facts {};
-  if (::stat(path.c_str(), &facts) == 0) return S_ISDIR(facts.st_mode) ? "" : Reason(ENOTDIR);
+  if (::stat(path.c_str(), &facts) == 0) return S_ISDIR(facts.st_mode) ? 0 : ENOTDIR;
   const std::string above = FolderOf(path);
   if (above != path) {
-    if (const std::string refusal = MakePrivateFolder(above); !refusal.empty()) return refusal;
+    if (const int error = MakePrivateFolder(above); error != 0) return error;
   }
-  if (::mkdir(path.c_str(), 0700) == 0 || errno == EEXIST) return {};
-  return Reason(errno);
+  return ::mkdir(path.c_str(), 0700) == 0 || errno == EEXIST ? 0 : errno;
 }
+
+std::string SystemReason(int error) { return std::generic_category().message(error); }
 
 }  // namespace vmod17

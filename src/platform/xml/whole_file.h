@@ -10,11 +10,14 @@ namespace vmod17 {
 
 /// Writes a file so that its name stands at every moment for what was there before or for the whole
 /// of `bytes`, and they are on the disk when the call returns. The file is its owner's alone
-/// (0600). Returns "", or what the system says to it; then nothing is left behind.
-std::string WriteWholeFile(const std::string& path, std::string_view bytes);
+/// (0600). Returns 0, or the system's error number; then nothing is left behind.
+int WriteWholeFile(const std::string& path, std::string_view bytes);
 
 /// Makes a folder and those above it, for their owner alone (0700), if they are missing.
-/// Returns "", or what the system says to it.
-std::string MakePrivateFolder(const std::string& path);
+/// Returns 0, or the system's error number.
+int MakePrivateFolder(const std::string& path);
+
+/// What the system says to one of its error numbers.
+std::string SystemReason(int error);
 
 }  // namespace vmod17

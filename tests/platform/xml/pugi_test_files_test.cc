@@ -3,6 +3,7 @@
 
 #include "platform/xml/pugi_test_files.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <stdexcept>
 
@@ -65,6 +67,24 @@ class PugiTestFilesTest : public testing::Test {
     } catch (const TestFileError& error) {
       EXPECT_STRNE(error.what(), "");
       return std::to_string(error.line()) + ":" + std::to_string(error.column());
+    }
+    return "none";
+  }
+  /// Id and details of the reason that a text is not read.
+  std::string ReasonOfError(const std::string& text) {
+    std::ofstream(folder_ / "a.xml", std::ios::binary) << text;
+    return ReasonIn(folder_ / "a.xml");
+  }
+  std::string ReasonIn(const std::string& file) {
+    return ReasonOf([&] { files_.Read(file); });
+  }
+  static std::string ReasonOf(const std::function<void()>& call) {
+    try {
+      call();
+    } catch (const TestFileError& error) {
+      std::string reason = std::to_string(error.reason().text_id);
+      for (const std::string& detail : error.reason().details) reason += " " + detail;
+      return reason;
     }
     return "none";
   }
@@ -226,6 +246,36 @@ TEST_F(PugiTestFilesTest, RefusesWhatIsNoFileOrCannotBeOpened) {
   EXPECT_EQ(PlaceOfErrorIn(""), "0:0");
   ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
   EXPECT_EQ(PlaceOfErrorIn(folder_ / "pipe"), "0:0");
+}
+
+TEST_F(PugiTestFilesTest, GivesEachReasonAsATextWithItsDetails) {
+  EXPECT_EQ(ReasonIn(folder_ / "missing.xml"), "9611");
+  fs::create_directory(folder_ / "folder");
+  EXPECT_EQ(ReasonIn(folder_ / "folder"), "9613");
+  ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(ReasonIn(folder_ / "pipe"), "9616");
+  EXPECT_EQ(ReasonOfError(std::string(PugiTestFiles::kMaxBytes + 1, ' ')), "9617");
+  EXPECT_EQ(ReasonOfError("<test>\n ü\xFC</test>"), "9619");
+  EXPECT_EQ(ReasonOfError("<test>"), "9620");
+  EXPECT_EQ(ReasonOfError("<exercise/>"), "9621 test");
+  EXPECT_EQ(ReasonOfError(Around("") + "<test/>"), "9622");
+  EXPECT_EQ(ReasonOfError("<test><setting/></test>"), "9623 test basic");
+  EXPECT_EQ(ReasonOfError(Around("<control text='b'/>")), "9624 control title");
+  EXPECT_EQ(ReasonOfError(Around("<control title='a' text='b'><cname/><index>x</index>"
+                                 "<value text='c'>True</value></control>")),
+            "9625 index");
+}
+
+TEST_F(PugiTestFilesTest, GivesTheReasonsWhyItCannotWrite) {
+  TestDocument large = Example();
+  large.description.assign(PugiTestFiles::kMaxBytes, 'x');
+  EXPECT_EQ(ReasonOf([&] { files_.Write(folder_ / "test.xml", large); }), "9618");
+  EXPECT_EQ(ReasonOf([&] { files_.Write(folder_ / "missing/test.xml", Example()); }), "9611");
+  fs::create_directory(folder_ / "folder");
+  EXPECT_EQ(ReasonOf([&] { files_.Write(folder_ / "folder", Example()); }), "9613");
+  const std::string long_name(300, 'n');
+  EXPECT_THAT(ReasonOf([&] { files_.Write(folder_ / long_name, Example()); }),
+              testing::StartsWith("9615 "));
 }
 
 TEST_F(PugiTestFilesTest, RefusesAFileThatIsTooLargeForATest) {
