@@ -59,10 +59,10 @@ Desktop::Desktop()
   help_.owner = [this] { return view_.Window(); };
   help_.words = [this] {
     const HelpWindow::Words english;
-    return HelpWindow::Words{Word(9421, english.title.c_str()),
-                             Word(9391, english.contents.c_str()), Word(9392, english.back.c_str()),
-                             Word(9393, english.forward.c_str()),
-                             Word(9394, english.missing.c_str())};
+    return HelpWindow::Words{
+        Word(9421, english.title.c_str()),   Word(9391, english.contents.c_str()),
+        Word(9392, english.back.c_str()),    Word(9393, english.forward.c_str()),
+        Word(9394, english.missing.c_str()), Word(9631, english.english_only.c_str())};
   };
   view_.on_help = [this](const std::string& form_name) { ShowHelp(form_name); };
   messages_.before = [this] { view_.Refresh(); };

@@ -10,6 +10,7 @@
 #include "app/end_on_signal.h"
 #include "app/places.h"
 #include "melvado/home_window.h"
+#include "platform/qt/application_setup.h"
 #include "platform/qt/help_window.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_file_dialog.h"
@@ -47,9 +48,9 @@ void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& ho
       const auto word = [&host](int id, const std::string& text) {
         return host.words().Say(id, text.c_str()).toStdString();
       };
-      return HelpWindow::Words{word(9421, english.title), word(9391, english.contents),
-                               word(9392, english.back), word(9393, english.forward),
-                               word(9394, english.missing)};
+      return HelpWindow::Words{word(9421, english.title),   word(9391, english.contents),
+                               word(9392, english.back),    word(9393, english.forward),
+                               word(9394, english.missing), word(9631, english.english_only)};
     };
   }
   help->Show(page, host.words().locale().name().toStdString());
@@ -111,8 +112,6 @@ int Run() {
 
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
-  QApplication::setApplicationDisplayName("Melvado");
-  QApplication::setDesktopFileName("melvado");
-  QApplication::setQuitOnLastWindowClosed(false);
+  vmod17::SetUpApplication();
   return vmod17::Run();
 }

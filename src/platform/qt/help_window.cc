@@ -13,6 +13,7 @@
 #include <QTextBrowser>
 #include <QWindow>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "platform/qt/look.h"
@@ -79,10 +80,11 @@ class HelpWindow::Browser : public QTextBrowser {
   }
 
   QVariant loadResource(int type, const QUrl& name) override {
-    const QByteArray held = Read(help_.Find(FileOf(source().resolved(name))));
+    const QString file = FileOf(source().resolved(name));
+    const QByteArray held = Read(help_.Find(file));
     if (type == QTextDocument::ImageResource) return Scaled(QImage::fromData(held));
-    if (type == QTextDocument::HtmlResource && held.isEmpty()) return help_.Missing();
-    return QString::fromUtf8(held);
+    if (type != QTextDocument::HtmlResource) return QString::fromUtf8(held);
+    return held.isEmpty() ? help_.Missing() : help_.WithNote(file, QString::fromUtf8(held));
   }
 
  private:
@@ -168,6 +170,19 @@ QString HelpWindow::Missing() const {
   const QString text = QString::fromStdString(words_.missing);
   return "<p>" + text.arg(QString::fromStdString(page_), places.join("; ")).toHtmlEscaped() +
          "</p>";
+}
+
+/// A page as it is, or with a line above it when it is not in the language that was asked for.
+QString HelpWindow::WithNote(const QString& file, const QString& page) const {
+  const std::string wanted = LanguageCode(locale_);
+  const bool english = file.startsWith(QString(kEnglish) + '/');
+  if (!english || wanted.empty() || wanted == kEnglish) return page;
+  const QString note = QString::fromStdString(words_.english_only).toHtmlEscaped();
+  QString noted = page;
+  constexpr char kBody[] = "<body>";
+  const qsizetype body = noted.indexOf(kBody);
+  return noted.insert(body < 0 ? 0 : body + std::ssize(kBody) - 1,
+                      "<p class=\"hint\">" + note + "</p>");
 }
 
 void HelpWindow::TakeWords() {

@@ -39,6 +39,8 @@ class HelpWindow : public QWidget {
     /// In the place of %1 stands the name of the page, in that of %2 the folders.
     std::string missing =
         "The page “%1” of the help was not found. Help pages are looked for in: %2";
+    /// Above a page that is there in English only, in the language that the reader would have.
+    std::string english_only = "This page of the help is in English.";
   };
 
   /// `folders`  where the pages are looked for, the first of them first; need not exist
@@ -52,7 +54,7 @@ class HelpWindow : public QWidget {
   std::function<QWidget*()> owner;
 
   /// Shows a page and brings the window to the front, also of a modal dialog. Without the page in
-  /// that language the English one is shown, and without that a sentence that tells where it was
+  /// that language the English one is shown, which says so, and without that a sentence that tells where it was
   /// looked for.
   ///
   /// `page`    name without folder and ending, such as "arbeitsblatt1"
@@ -76,6 +78,7 @@ class HelpWindow : public QWidget {
   std::filesystem::path Find(const QString& file) const;
   std::string LanguageOf(const std::string& page) const;
   QString Missing() const;
+  QString WithNote(const QString& file, const QString& page) const;
   void Open(const std::string& page);
   void TakeType();
   void TakeWords();

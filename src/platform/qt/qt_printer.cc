@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinterInfo>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <chrono>
 #include <future>
@@ -100,12 +101,16 @@ QPageSize FilePageSize() {
   return QPageSize(letter ? QPageSize::Letter : QPageSize::A4);
 }
 
-/// "Jazz-Akkorde 2026-11-21 14-03-22", in letters and signs that every file system takes.
-QString NameAt(const DateTime& t) {
-  return QString::fromStdString("Jazz-Akkorde " + PaddedText(t.year, 4) + "-" +
-                                PaddedText(t.month, 2) + "-" + PaddedText(t.day, 2) + " " +
-                                PaddedText(t.hour, 2) + "-" + PaddedText(t.minute, 2) + "-" +
-                                PaddedText(t.second, 2));
+/// "Jazz-Akkorde bestimmen Ergebnis 2026-11-21 14-03-22": what the screen is called, without the
+/// signs that some file system does not take, and the time in figures that sort.
+QString NameOf(const Form& form, const DateTime& t) {
+  static const QRegularExpression unwanted(R"([\\/:*?"<>|\x{0}-\x{1F}])");
+  constexpr int kLongest = 60;
+  const QString title = QString::fromStdString(form.caption).replace(unwanted, " ").simplified();
+  return title.left(kLongest) +
+         QString::fromStdString(" " + PaddedText(t.year, 4) + "-" + PaddedText(t.month, 2) + "-" +
+                                PaddedText(t.day, 2) + " " + PaddedText(t.hour, 2) + "-" +
+                                PaddedText(t.minute, 2) + "-" + PaddedText(t.second, 2));
 }
 
 /// Opens a file that did not exist before, not even for another process that asks at this moment.
@@ -179,7 +184,7 @@ PrintResult QtPrinter::PrintIntoFile(Form& form) {
     writer.setCreator("Melvado");
     Draw(writer, form);
   }
-  const QString name = NameAt(targets_.now());
+  const QString name = NameOf(form, targets_.now());
   std::optional<Notice> trouble;
   for (const QString& folder : targets_.folders) {
     const Written written = WriteNew(QDir(folder), name, pdf.data());

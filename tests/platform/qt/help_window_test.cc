@@ -185,10 +185,12 @@ TEST(HelpWindow, FallsBackToEnglish) {
   HelpWindow help({folder.path()});
   help.Show("a", "de_AT");
   EXPECT_EQ(TextOf(help), "deutsch");
-  for (const char* locale : {"ja_JP", "", "../de", "en-GB"}) {
+  for (const char* locale : {"", "../de", "en-GB"}) {
     help.Show("a", locale);
     EXPECT_EQ(TextOf(help), "English") << locale;
   }
+  help.Show("a", "ja_JP");
+  EXPECT_THAT(TextOf(help), testing::EndsWith("\nEnglish"));
 }
 
 TEST(HelpWindow, PrefersTheFirstFolderFileByFile) {
@@ -216,7 +218,7 @@ TEST(HelpWindow, TellsWhereItLooksForAPageThatIsMissing) {
   EXPECT_THAT(TextOf(help), HasSubstr("/nowhere/at/all"));
   folder.Write("en/arbeitsblatt1.html", "<p>da</p>");
   help.Show("arbeitsblatt1", "de");
-  EXPECT_EQ(TextOf(help), "da");
+  EXPECT_THAT(TextOf(help), testing::EndsWith("\nda"));
 }
 
 TEST(HelpWindow, StaysReadableWithAMissingPictureAndBrokenMarkup) {
@@ -231,6 +233,31 @@ TEST(HelpWindow, StaysReadableWithAMissingPictureAndBrokenMarkup) {
   folder.Write("en/a.html", "");
   help.Show("a", "en");
   EXPECT_THAT(TextOf(help), HasSubstr(folder.path().string()));
+}
+
+TEST(HelpWindow, SaysInTheReadersLanguageThatAPageIsInEnglish) {
+  Folder folder;
+  folder.Write("en/a.html", "<html><body class=\"x\"><p>first</p></body></html>");
+  folder.Write("en/b.html", "<html><body><h1>second</h1></body></html>");
+  folder.Write("de/b.html", "<p>zweite</p>");
+  HelpWindow help({folder.path()});
+  help.words = [] {
+    HelpWindow::Words words;
+    words.english_only = "Cette page est en anglais & c'est tout.";
+    return words;
+  };
+  help.Show("b", "fr_FR");
+  EXPECT_EQ(TextOf(help), "Cette page est en anglais & c'est tout.\nsecond");
+  help.Show("a", "fr");
+  EXPECT_THAT(TextOf(help), testing::StartsWith("Cette page est en anglais"));
+  emit BrowserOf(help).anchorClicked(QUrl("b.html"));
+  EXPECT_THAT(TextOf(help), testing::StartsWith("Cette page est en anglais"));
+  help.Show("b", "de_DE");
+  EXPECT_EQ(TextOf(help), "zweite");
+  for (const char* english : {"en_GB", "en", ""}) {
+    help.Show("b", english);
+    EXPECT_EQ(TextOf(help), "second") << english;
+  }
 }
 
 TEST(HelpWindow, FollowsNoLinkThatLeadsOut) {

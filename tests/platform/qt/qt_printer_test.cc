@@ -7,10 +7,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "finished_test.h"
+#include "platform/qt/page.h"
 #include "platform/qt/qt_event_loop.h"
 
 namespace vmod17 {
@@ -45,6 +48,7 @@ class Printing : public testing::Test {
   Printing() {
     p_.ToSettings();
     ToResults(p_);
+    screen().caption = "Jazz-Akkorde: Ergebnis";
     printer_.SetOrientation(Printer::Orientation::kLandscape);
   }
 
@@ -60,7 +64,8 @@ class Printing : public testing::Test {
     return targets;
   }
   QString Pdf(const QString& number = "") const {
-    return folder_.filePath("Dokumente/Jazz-Akkorde 2026-11-21 14-03-22" + number + ".pdf");
+    return folder_.filePath("Dokumente/Jazz-Akkorde Ergebnis 2026-11-21 14-03-22" + number +
+                            ".pdf");
   }
 
   ProgramFixture p_;
@@ -77,6 +82,15 @@ TEST_F(Printing, SavesThePageWhereThereIsNoPrinterAndTellsWhere) {
   ASSERT_EQ(result.notice->details.size(), 1U);
   EXPECT_EQ(QString::fromStdString(result.notice->details[0]), QDir::toNativeSeparators(Pdf()));
   EXPECT_TRUE(ContentOf(Pdf()).startsWith("%PDF-"));
+}
+
+TEST_F(Printing, NamesAFileByTheTitleInTheLanguageOfTheProgram) {
+  screen().caption = "ジャズコードの聴き取り/結果?";
+  const PrintResult result = printer_.PrintForm(screen());
+  ASSERT_TRUE(result.notice);
+  EXPECT_TRUE(QString::fromStdString(result.notice->details[0])
+                  .endsWith("/ジャズコードの聴き取り 結果 2026-11-21 14-03-22.pdf"))
+      << result.notice->details[0];
 }
 
 TEST_F(Printing, MakesOneLandscapePage) {
@@ -117,6 +131,72 @@ TEST_F(Printing, LeavesOutTheButtonsAndThePicturesOnTheFaceBehind) {
   const QByteArray settings = ContentOf(Pdf(" (2)"));
   EXPECT_EQ(settings.count("/Subtype /Image"), 0);
   EXPECT_GT(Unpacked(settings).count(" Tj"), 20);
+}
+
+/// A face as it is on its way to paper, drawn into a picture.
+class Paper {
+ public:
+  Paper(Form& form, QtEventLoop& loop) : page_(form, loop, pictures_, nullptr) {
+    image_.fill(Qt::white);
+    QPainter painter(&image_);
+    page_.PrintOn(painter, image_.size());
+  }
+  /// How many pixels of a control's place are darker than the middle grey.
+  int Ink(const QString& name) const {
+    const auto* const widget = page_.findChild<QWidget*>(name);
+    if (widget == nullptr) return -1;
+    const QRect place(widget->mapTo(&page_, QPoint(0, 0)), widget->size());
+    int ink = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+      for (int x = place.left(); x <= place.right(); ++x) {
+        if (image_.valid(x, y) && qGray(image_.pixel(x, y)) < 128) ++ink;
+      }
+    }
+    return ink;
+  }
+  QColor Corner(const QString& name) const {
+    const auto* const widget = page_.findChild<QWidget*>(name);
+    return image_.pixelColor(widget->mapTo(&page_, QPoint(4, 4)));
+  }
+
+ private:
+  PictureSource pictures_;
+  Page page_;
+  QImage image_{1600, 1131, QImage::Format_RGB32};
+};
+
+TEST_F(Printing, PutsInkWhereSomethingIsToBeReadAndNoneWhereTheButtonsAre) {
+  p_.printer.inspect = [this](const Form&) {
+    const Paper paper(screen(), loop_);
+    for (int e = 1; e <= p_.program.board().akk_zahl; ++e) {
+      for (const char* kind : {"ergebnis", "akk_group", "jz_kl", "Akkbez"}) {
+        EXPECT_GT(paper.Ink(QString("%1(%2)").arg(kind).arg(e)), 20) << kind << e;
+      }
+      EXPECT_EQ(paper.Corner(QString("ergebnis(%1)").arg(e)), QColor(Qt::white)) << e;
+    }
+    EXPECT_GT(paper.Ink("datum"), 20);
+    EXPECT_GT(paper.Ink("ergebnis(0)"), 20);
+    for (const char* button : {"cmdPrint(0)", "cmdOK(0)", "cmdHilfe"}) {
+      EXPECT_EQ(paper.Ink(button), 0) << button;
+    }
+  };
+  EXPECT_TRUE(screen().cmdPrint[0].Press());
+  EXPECT_EQ(p_.printer.pages.size(), 1U);
+}
+
+TEST_F(Printing, PutsTheSettingsOnPaperWithoutTheirButtons) {
+  EXPECT_TRUE(screen().cmdOK[0].Press());
+  p_.printer.inspect = [this](const Form&) {
+    const Paper paper(screen(), loop_);
+    for (const char* line : {"einst_lab(0)", "einst_Inh(0)", "einst_Inh(13)", "g_einst_inh(0)"}) {
+      EXPECT_GT(paper.Ink(line), 20) << line;
+    }
+    for (const char* button : {"cmdPrint(1)", "cmdOK(1)", "cmdHilfe"}) {
+      EXPECT_EQ(paper.Ink(button), 0) << button;
+    }
+  };
+  EXPECT_TRUE(screen().cmdPrint[1].Press());
+  EXPECT_EQ(p_.printer.pages.size(), 1U);
 }
 
 TEST_F(Printing, NeverOverwritesAnEarlierPage) {
