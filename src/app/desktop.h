@@ -40,6 +40,9 @@ class Desktop {
   int Run();
   /// Ends the program from any state, as its user would: a run is left and its record saved.
   void Leave();
+  /// The last resort for an error that left its handler, to which the loop hands it: logs it, tells
+  /// it and ends the program with status 1.
+  void RunTimeReport(const std::exception_ptr& error);
 
  private:
   void Tell(const Notice& notice);
@@ -51,8 +54,6 @@ class Desktop {
   void TakeOutputFromEnvironment();
   void TakeSoundfont();
   void AfterEvent();
-  /// The last resort for an error that left its handler: tell, log, end.
-  void RunTimeReport(const std::exception_ptr& error);
   void SpeakAsTheLanguage();
   void TellOfLanguages();
   void ShowHelp(const std::string& page);

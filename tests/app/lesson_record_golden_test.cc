@@ -10,6 +10,7 @@
 #include <iterator>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "worksheet/mode_fixture.h"
 
@@ -111,7 +112,19 @@ class GoldenRun : public ModeFixture {
                                                                     {"550s", "Test"},
                                                                     {"438s", "Prüfung"},
                                                                     {"142s", "automatisch"},
-                                                                    {"426s", "Nr."}}) {
+                                                                    {"426s", "Nr."},
+                                                                    {"301s", "Gruppe"},
+                                                                    {"45s", "2-hand-voicings"},
+                                                                    {"62s", "Sechsklänge"},
+                                                                    {"380s", "Major-Sept, alt."},
+                                                                    {"409s", "Moll-Sept"},
+                                                                    {"200s", "Dominant-Sept"},
+                                                                    {"201s", "Dominant-Sept, alt."},
+                                                                    {"312s", "Halbvermindert"},
+                                                                    {"609s", "vermindert"},
+                                                                    {"589s", "unterschiedlich"},
+                                                                    {"499s", "Stimme"},
+                                                                    {"675s", "c'''"}}) {
       languages.languages[0].second.words[id] = word;
     }
     host.language = "Deutsch";
@@ -136,6 +149,13 @@ class GoldenRun : public ModeFixture {
     Click(9, 310);
     Click(10, 12000);
     for (const int tile : {1, 2, 3, 5}) Click(tile, 40);
+  }
+  /// Clicks tiles or group buttons, each after its time in ms.
+  void Answer(const std::vector<std::pair<int, double>>& clicks) {
+    for (const auto& [i, ms] : clicks) {
+      loop.Advance(ms);
+      EXPECT_TRUE(Choice(i).Press()) << i;
+    }
   }
   void Leave() {
     loop.date = {2026, 11, 21, 14, 9, 5};
@@ -170,6 +190,49 @@ TEST(LessonRecord, TellsAContinuedTrainingAndWhatItStores) {
   p.Leave();
   ExpectGolden("continued_training.outline", p.documents.Latest().saved);
   ExpectGolden("continued_training_a1.txt", Lines(p.host.Stored("A1")));
+}
+
+TEST(LessonRecord, TellsARunInWhichGroupsAreNamed) {
+  GoldenRun p;
+  p.ToSettings();
+  p.settings_screen().akkzahl_cmb.Choose(1);
+  p.settings_screen().akk_grp.Choose(1);
+  p.BeginHere(kFrei, {}, {6}, {2, 3, 4, 5});
+  p.PlayTaskOf({1, 13});  // of the groups 2 and 4
+  p.Answer({{5, 1500}, {2, 500}, {3, 700}, {5, 300}, {2, 400}});
+  p.Leave();
+  ExpectGolden("groups.outline", p.documents.Latest().saved);
+}
+
+TEST(LessonRecord, TellsARunOfVoicings) {
+  GoldenRun p;
+  p.ToSettings();
+  Einstellung1& screen = p.settings_screen();
+  screen.akkzahl_cmb.Choose(1);
+  screen.aus_w.Choose(1);
+  for (const int last : {7, 6}) EXPECT_TRUE(screen.grplst[0].Choose(last));
+  p.StartRun();
+  p.PlayTaskOf({2, 7});
+  p.Answer({{2, 1300}, {6, 600}, {7, 2000}});
+  p.PlayTaskOf({10, 4});
+  p.Answer({{10, 200}, {4, 200}});
+  p.Leave();
+  ExpectGolden("voicings.outline", p.documents.Latest().saved);
+}
+
+TEST(LessonRecord, TellsTheTimbresOfTheVoicesThatCanSound) {
+  GoldenRun p;
+  p.ToSettings();
+  p.settings_screen().akkzahl_cmb.Choose(1);
+  p.settings_screen().kl_farb.Choose(1);
+  p.StartRun();
+  p.PlayTaskOf({2, 7});
+  p.Answer({{2, 1300}});
+  p.loop.Advance(500);
+  EXPECT_TRUE(p.Repeat());
+  p.Answer({{7, 2770}});
+  p.Leave();
+  ExpectGolden("timbres.outline", p.documents.Latest().saved);
 }
 
 TEST(LessonRecord, TellsATest) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -60,6 +61,46 @@ TEST(WorksheetScreen, OpensMaximisedAndStaysSo) {
   p.worksheet().window_state = Form::WindowState::kNormal;
   p.worksheet().Form_Resize();
   EXPECT_EQ(p.worksheet().window_state, Form::WindowState::kMaximised);
+}
+
+TEST(WorksheetScreen, WorksWithoutAnyTexts) {
+  WorksheetFixture p;
+  p.languages.no_list = true;
+  p.Begin();
+  const Arbeitsblatt1& w = p.worksheet();
+  EXPECT_EQ(w.caption, "VOID");
+  for (const Control* control : std::initializer_list<const Control*>{
+           &w.LbAkkGrp, &w.true_false[0], &w.true_false[1], &w.wieder, &w.wieder2, &w.zurueck,
+           &w.ergebnis_anz[0], &w.ergebnis_anz[1], &w.ergebnis_anz[2], &w.cmd_test_aus,
+           &w.cmd_test_ein, &w.WaitMeld}) {
+    EXPECT_EQ(control->caption, "VOID") << control->Id();
+  }
+  EXPECT_EQ(w.nrakk[0].caption, "VOIDVOID");
+  EXPECT_EQ(w.nrakk[1].caption, "VOID 1");
+  EXPECT_EQ(w.CmdNextAufg.caption, "VOID 1");
+  p.PlayTask();
+  EXPECT_NE(p.Wrong(), 0);
+  EXPECT_EQ(w.ergebnis[1].caption, "VOID");
+  EXPECT_TRUE(p.Repeat());
+  const int right = p.Right();
+  EXPECT_EQ(w.akk_lfdnr[1].caption, "VOID " + std::to_string(right));
+  EXPECT_EQ(p.run().lauf_status, LaufStatus::kAufgabeFertig);
+  EXPECT_EQ(w.CmdNextAufg.caption, "VOID");
+  EXPECT_TRUE(p.worksheet().zurueck.Press());
+  EXPECT_TRUE(p.settings_screen().visible);
+  EXPECT_EQ(p.documents.Latest().saves, 1);
+  EXPECT_TRUE(p.messages.warnings.empty());
+}
+
+TEST(WorksheetScreen, WorksWithoutAnyTextsWhereGroupsAreNamed) {
+  WorksheetFixture p;
+  p.languages.no_list = true;
+  p.Begin(Groups, {7}, {2, 5});
+  EXPECT_EQ(p.worksheet().akk_group[2].caption, "VOID");
+  p.PlayTask();
+  EXPECT_NE(p.Right(), 0);
+  EXPECT_EQ(p.worksheet().ergebnis[1].caption, "VOID");
+  EXPECT_EQ(p.run().lauf_status, LaufStatus::kAufgabeFertig);
 }
 
 TEST(WorksheetScreen, TakesItsCaptionsFromTheLanguage) {
