@@ -23,7 +23,8 @@ UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& use
       name_(MakeField("name", user.name)),
       first_name_(MakeField("first_name", user.first_name)),
       number_(MakeField("number", user.id)),
-      fault_(new QLabel) {
+      note_(MakeLine("note")),
+      fault_(MakeLine("fault")) {
   const bool known = !user.id.empty();
   const double factor = parent->font().pixelSize() / 14.0;
   Dress(*this, factor);
@@ -31,10 +32,13 @@ UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& use
   // What is stored stands under the number.
   number_->setReadOnly(known);
   if (known) number_->setFocusPolicy(Qt::NoFocus);
-  fault_->setObjectName("fault");
-  fault_->setTextFormat(Qt::PlainText);
-  fault_->setWordWrap(true);
   fault_->hide();
+  if (!known) {
+    note_->setText(
+        words.Say(9431, "Please enter the matriculation number: the trainings are kept under it."));
+    number_->setAccessibleDescription(note_->text());
+  }
+  note_->setVisible(!known);
 
   auto* const form = new QFormLayout;
   form->setVerticalSpacing(qRound(10 * factor));
@@ -58,9 +62,12 @@ UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& use
                           qRound(20 * factor));
   all->setSpacing(qRound(14 * factor));
   all->addLayout(form);
+  all->addWidget(note_);
   all->addWidget(fault_);
   all->addLayout(buttons);
   setMinimumWidth(qRound(460 * factor));
+  resize(minimumSize());
+  Grow();
 }
 
 QLineEdit* UserDialog::MakeField(const char* name, const std::string& text) {
@@ -69,13 +76,26 @@ QLineEdit* UserDialog::MakeField(const char* name, const std::string& text) {
   return field;
 }
 
+QLabel* UserDialog::MakeLine(const char* name) {
+  auto* const line = new QLabel(this);
+  line->setObjectName(name);
+  line->setTextFormat(Qt::PlainText);
+  line->setWordWrap(true);
+  return line;
+}
+
 void UserDialog::Try() {
   const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
   const auto fault = take_({text(number_), text(name_), text(first_name_)});
   if (!fault) return accept();
+  note_->hide();
   fault_->setText(words_.Say(*fault));
   fault_->show();
-  // A window grows by itself for what is wide, but not for what is high.
+  Grow();
+}
+
+/// A window grows by itself for what is wide, but not for what is high.
+void UserDialog::Grow() {
   resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }
 

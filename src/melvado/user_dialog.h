@@ -18,7 +18,7 @@ namespace vmod17 {
 
 /// Asks for the three facts of a user, until they are taken or the dialog is left.
 ///
-/// Its widgets have names: name, first_name, number, fault, ok, cancel.
+/// Its widgets have names: name, first_name, number, note, fault, ok, cancel.
 class UserDialog : public QDialog {
  public:
   using Take = std::function<std::optional<Notice>(const StoreUser&)>;
@@ -29,14 +29,17 @@ class UserDialog : public QDialog {
 
  private:
   QLineEdit* MakeField(const char* name, const std::string& text);
+  QLabel* MakeLine(const char* name);
   void Try();
+  void Grow();
 
   const Words& words_;
   const Take take_;
   QLineEdit* name_;
   QLineEdit* first_name_;
   QLineEdit* number_;
-  QLabel* fault_;
+  QLabel* note_;   // what is needed, said before it is asked for
+  QLabel* fault_;  // in its place: what is wrong with what was typed
 };
 
 }  // namespace vmod17

@@ -311,8 +311,12 @@ TEST_F(HomeWindowTest, AsksAgainUntilANumberCanBeTaken) {
   AddUser("4711", "Berg", "Anna");
   Then([](UserDialog& dialog) {
     auto* const fault = dialog.findChild<QLabel*>("fault");
+    auto* const note = dialog.findChild<QLabel*>("note");
     EXPECT_FALSE(fault->isVisible());
+    EXPECT_TRUE(note->isVisible());
+    EXPECT_THAT(note->text().toStdString(), HasSubstr("Matrikelnummer ein"));
     Click(dialog, "ok");
+    EXPECT_FALSE(note->isVisible());
     EXPECT_THAT(fault->text().toStdString(), HasSubstr("Matrikelnummer ein"));
     Type(dialog, "number", "4711");
     Click(dialog, "ok");

@@ -72,8 +72,7 @@ class TestFile : public SettingsTest {
 TEST_F(TestFile, IsNotWrittenWhenNoFrameIsMarked) {
   dialog.to_save = "test.xml";
   EXPECT_TRUE(screen().cmdOptionSave.Press());
-  EXPECT_THAT(messages.warnings,
-              ElementsAre(ScriptedMessageBox::Shown{"[9011s]", "[9602s]"}));
+  EXPECT_THAT(messages.warnings, ElementsAre(ScriptedMessageBox::Shown{"[9011s]", "[9602s]"}));
   EXPECT_THAT(dialog.proposals, IsEmpty());
   EXPECT_THAT(test_files.files, IsEmpty());
 }

@@ -54,8 +54,8 @@ class HelpWindow : public QWidget {
   std::function<QWidget*()> owner;
 
   /// Shows a page and brings the window to the front, also of a modal dialog. Without the page in
-  /// that language the English one is shown, which says so, and without that a sentence that tells where it was
-  /// looked for.
+  /// that language the English one is shown, which says so, and without that a sentence that tells
+  /// where it was looked for.
   ///
   /// `page`    name without folder and ending, such as "arbeitsblatt1"
   /// `locale`  such as "de_DE" or "de"; "" stands for English

@@ -119,6 +119,7 @@ TEST(GermanCaptions, AreShownWithoutTheirBlanksAndAsHeadingsWithACapital) {
   EXPECT_EQ(CaptionShown(p.worksheet(), "true_false(1)"), "Falsch");
   p.worksheet().zurueck.Press();
   ToResults(p);
+  EXPECT_TRUE(p.results().cmdOK[0].Press());
   EXPECT_EQ(CaptionShown(p.results(), "einst_lab(5)"), "Bestimmen");
   EXPECT_EQ(CaptionShown(p.results(), "einst_lab(4)"), "Akkord-Anzahl");
 }
