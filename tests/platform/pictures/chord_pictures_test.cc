@@ -200,11 +200,12 @@ TEST(EveryPicture, IsDrawnInGreysOnly) {
 /// How far the edge of a circle is from being one: the difference between its largest and smallest
 /// radius, in pixels of the smallest size. The circle is all that is dark right of the root.
 double Unevenness(int klang, int scale) {
+  constexpr int kRootEnd = 12;
   const QImage image = Symbol(klang, scale);
   const auto dark = [&](double x, double y) { return qGray(image.pixel(int(x), int(y))) < 128; };
   QRect box;
   for (int y = 0; y < image.height(); ++y) {
-    for (int x = 11 * scale; x < image.width(); ++x) {
+    for (int x = kRootEnd * scale; x < image.width(); ++x) {
       if (dark(x, y)) box |= QRect(x, y, 1, 1);
     }
   }
