@@ -981,6 +981,22 @@
         <source></source>
         <translation>Es ist ein Fehler aufgetreten, mit dem das Programm nicht gerechnet hat (%1). Er steht im Protokoll; Sie können weitermachen. Bitte schicken Sie den Fehlerbericht aus dem Protokoll ein.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Klangtyp wählen</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Klangtyp gewählt</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Gruppe wählen</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Gruppe gewählt</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Einlesen Test</translation>

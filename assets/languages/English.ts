@@ -981,6 +981,22 @@
         <source></source>
         <translation>An error has occurred that the program did not expect (%1). It is in the log; you can go on. Please send the fault report from the log.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Choose a chord size</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Chosen chord sizes</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Choose a chord group</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Chosen chord groups</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Read a test</translation>

@@ -981,6 +981,22 @@
         <source></source>
         <translation>Se ha producido un error que el programa no esperaba (%1). Está en el registro; puede continuar. Envíe el informe de error del registro.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Elegir tipo de acorde</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Tipos de acorde elegidos</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Elegir grupo de acordes</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Grupos de acordes elegidos</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Leer test</translation>

@@ -981,6 +981,22 @@
         <source></source>
         <translation>Une erreur que le programme n’attendait pas est survenue (%1). Elle figure dans le journal ; vous pouvez continuer. Veuillez envoyer le rapport d’erreur depuis le journal.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Choisir un type d’accord</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Types d’accords choisis</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Choisir un groupe d’accords</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Groupes d’accords choisis</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Lire un test</translation>

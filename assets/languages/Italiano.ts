@@ -981,6 +981,22 @@
         <source></source>
         <translation>Si è verificato un errore che il programma non prevedeva (%1). È nel registro; puoi continuare. Invia il rapporto di errore preso dal registro.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Scegliere il tipo di accordo</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Tipi di accordo scelti</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Scegliere il gruppo di accordi</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Gruppi di accordi scelti</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Leggi test</translation>

@@ -981,6 +981,22 @@
         <source></source>
         <translation>Er is een fout opgetreden waarop het programma niet rekende (%1). Ze staat in het logboek; u kunt doorgaan. Stuur het foutrapport uit het logboek op.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Akkoordsoort kiezen</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Gekozen akkoordsoorten</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Akkoordgroep kiezen</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Gekozen akkoordgroepen</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Test inlezen</translation>

@@ -981,6 +981,22 @@
         <source></source>
         <translation>Wystąpił błąd, którego program nie przewidział (%1). Jest w dzienniku; możesz kontynuować. Wyślij raport o błędzie z dziennika.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Wybierz rodzaj akordu</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Wybrane rodzaje akordów</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Wybierz grupę akordów</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Wybrane grupy akordów</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Wczytaj test</translation>

@@ -981,6 +981,22 @@
         <source></source>
         <translation>Ocorreu um erro que o programa não esperava (%1). Está no histórico; você pode continuar. Envie o relatório de erro do histórico.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Escolher o tipo de acorde</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Tipos de acorde escolhidos</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Escolher o grupo de acordes</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Grupos de acordes escolhidos</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Ler teste</translation>

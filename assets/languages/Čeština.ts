@@ -981,6 +981,22 @@
         <source></source>
         <translation>Došlo k chybě, se kterou program nepočítal (%1). Je v protokolu; můžete pokračovat. Pošlete prosím hlášení o chybě z protokolu.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Vybrat druh akordu</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Vybrané druhy akordů</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Vybrat skupinu akordů</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Vybrané skupiny akordů</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Načíst test</translation>

@@ -981,6 +981,22 @@
         <source></source>
         <translation>Произошла ошибка, которой программа не ожидала (%1). Она записана в журнал; можно продолжать. Отправьте отчёт об ошибке из журнала.</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>Выбрать вид аккорда</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>Выбранные виды аккордов</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>Выбрать группу аккордов</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>Выбранные группы аккордов</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Открыть тест</translation>

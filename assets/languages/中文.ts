@@ -981,6 +981,22 @@
         <source></source>
         <translation>发生了程序未预料到的错误（%1）。该错误已记入日志，您可以继续。请发送日志中的错误报告。</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>选择和弦音数</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>已选的和弦音数</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>选择和弦类别</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>已选的和弦类别</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>读入测验</translation>

@@ -981,6 +981,22 @@
         <source></source>
         <translation>予期しないエラーが発生しました（%1）。ログに記録しました。そのまま続けられます。ログから障害報告をお送りください。</translation>
     </message>
+    <message id="9551s">
+        <source></source>
+        <translation>コードの音数を選ぶ</translation>
+    </message>
+    <message id="9552s">
+        <source></source>
+        <translation>選んだコードの音数</translation>
+    </message>
+    <message id="9553s">
+        <source></source>
+        <translation>コードのグループを選ぶ</translation>
+    </message>
+    <message id="9554s">
+        <source></source>
+        <translation>選んだコードのグループ</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>テストを読み込む</translation>

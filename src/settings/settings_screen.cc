@@ -276,6 +276,10 @@ void Einstellung1::SetzeTexte() {
   lb11[2].caption = text(395);
   lb2[2].caption = text(396);
   lb2[3].caption = text(2);
+  klanglst[0].description = text(9551);
+  klanglst[1].description = text(9552);
+  grplst[0].description = text(9553);
+  grplst[1].description = text(9554);
   cmdOK.caption = text(139);
   cmdZurueck.caption = text(640);
   klang_contr.caption = text(366);

@@ -122,8 +122,7 @@ class CardBuilder {
     for (int i = 0; i < 2; ++i) {
       const double left = i == 0 ? Left() : card_.right() - kMargin - width;
       Note(IdOf(labels, i), left, width);
-      layout_.places[IdOf(lists, i)] = {
-          .rect = QRectF(left, top, width, height), .text = 13, .named_by = IdOf(labels, i)};
+      layout_.places[IdOf(lists, i)] = {.rect = QRectF(left, top, width, height), .text = 13};
       layout_.places[IdOf(buttons, i)] = {
           .rect = QRectF(Left() + width + 6, top + height / 2 - 38 + i * 40, kMover, 36),
           .text = 18,

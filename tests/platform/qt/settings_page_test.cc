@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QTest>
 
@@ -197,6 +198,18 @@ TEST_F(SettingsPage, ShowsTheHintInRedAsLongAsNothingIsChosen) {
       red += image.pixelColor(x, y) == look::kLight.hint ? 1 : 0;
   }
   EXPECT_GT(red, 20);
+}
+
+TEST_F(SettingsPage, HasAListOfANameOfItsOwnForWhatMayBeChosenAndForWhatIsChosen) {
+  screen().klanglst[0].Select(0);  // the groups are shown with these
+  view_.Refresh();
+  const std::pair<const char*, const char*> names[] = {{"klanglst(0)", "[9551s]"},
+                                                       {"klanglst(1)", "[9552s]"},
+                                                       {"grplst(0)", "[9553s]"},
+                                                       {"grplst(1)", "[9554s]"}};
+  for (const auto& [list, name] : names) {
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&At(list))->text(QAccessible::Name), name);
+  }
 }
 
 TEST_F(SettingsPage, TakesTheFocusFromAFrameThatIsHidden) {
