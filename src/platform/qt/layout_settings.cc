@@ -278,7 +278,6 @@ Layout LayoutSettings(const Form&, const QSizeF& page) {
   layout.places["aktionsbox"] = {.rect = QRectF(x, y + kTitle, width, height - kTitle)};
   layout.vacancies = {"grdeinst(2)", "grdeinst(11)", "grdeinst(12)"};
 
-  layout.keys = {{QKeySequence(Qt::Key_Escape), {"cmdZurueck"}}};
   layout.tab_by_column = true;
   layout.default_control = "cmdOK";
   layout.focus_first = "cmdOK";

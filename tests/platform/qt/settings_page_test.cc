@@ -212,6 +212,17 @@ TEST_F(SettingsPage, HasAListOfANameOfItsOwnForWhatMayBeChosenAndForWhatIsChosen
   }
 }
 
+TEST_F(SettingsPage, LosesNoChoiceByEsc) {
+  Click("klanglst(0)", 1);
+  for (const char* const control : {"cmdOK", "klanglst(0)", "temp_Combo", "HSliderVolume"}) {
+    At(control).setFocus();
+    QTest::keyClick(&At(control), Qt::Key_Escape);
+    ASSERT_NE(p_.program.einstellung1(), nullptr) << control;
+  }
+  EXPECT_TRUE(screen().visible);
+  EXPECT_EQ(screen().klanglst[1].count(), 2);
+}
+
 TEST_F(SettingsPage, TakesTheFocusFromAFrameThatIsHidden) {
   screen().klanglst[0].Select(0);
   view_.Refresh();
