@@ -250,6 +250,9 @@ class OptionGroup {
   OptionGroup& operator=(const OptionGroup&) = delete;
 
   std::function<void(int index)> Click;
+  /// What the handler sets; none if it sets no such value. A screen that is opened anew may find
+  /// another value in it than the option that it shows.
+  const int* field = nullptr;
 
   Option& operator[](int index) const {
     if (index < first() || index > last()) {
@@ -268,10 +271,11 @@ class OptionGroup {
     chosen_ = index;
     if (Click) Click(index);
   }
-  /// The user checks an option; one that stands checked stays so without an event.
+  /// The user checks an option; one that stands checked stays so without an event, unless its field
+  /// says otherwise.
   bool Choose(int index) {
     if (!(*this)[index].Reachable()) return false;
-    if (index != chosen_) Check(index);
+    if (index != chosen_ || (field != nullptr && *field != index)) Check(index);
     return true;
   }
 

@@ -112,11 +112,16 @@ void Einstellung1::Verdrahte() {
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdZurueck.Click = [this] { cmdZurueck_Click(); };
   cmdHilfe.Click = [this] { cmdHilfe_Click(); };
-  abfrage.Click = [&](int index) { settings.abfolge = index; };
-  akk_anzg.Click = [&](int index) { settings.akk_anzeige = index; };
-  betonung.Click = [&](int index) { settings.grundton_betont = index; };
-  frequenz.Click = [&](int index) { settings.frequenz_art = index; };
-  Tonart.Click = [&](int index) { settings.grundton_art = index; };
+  const auto setze_feld = [](OptionGroup& group, int& field) {
+    group.field = &field;
+    group.Click = [&field](int index) { field = index; };
+  };
+  setze_feld(abfrage, settings.abfolge);
+  setze_feld(akk_anzg, settings.akk_anzeige);
+  setze_feld(betonung, settings.grundton_betont);
+  setze_feld(frequenz, settings.frequenz_art);
+  setze_feld(Tonart, settings.grundton_art);
+  kl_farb.field = &settings.klangfarb_art;
   arpeg_cmb.Click = [this] { arpeg_cmb_Click(); };
   temp_Combo.Click = [this] { temp_Combo_Click(); };
   cmb_arpTmp.Click = [this] { cmb_arpTmp_Click(); };
@@ -182,7 +187,7 @@ void Einstellung1::BaueAuf() {
   KlangNamen(ComboPatch);
   settings.tempo_idx = 1;
   settings.abfolge = settings.uebmodus = settings.grundton_art = 0;
-  settings.best_art = settings.akk_anzeige = 0;
+  settings.best_art = settings.akk_anzeige = settings.akk_form = 0;
   FuelleKlangListen();
   FuelleAuswahlListen();
   form_bereit = true;
@@ -226,8 +231,7 @@ void Einstellung1::FuelleAuswahlListen() {
   grdeinst[2].visible = false;
   for (int i = 1; i <= 4; ++i) akkzahl_cmb.Add(SignedText(i), i);
   akkzahl_cmb.Select(0);
-  // A screen that is opened anew finds the material of the time before.
-  FuelleOktaven(parts_.settings.akk_form == 1 ? 3 : 2);
+  FuelleOktaven(2);
 }
 
 /// Offers the widths of the Tonraum from `von` to 5 octaves, and selects the first.

@@ -82,6 +82,7 @@ inline std::string StepTrouble(const Einstellung1& screen, const ExerciseSetting
   }
   if (s.ton_unten != 36 + 12 * screen.Combo_tonraum.list_index()) return "Combo_tonraum";
   if (s.abfolge != screen.abfrage.chosen()) return "abfrage";
+  if (s.akk_form != screen.aus_w.chosen()) return "aus_w";
   if (s.best_art != screen.akk_grp.chosen()) return "akk_grp";
   if (s.akk_anzeige != screen.akk_anzg.chosen()) return "akk_anzg";
   if (s.grundton_art != screen.Tonart.chosen()) return "Tonart";

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
+#include "settings/settings_fixture.h"
 #include "shell/shell_fixture.h"
 #include "support/program_fixture.h"
 
@@ -980,23 +981,69 @@ TEST_F(SettingsScreen, EditsTheOneTimbreWhenItIsOpenedAgain) {
   EXPECT_THAT(settings().patch_ar, ElementsAre(0, 70, 68, 71, 73, 73, 72, 74));
 }
 
-TEST_F(SettingsScreen, KeepsFourOptionsOfBeforeUnderAFirstOptionThatStandsChecked) {
-  ToSettings();
-  settings().frequenz_art = 1;
-  settings().grundton_betont = 1;
-  settings().klangfarb_art = 1;
-  settings().akk_form = 1;
-  screen().cmdZurueck.Press();
-  first().cmdOK.Press();
-  loop.Advance(200);
+/// A screen that is opened again after a time in which the second option of four groups was chosen.
+class ReopenedScreen : public SettingsTest {
+ protected:
+  ReopenedScreen() {
+    ToSettings();
+    for (OptionGroup* group : {&screen().frequenz, &screen().betonung, &screen().kl_farb}) {
+      group->Choose(1);
+    }
+    screen().aus_w.Choose(1);
+    Reopen();
+  }
+};
+
+TEST_F(ReopenedScreen, KeepsThreeOptionsOfBeforeUnderAFirstOptionThatStandsChecked) {
   EXPECT_EQ(settings().frequenz_art, 1);
   EXPECT_EQ(settings().grundton_betont, 1);
   EXPECT_EQ(settings().klangfarb_art, 1);
-  EXPECT_EQ(settings().akk_form, 1);
   EXPECT_EQ(screen().frequenz.chosen(), 0);
   EXPECT_EQ(screen().betonung.chosen(), 0);
   EXPECT_EQ(screen().kl_farb.chosen(), 0);
+  EXPECT_THAT(messages.warnings, IsEmpty());
+}
+
+TEST_F(ReopenedScreen, BeginsWithTheMaterialThatItShows) {
+  EXPECT_EQ(settings().akk_form, 0);
   EXPECT_EQ(screen().aus_w.chosen(), 0);
+  EXPECT_EQ(screen().oktav_cmb.count(), 4);
+  EXPECT_EQ(settings().oktav_ber, 0);
+}
+
+TEST_F(ReopenedScreen, PutsAnOptionRightWhenItsShownMemberIsClicked) {
+  EXPECT_TRUE(screen().frequenz.Choose(0));
+  EXPECT_EQ(settings().frequenz_art, 0);
+  EXPECT_TRUE(screen().betonung.Choose(0));
+  EXPECT_EQ(settings().grundton_betont, 0);
+  EXPECT_TRUE(screen().kl_farb.Choose(0));
+  EXPECT_EQ(settings().klangfarb_art, 0);
+}
+
+TEST_F(ReopenedScreen, PlaysTheTriadsThatItShowsAfterARunWithVoicings) {
+  screen().aus_w.Choose(1);
+  screen().grp_alle[0].Press();
+  StartRun();
+  ASSERT_EQ(program.board()[1].klangtyp, 8);
+  worksheet().zurueck.Press();
+  loop.Advance(1000);
+  Reopen();
+  ExpectOk(true);
+  StartRun();
+  ASSERT_NE(program.arbeitsblatt1(), nullptr);
+  EXPECT_EQ(program.board().akk_zahl, 10);
+  EXPECT_EQ(program.board()[1].klangtyp, 3);
+  PlayTask();
+  EXPECT_TRUE(ClickRight());
+  EXPECT_THAT(messages.warnings, IsEmpty());
+}
+
+TEST_F(SettingsScreen, LeavesTheChosenKindsAloneWhenTheShownMaterialIsClickedAgain) {
+  ToSettings();
+  screen().klanglst[0].Choose(0);
+  ASSERT_EQ(screen().klanglst[1].count(), 2);
+  EXPECT_TRUE(screen().aus_w.Choose(0));
+  EXPECT_EQ(screen().klanglst[1].count(), 2);
 }
 
 // --- The window is closed -------------------------------------------------------------------

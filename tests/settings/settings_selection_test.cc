@@ -497,22 +497,5 @@ TEST_F(Selection, LeavesOkReadyAfterTriadsWhenAllKindsAreTakenByButtonAsSettled)
   EXPECT_THAT(messages.warnings, IsEmpty());
 }
 
-TEST_F(Selection, ReopensWithFourFieldsOfBeforeUnderTheFirstOptionsAsSettled) {
-  screen().frequenz.Choose(1);
-  screen().betonung.Choose(1);
-  screen().kl_farb.Choose(1);
-  screen().aus_w.Choose(1);
-  Reopen();
-  EXPECT_EQ(settings().frequenz_art, 1);
-  EXPECT_EQ(settings().grundton_betont, 1);
-  EXPECT_EQ(settings().klangfarb_art, 1);
-  EXPECT_EQ(settings().akk_form, 1);
-  EXPECT_EQ(screen().frequenz.chosen(), 0);
-  EXPECT_EQ(screen().betonung.chosen(), 0);
-  EXPECT_EQ(screen().kl_farb.chosen(), 0);
-  EXPECT_EQ(screen().aus_w.chosen(), 0);
-  EXPECT_THAT(messages.warnings, IsEmpty());
-}
-
 }  // namespace
 }  // namespace vmod17

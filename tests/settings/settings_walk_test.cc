@@ -109,11 +109,10 @@ class Walk : public SettingsTest {
   bool Sampling() { return output.IsRunning() || screen().klangprobe.enabled; }
 
   /// Whether a run can start from what is chosen. `alle_`: all kinds were taken by the button while
-  /// OK was ready. The other exception is a screen that was opened anew and shows the other
-  /// material.
+  /// OK was ready.
   bool CanStart() {
     alle_ = alle_ && KindsOffered().empty() && Groups().empty();
-    if (alle_ || settings().akk_form != screen().aus_w.chosen()) return true;
+    if (alle_) return true;
     const std::size_t groups = Groups().size();
     if (settings().akk_form == 1) return groups >= 2;
     const std::vector<int> kinds = Kinds();
@@ -135,8 +134,7 @@ class Walk : public SettingsTest {
     const std::pair<int, const OptionGroup*> pairs[] = {
         {settings().frequenz_art, &screen().frequenz},
         {settings().grundton_betont, &screen().betonung},
-        {settings().klangfarb_art, &screen().kl_farb},
-        {settings().akk_form, &screen().aus_w}};
+        {settings().klangfarb_art, &screen().kl_farb}};
     for (const auto& [field, group] : pairs) {
       if (field != group->chosen() && (group->chosen() != 0 || !reopened_)) return "an option";
     }

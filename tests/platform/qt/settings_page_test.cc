@@ -223,6 +223,12 @@ TEST_F(SettingsPage, LosesNoChoiceByEsc) {
   EXPECT_EQ(screen().klanglst[1].count(), 2);
 }
 
+TEST_F(SettingsPage, PutsAnOptionRightByAClickOnTheMemberThatItShows) {
+  p_.settings().frequenz_art = 1;
+  QTest::mouseClick(&At("frequenz(0)"), Qt::LeftButton);
+  EXPECT_EQ(p_.settings().frequenz_art, 0);
+}
+
 TEST_F(SettingsPage, TakesTheFocusFromAFrameThatIsHidden) {
   screen().klanglst[0].Select(0);
   view_.Refresh();
