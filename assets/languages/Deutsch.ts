@@ -997,6 +997,10 @@
         <source></source>
         <translation>Gruppe gewählt</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>Der Übungsmodus „%1“ legt diese Einstellungen fest. Sie bleiben, wie sie sind:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Einlesen Test</translation>

@@ -997,6 +997,10 @@
         <source></source>
         <translation>Chosen chord groups</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>The practice mode “%1” holds these settings. They stay as they are:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Read a test</translation>

@@ -997,6 +997,10 @@
         <source></source>
         <translation>Grupos de acordes elegidos</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>El modo de estudio «%1» fija estos ajustes. Se quedan como están:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Leer test</translation>

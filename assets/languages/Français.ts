@@ -997,6 +997,10 @@
         <source></source>
         <translation>Groupes d’accords choisis</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>Le mode de travail «&#xa0;%1&#xa0;» fixe ces réglages. Ils restent tels quels&#xa0;:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Lire un test</translation>

@@ -997,6 +997,10 @@
         <source></source>
         <translation>Gruppi di accordi scelti</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>La modalità «%1» fissa queste impostazioni. Restano come sono:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Leggi test</translation>

@@ -997,6 +997,10 @@
         <source></source>
         <translation>Gekozen akkoordgroepen</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>De oefenmodus ‘%1’ legt deze instellingen vast. Ze blijven zoals ze zijn:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Test inlezen</translation>

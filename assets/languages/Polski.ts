@@ -997,6 +997,10 @@
         <source></source>
         <translation>Wybrane grupy akordów</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>Tryb ćwiczenia „%1” ustala te ustawienia. Pozostają bez zmian:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Wczytaj test</translation>

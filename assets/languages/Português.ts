@@ -997,6 +997,10 @@
         <source></source>
         <translation>Grupos de acordes escolhidos</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>O modo de estudo “%1” fixa estas configurações. Elas ficam como estão:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Ler teste</translation>

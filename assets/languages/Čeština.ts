@@ -997,6 +997,10 @@
         <source></source>
         <translation>Vybrané skupiny akordů</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>Režim cvičení „%1“ určuje tato nastavení. Zůstávají, jak jsou:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Načíst test</translation>

@@ -997,6 +997,10 @@
         <source></source>
         <translation>Выбранные группы аккордов</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>Режим занятий «%1» определяет эти настройки. Они остаются без изменений:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Открыть тест</translation>

@@ -997,6 +997,10 @@
         <source></source>
         <translation>已选的和弦类别</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>练习模式“%1”固定了下列设置，它们保持不变：</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>读入测验</translation>

@@ -997,6 +997,10 @@
         <source></source>
         <translation>選んだコードのグループ</translation>
     </message>
+    <message id="9555s">
+        <source></source>
+        <translation>練習モード「%1」では次の設定は固定されており、変更されません:</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>テストを読み込む</translation>

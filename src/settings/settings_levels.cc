@@ -3,6 +3,7 @@
 
 // The training level: what it frees and locks, the training that is taken up again, the exams.
 
+#include <algorithm>
 #include <array>
 #include <exception>
 
@@ -73,6 +74,7 @@ void Einstellung1::training_Combo_Click() {
   ExerciseSettings& settings = parts_.settings;
   settings.uebmodus = training_Combo.list_index();
   prfnr_Comb.enabled = false;
+  GibVomTestFrei();
   if (settings.uebmodus != kModusFortsetzung) {
     GibRahmenFrei();
   }
@@ -107,9 +109,35 @@ void Einstellung1::GibRahmenFrei() {
   temp_Combo.fore_color = kTempoFarbe;
 }
 
+/// Frees the frame of timbre and tempo, which no level locks: what has locked it is a test file,
+/// and the others that it has locked take the state of the level.
+void Einstellung1::GibVomTestFrei() {
+  if (grdeinst[15].enabled) return;
+  grdeinst[15].enabled = true;
+  grdeinst[15].back_color = kKlangRahmen;
+}
+
 void Einstellung1::SperreRahmen(int rahmen) {
   grdeinst[rahmen].enabled = false;
   grdeinst[rahmen].back_color = kGesperrterRahmen;
+}
+
+/// Whether the level settles what a control sets: a training that was taken up all of its settings
+/// but the timbre, an exam what it asks for. The colour of a frame does not tell; the mark of the
+/// popup takes its place.
+bool Einstellung1::HaeltLevel(const Control& control) const {
+  const auto steht_in = [&](const auto& rahmen) {
+    return std::any_of(rahmen.begin(), rahmen.end(),
+                       [&](int i) { return control.container == &grdeinst[i]; });
+  };
+  switch (parts_.settings.uebmodus) {
+    case kModusFortsetzung:
+      return &control == &temp_Combo || steht_in(kRahmenDesTrainings);
+    case kModusPruefung:
+      return steht_in(kRahmenDerPruefung);
+    default:
+      return false;
+  }
 }
 
 void Einstellung1::StelleWiederHer() {

@@ -21,7 +21,6 @@ constexpr int kPruefungen = 5;
 constexpr int kLautstaerke = 100;
 
 constexpr Color kRahmenLevel = Bgr(0xC0FFC0);
-constexpr Color kRahmenKlang = Bgr(0xFFFFC0);
 
 void SetzeContainer(Control& frame, std::initializer_list<Control*> controls) {
   for (Control* control : controls) control->container = &frame;
@@ -54,7 +53,7 @@ void Einstellung1::StelleInRahmen() {
   for (const int i : grdeinst.indexes()) {
     grdeinst[i].container = &aktionsbox;
     grdeinst[i].back_color = i == 8               ? kRahmenLevel
-                             : i == 14 || i == 15 ? kRahmenKlang
+                             : i == 14 || i == 15 ? kKlangRahmen
                                                   : kRahmenFarbe;
   }
   for (const int i : geinst_lb.indexes()) geinst_lb[i].container = &grdeinst[i];

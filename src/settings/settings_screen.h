@@ -142,6 +142,7 @@ class Einstellung1 : public Form {
  private:
   static constexpr Color kRahmenFarbe = Bgr(0xC0FFFF);
   static constexpr Color kGesperrterRahmen = Bgr(0xC0C0FF);
+  static constexpr Color kKlangRahmen = Bgr(0xFFFFC0);
   static constexpr Color kBereitFarbe = Bgr(0x80FF80);
   static constexpr Color kTempoFarbe = Bgr(0xFF0000);
   /// The tag of a frame that is marked for a test.
@@ -176,7 +177,9 @@ class Einstellung1 : public Form {
 
   void SpieleProbe();
   int ProbenNoten() const;
+  void GibVomTestFrei();
   bool ProbeGilt() const;
+  bool HaeltLevel(const Control& control) const;
   void SendeKlangfarben();
   void ErlaubeProbe(bool erlaubt);
   void BeendeProbe();
@@ -187,7 +190,9 @@ class Einstellung1 : public Form {
   void EinlesenTest();
   void WendeAn(const TestDocument& dokument);
   Control* SucheTagged(const TestControl& eintrag);
-  bool Setze(Control& control, const TestControl& eintrag);
+  enum class Angewandt { kJa, kGehalten, kNein };
+  Angewandt Setze(Control& control, const TestControl& eintrag);
+  std::string InWorten(const Control& control);
   static void SperreVomTest(Control& control);
 
   void BaueEinstSatz();

@@ -7,6 +7,7 @@
 #include <cctype>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "platform/caption.h"
 #include "settings/settings_screen.h"
@@ -21,6 +22,13 @@ std::string Klein(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(),
                  [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   return text;
+}
+
+/// A text without the blanks around it, which some captions have to keep a distance.
+std::string Gestutzt(const std::string& text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  return first == std::string::npos ? ""
+                                    : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 /// The values that are applied where no file is chosen, by the tags of their controls in lower
@@ -124,7 +132,7 @@ void Einstellung1::cmdOptionRead_Click() {
 
 void Einstellung1::EinlesenTest() {
   for (Control* control : controls()) {
-    if (control->tag.empty()) continue;
+    if (control->tag.empty() || HaeltLevel(*control)) continue;
     const auto value = EinleseAr().find(Klein(control->tag));
     if (value == EinleseAr().end()) continue;
     if (OptionGroup* group = GruppeVon(*control)) {
@@ -138,24 +146,40 @@ void Einstellung1::EinlesenTest() {
   }
 }
 
-/// Applies what a file holds, in its order, and tells what this screen has no place for. The frames
-/// are locked at the end, since one frame may hold several controls of the file.
+/// Applies what a file holds, in its order, and tells what the level holds and what this screen has
+/// no place for. The frames are locked at the end, since one frame may hold several controls of the
+/// file.
 void Einstellung1::WendeAn(const TestDocument& dokument) {
+  std::string gehalten;
   std::string uebergangen;
   std::vector<Control*> gesetzt;
   for (const TestControl& eintrag : dokument.controls) {
     Control* control = SucheTagged(eintrag);
-    if (control != nullptr && Setze(*control, eintrag)) {
-      gesetzt.push_back(control);
-      continue;
+    switch (control == nullptr ? Angewandt::kNein : Setze(*control, eintrag)) {
+      case Angewandt::kJa:
+        gesetzt.push_back(control);
+        break;
+      case Angewandt::kGehalten:
+        gehalten += "\n" + InWorten(*control);
+        break;
+      case Angewandt::kNein:
+        uebergangen += "\n" + (eintrag.title.empty() ? eintrag.cname : eintrag.title) +
+                       (eintrag.words.empty() ? "" : ": " + eintrag.words);
     }
-    uebergangen += "\n" + (eintrag.title.empty() ? eintrag.cname : eintrag.title) +
-                   (eintrag.words.empty() ? "" : ": " + eintrag.words);
   }
   for (Control* control : gesetzt) SperreVomTest(*control);
-  if (!uebergangen.empty()) {
-    shell_.messages.Warn(shell_.texts.Sprachtext(9016) + uebergangen, cmdOptionRead.caption);
+  const TextLookup& texts = shell_.texts;
+  std::string text;
+  if (!gehalten.empty()) {
+    text = texts.Words({9555,
+                        "The practice mode “%1” holds these settings. They stay as they are:",
+                        {training_Combo.text()}}) +
+           gehalten;
   }
+  if (!uebergangen.empty()) {
+    text += (text.empty() ? "" : "\n\n") + texts.Sprachtext(9016) + uebergangen;
+  }
+  if (!text.empty()) shell_.messages.Warn(text, cmdOptionRead.caption);
 }
 
 Control* Einstellung1::SucheTagged(const TestControl& eintrag) {
@@ -165,28 +189,41 @@ Control* Einstellung1::SucheTagged(const TestControl& eintrag) {
   return found == controls().end() ? nullptr : *found;
 }
 
-/// Sets a control as a test says. Returns false if it has no such option or entry, or if a level
-/// holds it.
-bool Einstellung1::Setze(Control& control, const TestControl& eintrag) {
-  if (control.container->back_color == kGesperrterRahmen) return false;
+/// Sets a control as a test says. `kNein` if it has no such option or entry.
+Einstellung1::Angewandt Einstellung1::Setze(Control& control, const TestControl& eintrag) {
+  if (HaeltLevel(control)) return Angewandt::kGehalten;
   // The list of voices says nothing where there is one timbre for all.
-  if (&control == &Channel_Combo && parts_.settings.klangfarb_art == 0) return true;
+  if (&control == &Channel_Combo && parts_.settings.klangfarb_art == 0) return Angewandt::kJa;
   if (OptionGroup* group = GruppeVon(control)) {
-    if (eintrag.index < group->first() || eintrag.index > group->last()) return false;
-    if (!(*group)[eintrag.index].enabled) return false;
+    if (eintrag.index < group->first() || eintrag.index > group->last()) return Angewandt::kNein;
+    if (!(*group)[eintrag.index].enabled) return Angewandt::kNein;
     group->Check(eintrag.index);
-    return true;
+    return Angewandt::kJa;
   }
   auto* list = dynamic_cast<ItemList*>(&control);
-  if (list == nullptr) return false;
+  if (list == nullptr) return Angewandt::kNein;
   int index = eintrag.index;
   if (eintrag.value) {
     index = 0;
     while (index < list->count() && list->entry(index).item_data != *eintrag.value) ++index;
   }
-  if (index < 0 || index >= list->count()) return false;
+  if (index < 0 || index >= list->count()) return Angewandt::kNein;
   list->Select(index);
-  return true;
+  return Angewandt::kJa;
+}
+
+/// What a control sets and how it stands: "Tempo: 60 (Larghetto)".
+std::string Einstellung1::InWorten(const Control& control) {
+  const std::pair<const Control*, const Label*> eigene[] = {
+      {&Combo_tonraum, &lb1}, {&cmb_arpTmp, &lb10}, {&temp_Combo, &lb15[0]}};
+  std::string name = RahmenTitel(*control.container);
+  for (const auto& [list, label] : eigene) {
+    if (list == &control) name = label->caption;
+  }
+  const OptionGroup* group = GruppeVon(control);
+  const auto* list = dynamic_cast<const ItemList*>(&control);
+  return Gestutzt(name) + ": " +
+         Gestutzt(group != nullptr ? (*group)[group->chosen()].caption : list->text());
 }
 
 void Einstellung1::SperreVomTest(Control& control) {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "settings/settings_fixture.h"
+#include "settings/stored_training.h"
 
 namespace vmod17 {
 namespace {
@@ -23,6 +24,28 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
+
+/// The settings that a test can hold, apart from the selection.
+void ExpectSame(const ExerciseSettings& a, const ExerciseSettings& b) {
+  EXPECT_EQ(a.tempo_idx, b.tempo_idx);
+  EXPECT_EQ(a.arp_richtung, b.arp_richtung);
+  EXPECT_EQ(a.arp_tempo_idx, b.arp_tempo_idx);
+  EXPECT_EQ(a.arp_dauer, b.arp_dauer);
+  EXPECT_EQ(a.akk_anzahl, b.akk_anzahl);
+  EXPECT_EQ(a.oktav_ber, b.oktav_ber);
+  EXPECT_EQ(a.ton_unten, b.ton_unten);
+  EXPECT_EQ(a.ton_oben, b.ton_oben);
+  EXPECT_EQ(a.abfolge, b.abfolge);
+  EXPECT_EQ(a.frequenz_art, b.frequenz_art);
+  EXPECT_EQ(a.best_art, b.best_art);
+  EXPECT_EQ(a.akk_anzeige, b.akk_anzeige);
+  EXPECT_EQ(a.akk_form, b.akk_form);
+  EXPECT_EQ(a.grundton_art, b.grundton_art);
+  EXPECT_EQ(a.grundton_betont, b.grundton_betont);
+  EXPECT_EQ(a.klangfarb_art, b.klangfarb_art);
+  EXPECT_EQ(a.klang_kanal, b.klang_kanal);
+  EXPECT_EQ(a.patch_ar, b.patch_ar);
+}
 
 class TestFile : public SettingsTest {
  protected:
@@ -275,29 +298,206 @@ TEST_F(TestFile, TellsNoPlaceWhenThereIsNone) {
   EXPECT_THAT(messages.warnings[0].text, AllOf(HasSubstr("[9013s]"), Not(HasSubstr("[9014s]"))));
 }
 
-// --- There and back -------------------------------------------------------------------------
+// --- At a level that holds settings ------------------------------------------------------------
 
-/// The settings that a test can hold, apart from the selection.
-void ExpectSame(const ExerciseSettings& a, const ExerciseSettings& b) {
-  EXPECT_EQ(a.tempo_idx, b.tempo_idx);
-  EXPECT_EQ(a.arp_richtung, b.arp_richtung);
-  EXPECT_EQ(a.arp_tempo_idx, b.arp_tempo_idx);
-  EXPECT_EQ(a.arp_dauer, b.arp_dauer);
-  EXPECT_EQ(a.akk_anzahl, b.akk_anzahl);
-  EXPECT_EQ(a.oktav_ber, b.oktav_ber);
-  EXPECT_EQ(a.ton_unten, b.ton_unten);
-  EXPECT_EQ(a.ton_oben, b.ton_oben);
-  EXPECT_EQ(a.abfolge, b.abfolge);
-  EXPECT_EQ(a.frequenz_art, b.frequenz_art);
-  EXPECT_EQ(a.best_art, b.best_art);
-  EXPECT_EQ(a.akk_anzeige, b.akk_anzeige);
-  EXPECT_EQ(a.akk_form, b.akk_form);
-  EXPECT_EQ(a.grundton_art, b.grundton_art);
-  EXPECT_EQ(a.grundton_betont, b.grundton_betont);
-  EXPECT_EQ(a.klangfarb_art, b.klangfarb_art);
-  EXPECT_EQ(a.klang_kanal, b.klang_kanal);
-  EXPECT_EQ(a.patch_ar, b.patch_ar);
+/// A test of all that can be part of one, with no value that a screen or the stored training has.
+TestDocument TestOfEverything() {
+  return {"",
+          "",
+          "",
+          {{"", "Bestimmen", "akk_grp", 1, {}, "Gruppe"},
+           {"", "Grundton", "Tonart", 0, {}, "wechselnd"},
+           {"", "Akk-Form", "aus_w", 1, {}, "voicings"},
+           {"", "Akk.-Anzeige", "akk_anzg", 0, {}, "Struktur"},
+           {"", "Akkord-Grundton", "betonung", 0, {}, "unbetont"},
+           {"", "Abfolge", "abfrage", 0, {}, "manuell"},
+           {"", "Frequenz", "frequenz", 0, {}, "fest"},
+           {"", "Arpeggio-Tempo#var", "cmb_arpTmp", 0, {}, "langsam"},
+           {"", "Richtung#var", "arpeg_cmb", 2, {}, "zufällig"},
+           {"", "Akkord-Anzahl#var", "akkzahl_cmb", 0, 1, " 1"},
+           {"", "Tonraum#var", "oktav_cmb", 2, 2, " 4 Oktaven"},
+           {"", "Oktav-Bereichvar#", "Combo_tonraum", 0, {}, "unten"},
+           {"", "cmbPatch#var", "ComboPatch", 33, {}, "Bass"},
+           {"", "Tempo#var", "temp_Combo", 9, {}, "200"}}};
 }
+
+/// Without the timbre, which a training that is taken up leaves free.
+void ExpectTheTrainingOf(const ExerciseSettings& expected, ExerciseSettings actual) {
+  actual.klangfarb_art = expected.klangfarb_art;
+  actual.klang_kanal = expected.klang_kanal;
+  actual.patch_ar = expected.patch_ar;
+  ExpectSame(expected, actual);
+}
+
+const std::vector<int> kFramesOfATraining = {0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 12, 17};
+const std::vector<int> kFramesOfAnExam = {2, 3, 5, 7, 11};
+
+class TestFileAtALevel : public TestFile {
+ protected:
+  TestFileAtALevel() {
+    StoreTraining(VollesTraining());
+    Reopen();
+  }
+  void TakeUpATraining() {
+    ASSERT_TRUE(screen().training_Combo.Choose(2));
+    ASSERT_EQ(settings().uebmodus, 2);
+  }
+  void TakeAnExam(int number) {
+    ASSERT_TRUE(screen().training_Combo.Choose(4));
+    ASSERT_TRUE(screen().prfnr_Comb.Choose(number - 1));
+  }
+  const std::string& OnlyWarning() {
+    EXPECT_THAT(messages.warnings, SizeIs(1));
+    return messages.warnings.back().text;
+  }
+};
+
+TEST_F(TestFileAtALevel, ChangesNothingOfATrainingThatIsTakenUpButItsTimbre) {
+  TakeUpATraining();
+  const ExerciseSettings before = settings();
+  const std::vector<int> kinds = Kinds();
+  const std::vector<int> groups = Groups();
+  Read(TestOfEverything());
+  ExpectTheTrainingOf(before, settings());
+  EXPECT_EQ(Kinds(), kinds);
+  EXPECT_EQ(Groups(), groups);
+  EXPECT_EQ(settings().patch_ar[0], 33);
+  for (const int i : kFramesOfATraining) {
+    EXPECT_EQ(screen().grdeinst[i].back_color, kRahmenGesperrt) << i;
+  }
+  EXPECT_EQ(screen().grdeinst[15].back_color, kRahmenVomTest);
+}
+
+TEST_F(TestFileAtALevel, ChangesNothingOfATrainingWhoseFramesAreMarked) {
+  TakeUpATraining();
+  const ExerciseSettings before = settings();
+  Mark({0, 1, 3, 4, 5, 7, 9, 10, 12, 15, 17});
+  Mark({0, 4, 7});  // and these unmarked again
+  ASSERT_EQ(screen().grdeinst[3].back_color, kOkBereit);
+  ASSERT_EQ(screen().grdeinst[4].back_color, kRahmenFrei);
+  Read(TestOfEverything());
+  ExpectTheTrainingOf(before, settings());
+  EXPECT_EQ(screen().grdeinst[3].back_color, kOkBereit) << "the popup's colour stays";
+  for (const int i : kFramesOfATraining) EXPECT_FALSE(screen().grdeinst[i].enabled) << i;
+}
+
+TEST_F(TestFileAtALevel, SaysInWordsWhatOfATrainingItLeavesAlone) {
+  TakeUpATraining();
+  Read(TestOfEverything());
+  EXPECT_THAT(
+      OnlyWarning(),
+      AllOf(StartsWith("[9555s]\n"), HasSubstr("\n[88s]: 3\n"), HasSubstr("\n[547s]: 160 (Vivace)"),
+            HasSubstr("\n[78s]: [142s]\n"), HasSubstr("\n[153s]: "), HasSubstr("\n[116s]: [470s]"),
+            Not(HasSubstr("[365s]")), Not(HasSubstr("[9016s]"))));
+  EXPECT_EQ(messages.warnings[0].title, "Einlesen Test");
+}
+
+TEST_F(TestFileAtALevel, SaysWhatIsHeldAndWhatDoesNotExistApart) {
+  TakeUpATraining();
+  TestDocument document;
+  document.controls = {{"Abfolge", "Abfolge", "abfrage", 0, {}, "manuell"},
+                       {"Ambitus", "Ambitus", "ambitus_cmb", 1, {}, "breit"}};
+  Read(document);
+  EXPECT_EQ(OnlyWarning(), "[9555s]\n[78s]: [142s]\n\n[9016s]\nAmbitus: breit");
+}
+
+TEST_F(TestFileAtALevel, LeavesAnExamWhatItAsksFor) {
+  for (int number = 1; number <= 5; ++number) {
+    TakeAnExam(number);
+    const ExerciseSettings exam = settings();
+    const std::vector<int> kinds = Kinds();
+    const std::vector<int> groups = Groups();
+    Mark({3, 5, 7});
+    Read(TestOfEverything());
+    EXPECT_EQ(settings().abfolge, 1) << number;
+    EXPECT_EQ(settings().akk_form, exam.akk_form) << number;
+    EXPECT_EQ(settings().best_art, exam.best_art) << number;
+    EXPECT_EQ(Kinds(), kinds) << number;
+    EXPECT_EQ(Groups(), groups) << number;
+    ExpectOk(true);
+    for (const int i : kFramesOfAnExam) EXPECT_FALSE(screen().grdeinst[i].enabled) << i;
+  }
+}
+
+TEST_F(TestFileAtALevel, SetsInAnExamWhatTheExamLeavesFree) {
+  TakeAnExam(2);
+  Read(TestOfEverything());
+  EXPECT_EQ(settings().tempo_idx, 9);
+  EXPECT_EQ(settings().oktav_ber, 2);
+  EXPECT_EQ(settings().arp_richtung, 2);
+  EXPECT_EQ(screen().grdeinst[1].back_color, kRahmenVomTest);
+  EXPECT_THAT(OnlyWarning(), AllOf(StartsWith("[9555s]\n"), HasSubstr("\n[78s]: [142s]"),
+                                   HasSubstr("\n[154s]: [97s]"), HasSubstr("\n[138s]: [49s]"),
+                                   Not(HasSubstr("[547s]"))));
+}
+
+TEST_F(TestFileAtALevel, LetsTheTasksOfATestFollowByThemselvesWhateverItSays) {
+  screen().training_Combo.Choose(3);
+  Read(TestOfEverything());
+  screen().grp_alle[0].Press();
+  StartRun();
+  ASSERT_NE(program.arbeitsblatt1(), nullptr);
+  EXPECT_EQ(settings().abfolge, 1);
+  EXPECT_TRUE(worksheet().WahlAutomat.enabled);
+}
+
+TEST_F(TestFileAtALevel, GivesWayToATrainingThatIsTakenUpAfterIt) {
+  TakeUpATraining();
+  const ExerciseSettings training = settings();
+  Reopen();
+  Read(TestOfEverything());
+  TakeUpATraining();
+  ExpectSame(training, settings());
+  EXPECT_EQ(LockedFrames(), kFramesOfATraining);
+  EXPECT_TRUE(screen().ComboPatch.Reachable()) << "a training that is taken up leaves the timbre";
+  EXPECT_FALSE(screen().temp_Combo.Reachable());
+}
+
+TEST_F(TestFileAtALevel, GivesWayToAnExamThatIsChosenAfterIt) {
+  Read(TestOfEverything());
+  TakeAnExam(1);
+  EXPECT_EQ(settings().abfolge, 1);
+  EXPECT_EQ(settings().akk_form, 0);
+  EXPECT_EQ(Kinds(), std::vector<int>{3});
+  EXPECT_EQ(LockedFrames(), kFramesOfAnExam);
+}
+
+TEST_F(TestFileAtALevel, LocksNothingAnyMoreOnceALevelIsChosen) {
+  Read(TestOfEverything());
+  ASSERT_FALSE(screen().temp_Combo.Reachable());
+  screen().training_Combo.Choose(1);
+  EXPECT_THAT(LockedFrames(), IsEmpty());
+  EXPECT_TRUE(screen().temp_Combo.Reachable());
+  EXPECT_TRUE(screen().ComboPatch.Reachable());
+  EXPECT_EQ(settings().tempo_idx, 9) << "what it has set stays";
+}
+
+TEST_F(TestFileAtALevel, DoesNotSpoilATrainingThatIsSavedAgain) {
+  screen().training_Combo.Choose(1);
+  screen().akkzahl_cmb.Choose(1);
+  messages.answer = MessageBox::Answer::kYes;
+  const auto run_one_task = [&] {
+    StartRun();
+    ASSERT_NE(program.arbeitsblatt1(), nullptr);
+    PlayTask();
+    while (run().lauf_status != LaufStatus::kAufgabeFertig) ASSERT_TRUE(ClickRight());
+    worksheet().zurueck.Press();
+    loop.Advance(1000);
+  };
+  run_one_task();
+  TakeUpATraining();
+  TestDocument document;
+  document.controls = {{"", "Akkord-Anzahl#var", "akkzahl_cmb", 0, 1, " 1"}};
+  Mark({4});  // in another colour than that of the lock
+  Read(document);
+  EXPECT_EQ(settings().akk_anzahl, 2);
+  run_one_task();
+  TakeUpATraining();
+  run_one_task();
+  EXPECT_THAT(messages.warnings, SizeIs(1)) << "of the test file alone";
+}
+
+// --- There and back -------------------------------------------------------------------------
 
 const std::vector<int> kFramesOfATest = {0, 1, 3, 4, 5, 7, 9, 10, 15, 17};
 
