@@ -27,12 +27,14 @@ vmod17_test(
           settings/settings_record_test.cc
           settings/restoring_test.cc
           settings/settings_levels_test.cc
+          settings/settings_outlook_test.cc
           settings/settings_screen_test.cc
           settings/settings_selection_test.cc
           settings/settings_summary_test.cc
           settings/settings_test_file_test.cc
           settings/settings_walk_test.cc
           settings/sound_check_test.cc
+          settings/test_length_test.cc
           platform/caption_test.cc
           platform/store/memory_host_test.cc
           platform/xml/memory_xml_document_test.cc
@@ -59,7 +61,6 @@ target_sources(
           worksheet/stored_training_test.cc
           worksheet/task_selection_test.cc
           worksheet/test_flow_test.cc
-          worksheet/test_length_test.cc
           worksheet/training_flow_test.cc
           worksheet/worksheet_screen_test.cc)
 target_compile_definitions(

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>Der Übungsmodus „%1“ legt diese Einstellungen fest. Sie bleiben, wie sie sind:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Akkorde: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Akkorde: %1 von %2, jedes Mal neu gemischt</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Aufgaben: %1, in höchstens %2 Min.</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Noch auszuwählen: Klänge (mindestens 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Noch auszuwählen: Gruppen (%1 von mindestens %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Klang-Kontrolle: nur mit vollständiger Auswahl</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Klang-Kontrolle: nur nach » (alle Gruppen)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>Probeklang läuft: OK und Klang-Kontrolle warten sein Ende ab</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Einlesen Test</translation>

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>The practice mode “%1” holds these settings. They stay as they are:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Chords: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Chords: %1 of %2, mixed anew each time</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Tasks: %1, in at most %2 min</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Still to select: chord sizes (at least 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Still to select: chord groups (%1 of at least %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Sound check: only with a complete selection</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Sound check: only after » (all chord groups)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>The sample is playing: OK and the sound check wait for its end</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Read a test</translation>

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>El modo de estudio «%1» fija estos ajustes. Se quedan como están:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Acordes: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Acordes: %1 de %2, al azar cada vez</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Preguntas: %1, en %2 min como máximo</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Falta elegir: tipos de acorde (al menos 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Falta elegir: grupos de acordes (%1 de al menos %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Probar sonido: solo con la selección completa</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Probar sonido: solo tras » (todos los grupos)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>Suena la muestra: OK y «Probar sonido» esperan a que acabe</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Leer test</translation>

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>Le mode de travail «&#xa0;%1&#xa0;» fixe ces réglages. Ils restent tels quels&#xa0;:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Accords&#xa0;: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Accords&#xa0;: %1 sur %2, tirés au sort à chaque fois</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Questions&#xa0;: %1, en %2 min au plus</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Reste à choisir&#xa0;: types d’accords (au moins 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Reste à choisir&#xa0;: groupes d’accords (%1 sur au moins %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Essai du son&#xa0;: sélection complète requise</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Essai du son&#xa0;: après » seulement (tous les groupes)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>L’exemple sonne&#xa0;: OK et l’essai du son attendent sa fin</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Lire un test</translation>

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>La modalità «%1» fissa queste impostazioni. Restano come sono:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Accordi: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Accordi: %1 su %2, sorteggiati ogni volta</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Domande: %1, in %2 min al massimo</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Da scegliere: tipi di accordo (almeno 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Da scegliere: gruppi di accordi (%1 di almeno %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Prova suono: solo con una selezione completa</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Prova suono: solo dopo » (tutti i gruppi)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>L’esempio suona: OK e la prova suono ne attendono la fine</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Leggi test</translation>

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>De oefenmodus ‘%1’ legt deze instellingen vast. Ze blijven zoals ze zijn:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Akkoorden: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Akkoorden: %1 van %2, telkens opnieuw geloot</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Opgaven: %1, in ten hoogste %2 min.</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Nog te kiezen: akkoordsoorten (minstens 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Nog te kiezen: akkoordgroepen (%1 van minstens %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Klank testen: alleen met een volledige keuze</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Klank testen: alleen na » (alle groepen)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>Proefklank klinkt: OK en de klanktest wachten op het einde</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Test inlezen</translation>

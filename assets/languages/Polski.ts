@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>Tryb ćwiczenia „%1” ustala te ustawienia. Pozostają bez zmian:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Akordy: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Akordy: %1 z %2, za każdym razem losowane</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Zadania: %1, najwyżej %2 min</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Do wybrania: rodzaje akordów (co najmniej 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Do wybrania: grupy akordów (%1 z co najmniej %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Próba dźwięku: tylko przy pełnym wyborze</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Próba dźwięku: tylko po » (wszystkie grupy)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>Próbka brzmi: OK i próba dźwięku czekają na jej koniec</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Wczytaj test</translation>

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>O modo de estudo “%1” fixa estas configurações. Elas ficam como estão:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Acordes: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Acordes: %1 de %2, sorteados a cada vez</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Questões: %1, em no máximo %2 min</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Falta escolher: tipos de acorde (pelo menos 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Falta escolher: grupos de acordes (%1 de pelo menos %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Testar o som: só com a seleção completa</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Testar o som: só depois de » (todos os grupos)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>A amostra está tocando: OK e o teste do som esperam o fim</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Ler teste</translation>

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>Režim cvičení „%1“ určuje tato nastavení. Zůstávají, jak jsou:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Akordy: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Akordy: %1 z %2, pokaždé znovu losované</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Úlohy: %1, nejvýše %2 min</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Zbývá vybrat: druhy akordů (alespoň 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Zbývá vybrat: skupiny akordů (%1 z alespoň %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Kontrola zvuku: jen s úplným výběrem</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Kontrola zvuku: jen po » (všechny skupiny)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>Ukázka zní: OK a kontrola zvuku čekají na její konec</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Načíst test</translation>

@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>Режим занятий «%1» определяет эти настройки. Они остаются без изменений:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>Аккорды: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>Аккорды: %1 из %2, каждый раз случайные</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>Задания: %1, не дольше %2 мин</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>Ещё выбрать: виды аккордов (минимум 1)</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>Ещё выбрать: группы аккордов (%1 из минимум %2)</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>Проверка звука: только при полном выборе</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>Проверка звука: только после » (все группы)</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>Звучит пример: OK и проверка звука ждут его окончания</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>Открыть тест</translation>

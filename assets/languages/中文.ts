@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>练习模式“%1”固定了下列设置，它们保持不变：</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>和弦：%1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>和弦：%2 个中随机抽取 %1 个</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>题目：%1，最多 %2 分钟</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>还需选择：和弦音数（至少 1 项）</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>还需选择：和弦类别（已选 %1，至少 %2 项）</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>试听：选择完整后可用</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>试听：仅在用 » 选择全部类别后可用</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>正在试听：“确定”和“试听”须待播放结束</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>读入测验</translation>

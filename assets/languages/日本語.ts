@@ -1001,6 +1001,38 @@
         <source></source>
         <translation>練習モード「%1」では次の設定は固定されており、変更されません:</translation>
     </message>
+    <message id="9560s">
+        <source></source>
+        <translation>コード: %1</translation>
+    </message>
+    <message id="9561s">
+        <source></source>
+        <translation>コード: %2 のうち %1（毎回無作為）</translation>
+    </message>
+    <message id="9562s">
+        <source></source>
+        <translation>問題: %1、最長 %2 分</translation>
+    </message>
+    <message id="9563s">
+        <source></source>
+        <translation>未選択: コードの音数（1つ以上）</translation>
+    </message>
+    <message id="9564s">
+        <source></source>
+        <translation>未選択: コードのグループ（%1 / 最低 %2）</translation>
+    </message>
+    <message id="9565s">
+        <source></source>
+        <translation>試聴: 選択がそろってから</translation>
+    </message>
+    <message id="9566s">
+        <source></source>
+        <translation>試聴: » で全グループを選択した後のみ</translation>
+    </message>
+    <message id="9567s">
+        <source></source>
+        <translation>試聴音を再生中: 終わるまでOKと試聴は使えません</translation>
+    </message>
     <message id="9601s">
         <source></source>
         <translation>テストを読み込む</translation>

@@ -27,12 +27,28 @@ int Grenze(const BoardSelection& selection) {
   return voicings ? kBrettVoicings : kBrettGroesse;
 }
 
+bool Enthaelt(std::span<const int> werte, int wert) {
+  return std::find(werte.begin(), werte.end(), wert) != werte.end();
+}
+
 /// The order of a board.
 bool Vor(const BoardEntry& a, const BoardEntry& b) {
   return a.klangtyp * 100 + a.row < b.klangtyp * 100 + b.row;
 }
 
 }  // namespace
+
+BoardSize BemissBrett(const BoardSelection& selection) {
+  BoardSize size;
+  for (int klang = 1; klang <= kKlangZahl; ++klang) {
+    const Chord& chord = ChordOfKlang(klang);
+    if (!Enthaelt(selection.klangtypen, chord.klangtyp)) continue;
+    // Triads have no group and come without one.
+    if (chord.group == 0 || Enthaelt(selection.gruppen, chord.group)) ++size.kandidaten;
+  }
+  size.eintraege = std::min(size.kandidaten, Grenze(selection));
+  return size;
+}
 
 void SlotLimits::Setze(int auswahl) {
   wahl_anzahl = auswahl;

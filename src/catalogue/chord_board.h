@@ -32,6 +32,16 @@ struct BoardSelection {
   int best_art = 0;                 ///< 0 the chord is named, 1 its group
 };
 
+/// How large a board is.
+struct BoardSize {
+  int kandidaten = 0;  ///< chords that fit the selection
+  int eintraege = 0;   ///< how many of them a board holds
+  bool operator==(const BoardSize&) const = default;
+};
+
+/// The size of every board of a selection.
+BoardSize BemissBrett(const BoardSelection& selection);
+
 /// How many wrong clicks a slot takes.
 struct SlotLimits {
   static constexpr int kFehlSchritt = 2;  ///< points of a wrong click

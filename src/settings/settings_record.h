@@ -70,6 +70,11 @@ struct ExerciseSettings {
   /// The last of the chosen Klangtypen, which rules range and layout; 0 when none is chosen.
   int LetzterKlangtyp() const { return klang_anzahl < 1 ? 0 : klang_ausw_ar[klang_anzahl]; }
 
+  /// How long a task sounds, in ms.
+  int SpielDauer(const AppState& state) const {
+    return state.tempo_dauer_ar.at(tempo_idx) * akk_anzahl;
+  }
+
   /// Computes `arp_dauer` from tempo and arpeggio tempo: single precision, halves to even.
   void RechneArpDauer(const AppState& state);
   /// Sets the bounds of the Tonraum for entry `j` of its list.

@@ -146,6 +146,21 @@ void Einstellung1::Verdrahte() {
     klang_alle[i].Click = [this, i] { klang_alle_Click(i); };
     grp_alle[i].Click = [this, i] { grp_alle_Click(i); };
   }
+  // What a run will be may change with each of these.
+  const auto dann_ausblick = [this](auto& event) {
+    event = [this, handler = std::move(event)](auto... index) {
+      handler(index...);
+      ZeigeAusblick();
+    };
+  };
+  for (ItemList* list : {&training_Combo, &prfnr_Comb, &akkzahl_cmb, &temp_Combo, &klanglst[0],
+                         &klanglst[1], &grplst[0], &grplst[1]}) {
+    dann_ausblick(list->Click);
+  }
+  for (OptionGroup* group : {&akk_grp, &aus_w}) dann_ausblick(group->Click);
+  for (Button* button : {&klang_alle[0], &klang_alle[1], &grp_alle[0], &grp_alle[1]}) {
+    dann_ausblick(button->Click);
+  }
   for (const int i : grdeinst.indexes()) {
     grdeinst[i].MenuAsked = [this, i] { grdeinst_RechteTaste(i); };
   }
@@ -190,6 +205,7 @@ void Einstellung1::BaueAuf() {
   FuelleKlangListen();
   FuelleAuswahlListen();
   form_bereit = true;
+  ZeigeAusblick();
 }
 
 /// Fills the lists that tell how a run sounds. Each selection runs the list's event, and the fields

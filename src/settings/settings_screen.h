@@ -76,6 +76,7 @@ class Einstellung1 : public Form {
   Button klang_contr{*this, "klang_contr"};
   Slider HSliderVolume{*this, "HSliderVolume", 0, ModMIDI::kHoechsteStaerke};
   ControlArray<Label> lb14{*this, "lb14", 0, 1};
+  Label ausblick{*this, "ausblick"};
   Button cmdOK{*this, "cmdOK"};
   Button cmdZurueck{*this, "cmdZurueck"};
   Button cmdHilfe{*this, "cmdHilfe"};
@@ -141,8 +142,8 @@ class Einstellung1 : public Form {
 
  private:
   static constexpr Color kRahmenFarbe = Bgr(0xC0FFFF);
-  static constexpr Color kGesperrterRahmen = Bgr(0xC0C0FF);
   static constexpr Color kKlangRahmen = Bgr(0xFFFFC0);
+  static constexpr Color kGesperrterRahmen = Bgr(0xC0C0FF);
   static constexpr Color kBereitFarbe = Bgr(0x80FF80);
   static constexpr Color kTempoFarbe = Bgr(0xFF0000);
   /// The tag of a frame that is marked for a test.
@@ -156,6 +157,11 @@ class Einstellung1 : public Form {
   void FuelleKlangListen();
   void FuelleAuswahlListen();
   void FuelleOktaven(int von);
+
+  void ZeigeAusblick();
+  std::string AusblickAufLauf() const;
+  std::string WasFehlt() const;
+  std::string WarumKeineProbe() const;
 
   void ok_bereit();
   void ok_gesperrt();
@@ -171,15 +177,15 @@ class Einstellung1 : public Form {
 
   Fortsetzung GespeichertesTraining();
   void GibRahmenFrei();
+  void GibVomTestFrei();
   void SperreRahmen(int rahmen);
+  bool HaeltLevel(const Control& control) const;
   void StelleWiederHer();
   void SetzePruefung();
 
   void SpieleProbe();
   int ProbenNoten() const;
-  void GibVomTestFrei();
   bool ProbeGilt() const;
-  bool HaeltLevel(const Control& control) const;
   void SendeKlangfarben();
   void ErlaubeProbe(bool erlaubt);
   void BeendeProbe();

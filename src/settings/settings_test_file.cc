@@ -24,13 +24,6 @@ std::string Klein(std::string text) {
   return text;
 }
 
-/// A text without the blanks around it, which some captions have to keep a distance.
-std::string Gestutzt(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  return first == std::string::npos ? ""
-                                    : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 /// The values that are applied where no file is chosen, by the tags of their controls in lower
 /// case.
 const std::map<std::string, int>& EinleseAr() {
@@ -222,8 +215,8 @@ std::string Einstellung1::InWorten(const Control& control) {
   }
   const OptionGroup* group = GruppeVon(control);
   const auto* list = dynamic_cast<const ItemList*>(&control);
-  return Gestutzt(name) + ": " +
-         Gestutzt(group != nullptr ? (*group)[group->chosen()].caption : list->text());
+  return ShownCaption(name) + ": " +
+         ShownCaption(group != nullptr ? (*group)[group->chosen()].caption : list->text());
 }
 
 void Einstellung1::SperreVomTest(Control& control) {

@@ -52,6 +52,7 @@ void Einstellung1::klang_contr_Click() {
   klang_contr.enabled = false;
   cmdOK.enabled = false;
   probe_laeuft_ = true;
+  ZeigeAusblick();
   try {
     SpieleProbe();
   } catch (...) {
@@ -74,8 +75,7 @@ void Einstellung1::SpieleProbe() {
   Delay(kRuheVorDemStart);
   if (!ProbeGilt()) return;
   // Should the output never tell that its queue is empty, the buttons come back all the same.
-  klangprobe.interval =
-      shell_.state.tempo_dauer_ar.at(settings.tempo_idx) * settings.akk_anzahl + kNachfrist;
+  klangprobe.interval = settings.SpielDauer(shell_.state) + kNachfrist;
   klangprobe.Enable();
   parts_.midi.MidiStart();
 }
@@ -110,6 +110,7 @@ void Einstellung1::BeendeProbe() {
   // Both come back in the state that the selection has by now.
   cmdOK.enabled = auswahl_vollstaendig_;
   klang_contr.enabled = probe_erlaubt_;
+  ZeigeAusblick();
 }
 
 void Einstellung1::MIDI_QueueEmpty() {

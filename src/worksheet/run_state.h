@@ -5,9 +5,9 @@
 
 #include <array>
 
+#include "settings/test_length.h"
 #include "sound/chord_playback.h"
 #include "worksheet/material.h"
-#include "worksheet/test_length.h"
 
 namespace vmod17 {
 

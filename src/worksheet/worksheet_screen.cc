@@ -12,7 +12,6 @@ namespace {
 
 constexpr int kStartIntervall = 200;
 constexpr int kSpielIntervall = 3000;  // until a run sets its own
-constexpr int kWahlIntervall = 1800;
 constexpr int kUhrIntervall = 10000;
 constexpr int kTestIntervall = 2000;
 
@@ -50,7 +49,7 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
     : Form("arbeitsblatt1"),
       start(*this, shell.loop, "start", kStartIntervall),
       spieltimer(*this, shell.loop, "spieltimer", kSpielIntervall),
-      WahlAutomat(*this, shell.loop, "WahlAutomat", kWahlIntervall),
+      WahlAutomat(*this, shell.loop, "WahlAutomat", kWahlPause),
       Uhrzeit(*this, shell.loop, "Uhrzeit", kUhrIntervall),
       testtimer(*this, shell.loop, "testtimer", kTestIntervall),
       tonart_Timer(*this, shell.loop, "tonart_Timer", 0),
@@ -181,8 +180,8 @@ void Arbeitsblatt1::BaueAuf() {
   run_.material.mat_posten = parts_.board.akk_zahl;
   wieder.enabled = false;
   zurueck.enabled = true;
-  spieltimer.interval = shell_.state.tempo_dauer_ar.at(settings.tempo_idx) * settings.akk_anzahl;
-  WahlAutomat.interval = kWahlIntervall;
+  spieltimer.interval = settings.SpielDauer(shell_.state);
+  WahlAutomat.interval = kWahlPause;
   ZeigeZaehler();
   Uhrzeit.Enable();
   ZeigeUhrzeit();

@@ -176,6 +176,17 @@ TEST(ChordBoard, TakesExactly16VoicingsWithoutADraw) {
               ElementsAre(1, 2, 15, 16, 17, 18, 20, 21, 33, 34, 47, 48, 49, 50, 52, 53));
 }
 
+TEST(ChordBoard, TellsItsSizeBeforeItIsBuilt) {
+  const auto size = [](const Wahl& wahl) { return BemissBrett(wahl.Selection()); };
+  EXPECT_EQ(size({{}, kAlleGruppen, 0, 0}), (BoardSize{0, 0}));
+  EXPECT_EQ(size({{3}, {}, 0, 0}), (BoardSize{10, 10}));
+  EXPECT_EQ(size({{3, 4, 5, 6, 7}, {}, 0, 0}), (BoardSize{10, 10}));
+  EXPECT_EQ(size({{3, 4, 5, 6, 7}, kAlleGruppen, 0, 0}), (BoardSize{70, 24}));
+  EXPECT_EQ(size({{6, 7}, {2, 3, 4, 5}, 0, 0}), (BoardSize{20, 20}));
+  EXPECT_EQ(size({{8}, kAlleGruppen, 1, 0}), (BoardSize{64, 16}));
+  EXPECT_EQ(size({{8}, {1, 2, 3}, 1, 1}), (BoardSize{16, 16}));
+}
+
 TEST(ChordBoard, ForgetsTheBoardOfTheLastRun) {
   Brett brett({{4}, kAlleGruppen, 0, 0});
   brett.board.KlangNummer(17);
@@ -803,6 +814,20 @@ RC_GTEST_PROP(ChordBoardProperty, RepresentsEachKindAndEachGroupOfVoicings, ()) 
   if (wahl.akk_form == 1) {
     for (const int g : wahl.gruppen) RC_ASSERT(brett.Groups().contains(g));
   }
+}
+
+RC_GTEST_PROP(ChordBoardProperty, HasTheSizeThatIsToldBeforeItIsDrawn, ()) {
+  const Wahl wahl = *AnyWahl();
+  Brett brett;
+  brett.random.Restart(AnySeed());
+  brett.Setze(wahl);
+  const auto candidates = std::ranges::count_if(kExpectedChords, [&](const ExpectedChord& chord) {
+    return std::ranges::count(wahl.klangtypen, chord.klangtyp) > 0 &&
+           (chord.klangtyp == 3 || std::ranges::count(wahl.gruppen, chord.group) > 0);
+  });
+  const BoardSize size = BemissBrett(wahl.Selection());
+  RC_ASSERT(size.kandidaten == candidates);
+  RC_ASSERT(size.eintraege == brett.board.akk_zahl);
 }
 
 RC_GTEST_PROP(ChordBoardProperty, TakesOverEveryBoardThatItCanDraw, ()) {

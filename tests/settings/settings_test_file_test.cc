@@ -389,7 +389,7 @@ TEST_F(TestFileAtALevel, SaysInWordsWhatOfATrainingItLeavesAlone) {
       AllOf(StartsWith("[9555s]\n"), HasSubstr("\n[88s]: 3\n"), HasSubstr("\n[547s]: 160 (Vivace)"),
             HasSubstr("\n[78s]: [142s]\n"), HasSubstr("\n[153s]: "), HasSubstr("\n[116s]: [470s]"),
             Not(HasSubstr("[365s]")), Not(HasSubstr("[9016s]"))));
-  EXPECT_EQ(messages.warnings[0].title, "Einlesen Test");
+  EXPECT_EQ(messages.warnings[0].title, "[9601s]");
 }
 
 TEST_F(TestFileAtALevel, SaysWhatIsHeldAndWhatDoesNotExistApart) {

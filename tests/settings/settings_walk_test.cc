@@ -25,6 +25,8 @@ class Walk : public SettingsTest {
   void Begin(unsigned seed) {
     engine_.seed(seed);
     StoreTraining(VollesTraining());
+    languages.languages[0].second.words = {
+        {"9560s", "%1"}, {"9561s", "%1 of %2"}, {"9562s", "%1 tasks in %2"}};
     ToSettings();
   }
   int Below(int n) { return static_cast<int>(engine_() % static_cast<unsigned>(n)); }
@@ -73,13 +75,39 @@ class Walk : public SettingsTest {
     if (&button == &screen().cmdOptionSave) {
       dialog.to_save = Below(2) == 0 ? std::optional<std::string>("walk.xml") : std::nullopt;
     } else if (&button == &screen().cmdOptionRead) {
-      const bool file = Below(4) == 0 && test_files.files.contains("walk.xml");
-      dialog.to_open = file ? std::optional<std::string>("walk.xml") : std::nullopt;
+      return ReadTest();
     }
     // The state that the button's colour tells holds while a sample plays too.
     const bool ready = screen().cmdOK.back_color == kOkBereit;
     if (!button.Press()) return false;
     if (&button == &screen().klang_alle[0]) alle_ = ready;
+    return true;
+  }
+  /// A test file must change nothing of what the level holds.
+  bool ReadTest() {
+    const ExerciseSettings before = settings();
+    const std::vector<int> kinds = Kinds();
+    const std::vector<int> groups = Groups();
+    const bool file = Below(4) == 0 && test_files.files.contains("walk.xml");
+    dialog.to_open = file ? std::optional<std::string>("walk.xml") : std::nullopt;
+    if (!screen().cmdOptionRead.Press()) return false;
+    messages.warnings.clear();
+    const ExerciseSettings& now = settings();
+    const bool same_question = now.abfolge == before.abfolge && now.akk_form == before.akk_form &&
+                               now.best_art == before.best_art && Kinds() == kinds &&
+                               Groups() == groups;
+    const bool same_run =
+        now.tempo_idx == before.tempo_idx && now.akk_anzahl == before.akk_anzahl &&
+        now.oktav_ber == before.oktav_ber && now.ton_unten == before.ton_unten &&
+        now.arp_richtung == before.arp_richtung && now.arp_tempo_idx == before.arp_tempo_idx &&
+        now.frequenz_art == before.frequenz_art && now.akk_anzeige == before.akk_anzeige &&
+        now.grundton_art == before.grundton_art && now.grundton_betont == before.grundton_betont;
+    if ((now.uebmodus == 4 || now.uebmodus == 2) && !same_question) {
+      throw std::runtime_error("a test file changed what the level holds");
+    }
+    if (now.uebmodus == 2 && !same_run) {
+      throw std::runtime_error("a test file changed a training that was taken up");
+    }
     return true;
   }
   bool LeaveAndReturn() {
@@ -91,6 +119,7 @@ class Walk : public SettingsTest {
     if (!screen().cmdOK.Press()) return false;
     ++runs_;
     const int level = settings().uebmodus;
+    told_ = screen().ausblick.caption;
     loop.Advance(200);
     // The training that this store holds has no state, and a board without chords has no material.
     if (level == 2 || (level > 0 && program.board().akk_zahl == 0)) {
@@ -101,10 +130,22 @@ class Walk : public SettingsTest {
       return true;
     }
     if (program.arbeitsblatt1() == nullptr) throw std::runtime_error("no run was started");
+    if (!ToldTheRun()) throw std::runtime_error("the run is none of which was told: " + told_);
     worksheet().zurueck.Press();
     loop.Advance(1000);
     slot_moved_ = true;
     return true;
+  }
+  /// Whether the screen has said what the run has become.
+  bool ToldTheRun() {
+    const int chords = program.board().akk_zahl;
+    if (chords == 0) return told_.starts_with("[9564s]");
+    if (std::stoi(told_) != chords) return false;
+    if (settings().uebmodus < 3) return told_.find("tasks") == std::string::npos;
+    const TestRest& test = run().test;
+    const std::string seconds = PaddedText(test.rest_sek % 60, 2);
+    return told_.find("·  " + std::to_string(test.test_aufgaben) + " tasks in " +
+                      std::to_string(test.rest_sek / 60) + ":" + seconds) != std::string::npos;
   }
   bool Sampling() { return output.IsRunning() || screen().klangprobe.enabled; }
 
@@ -181,6 +222,7 @@ class Walk : public SettingsTest {
 
   std::mt19937 engine_;
   std::string event_;
+  std::string told_;
   bool alle_ = false;
   bool reopened_ = false;
   bool slot_moved_ = false;

@@ -12,8 +12,10 @@
 namespace vmod17 {
 namespace {
 
-constexpr double kTitle = 44;
-constexpr double kBar = 72;
+constexpr double kTitle = 38;
+constexpr double kOutlook = 20;  // the line that says what a run will be
+constexpr double kMainButton = 52;
+constexpr double kBar = kOutlook + 6 + kMainButton;
 constexpr double kGap = 10;         // between two cards
 constexpr double kRing = 7;         // of a section's ground around its cards
 constexpr double kSectionGap = 10;  // between two sections
@@ -244,7 +246,10 @@ void FillCards(Layout& layout, const QPointF& corner) {
 }
 
 void FillBar(Layout& layout, const QRectF& bar) {
-  const double middle = bar.center().y() + 6;
+  layout.places["ausblick"] = {
+      .rect = QRectF(bar.left() + kRing, bar.top() + 4, bar.width() - 2 * kRing, kOutlook),
+      .text = 14};
+  const double middle = bar.bottom() - kMainButton / 2;
   const auto button = [&](const std::string& id, double left, double width, double height,
                           Look look, double text) {
     layout.places[id] = {.rect = QRectF(left, middle - height / 2, width, height),
@@ -257,7 +262,7 @@ void FillBar(Layout& layout, const QRectF& bar) {
   button("cmdHilfe", bar.left() + 156, 44, 44, Look::kQuiet, 20);
   button("cmdOptionRead", bar.right() - 260 - 24 - 210 - 12 - 150, 150, 40, Look::kQuiet, 14);
   button("cmdOptionSave", bar.right() - 260 - 24 - 210, 210, 40, Look::kQuiet, 14);
-  button("cmdOK", bar.right() - 260, 260, 56, Look::kPrimary, 22);
+  button("cmdOK", bar.right() - 260, 260, kMainButton, Look::kPrimary, 22);
 }
 
 }  // namespace

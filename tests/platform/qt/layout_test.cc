@@ -77,6 +77,30 @@ TEST_P(LayoutIn, ShowsTheSettingsWholeInEachOfTheirStates) {
   }
 }
 
+TEST_P(LayoutIn, SaysWhatARunWillBeInALineOfFullSize) {
+  SpokenProgram p(GetParam());
+  p.ToSettings();
+  Einstellung1& screen = p.settings_screen();
+  const auto expect_full_size = [&] {
+    ExpectWellLaidOut(screen);
+    const Shown shown(screen, kSmall);
+    const QString line = QString::fromStdString(screen.ausblick.caption);
+    const look::Setting setting =
+        look::SetText(line, shown.At("ausblick").size(), 14, look::Weight::kNormal);
+    EXPECT_EQ(setting.font.pixelSize(), 14) << screen.ausblick.caption;
+    EXPECT_FALSE(setting.wrap);
+  };
+  screen.klanglst[1].Select(0);
+  expect_full_size();
+  screen.klang_alle[0].Press();
+  expect_full_size();
+  while (screen.grplst[0].count() > 0) screen.grplst[0].Select(0);
+  screen.training_Combo.Select(3);
+  expect_full_size();
+  screen.klang_contr_Click();
+  expect_full_size();
+}
+
 TEST_P(LayoutIn, HasAPlaceForEveryControlOfTheSettings) {
   SpokenProgram p(GetParam());
   p.ToSettings();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "worksheet/test_length.h"
+#include "settings/test_length.h"
 
 #include "shell/numbers.h"
 

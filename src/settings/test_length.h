@@ -5,6 +5,9 @@
 
 namespace vmod17 {
 
+/// Milliseconds before a task that follows by itself.
+inline constexpr int kWahlPause = 1800;
+
 /// What is left of a test.
 struct TestRest {
   int test_aufgaben = 0;  ///< tasks of the test, even
