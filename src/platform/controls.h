@@ -76,6 +76,13 @@ class Form {
   virtual void Form_Unload() {}
   virtual void Form_Close() = 0;
 
+  /// Has the user told in words what else only the eye would see: what a click was worth, what has
+  /// moved where. It is spoken where a reader of the screen runs, behind what the same event has
+  /// said before, and leaves nothing to be seen.
+  void Say(std::string words) { said_.push_back(std::move(words)); }
+  /// Takes what was said since the last time. It is the view that asks.
+  std::vector<std::string> TakeSaid() { return std::exchange(said_, {}); }
+
   /// Puts the screen out of reach for good and runs `Form_Unload`.
   void Unload();
 
@@ -85,11 +92,13 @@ class Form {
   Pointer pointer = Pointer::kDefault;
   WindowState window_state = WindowState::kMaximised;
   std::optional<Color> back_color;  ///< none: the view's own
+  bool listening = false;  ///< the user listens to what is played: nothing is spoken meanwhile
 
  private:
   friend class Control;
   friend class Timer;
   std::string name_;
+  std::vector<std::string> said_;
   std::vector<Control*> controls_;
   std::vector<Timer*> timers_;
   bool loaded_ = true;

@@ -197,8 +197,15 @@ class FakePrinter : public Printer {
 class NoView : public FormView {
  public:
   std::vector<Form*> forms;
-  void Attach(Form& form) override { forms.push_back(&form); }
-  void Detach(Form& form) override { std::erase(forms, &form); }
+  FormView* shown_by = nullptr;  ///< a view that shows them after all
+  void Attach(Form& form) override {
+    forms.push_back(&form);
+    if (shown_by != nullptr) shown_by->Attach(form);
+  }
+  void Detach(Form& form) override {
+    std::erase(forms, &form);
+    if (shown_by != nullptr) shown_by->Detach(form);
+  }
 };
 
 }  // namespace vmod17

@@ -23,6 +23,9 @@ class SimulatedLoop : public EventLoop {
 
   /// Called at each yield and at each wait, as if the user acted in that moment.
   std::function<void()> meanwhile;
+  /// Called after each delivered event, and before each wait: it is then that a view looks at the
+  /// screens.
+  std::function<void()> after_event;
   /// What `Now` tells; it does not move by itself.
   DateTime date{2026, 11, 21, 14, 3, 22};
 
@@ -51,11 +54,13 @@ class SimulatedLoop : public EventLoop {
 
   void Yield() override {
     ++yields_;
+    if (after_event) after_event();
     if (meanwhile) meanwhile();
     while (DeliverNext(now_)) {
     }
   }
   void WaitForEvent(double ms) override {
+    if (after_event) after_event();
     if (meanwhile) meanwhile();
     // A wait always moves time, however little is left, as sleeping does.
     const std::int64_t deadline = now_ + std::max<std::int64_t>(1, Ticks(ms));
@@ -86,7 +91,7 @@ class SimulatedLoop : public EventLoop {
     if (!posted_.empty()) {
       const Handler handler = std::move(posted_.front());
       posted_.erase(posted_.begin());
-      handler();
+      Deliver(handler);
       return true;
     }
     const auto next =
@@ -100,8 +105,13 @@ class SimulatedLoop : public EventLoop {
     } else {
       next->second.due += next->second.interval;
     }
-    handler();
+    Deliver(handler);
     return true;
+  }
+
+  void Deliver(const Handler& handler) const {
+    handler();
+    if (after_event) after_event();
   }
 
   void RunIdle() {

@@ -12,9 +12,11 @@
 #include <QScrollArea>
 #include <QToolTip>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "platform/qt/look.h"
+#include "platform/qt/narrator.h"
 #include "platform/qt/page.h"
 #include "platform/qt/qt_event_loop.h"
 
@@ -91,7 +93,10 @@ class QtView::MainWindow : public QWidget {
   QWidget* stage_;
 };
 
-QtView::QtView(QtEventLoop& loop) : loop_(loop), window_(std::make_unique<MainWindow>(*this)) {
+QtView::QtView(QtEventLoop& loop)
+    : loop_(loop),
+      window_(std::make_unique<MainWindow>(*this)),
+      narrator_(std::make_unique<Narrator>(*window_)) {
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -133,22 +138,44 @@ void QtView::Refresh() {
   // Showing a window or moving the focus sends events at once, some of which come back here.
   if (refreshing_) return;
   refreshing_ = true;
-  Screen* const front = Front();
+  narrator_->Begin(Listening());
+  ShowFront(Front());
+  SetPointer(page_form_);
+  narrator_->End(TakeSaid());
+  refreshing_ = false;
+}
+
+void QtView::ShowFront(Screen* front) {
   if (front == nullptr) {
     if (page_ != nullptr) page_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  } else if (front->page == nullptr || front->page != page_) {
+    return;
+  }
+  if (front->page == nullptr || front->page != page_) {
     Show(*front);
   } else {
     page_->setAttribute(Qt::WA_TransparentForMouseEvents, !front->form->enabled);
     page_->Refresh();
   }
-  if (front != nullptr) {
-    const QString title = QString::fromStdString(front->form->caption);
-    if (window_->windowTitle() != title) window_->setWindowTitle(title);
-    if (!window_->isVisible()) ShowWindow();
+  const QString title = QString::fromStdString(front->form->caption);
+  if (window_->windowTitle() != title) window_->setWindowTitle(title);
+  if (!window_->isVisible()) ShowWindow();
+}
+
+bool QtView::Listening() const {
+  return std::any_of(screens_.begin(), screens_.end(), [](const Screen& screen) {
+    return screen.form->visible && screen.form->listening;
+  });
+}
+
+/// The title of a new page, and what the screens have said.
+std::vector<std::string> QtView::TakeSaid() {
+  std::vector<std::string> all;
+  if (new_title_) all.push_back(*std::exchange(new_title_, std::nullopt));
+  for (const Screen& screen : screens_) {
+    std::vector<std::string> said = screen.form->TakeSaid();
+    std::move(said.begin(), said.end(), std::back_inserter(all));
   }
-  SetPointer(page_form_);
-  refreshing_ = false;
+  return all;
 }
 
 void QtView::Show(Screen& screen) {
@@ -165,6 +192,8 @@ void QtView::Show(Screen& screen) {
   page_->raise();
   page_->Refresh();
   page_->TakeFocus();
+  // A window that comes with its first page is told by its own title.
+  if (window_->isVisible()) new_title_ = screen.form->caption;
   if (last != nullptr) last->hide();
   if (last_is_gone) last->deleteLater();
   if (std::exchange(close_wanted_, false)) loop_.Post([this] { CloseAsked(); });

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ class QWidget;
 
 namespace vmod17 {
 
+class Narrator;
 class Page;
 class QtEventLoop;
 
@@ -55,7 +57,10 @@ class QtView : public FormView {
 
   Screen* Front();
   Screen* Find(const Form* form);
+  void ShowFront(Screen* front);
   void Show(Screen& screen);
+  bool Listening() const;
+  std::vector<std::string> TakeSaid();
   void ArrangePage();
   void ShowWindow();
   void Resized();
@@ -67,7 +72,9 @@ class QtView : public FormView {
   PictureSource pictures_;
   std::vector<Screen> screens_;
   std::unique_ptr<MainWindow> window_;
-  Page* page_ = nullptr;  // on display; its form may be gone already
+  std::unique_ptr<Narrator> narrator_;
+  std::optional<std::string> new_title_;  // of a page that has just come
+  Page* page_ = nullptr;                  // on display; its form may be gone already
   Form* page_form_ = nullptr;
   bool busy_pointer_ = false;
   bool close_wanted_ = false;

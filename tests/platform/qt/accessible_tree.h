@@ -65,9 +65,13 @@ class HeardEvents {
 
   HeardEvents() {
     events_.clear();
+    QAccessible::setActive(true);
     before_ = QAccessible::installUpdateHandler(&HeardEvents::Take);
   }
-  ~HeardEvents() { QAccessible::installUpdateHandler(before_); }
+  ~HeardEvents() {
+    QAccessible::installUpdateHandler(before_);
+    QAccessible::setActive(false);
+  }
   HeardEvents(const HeardEvents&) = delete;
   HeardEvents& operator=(const HeardEvents&) = delete;
 
