@@ -58,6 +58,7 @@ target_sources(
           worksheet/run_flow_test.cc
           worksheet/run_state_test.cc
           worksheet/scoring_test.cc
+          worksheet/spoken_test.cc
           worksheet/stored_training_test.cc
           worksheet/task_selection_test.cc
           worksheet/test_flow_test.cc

@@ -1121,5 +1121,48 @@
         <source></source>
         <translation>Diese Seite der Hilfe gibt es nur auf Englisch.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <extracomment>%1 is a chord or a group; spoken by a reader of the screen</extracomment>
+        <translation>Lösung: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <extracomment>%1 and %2 are numbers; spoken by a reader of the screen</extracomment>
+        <translation>Akkord %1 von %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <extracomment>spoken by a reader of the screen when a playback has ended</extracomment>
+        <translation>Bitte antworten</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <extracomment>%1 and %2 are numbers of chords</extracomment>
+        <translation>Ende der Aufgabe, %1 von %2 gelöst</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <extracomment>%1 is text 130 or 638</extracomment>
+        <translation>Ende des Trainings: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Ende des Tests</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>Die Zeit ist um</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <extracomment>%1 is an entry, %2 and %3 are lists; spoken by a reader of the screen</extracomment>
+        <translation>%1: von „%2“ nach „%3“</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <extracomment>%1 and %2 are lists; spoken by a reader of the screen</extracomment>
+        <translation>alle von „%1“ nach „%2“</translation>
+    </message>
 </context>
 </TS>

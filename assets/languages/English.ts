@@ -1121,5 +1121,48 @@
         <source></source>
         <translation>This page of the help is in English.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <extracomment>%1 is a chord or a group; spoken by a reader of the screen</extracomment>
+        <translation>Solution: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <extracomment>%1 and %2 are numbers; spoken by a reader of the screen</extracomment>
+        <translation>Chord %1 of %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <extracomment>spoken by a reader of the screen when a playback has ended</extracomment>
+        <translation>Please answer</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <extracomment>%1 and %2 are numbers of chords</extracomment>
+        <translation>End of the task, %1 of %2 solved</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <extracomment>%1 is text 130 or 638</extracomment>
+        <translation>End of the training: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>End of the test</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>Time is up</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <extracomment>%1 is an entry, %2 and %3 are lists; spoken by a reader of the screen</extracomment>
+        <translation>%1: from “%2” to “%3”</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <extracomment>%1 and %2 are lists; spoken by a reader of the screen</extracomment>
+        <translation>all from “%1” to “%2”</translation>
+    </message>
 </context>
 </TS>

@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>Esta página de la ayuda está en inglés.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>Solución: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>Acorde %1 de %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>Responda, por favor</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>Fin de la pregunta, %1 de %2 resueltos</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>Fin del entrenamiento: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Fin del test</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>Se acabó el tiempo</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1: de «%2» a «%3»</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>todos de «%1» a «%2»</translation>
+    </message>
 </context>
 </TS>

@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>Cette page de l’aide est en anglais.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>Solution : %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>Accord %1 sur %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>À vous de répondre</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>Fin de la question, %1 sur %2 trouvés</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>Fin de l’entraînement : %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Fin du test</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>Le temps est écoulé</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1 : de « %2 » à « %3 »</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>tous de « %1 » à « %2 »</translation>
+    </message>
 </context>
 </TS>

@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>Questa pagina della guida è in inglese.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>Soluzione: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>Accordo %1 di %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>Ora risponda</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>Fine della domanda, %1 di %2 risolti</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>Fine dell’allenamento: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Fine del test</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>Il tempo è scaduto</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1: da «%2» a «%3»</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>tutti da «%1» a «%2»</translation>
+    </message>
 </context>
 </TS>

@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>Deze pagina van de help is in het Engels.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>Oplossing: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>Akkoord %1 van %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>Antwoord nu</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>Einde van de opgave, %1 van %2 opgelost</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>Einde van de training: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Einde van de test</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>De tijd is om</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1: van ‘%2’ naar ‘%3’</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>alle van ‘%1’ naar ‘%2’</translation>
+    </message>
 </context>
 </TS>

@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>Ta strona pomocy jest po angielsku.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>Rozwiązanie: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>Akord %1 z %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>Proszę odpowiedzieć</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>Koniec zadania, rozwiązano %1 z %2</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>Koniec treningu: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Koniec testu</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>Czas minął</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1: z „%2” do „%3”</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>wszystkie z „%1” do „%2”</translation>
+    </message>
 </context>
 </TS>

@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>Esta página da ajuda está em inglês.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>Solução: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>Acorde %1 de %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>Responda, por favor</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>Fim da questão, %1 de %2 resolvidos</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>Fim do treino: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Fim do teste</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>O tempo acabou</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1: de «%2» para «%3»</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>todos de «%1» para «%2»</translation>
+    </message>
 </context>
 </TS>

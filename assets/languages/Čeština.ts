@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>Tato stránka nápovědy je v angličtině.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>Řešení: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>Akord %1 z %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>Odpovězte prosím</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>Konec úlohy, vyřešeno %1 z %2</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>Konec tréninku: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Konec testu</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>Čas vypršel</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1: z „%2“ do „%3“</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>vše z „%1“ do „%2“</translation>
+    </message>
 </context>
 </TS>

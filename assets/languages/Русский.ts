@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>Эта страница справки на английском языке.</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>Решение: %1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>Аккорд %1 из %2</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>Отвечайте, пожалуйста</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>Конец задания, решено %1 из %2</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>Конец тренировки: %1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>Конец теста</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>Время истекло</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1: из «%2» в «%3»</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>все из «%1» в «%2»</translation>
+    </message>
 </context>
 </TS>

@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>本帮助页面为英文。</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>答案：%1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>第 %1 个和弦，共 %2 个</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>请作答</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>本题结束，答对 %1 个，共 %2 个</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>训练结束：%1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>测验结束</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>时间到</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1：从“%2”移到“%3”</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>全部从“%1”移到“%2”</translation>
+    </message>
 </context>
 </TS>

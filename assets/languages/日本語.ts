@@ -1121,5 +1121,41 @@
         <source></source>
         <translation>このヘルプページは英語です。</translation>
     </message>
+    <message id="9721s">
+        <source></source>
+        <translation>正解：%1</translation>
+    </message>
+    <message id="9722s">
+        <source></source>
+        <translation>コード %1、全 %2 個</translation>
+    </message>
+    <message id="9723s">
+        <source></source>
+        <translation>答えてください</translation>
+    </message>
+    <message id="9724s">
+        <source></source>
+        <translation>問題終了、%2 個中 %1 個正解</translation>
+    </message>
+    <message id="9726s">
+        <source></source>
+        <translation>トレーニング終了：%1</translation>
+    </message>
+    <message id="9727s">
+        <source></source>
+        <translation>テスト終了</translation>
+    </message>
+    <message id="9728s">
+        <source></source>
+        <translation>時間切れです</translation>
+    </message>
+    <message id="9731s">
+        <source></source>
+        <translation>%1：「%2」から「%3」へ</translation>
+    </message>
+    <message id="9732s">
+        <source></source>
+        <translation>すべて「%1」から「%2」へ</translation>
+    </message>
 </context>
 </TS>

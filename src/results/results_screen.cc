@@ -128,6 +128,7 @@ void Testergebnis::BaueAuf() {
   SetzeTexte();
   ZeigeErgebnisse();
   visible = true;
+  Say(lab_ges.caption + shell_.texts.Sprachtext(700) + " " + ergebnis[0].caption);
 }
 
 void Testergebnis::BaueRaster() {

@@ -53,8 +53,10 @@ void Arbeitsblatt1::akk_antw(int index) {
     const auto record = parts_.record.LessonLetzteAntwort(clock.antw_dauer, clock.anz_whlg);
     const bool right = NachAkkorden() ? index == run_.task.aufg_akk_ar.at(run_.akk_nr)
                                       : index == Gefragt(run_.akk_nr).group;
+    const int slot = run_.akk_nr;
     AntwortSetzen(index, right, *record);
     FolgeDemStand();
+    SageUrteil(slot, right);
   });
 }
 
@@ -99,6 +101,7 @@ void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
     ergebnis[slot].caption = akk_group[clicked].caption;
   }
   nrakk[slot].enabled = false;
+  ++run_.answers.geloest;
   Erhoehe(run_.count.richtig);
   ZeigeZaehler();
   parts_.record.LessonEigenschaft(record, "Antwort", "true");

@@ -27,6 +27,7 @@ void Arbeitsblatt1::Bewache(const std::string& tag, const std::function<void()>&
       Uhrzeit.Disable();
       spieltimer.Disable();
       WahlAutomat.Disable();
+      listening = false;
       throw;
     }
   };
@@ -146,6 +147,7 @@ void Arbeitsblatt1::LegeLoesungBereit(int slot) {
 
 void Arbeitsblatt1::Spiele(SpielArt art) {
   run_.spiel_art = art;
+  listening = true;
   playback_.SpieleAufgabe(run_.task, run_.abbruch);
   if (!run_.abbruch) spieltimer.Enable();
 }
@@ -153,10 +155,12 @@ void Arbeitsblatt1::Spiele(SpielArt art) {
 void Arbeitsblatt1::spieltimer_Timer() {
   Bewache("spieltimer_timer.", [this] {
     spieltimer.Disable();
+    listening = false;
     if (run_.abbruch) return;
     if (run_.spiel_art != SpielArt::kKontrolle) {
       AntwortenFreigeben();
       wieder.enabled = true;
+      SageAntwortbereit();
       run_.clock.antw_start = shell_.loop.Clock();
       return;
     }
@@ -175,6 +179,7 @@ void Arbeitsblatt1::wieder_Click() {
   // The tiles close before the pause and not after it: an answer that came in the pause would end
   // the task that is about to be repeated.
   SperreAntworten();
+  listening = true;
   run_.spiel_art = SpielArt::kWiederholung;
   parts_.midi.MidiReset();
   Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
@@ -192,6 +197,7 @@ void Arbeitsblatt1::wieder2_Click() {
   wieder2.enabled = false;
   // Withdrawn before the pause for the same reason: the next task must not begin in it.
   NimmAngebotZurueck();
+  listening = true;
   run_.spiel_art = SpielArt::kKontrolle;
   parts_.midi.MidiReset();
   Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
@@ -235,6 +241,7 @@ void Arbeitsblatt1::HalteAn() {
   Uhrzeit.Disable();
   spieltimer.Disable();
   WahlAutomat.Disable();
+  listening = false;
   parts_.midi.MidiReset();
 }
 

@@ -30,6 +30,7 @@ struct TaskAnswers {
   std::array<std::array<int, 5>, kSlots + 1> falsch_ar{};  ///< wrong tiles, by number of the click
   std::array<int, kSlots + 1> whlg_ar{};    ///< repeats asked for while the slot was open
   std::array<float, kSlots + 1> zeit_ar{};  ///< time surcharge of a right first click
+  int geloest = 0;                          ///< slots answered rightly, at whichever click
 };
 
 /// The clock of the open slot.

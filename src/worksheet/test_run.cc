@@ -53,6 +53,7 @@ void Arbeitsblatt1::BeendeTestNachZeit() {
   HalteAn();
   wieder.enabled = false;
   wieder2.enabled = false;
+  Say(shell_.texts.Words({9728, "Time is up", {}}));
   BeendeAufzeichnung();
   // Events are served while the record is saved: the program may have been ended in them.
   if (loaded()) OeffneErgebnisse();

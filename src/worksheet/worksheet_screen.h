@@ -26,7 +26,8 @@ namespace vmod17 {
 
 /// `arbeitsblatt1`, the worksheet: the screen of a run, and the run itself. Its routines stand in
 /// several files: worksheet_screen.cc builds it, run_flow.cc leads from task to task and out,
-/// answers.cc judges the clicks, training.cc and test_run.cc hold what is theirs alone.
+/// answers.cc judges the clicks, spoken.cc tells of them to whom does not see, training.cc and
+/// test_run.cc hold what is theirs alone.
 class Arbeitsblatt1 : public Form {
  public:
   /// What the screen works on.
@@ -166,6 +167,16 @@ class Arbeitsblatt1 : public Form {
   void Schliesse(int kachel);
   /// Appends an answer to the record, with the attribute that tells the slot.
   void NeueAntwort(int lfd, const char* slot_attribute);
+
+  // spoken.cc
+  /// What a student who does not see the screen is told of a click.
+  void SageUrteil(int slot, bool right);
+  void SageAufgabenende();
+  /// That the answers are open, once it is quiet again.
+  void SageAntwortbereit();
+  std::string Loesung(int slot) const;
+  std::string OffenerAkkord() const;
+  std::string Stand() const;
 
   // training.cc
   void BeginneTraining();
