@@ -30,6 +30,7 @@ vmod17_test(
           settings/settings_outlook_test.cc
           settings/settings_screen_test.cc
           settings/settings_selection_test.cc
+          settings/settings_spoken_test.cc
           settings/settings_summary_test.cc
           settings/settings_test_file_test.cc
           settings/settings_walk_test.cc

@@ -3,6 +3,7 @@
 
 #include "settings/settings_screen.h"
 
+#include <functional>
 #include <initializer_list>
 #include <utility>
 
@@ -146,20 +147,37 @@ void Einstellung1::Verdrahte() {
     klang_alle[i].Click = [this, i] { klang_alle_Click(i); };
     grp_alle[i].Click = [this, i] { grp_alle_Click(i); };
   }
-  // What a run will be may change with each of these.
-  const auto dann_ausblick = [this](auto& event) {
-    event = [this, handler = std::move(event)](auto... index) {
+  // What a run will be may change with each of these. To a user who does not see it that is told,
+  // behind the move itself, but not what one event does in other controls one by one.
+  const auto dann_ausblick = [this](auto& event, std::function<std::string()> bewegung = {}) {
+    event = [this, was = std::move(bewegung), handler = std::move(event)](auto... index) {
+      const std::string vorher = ausblick.caption;
+      const std::string bewegt = was ? was() : "";
       handler(index...);
       ZeigeAusblick();
+      TakeSaid();
+      if (!visible) return;
+      if (!bewegt.empty()) Say(bewegt);
+      if (ausblick.caption != vorher) Say(ausblick.caption);
     };
   };
-  for (ItemList* list : {&training_Combo, &prfnr_Comb, &akkzahl_cmb, &temp_Combo, &klanglst[0],
-                         &klanglst[1], &grplst[0], &grplst[1]}) {
+  for (ItemList* list : {&training_Combo, &prfnr_Comb, &akkzahl_cmb, &temp_Combo}) {
     dann_ausblick(list->Click);
   }
   for (OptionGroup* group : {&akk_grp, &aus_w}) dann_ausblick(group->Click);
-  for (Button* button : {&klang_alle[0], &klang_alle[1], &grp_alle[0], &grp_alle[1]}) {
-    dann_ausblick(button->Click);
+  const TextLookup& texts = shell_.texts;
+  for (const auto& [listen, alle] : {std::pair(&klanglst, &klang_alle), {&grplst, &grp_alle}}) {
+    for (int i : {0, 1}) {
+      const ItemList& von = (*listen)[i];
+      const ItemList& nach = (*listen)[1 - i];
+      dann_ausblick((*listen)[i].Click, [&] {
+        return texts.Words(
+            {9731, "%1: from “%2” to “%3”", {von.text(), von.description, nach.description}});
+      });
+      dann_ausblick((*alle)[i].Click, [&] {
+        return texts.Words({9732, "all from “%1” to “%2”", {von.description, nach.description}});
+      });
+    }
   }
   for (const int i : grdeinst.indexes()) {
     grdeinst[i].MenuAsked = [this, i] { grdeinst_RechteTaste(i); };
