@@ -17,6 +17,7 @@ vmod17_test(
           shell/text_lookup_test.cc
           shell/uniform_random_test.cc
           catalogue/chord_board_test.cc
+          catalogue/chord_spelling_test.cc
           catalogue/chord_table_test.cc
           catalogue/picture_store_test.cc
           sound/chord_playback_test.cc

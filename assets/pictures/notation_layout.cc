@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "pictures/chord_spelling.h"
+#include "catalogue/chord_spelling.h"
 
 namespace vmod17 {
 namespace {

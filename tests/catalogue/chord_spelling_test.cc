@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "pictures/chord_spelling.h"
+#include "catalogue/chord_spelling.h"
 
 #include <gmock/gmock.h>
 
@@ -139,6 +139,13 @@ TEST(EveryChord, UsesNoSignWhereAPlainLetterWouldDo) {
                                        testing::Ne("Cb")));
     }
   }
+}
+
+TEST(ChordSpelling, NamesTheNotesFromBelow) {
+  EXPECT_EQ(NoteNames(ChordOfKlang(1)), "C E G");
+  EXPECT_EQ(NoteNames(ChordOfKlang(3)), "C E G#");
+  EXPECT_EQ(NoteNames(ChordOfKlang(22)), "C Eb Gb Bbb");
+  EXPECT_EQ(NoteNames(ChordOfKlang(96)), "C Eb Bbb D Gb");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "catalogue/chord_table.h"
@@ -30,5 +31,8 @@ struct SpelledNote {
 /// `root_octave`  octave of the root
 /// Errors: none.
 std::vector<SpelledNote> SpellChord(const Chord& chord, int root_octave);
+
+/// The same notes in words, from below: "C E Gb Bb D".
+std::string NoteNames(const Chord& chord);
 
 }  // namespace vmod17

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "pictures/chord_spelling.h"
+#include "catalogue/chord_spelling.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <string_view>
 
 namespace vmod17 {
@@ -102,6 +103,16 @@ std::vector<SpelledNote> SpellChord(const Chord& chord, int root_octave) {
     notes.push_back({name.letter, name.accidental, root_octave + semitone / 12});
   }
   return notes;
+}
+
+std::string NoteNames(const Chord& chord) {
+  std::string names;
+  for (const SpelledNote& note : SpellChord(chord, 0)) {
+    if (!names.empty()) names += ' ';
+    names += note.letter;
+    names.append(std::abs(note.accidental), note.accidental < 0 ? 'b' : '#');
+  }
+  return names;
 }
 
 }  // namespace vmod17
