@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Diese Seite der Hilfe gibt es nur auf Englisch.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>Voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: offen</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: richtig, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: falsch, noch offen</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: nicht erkannt, die Lösung ist %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <extracomment>%1 is a chord or a group; spoken by a reader of the screen</extracomment>

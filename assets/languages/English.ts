@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>This page of the help is in English.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: open</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: right, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: wrong, still open</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: lost, the solution is %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <extracomment>%1 is a chord or a group; spoken by a reader of the screen</extracomment>

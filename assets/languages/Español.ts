@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Esta página de la ayuda está en inglés.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: abierto</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: correcto, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: incorrecto, sigue abierto</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: no reconocido, la solución es %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>Solución: %1</translation>

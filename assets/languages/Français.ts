@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Cette page de l’aide est en anglais.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1 : à répondre</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1 : juste, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1 : faux, encore à répondre</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1 : non reconnu, la solution est %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>Solution : %1</translation>

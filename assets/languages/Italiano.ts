@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Questa pagina della guida è in inglese.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: aperto</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: giusto, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: sbagliato, ancora aperto</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: non riconosciuto, la soluzione è %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>Soluzione: %1</translation>

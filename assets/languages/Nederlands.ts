@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Deze pagina van de help is in het Engels.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: open</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: goed, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: fout, nog open</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: niet herkend, de oplossing is %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>Oplossing: %1</translation>

@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Ta strona pomocy jest po angielsku.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: bez odpowiedzi</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: dobrze, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: źle, nadal bez odpowiedzi</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: nierozpoznany, rozwiązanie to %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>Rozwiązanie: %1</translation>

@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Esta página da ajuda está em inglês.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: em aberto</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: certo, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: errado, ainda em aberto</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: não reconhecido, a solução é %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>Solução: %1</translation>

@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Tato stránka nápovědy je v angličtině.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>voicing</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: bez odpovědi</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: správně, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: špatně, stále bez odpovědi</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: nepoznáno, řešení je %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>Řešení: %1</translation>

@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>Эта страница справки на английском языке.</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>войсинг</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1: без ответа</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1: верно, %2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1: неверно, ещё без ответа</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1: не распознан, решение: %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>Решение: %1</translation>

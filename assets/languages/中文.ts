@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>本帮助页面为英文。</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>声位</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1：待回答</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1：正确，%2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1：错误，可再答</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1：未答出，答案是 %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>答案：%1</translation>

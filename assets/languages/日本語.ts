@@ -1121,6 +1121,26 @@
         <source></source>
         <translation>このヘルプページは英語です。</translation>
     </message>
+    <message id="9681s">
+        <source></source>
+        <translation>ヴォイシング</translation>
+    </message>
+    <message id="9682s">
+        <source></source>
+        <translation>%1：未回答</translation>
+    </message>
+    <message id="9683s">
+        <source></source>
+        <translation>%1：正解、%2</translation>
+    </message>
+    <message id="9684s">
+        <source></source>
+        <translation>%1：不正解、もう一度答えられます</translation>
+    </message>
+    <message id="9685s">
+        <source></source>
+        <translation>%1：不正解、答えは %2</translation>
+    </message>
     <message id="9721s">
         <source></source>
         <translation>正解：%1</translation>

@@ -136,6 +136,7 @@ class Control {
   }
 
   std::string caption;
+  std::string spoken;       ///< what a reader of the screen says in place of the caption
   std::string description;  ///< what a reader of the screen says beside the name; may stay empty
   std::string tag;
   bool visible = true;

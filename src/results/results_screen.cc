@@ -186,8 +186,8 @@ void Testergebnis::ZeigeErgebnisse() {
     ergebnis[i].caption = item.zaehlt ? ProzentText(item.p * 100, punkt) : "";
     ergebnis[i].back_color = item.zaehlt ? std::optional(ErgebnisFarbe(item.p)) : std::nullopt;
     // What a reader of the screen says of the cell as a whole.
-    klang_pan[i].description = jz_kl[i].caption + ", " + ShownCaption(akk_group[i].caption);
-    if (item.zaehlt) klang_pan[i].description += ", " + ergebnis[i].caption;
+    klang_pan[i].spoken = jz_kl[i].caption + ", " + ShownCaption(akk_group[i].caption);
+    if (item.zaehlt) klang_pan[i].spoken += ", " + ergebnis[i].caption;
   }
   if (gesamt.Leer()) {
     ergebnis[0].caption = "0.0 %";
@@ -203,6 +203,7 @@ void Testergebnis::ZeigeErgebnisse() {
 
 void Testergebnis::SetzeTexte() {
   lab_ges.caption = Wort(275);
+  cmdHilfe.spoken = shell_.texts.Words({9421, "Help", {}});
   for (int i : {0, 1}) {
     cmdOK[i].caption = Wort(625);
     cmdPrint[i].caption = Wort(1);

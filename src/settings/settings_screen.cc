@@ -313,12 +313,13 @@ void Einstellung1::SetzeTexte() {
   lb11[2].caption = text(395);
   lb2[2].caption = text(396);
   lb2[3].caption = text(2);
-  klanglst[0].description = text(9551);
-  klanglst[1].description = text(9552);
-  grplst[0].description = text(9553);
-  grplst[1].description = text(9554);
+  klanglst[0].spoken = text(9551);
+  klanglst[1].spoken = text(9552);
+  grplst[0].spoken = text(9553);
+  grplst[1].spoken = text(9554);
   cmdOK.caption = text(139);
   cmdZurueck.caption = text(640);
+  cmdHilfe.spoken = shell_.texts.Words({9421, "Help", {}});
   klang_contr.caption = text(366);
   lb14[0].caption = text(372);
   lb14[1].caption = DecimalText(kLautstaerke);
@@ -330,9 +331,9 @@ void Einstellung1::SetzeTexte() {
   popPruefung.caption = shell_.texts.SprachtextOder(9606, kMarke);
   for (const ControlArray<Button>* alle : {&klang_alle, &grp_alle}) {
     (*alle)[0].caption = "»";
-    (*alle)[0].description = text(9017);
+    (*alle)[0].spoken = text(9017);
     (*alle)[1].caption = "«";
-    (*alle)[1].description = text(9018);
+    (*alle)[1].spoken = text(9018);
   }
 }
 

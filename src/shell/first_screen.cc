@@ -64,6 +64,7 @@ void GrdEinst::SetzeTexte() {
   ueb_typ[2].caption = texts.Sprachtext(160);
   ueb_typ[3].caption = texts.Sprachtext(496);
   cmdOK.caption = texts.Sprachtext(432);
+  cmdHilfe.spoken = texts.Words({9421, "Help", {}});
   cmdEnde.caption = texts.Sprachtext(223);
 }
 

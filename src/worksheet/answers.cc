@@ -100,6 +100,7 @@ void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
   } else {
     ergebnis[slot].caption = akk_group[clicked].caption;
   }
+  BenenneSlot(slot, {9683, "%1: right, %2", {Loesungsname(slot)}});
   nrakk[slot].enabled = false;
   ++run_.answers.geloest;
   Erhoehe(run_.count.richtig);
@@ -133,6 +134,7 @@ void Arbeitsblatt1::Falsch(int clicked, XmlElement& record) {
   run_.clock.anz_whlg = 0;
   run_.lauf_status = LaufStatus::kWeitererVersuch;
   ergebnis[slot].caption = shell_.texts.Sprachtext(232);
+  BenenneSlot(slot, {9684, "%1: wrong, still open", {}});
   Streiche(clicked);
   run_.clock.antw_dauer = 0;
   run_.clock.antw_start = shell_.loop.Clock();
@@ -146,6 +148,7 @@ void Arbeitsblatt1::Verloren(int slot) {
   } else {
     ergebnis[slot].caption = akk_group[Gefragt(slot).group].caption;
   }
+  BenenneSlot(slot, {9685, "%1: lost, the solution is %2", {Loesungsname(slot)}});
   nrakk[slot].enabled = false;
   ++run_.akk_nr;
   NaechsterAkkord();
@@ -155,6 +158,17 @@ void Arbeitsblatt1::ZeigeLoesung(int slot, Color rahmen) {
   erg[slot].visible = true;
   ergebnis[slot].back_color = rahmen;
   akk_lfdnr[slot].visible = true;
+  ergebnis[slot].description = akk_lfdnr[slot].caption;
+}
+
+void Arbeitsblatt1::BenenneSlot(int slot, Notice wie) {
+  wie.details.insert(wie.details.begin(), nrakk[slot].caption);
+  ergebnis[slot].spoken = shell_.texts.Words(wie);
+}
+
+std::string Arbeitsblatt1::Loesungsname(int slot) const {
+  return NachAkkorden() ? jz_kl[run_.task.aufg_akk_ar.at(slot)].spoken
+                        : akk_group[Gefragt(slot).group].caption;
 }
 
 void Arbeitsblatt1::Streiche(int clicked) {

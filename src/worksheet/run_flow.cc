@@ -139,6 +139,8 @@ void Arbeitsblatt1::LegeLoesungBereit(int slot) {
   akk_lfdnr[slot].visible = false;
   ergebnis[slot].caption.clear();
   ergebnis[slot].back_color = Colors::kBlack;
+  ergebnis[slot].description.clear();
+  BenenneSlot(slot, {9682, "%1: open", {}});
   if (!NachAkkorden()) return;
   akk_lfdnr[slot].caption = shell_.texts.Sprachtext(374) + " " + DecimalText(e);
   erg[slot].image = parts_.settings.akk_anzeige == 0 ? Akkbez[e].image : jz_kl[e].image;

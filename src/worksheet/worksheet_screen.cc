@@ -4,7 +4,9 @@
 #include "worksheet/worksheet_screen.h"
 
 #include <array>
+#include <map>
 
+#include "catalogue/chord_spelling.h"
 #include "shell/numbers.h"
 
 namespace vmod17 {
@@ -213,6 +215,7 @@ void Arbeitsblatt1::BereiteModusVor() {
 void Arbeitsblatt1::TexteSetzen() {
   const TextLookup& texts = shell_.texts;
   const auto text = [&](int id) { return texts.Sprachtext(id); };
+  cmdHilfe.spoken = texts.Words({9421, "Help", {}});
   LbAkkGrp.caption = text(56);
   nrakk[0].caption = text(95) + text(700);
   for (int i = 1; i <= kSlots; ++i) {
@@ -274,6 +277,24 @@ void Arbeitsblatt1::BaueKacheln() {
     jz_kl[e].caption = Akkbez[e].caption = ChordOfKlang(n).symbol;
     jz_kl[e].description = shell_.texts.Sprachtext(374) + " " + DecimalText(e);
   }
+  BenenneKacheln();
+}
+
+/// What a reader of the screen calls the tiles: by what they show, and twins also by their number.
+void Arbeitsblatt1::BenenneKacheln() {
+  std::map<std::string, int> gleiche;
+  for (int e = 1; e <= parts_.board.akk_zahl; ++e) {
+    const Chord& chord = ChordOfKlang(parts_.board.KlangNummer(e));
+    std::string& name = jz_kl[e].spoken = chord.symbol;
+    if (parts_.settings.akk_anzeige == 0) {
+      if (chord.klangtyp == kVoicing) name += ", " + shell_.texts.Words({9681, "voicing", {}});
+      name += ", " + NoteNames(chord);
+    }
+    ++gleiche[name];
+  }
+  for (int e = 1; e <= parts_.board.akk_zahl; ++e) {
+    if (gleiche[jz_kl[e].spoken] > 1) jz_kl[e].spoken += ", " + DecimalText(e);
+  }
 }
 
 void Arbeitsblatt1::BaueGruppen() {
@@ -295,6 +316,7 @@ void Arbeitsblatt1::BereiteSlotsVor() {
     nrakk[i].visible = belegt;
     nrakk[i].enabled = false;
     ergebnis[i].visible = belegt;
+    ergebnis[i].spoken = nrakk[i].caption;
     ergebnis[i].back_color = Colors::kBlack;
     erg[i].visible = false;
     akk_lfdnr[i].visible = false;

@@ -124,6 +124,7 @@ class Arbeitsblatt1 : public Form {
   BoardSelection Auswahl() const;
   void BaueAntwortfeld();
   void BaueKacheln();
+  void BenenneKacheln();
   void BaueGruppen();
   void BereiteSlotsVor();
   void ZeigeUhrzeit();
@@ -157,6 +158,11 @@ class Arbeitsblatt1 : public Form {
   void Falsch(int clicked, XmlElement& record);
   void Verloren(int slot);
   void ZeigeLoesung(int slot, Color rahmen);
+  /// Has a reader of the screen call a slot by how it stands: the words of `wie`, whose first
+  /// detail is the slot.
+  void BenenneSlot(int slot, Notice wie);
+  /// The solution as its tile or group is called.
+  std::string Loesungsname(int slot) const;
   void Streiche(int clicked);
   void NaechsterAkkord();
   void BeendeAufgabe();

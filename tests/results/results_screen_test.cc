@@ -238,7 +238,7 @@ TEST(ResultsGrid, TellsAReaderOfTheScreenEachCellAsAWhole) {
   ResultsFixture p;
   p.ToResults();
   const std::string symbol(ChordOfKlang(p.program.board()[1].klang).symbol);
-  EXPECT_EQ(p.results().klang_pan[1].description, symbol + ", [51s], 0.0%");
+  EXPECT_EQ(p.results().klang_pan[1].spoken, symbol + ", [51s], 0.0%");
 }
 
 TEST(ResultsGrid, TellsTheDateForPaperAlone) {

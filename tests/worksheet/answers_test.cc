@@ -582,5 +582,57 @@ TEST(Answers, OfferTheNextTaskWhenTheLastSlotIsClosed) {
   }
 }
 
+/// What a reader of the screen calls the slots.
+class SpokenSlots : public testing::Test {
+ protected:
+  SpokenSlots() {
+    p_.languages.languages[0].second.words = {
+        {"426s", "Akkord"},           {"374s", "lfd Nr."},     {"9682s", "%1: offen"},
+        {"9683s", "%1: richtig, %2"}, {"9684s", "%1: falsch"}, {"9685s", "%1: verloren, %2"}};
+  }
+  std::string Slot(int slot) { return p_.worksheet().ergebnis[slot].spoken; }
+  std::string Solution(int slot) { return p_.worksheet().jz_kl[p_.Asked(slot)].spoken; }
+
+  WorksheetFixture p_;
+};
+
+TEST_F(SpokenSlots, TellHowEachChordEndedAndWhichItWas) {
+  p_.Begin(Chords(3));
+  EXPECT_EQ(Slot(1), "Akkord 1");
+  p_.PlayTask();
+  for (int slot = 1; slot <= 3; ++slot) {
+    EXPECT_EQ(Slot(slot), "Akkord " + std::to_string(slot) + ": offen");
+  }
+  p_.Right();
+  EXPECT_EQ(Slot(1), "Akkord 1: richtig, " + Solution(1));
+  EXPECT_EQ(p_.worksheet().ergebnis[1].description, "lfd Nr. " + std::to_string(p_.Asked(1)));
+  EXPECT_EQ(Slot(2), "Akkord 2: offen");
+  p_.Wrong();
+  EXPECT_EQ(Slot(2), "Akkord 2: falsch");
+  EXPECT_EQ(p_.worksheet().ergebnis[2].description, "");
+  while (p_.run().akk_nr == 2) p_.Wrong();
+  EXPECT_EQ(Slot(2), "Akkord 2: verloren, " + Solution(2));
+  EXPECT_EQ(Slot(3), "Akkord 3: offen");
+}
+
+TEST_F(SpokenSlots, TellTheGroupWhereGroupsAreNamed) {
+  p_.Begin(Groups(2), {4}, {1, 3, 4, 6, 7});
+  p_.PlayTask();
+  const int group = p_.Right();
+  EXPECT_EQ(Slot(1), "Akkord 1: richtig, " + p_.worksheet().akk_group[group].caption);
+  const int lost = p_.RightChoice();
+  while (p_.run().akk_nr == 2) p_.Wrong();
+  EXPECT_EQ(Slot(2), "Akkord 2: verloren, " + p_.worksheet().akk_group[lost].caption);
+}
+
+TEST_F(SpokenSlots, ForgetTheTaskBefore) {
+  p_.Begin(Chords(1));
+  p_.PlayTask();
+  p_.Right();
+  p_.PlayTask();
+  EXPECT_EQ(Slot(1), "Akkord 1: offen");
+  EXPECT_EQ(p_.worksheet().ergebnis[1].description, "");
+}
+
 }  // namespace
 }  // namespace vmod17

@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <set>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "worksheet/stage.h"
@@ -592,6 +594,54 @@ TEST(WorksheetScreen, ListensToTheQueueWithoutActing) {
   p.worksheet().midi_QueueEmpty();
   EXPECT_EQ(p.OpenChoices(), open);
   EXPECT_TRUE(p.worksheet().zurueck.Reachable());
+}
+
+/// What a reader of the screen calls the tiles.
+std::vector<std::string> TileNames(WorksheetFixture& p) {
+  std::vector<std::string> names;
+  for (int e = 1; e <= p.program.board().akk_zahl; ++e) {
+    names.push_back(p.worksheet().jz_kl[e].spoken);
+  }
+  return names;
+}
+
+TEST(SpokenTiles, SaySymbolAndNotesAndWhetherTwoHandsPlay) {
+  WorksheetFixture triads;
+  triads.Begin();
+  EXPECT_EQ(TileNames(triads)[1], "Cmin, C Eb G");
+  WorksheetFixture voicings;
+  voicings.languages.languages[0].second.words = {{"9681s", "Voicing"}};
+  voicings.Begin([](ExerciseSettings& s) { s.akk_form = 1; }, {}, {5, 8});
+  const std::string symbol(ChordOfKlang(voicings.program.board()[1].klang).symbol);
+  EXPECT_EQ(TileNames(voicings)[0].find(symbol + ", Voicing, C "), 0U) << TileNames(voicings)[0];
+}
+
+TEST(SpokenTiles, SayNoNotesThatTheTilesDoNotShow) {
+  WorksheetFixture p;
+  p.Begin([](ExerciseSettings& s) { s.akk_anzeige = 1; });
+  EXPECT_EQ(TileNames(p)[1], "Cmin");
+}
+
+TEST(SpokenTiles, AreDifferentOnEachBoardAlsoWhereTwoChordsLookAlike) {
+  int with_number = 0;
+  for (const auto& [akk_form, akk_anzeige] : {std::pair(0, 0), std::pair(0, 1), std::pair(1, 0)}) {
+    for (int board = 1; board <= 40; ++board) {
+      WorksheetFixture p;
+      p.ToSettings();
+      p.Select({4, 5, 6, 7}, {1, 2, 3, 4, 5, 6, 7, 8});
+      p.settings().akk_form = akk_form;
+      p.settings().akk_anzeige = akk_anzeige;
+      p.random.Restart(board);
+      p.StartRun();
+      const std::vector<std::string> names = TileNames(p);
+      const std::set<std::string> different(names.begin(), names.end());
+      EXPECT_EQ(different.size(), names.size()) << akk_form << akk_anzeige << " " << board;
+      for (std::size_t i = 0; i < names.size(); ++i) {
+        with_number += names[i].ends_with(", " + std::to_string(i + 1)) ? 1 : 0;
+      }
+    }
+  }
+  EXPECT_GT(with_number, 0);
 }
 
 }  // namespace

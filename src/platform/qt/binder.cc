@@ -320,13 +320,10 @@ void Binding::RefreshTexts() {
     caption_ = control_.caption;
     if (!OwnCaption()) dressed_.SetCaption(Text(ShownCaption(control_.caption)));
   }
-  // What is described as a whole, and has no words beside, is called by that.
-  if (named_by_ == nullptr && control_.caption.empty() && !control_.description.empty()) {
-    return WriteName(control_.description);
-  }
   // What has words of its own is called by them, and the label that belongs to it explains them.
-  const bool own_words = named_by_ == nullptr || !control_.caption.empty();
-  WriteName(own_words ? control_.caption : named_by_->caption);
+  const std::string& own = control_.spoken.empty() ? control_.caption : control_.spoken;
+  const bool own_words = named_by_ == nullptr || !own.empty();
+  WriteName(own_words ? own : named_by_->caption);
   const bool explained = own_words && named_by_ != nullptr && control_.description.empty();
   WriteDescription(explained ? named_by_->caption : control_.description);
 }

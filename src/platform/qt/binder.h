@@ -23,7 +23,7 @@ struct BindingSite {
   const PageStyle& style;
   /// Runs what a user's action asks for; does nothing once the form is gone.
   std::function<void(const EventLoop::Handler&)> deliver;
-  /// Moves the focus from a widget in the direction of an arrow key, among controls of one array.
+  /// Moves the focus from a widget as an arrow key, Home or End says, among controls of one array.
   std::function<bool(const Control& from, int key)> move_focus;
   /// Asks for the menu of a frame.
   std::function<void(Frame& frame)> ask_menu;

@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QWindow>
@@ -60,6 +61,13 @@ QString FileOf(const QUrl& address) {
   return file.startsWith("..") ? QString() : file;
 }
 
+/// A page whose pictures have their words beneath them: the text of a page is all that a reader of
+/// the screen has of it.
+QString WithWordsOfPictures(QString page) {
+  static const QRegularExpression kPicture("(<img[^>]*\\balt=\"([^\"]*)\"[^>]*/>)");
+  return page.replace(kPicture, "\\1<br/><span class=\"quiet\">\\2</span>");
+}
+
 /// Empty for a file that cannot be read, as for none.
 QByteArray Read(const std::filesystem::path& path) {
   if (path.empty()) return {};
@@ -84,7 +92,8 @@ class HelpWindow::Browser : public QTextBrowser {
     const QByteArray held = Read(help_.Find(file));
     if (type == QTextDocument::ImageResource) return Scaled(QImage::fromData(held));
     if (type != QTextDocument::HtmlResource) return QString::fromUtf8(held);
-    return held.isEmpty() ? help_.Missing() : help_.WithNote(file, QString::fromUtf8(held));
+    if (held.isEmpty()) return help_.Missing();
+    return help_.WithNote(file, WithWordsOfPictures(QString::fromUtf8(held)));
   }
 
  private:

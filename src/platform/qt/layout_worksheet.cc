@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <algorithm>
+#include <string_view>
 
 #include "platform/qt/layout.h"
 #include "platform/qt/look.h"
@@ -208,11 +209,18 @@ void FillButtons(Layout& layout, const QRectF& box, double middle) {
       .rect = row(50, 42), .text = 20, .align = Qt::AlignCenter, .bold = true};
 }
 
+/// The keys that answer, by tile or group. The letters that are missing do something else.
+constexpr std::string_view kAnswerKeys = "123456789ABCDEFGHIJLMOPQ";
+
 void FillKeys(Layout& layout) {
   layout.keys = {{QKeySequence(Qt::Key_N), {"CmdNextAufg"}},
                  {QKeySequence(Qt::Key_R), {"wieder"}},
                  {QKeySequence(Qt::Key_K), {"wieder2"}},
                  {QKeySequence(Qt::Key_Escape), {"zurueck"}}};
+  for (int i = 1; i <= kTiles; ++i) {
+    layout.keys.push_back({QKeySequence(kAnswerKeys[static_cast<std::size_t>(i - 1)]),
+                           {IdOf("jz_kl", i), IdOf("akk_group", i)}});
+  }
   layout.focus_first = "CmdNextAufg";
   layout.refuge = {"jz_kl", "akk_group", "CmdNextAufg", "wieder2"};
 }

@@ -20,15 +20,12 @@
 namespace vmod17 {
 namespace {
 
-/// How far `to` lies from `from` in the direction of an arrow key; infinite when it lies elsewhere.
+/// How far `to` lies above or below `from`, as the key says; infinite when it lies elsewhere.
 double Distance(const QPointF& from, const QPointF& to, int key) {
   const QPointF way = to - from;
-  const bool along_x = key == Qt::Key_Left || key == Qt::Key_Right;
-  const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
-  const double ahead = (along_x ? way.x() : way.y()) * (forward ? 1 : -1);
-  const double aside = std::abs(along_x ? way.y() : way.x());
-  if (ahead < 1 || (along_x && aside > 1)) return std::numeric_limits<double>::infinity();
-  return ahead + 3 * aside;
+  const double ahead = key == Qt::Key_Down ? way.y() : -way.y();
+  if (ahead < 1) return std::numeric_limits<double>::infinity();
+  return ahead + 3 * std::abs(way.x());
 }
 
 }  // namespace
@@ -104,6 +101,8 @@ void Page::Refresh() {
   if (moved) Place();
   if (title_ != form_->caption || ground_ != form_->back_color) {
     title_ = form_->caption;
+    // The focus rests here while nothing can be done.
+    setAccessibleName(QString::fromStdString(title_));
     ground_ = form_->back_color;
     update();
   }
@@ -190,24 +189,42 @@ void Page::OrderTabs() {
 }
 
 void Page::CollectTabs(const Control* container, std::vector<QWidget*>& order) const {
-  std::vector<const Binding*> inside;
+  std::vector<const Binding*> columns;
+  std::vector<const Binding*> rows;
   for (const auto& binding : bindings_) {
-    if (binding->control().container == container) inside.push_back(binding.get());
-  }
-  const auto key = [this](const Binding* binding) {
-    const QRectF rect = PlaceOf(binding->control());
+    if (binding->control().container != container) continue;
     const bool frame = dynamic_cast<const Frame*>(&binding->control()) != nullptr;
-    if (layout_.tab_by_column && frame) return std::tuple(0, rect.left(), rect.top());
-    // Controls of one row may differ in height; frames side by side begin at one height.
-    return std::tuple(layout_.tab_by_column ? 1 : 0, frame ? rect.top() : rect.center().y(),
-                      rect.left());
-  };
-  std::stable_sort(inside.begin(), inside.end(),
-                   [&key](const Binding* a, const Binding* b) { return key(a) < key(b); });
-  for (const Binding* binding : inside) {
-    if (binding->widget().focusPolicy() != Qt::NoFocus) order.push_back(&binding->widget());
-    CollectTabs(&binding->control(), order);
+    (layout_.tab_by_column && frame ? columns : rows).push_back(binding.get());
   }
+  std::stable_sort(columns.begin(), columns.end(), [this](const Binding* a, const Binding* b) {
+    const QRectF one = PlaceOf(a->control());
+    const QRectF other = PlaceOf(b->control());
+    return std::tuple(one.left(), one.top()) < std::tuple(other.left(), other.top());
+  });
+  for (const std::vector<const Binding*>& part : {columns, RowByRow(std::move(rows))}) {
+    for (const Binding* binding : part) {
+      if (binding->widget().focusPolicy() != Qt::NoFocus) order.push_back(&binding->widget());
+      CollectTabs(&binding->control(), order);
+    }
+  }
+}
+
+/// As one reads: what stands beside the highest one of those that are left is of its row, also
+/// where it is lower or begins deeper.
+std::vector<const Binding*> Page::RowByRow(std::vector<const Binding*> bindings) const {
+  const auto place = [this](const Binding* binding) { return PlaceOf(binding->control()); };
+  std::stable_sort(bindings.begin(), bindings.end(),
+                   [&](auto* a, auto* b) { return place(a).top() < place(b).top(); });
+  auto row = bindings.begin();
+  while (row != bindings.end()) {
+    const double bottom = place(*row).bottom();
+    const auto next = std::stable_partition(
+        row, bindings.end(), [&](auto* one) { return place(one).center().y() < bottom; });
+    std::stable_sort(row, next,
+                     [&](auto* a, auto* b) { return place(a).left() < place(b).left(); });
+    row = next;
+  }
+  return bindings;
 }
 
 void Page::Deliver(const EventLoop::Handler& handler) {
@@ -316,18 +333,48 @@ bool Page::CanFocus(const QWidget& widget) const {
 
 bool Page::MoveFocus(const Control& from, int key) {
   if (form_ == nullptr || from.index() == Control::kNoIndex) return false;
-  const QPointF start = PlaceOf(from).center();
-  QWidget* best = nullptr;
-  double best_distance = std::numeric_limits<double>::infinity();
+  std::vector<const Binding*> array;  // row after row
   for (const auto& binding : bindings_) {
-    if (binding->control().name() != from.name() || !CanFocus(binding->widget())) continue;
+    const bool one_of_them = binding->control().name() == from.name();
+    if (one_of_them && CanFocus(binding->widget())) array.push_back(binding.get());
+  }
+  const auto at = std::find_if(array.begin(), array.end(),
+                               [&from](const Binding* b) { return &b->control() == &from; });
+  if (at == array.end()) return true;
+  const Binding* to = *at;
+  switch (key) {
+    case Qt::Key_Home:
+      to = array.front();
+      break;
+    case Qt::Key_End:
+      to = array.back();
+      break;
+    case Qt::Key_Left:
+      to = at == array.begin() ? array.back() : *(at - 1);
+      break;
+    case Qt::Key_Right:
+      to = *at == array.back() ? array.front() : *(at + 1);
+      break;
+    default:
+      to = Nearest(**at, array, key);
+  }
+  to->widget().setFocus(Qt::OtherFocusReason);
+  return true;
+}
+
+/// The nearest one above or below; `from` where there is none.
+const Binding* Page::Nearest(const Binding& from, const std::vector<const Binding*>& among,
+                             int key) const {
+  const QPointF start = PlaceOf(from.control()).center();
+  const Binding* best = &from;
+  double best_distance = std::numeric_limits<double>::infinity();
+  for (const Binding* binding : among) {
     const double distance = Distance(start, PlaceOf(binding->control()).center(), key);
     if (distance >= best_distance) continue;
-    best = &binding->widget();
+    best = binding;
     best_distance = distance;
   }
-  if (best != nullptr) best->setFocus(Qt::OtherFocusReason);
-  return true;
+  return best;
 }
 
 /// The first control of an array that can have the focus, counted from the one that had it last.
@@ -356,11 +403,11 @@ QWidget* Page::Refuge() const {
 void Page::KeepFocus(QWidget* before) {
   if (form_ == nullptr || !form_->visible || !isVisible()) return;
   const bool waiting = before == nullptr || before == this;
-  if (!waiting && isAncestorOf(before) && CanFocus(*before)) {
+  if (!waiting) {
+    if (!isAncestorOf(before)) return;
     RememberFocus(before);
-    return;
+    if (CanFocus(*before)) return;
   }
-  if (!waiting && !isAncestorOf(before)) return;
   QWidget* const refuge = Refuge();
   QWidget* const target = refuge != nullptr ? refuge : this;
   if (target != window()->focusWidget()) target->setFocus(Qt::OtherFocusReason);

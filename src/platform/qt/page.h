@@ -74,9 +74,12 @@ class Page : public QWidget {
   QPointF OriginIn(const Control& container) const;
   QRect Pixels(const QRectF& units) const;
   void OrderTabs();
+  std::vector<const Binding*> RowByRow(std::vector<const Binding*> bindings) const;
   void CollectTabs(const Control* container, std::vector<QWidget*>& order) const;
   void Deliver(const EventLoop::Handler& handler);
   bool MoveFocus(const Control& from, int key);
+  const Binding* Nearest(const Binding& from, const std::vector<const Binding*>& among,
+                         int key) const;
   Binding* BindingOf(const std::string& id) const;
   Pressable* PressableOf(const std::string& id) const;
   bool CanFocus(const QWidget& widget) const;

@@ -22,9 +22,19 @@ bool IsEnter(const QKeyEvent* event) {
   return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
-bool IsArrow(const QKeyEvent* event) {
-  return event->key() == Qt::Key_Left || event->key() == Qt::Key_Right ||
-         event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+/// Whether a key leads from one control of an array to another.
+bool LeadsOn(const QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      return true;
+    default:
+      return false;
+  }
 }
 
 std::optional<QColor> Optional(const std::optional<Color>& color) {
@@ -174,7 +184,7 @@ void PressWidget::keyPressEvent(QKeyEvent* event) {
     if (!event->isAutoRepeat()) click();
     return;
   }
-  if (IsArrow(event)) {
+  if (LeadsOn(event)) {
     if (!move_focus || !move_focus(event->key())) event->ignore();
     return;
   }
@@ -386,7 +396,7 @@ void PlateWidget::PaintCell(QPainter& painter) {
 }
 
 void PlateWidget::keyPressEvent(QKeyEvent* event) {
-  const bool moves = place_.look == Look::kCell && IsArrow(event) && move_focus;
+  const bool moves = place_.look == Look::kCell && LeadsOn(event) && move_focus;
   if (!moves || !move_focus(event->key())) event->ignore();
 }
 
@@ -522,6 +532,11 @@ ListWidget::ListWidget(QWidget* parent, const PageStyle& style, const Placement&
   setItemDelegate(new Delegate(*this));
   viewport()->setAutoFillBackground(false);
   viewport()->setCursor(Qt::PointingHandCursor);
+  // Where a reader of the screen runs, the toolkit has asked for what this is before it was one of
+  // ours, and keeps the answer.
+  if (QAccessibleInterface* const early = QAccessible::queryAccessibleInterface(this)) {
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
+  }
   connect(this, &QListWidget::itemClicked, this,
           [this](QListWidgetItem* item) { TakeEntry(row(item)); });
 }

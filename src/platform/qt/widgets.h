@@ -91,7 +91,7 @@ class PressWidget : public QAbstractButton, public Dressed {
  public:
   PressWidget(QWidget* parent, const PageStyle& style, const Placement& place);
 
-  /// Moves the focus from this widget in the direction of an arrow key; returns whether it could.
+  /// Moves the focus from this widget as an arrow key, Home or End says; returns whether it could.
   std::function<bool(int key)> move_focus;
 
   void SetImage(const PictureId& image);
@@ -142,7 +142,7 @@ class PlateWidget : public QGroupBox, public Dressed {
   /// The colour at a place of it.
   QColor GroundAt(const QPoint& point) const;
 
-  /// Moves the focus from this widget in the direction of an arrow key; returns whether it could.
+  /// Moves the focus from this widget as an arrow key, Home or End says; returns whether it could.
   std::function<bool(int key)> move_focus;
   /// Asks for the menu of the frame; none if it has none.
   std::function<void()> ask_menu;

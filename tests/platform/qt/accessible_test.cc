@@ -133,6 +133,7 @@ class EachScreen : public testing::TestWithParam<const char*> {
     return p_.results();
   }
 
+  const HeardEvents reader_;  // one that runs from the beginning on
   ProgramFixture p_;
 };
 
@@ -197,6 +198,16 @@ TEST_P(EachScreen, GivesTheFocusToEachControlThatIsAskedToTakeIt) {
   EXPECT_GT(taken, 0);
 }
 
+TEST_P(EachScreen, NamesEachControlThatTakesActions) {
+  const Shown shown(Screen(), kSmall);
+  for (const Binding* binding : shown.Visible()) {
+    if (!TakesActions(binding->control())) continue;
+    if (dynamic_cast<const Frame*>(&binding->control()) != nullptr) continue;
+    const QString name = Of(binding->widget()).text(QAccessible::Name);
+    EXPECT_GT(name.size(), 1) << binding->control().Id() << ": " << name.toStdString();
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(All, EachScreen,
                          testing::Values("First", "Settings", "Worksheet", "Results"),
                          [](const auto& test) { return test.param; });
@@ -215,6 +226,7 @@ class AccessibleSettings : public testing::Test {
     return Of(*view_.page()->findChild<QWidget*>(name));
   }
 
+  const HeardEvents reader_;
   ProgramFixture p_;
   QtEventLoop loop_;
   QtView view_{loop_};

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QImage>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
@@ -164,6 +165,25 @@ TEST(HelpWindow, ShowsEveryPageOfTheProgram) {
     EXPECT_EQ(help.Page(), std::filesystem::path(PROGRAM_HELP) / "de" / page.toStdString());
     EXPECT_GT(BrowserOf(help).document()->characterCount(), 500) << page.toStdString();
   }
+}
+
+TEST(HelpWindow, SaysEachPictureInWords) {
+  HelpWindow help({std::filesystem::path(PROGRAM_HELP)});
+  int pictures = 0;
+  for (const char* language : {"de", "en"}) {
+    for (const QString& page : PagesOf(language)) {
+      QFile file(QString("%1/%2/%3").arg(PROGRAM_HELP, language, page));
+      ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+      const QString source = QString::fromUtf8(file.readAll());
+      help.Show(QFileInfo(page).baseName().toStdString(), language);
+      static const QRegularExpression kPicture("<img[^>]*alt=\"([^\"]+)\"");
+      for (auto each = kPicture.globalMatch(source); each.hasNext(); ++pictures) {
+        const std::string words = each.next().captured(1).toStdString();
+        EXPECT_NE(TextOf(help).find(words), std::string::npos) << language << ": " << words;
+      }
+    }
+  }
+  EXPECT_GT(pictures, 20);
 }
 
 TEST(HelpWindow, DressesThePagesByTheirStyleSheet) {

@@ -9,6 +9,7 @@
 #include <QCloseEvent>
 #include <QTest>
 #include <QWidget>
+#include <set>
 
 #include "platform/qt/page.h"
 #include "platform/qt/qt_event_loop.h"
@@ -172,11 +173,76 @@ TEST_F(QtViewTest, MovesAmongTheTilesByArrowKeysAndAnswersByEnter) {
   Key(Qt::Key_Up);
   EXPECT_EQ(Focus(), "jz_kl(2)");
   Key(Qt::Key_Left);
-  Key(Qt::Key_Left);
   EXPECT_EQ(Focus(), "jz_kl(1)");
   const int asked = p_.Asked(1);
   Key(Qt::Key_Return);
   EXPECT_EQ(p_.worksheet().zaehler[asked == 1 ? 0 : 1].caption, "1");
+}
+
+TEST_F(QtViewTest, GoesOnWithTheNextRowAndRoundTheBoardAndToItsEnds) {
+  ToWorksheet();
+  Key(Qt::Key_N);
+  Play();
+  const auto after = [&](int key) {
+    Key(key);
+    return Focus();
+  };
+  ASSERT_EQ(p_.program.board().akk_zahl, 10);
+  EXPECT_EQ(after(Qt::Key_End), "jz_kl(10)");
+  EXPECT_EQ(after(Qt::Key_Right), "jz_kl(1)");
+  EXPECT_EQ(after(Qt::Key_Left), "jz_kl(10)");
+  EXPECT_EQ(after(Qt::Key_Home), "jz_kl(1)");
+  for (int i = 0; i < 5; ++i) Key(Qt::Key_Right);
+  EXPECT_EQ(Focus(), "jz_kl(6)");
+  EXPECT_EQ(after(Qt::Key_Right), "jz_kl(7)");
+  EXPECT_EQ(after(Qt::Key_Left), "jz_kl(6)");
+  EXPECT_EQ(after(Qt::Key_Up), "jz_kl(6)");
+}
+
+TEST_F(QtViewTest, AnswersByTheKeyOfATileWhereverTheFocusIs) {
+  const QString keys = "123456789A";
+  ToWorksheet();
+  Key(Qt::Key_N);
+  Key(Qt::Key_1);  // while the chord sounds, no tile can be reached
+  Play();
+  EXPECT_EQ(p_.worksheet().zaehler[0].caption, "0");
+  EXPECT_EQ(p_.worksheet().zaehler[1].caption, "0");
+  Window().findChild<QWidget*>("zurueck")->setFocus();
+  const int wrong = p_.Wrong();
+  Key(keys[wrong - 1].unicode());
+  EXPECT_FALSE(p_.worksheet().jz_kl[wrong].enabled);
+  EXPECT_EQ(p_.worksheet().zaehler[1].caption, "1");
+  Key(keys[p_.Asked(1) - 1].unicode());
+  EXPECT_EQ(p_.worksheet().zaehler[0].caption, "1");
+  EXPECT_TRUE(Window().findChild<QWidget*>("jz_kl(3)")->toolTip().endsWith(" (3)"));
+}
+
+TEST_F(QtViewTest, GivesNoKeyTwoThingsToDo) {
+  ToWorksheet();
+  std::set<QString> keys;
+  for (const KeyBinding& key : LayoutOf(p_.worksheet(), QSizeF(1024, 768)).keys) {
+    EXPECT_TRUE(keys.insert(key.keys.toString()).second) << key.keys.toString().toStdString();
+  }
+  EXPECT_EQ(keys.size(), 24U + 4U);
+}
+
+TEST_F(QtViewTest, KeepsTheTileThatTheArrowKeysWentToWhenTheTaskIsRepeated) {
+  ToWorksheet();
+  Key(Qt::Key_N);
+  Play();
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Right);
+  ASSERT_EQ(Focus(), "jz_kl(8)");
+  Key(Qt::Key_R);
+  Play();
+  EXPECT_EQ(Focus(), "jz_kl(8)");
+}
+
+TEST_F(QtViewTest, WaitsOnThePageWhichHasTheNameOfItsScreen) {
+  ToWorksheet();
+  Key(Qt::Key_N);
+  EXPECT_EQ(Focus(), "arbeitsblatt1");
+  EXPECT_EQ(Window().focusWidget()->accessibleName().toStdString(), p_.worksheet().caption);
 }
 
 TEST_F(QtViewTest, RepeatsByKeyAndLeavesByEscape) {

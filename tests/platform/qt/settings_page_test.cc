@@ -116,7 +116,15 @@ TEST_F(SettingsPage, MovesAllEntriesByTheButtonsBetweenTheLists) {
   QTest::mouseClick(&At("klang_alle(1)"), Qt::LeftButton);
   EXPECT_EQ(screen().klanglst[1].count(), 0);
   EXPECT_FALSE(At("grdeinst(2)").isVisible());
-  EXPECT_FALSE(At("klang_alle(0)").accessibleDescription().isEmpty());
+  EXPECT_EQ(At("klang_alle(0)").accessibleName(), "[9017s]");
+}
+
+TEST_F(SettingsPage, GoesByTabFromAListOverItsButtonsToTheOtherList) {
+  At("klanglst(0)").setFocus();
+  for (const char* next : {"klang_alle(0)", "klang_alle(1)", "klanglst(1)"}) {
+    QTest::keyClick(view_.Window()->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(view_.Window()->focusWidget()->objectName(), next);
+  }
 }
 
 TEST_F(SettingsPage, FindsAnInstrumentByTypingIntoTheClosedList) {
