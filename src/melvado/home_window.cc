@@ -347,7 +347,10 @@ void HomeWindow::ShowVerdict() {
   }
   update();
   SetWords(*verdict_, *verdict_, text);
-  test_->setEnabled(!host_.TestRuns());
+  // It stays where the focus is, and says what became of the test.
+  test_->setEnabled(true);
+  test_->setDown(host_.TestRuns());
+  test_->setAccessibleDescription(text);
 }
 
 void HomeWindow::ShowStart() {
@@ -448,16 +451,10 @@ void HomeWindow::TakeSoundfont(const std::string& path) {
 }
 
 void HomeWindow::Test() {
-  const bool focused = test_->hasFocus();
-  host_.TestSound([this, focused] {
-    const QWidget* const focus = focusWidget();
-    Refresh();
-    // The focus goes back to the button unless the user has moved it.
-    if (focused && focus == test_refuge_) test_->setFocus(Qt::OtherFocusReason);
-  });
+  if (host_.TestRuns()) return;
+  host_.TestSound([this] { Refresh(); });
   ShowVerdict();
   ShowSoundfont();
-  test_refuge_ = focusWidget();
 }
 
 void HomeWindow::Start() {

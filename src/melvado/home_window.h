@@ -114,9 +114,8 @@ class HomeWindow : public QWidget {
   std::vector<StoreUser> users_;
   std::unique_ptr<QTimer> poll_;
   std::unique_ptr<LogWindow> log_;
-  std::optional<bool> verdict_is_good_;   // none: no test has come to its end
-  const QWidget* test_refuge_ = nullptr;  // where the focus is while the button is locked
-  bool filling_ = false;                  // a list changes by the program, not by the user
+  std::optional<bool> verdict_is_good_;  // none: no test has come to its end
+  bool filling_ = false;                 // a list changes by the program, not by the user
   bool was_open_ = false;
 
   TextWidget* title_ = nullptr;

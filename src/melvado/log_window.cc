@@ -42,6 +42,11 @@ LogWindow::LogWindow(Host& host, QtEventLoop& loop, QWidget* parent)
   lines_->horizontalHeader()->setHighlightSections(false);
   lines_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   connect(lines_, &QTableWidget::currentCellChanged, this, [this](int row) { ShowLine(row); });
+  // An assistive technology selects a line without going there.
+  connect(lines_, &QTableWidget::itemSelectionChanged, this, [this] {
+    const QList<QTableWidgetItem*> selected = lines_->selectedItems();
+    if (!selected.isEmpty()) ShowLine(selected.front()->row());
+  });
   line_->setObjectName("line");
   line_->setReadOnly(true);
   line_->setTabChangesFocus(true);
@@ -94,6 +99,8 @@ void LogWindow::ShowWords() {
   lines_->setHorizontalHeaderLabels({words.Say(9455, "Time"), words.Say(9456, "Place"),
                                      words.Say(9457, "Number"), words.Say(9458, "Text"),
                                      words.Say(9459, "Source")});
+  lines_->setAccessibleName(windowTitle());
+  line_->setAccessibleName(words.Say(9458, "Text"));
   refresh_->setText(words.Say(9460, "Refresh"));
   copy_->setText(words.Say(9461, "Copy as a fault report"));
   close_->setText(words.Say(9462, "Close"));

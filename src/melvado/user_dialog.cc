@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "melvado/dialog_look.h"
+#include "melvado/users.h"
 
 namespace vmod17 {
 
@@ -87,16 +88,35 @@ QLabel* UserDialog::MakeLine(const char* name) {
 void UserDialog::Try() {
   const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
   const auto fault = take_({text(number_), text(name_), text(first_name_)});
+  for (QLineEdit* field : {name_, first_name_, number_}) field->setAccessibleDescription({});
   if (!fault) return accept();
   note_->hide();
-  fault_->setText(words_.Say(*fault));
+  const QString said = words_.Say(*fault);
+  fault_->setText(said);
   fault_->show();
   Grow();
+  // A reader of the screen says it with the field. It speaks of a field again only when the focus
+  // comes from elsewhere.
+  QLineEdit& field = FaultyField();
+  field.setAccessibleDescription(said);
+  findChild<QPushButton*>("ok")->setFocus(Qt::OtherFocusReason);
+  field.setFocus(Qt::OtherFocusReason);
+  field.selectAll();
 }
 
 /// A window grows by itself for what is wide, but not for what is high.
 void UserDialog::Grow() {
   resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+}
+
+QLineEdit& UserDialog::FaultyField() const {
+  const qsizetype number = number_->text().size();
+  if (number > 0 && number <= kLongestNumber) {
+    for (QLineEdit* name : {name_, first_name_}) {
+      if (name->text().size() > kLongestName) return *name;
+    }
+  }
+  return number_->isReadOnly() ? *name_ : *number_;
 }
 
 }  // namespace vmod17

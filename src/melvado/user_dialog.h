@@ -32,6 +32,8 @@ class UserDialog : public QDialog {
   QLabel* MakeLine(const char* name);
   void Try();
   void Grow();
+  /// Where the fault of what was typed is to be mended.
+  QLineEdit& FaultyField() const;
 
   const Words& words_;
   const Take take_;

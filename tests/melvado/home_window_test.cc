@@ -5,12 +5,14 @@
 
 #include <signal.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -318,6 +320,8 @@ TEST_F(HomeWindowTest, AsksAgainUntilANumberCanBeTaken) {
     Click(dialog, "ok");
     EXPECT_FALSE(note->isVisible());
     EXPECT_THAT(fault->text().toStdString(), HasSubstr("Matrikelnummer ein"));
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "number");
+    EXPECT_EQ(dialog.focusWidget()->accessibleDescription(), fault->text());
     Type(dialog, "number", "4711");
     Click(dialog, "ok");
     EXPECT_THAT(fault->text().toStdString(), HasSubstr("steht schon in der Liste"));
@@ -325,6 +329,9 @@ TEST_F(HomeWindowTest, AsksAgainUntilANumberCanBeTaken) {
     Type(dialog, "name", QString(10'000, 'x'));
     Click(dialog, "ok");
     EXPECT_THAT(fault->text().toStdString(), HasSubstr("zu lang"));
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "name");
+    EXPECT_EQ(dialog.focusWidget()->accessibleDescription(), fault->text());
+    EXPECT_TRUE(dialog.findChild<QLineEdit*>("number")->accessibleDescription().isEmpty());
     Type(dialog, "name", "Tal");
     Click(dialog, "ok");
     EXPECT_FALSE(dialog.isVisible());
@@ -422,11 +429,13 @@ TEST_F(HomeWindowTest, TellsWhatBecameOfTheTest) {
   Open();
   Choose("output", 0);
   Press("test");
-  EXPECT_FALSE(Find<QWidget>("test")->isEnabled());
+  EXPECT_TRUE(Find<QAbstractButton>("test")->isDown());
   EXPECT_EQ(Caption("verdict"), "Es wird ein Akkord gespielt…");
+  Press("test");  // it runs already
   ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
-  EXPECT_TRUE(Find<QWidget>("test")->isEnabled());
+  EXPECT_FALSE(Find<QAbstractButton>("test")->isDown());
   EXPECT_THAT(Caption("verdict").toStdString(), HasSubstr("Das MIDI-Gerät „Piano“ hat"));
+  EXPECT_EQ(Find<QWidget>("test")->accessibleDescription(), Caption("verdict"));
   Choose("language", static_cast<int>(Entries("language").indexOf("English")));
   EXPECT_THAT(Caption("verdict").toStdString(), HasSubstr("the MIDI device"));
 }
@@ -437,13 +446,13 @@ TEST_F(HomeWindowTest, LeadsOnByEnterAfterAUserWasAdded) {
   EXPECT_EQ(window_->focusWidget(), Find<QWidget>("start"));
 }
 
-TEST_F(HomeWindowTest, KeepsTheFocusOnTheTestForAnother) {
+TEST_F(HomeWindowTest, KeepsTheFocusOnTheTestWhileItRuns) {
   ports_->Plug({"Piano"});
   Open();
   Choose("output", 0);
   Find<QWidget>("test")->setFocus();
   Press("test");
-  EXPECT_NE(window_->focusWidget(), Find<QWidget>("test"));
+  EXPECT_EQ(window_->focusWidget(), Find<QWidget>("test"));
   ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
   EXPECT_EQ(window_->focusWidget(), Find<QWidget>("test"));
 }
@@ -581,6 +590,98 @@ TEST_F(HomeWindowTest, AsksToQuitWhenItIsClosed) {
   window_->close();
   Press("quit");
   EXPECT_EQ(asked, 2);
+}
+
+// ---- Without mouse and keys, as an assistive technology works
+
+class AccessibleHome : public HomeWindowTest {
+ protected:
+  static QAccessibleInterface& Of(QObject& object) {
+    return *QAccessible::queryAccessibleInterface(&object);
+  }
+  /// Presses a button, which acts a moment later; `done` tells that it has.
+  static void PressIt(QObject& button, const std::function<bool()>& done) {
+    Of(button).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(ServeUntil(done)) << button.objectName().toStdString();
+  }
+  void Take(const char* list, int entry) {
+    Of(*Find<QWidget>(list))
+        .child(0)
+        ->child(entry)
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+  }
+  static void Write(UserDialog& dialog, const char* field, const QString& text) {
+    Of(*dialog.findChild<QLineEdit*>(field)).setText(QAccessible::Value, text);
+  }
+};
+
+TEST_F(AccessibleHome, HasANameAndAnActionForAllThatCanBeDone) {
+  Open();
+  int buttons = 0;
+  for (QWidget* widget : window_->findChildren<QWidget*>()) {
+    const bool button = dynamic_cast<PressWidget*>(widget) != nullptr;
+    if (!button && dynamic_cast<DropDownWidget*>(widget) == nullptr) continue;
+    QAccessibleInterface& element = Of(*widget);
+    EXPECT_GT(element.text(QAccessible::Name).size(), 1) << widget->objectName().toStdString();
+    if (!widget->isEnabled()) continue;
+    const QStringList actions = element.actionInterface()->actionNames();
+    EXPECT_TRUE(actions.contains(QAccessibleActionInterface::pressAction()));
+    EXPECT_TRUE(actions.contains(QAccessibleActionInterface::setFocusAction()));
+    buttons += button ? 1 : 0;
+  }
+  EXPECT_GT(buttons, 5);
+  EXPECT_EQ(Of(*Find<QWidget>("output")).text(QAccessible::Name), Caption("output_heading"));
+  EXPECT_EQ(Of(*Find<QWidget>("output")).text(QAccessible::Value), Entries("output")[0]);
+}
+
+TEST_F(AccessibleHome, TakesTheEntriesOfItsLists) {
+  ports_->Plug({"Piano"});
+  Open();
+  Take("language", static_cast<int>(Entries("language").indexOf("English")));
+  EXPECT_EQ(host_->Language(), "English");
+  Take("output", 0);
+  EXPECT_EQ(host_->outputs().chosen, 0);
+  EXPECT_EQ(Caption("output"), "Piano");
+}
+
+TEST_F(AccessibleHome, AddsChoosesAndRemovesAUser) {
+  Open();
+  Then([](UserDialog& dialog) {
+    PressIt(*dialog.findChild<QPushButton*>("ok"),
+            [&] { return dialog.findChild<QLabel*>("fault")->isVisible(); });
+    Write(dialog, "number", "4711");
+    Write(dialog, "name", "Berg");
+    PressIt(*dialog.findChild<QPushButton*>("ok"), [&] { return !dialog.isVisible(); });
+  });
+  Press("add_user");
+  EXPECT_EQ(host_->ChosenUser(), "4711");
+  Take("user", 0);
+  EXPECT_EQ(host_->ChosenUser(), "");
+  Take("user", 1);
+  EXPECT_EQ(host_->ChosenUser(), "4711");
+  messages_.answer = MessageBox::Answer::kYes;
+  PressIt(*Find<QWidget>("remove_user"), [this] { return host_->Users().empty(); });
+}
+
+TEST_F(AccessibleHome, TestsTheSoundOpensHelpAndLogAndEnds) {
+  ports_->Plug({"Piano"});
+  Open();
+  Take("output", 0);
+  PressIt(*Find<QWidget>("test"), [this] { return host_->verdict().has_value(); });
+  std::string page;
+  window_->on_help = [&page](const std::string& asked) { page = asked; };
+  PressIt(*Find<QWidget>("help"), [&] { return page == "melvado"; });
+  PressIt(*Find<QWidget>("log"), [this] { return window_->log_window() != nullptr; });
+  LogWindow& log = *window_->log_window();
+  auto& lines = *log.findChild<QTableWidget*>("lines");
+  ASSERT_GT(lines.rowCount(), 0);
+  Of(lines).tableInterface()->selectRow(lines.rowCount() - 1);
+  EXPECT_FALSE(log.findChild<QPlainTextEdit*>("line")->toPlainText().isEmpty());
+  PressIt(*log.findChild<QPushButton*>("close"), [&] { return !log.isVisible(); });
+  bool quit = false;
+  window_->on_quit = [&quit] { quit = true; };
+  PressIt(*Find<QWidget>("quit"), [&] { return quit; });
 }
 
 }  // namespace
