@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QWidget>
 #include <algorithm>
+#include <chrono>
 #include <exception>
 #include <utility>
 
@@ -22,6 +23,8 @@ namespace {
 
 // Until a window that is shown has been painted too: the desktop is asked first.
 constexpr int kTimeToPaintMs = 100;
+// For a sound card that is given back in order. One that hangs is left to the end of the process.
+constexpr std::chrono::milliseconds kTimeToLetGo{2000};
 
 ProgramIdentity Identity() {
   return {QFileInfo(QCoreApplication::applicationFilePath()).baseName().toStdString(),
@@ -69,7 +72,11 @@ Desktop::Desktop()
   program_->OnEnd = [this] { loop_.Quit(); };
 }
 
-Desktop::~Desktop() { notices_.reset(); }
+Desktop::~Desktop() {
+  notices_.reset();
+  program_.reset();
+  LetGo(std::move(output_)).wait_for(kTimeToLetGo);
+}
 
 void Desktop::Tell(const Notice& notice) {
   if (notices_) notices_->Tell(notice);

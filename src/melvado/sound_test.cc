@@ -5,7 +5,6 @@
 
 #include <array>
 #include <chrono>
-#include <thread>
 #include <utility>
 
 namespace vmod17 {
@@ -103,15 +102,8 @@ void SoundTest::Stop() {
   troubles_.clear();
 }
 
-/// An output goes only when the thread that talks to its device has ended, which takes a moment for
-/// a sound card, and for ever when a driver hangs. That must not stop the program, so another
-/// thread waits for it, to the end of the process if need be.
 void SoundTest::LetGo() {
-  if (!output_) return;
-  output_->FallSilent();
-  std::packaged_task<void()> go([output = std::move(output_)]() mutable { output.reset(); });
-  gone_ = go.get_future();
-  std::thread(std::move(go)).detach();
+  if (output_) gone_ = vmod17::LetGo(std::move(output_));
 }
 
 }  // namespace vmod17

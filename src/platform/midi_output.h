@@ -23,6 +23,15 @@ enum class MidiMember {
   GeraeteZahl = 20,   ///< read: number of output devices
   OffenStand = 21,    ///< read: 1 or more while the device is open
   Marke = 22,         ///< write: a number that travels with a queued message
+  QueueStand = 23,    ///< read: a `MidiQueueStand`
+};
+
+/// How the queue that was started last fares.
+enum class MidiQueueStand {
+  kRuht = 0,    ///< none was started, or it has run out or was dropped
+  kWartet = 1,  ///< for the device, which is not ready yet; nothing has left and no time is lost
+  kLaeuft = 2,  ///< its first messages have left
+  kStumm = 3,   ///< it keeps time, but its device cannot be heard
 };
 
 /// What a write to `MidiMember::Befehl` does.
@@ -42,6 +51,9 @@ enum class MidiBefehl {
 /// The programs (timbres) that were sent survive kSchliessen and kOeffnen. Messages of one time
 /// leave together. A device that is gone, or a number that names none, plays nothing and keeps
 /// time: no member raises an error.
+///
+/// A queue begins when its device is ready, however long that takes, and QueueStand tells when it
+/// does: inside kStart, or by an event that is delivered to the program (`WaitForEvent` returns).
 class MidiOutput {
  public:
   virtual ~MidiOutput() = default;

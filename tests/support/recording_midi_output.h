@@ -36,7 +36,8 @@ struct MidiMessage {
 };
 
 /// A MIDI output that plays nothing and remembers all. A queue that was started runs until
-/// `FinishQueue`, or, with a loop, until the time of its last message.
+/// `FinishQueue`, or, with a loop, until the time of its last message. It begins inside its start,
+/// unless the device has still to load.
 class RecordingMidiOutput : public MidiOutput {
  public:
   struct VolumeWrite {
@@ -50,24 +51,35 @@ class RecordingMidiOutput : public MidiOutput {
   explicit RecordingMidiOutput(EventLoop* loop = nullptr) : loop_(loop) {}
   ~RecordingMidiOutput() override { DropRunning(); }
 
+  enum class Device { kReady, kLoads, kMute };
+
+  /// Lets the device load, be ready or unable to sound from now on. A queue that waits for it then
+  /// begins, or learns that it cannot be heard.
+  void SetDevice(Device device) {
+    device_ = device;
+    if (stand_ == MidiQueueStand::kWartet) BeginQueue();
+  }
+
   /// The devices, to be set by the test; empty for a machine without any.
   std::vector<std::string> geraete = {"Synthesizer"};
 
   std::vector<MidiMessage> messages;  ///< all, sent at once or queued, in the order of the calls
   std::vector<MidiMessage> sent;      ///< those sent at once
   std::vector<MidiMessage> queued;    ///< the queue as it is being filled
-  std::vector<MidiMessage> played;    ///< the queue as it was last started
+  std::vector<MidiMessage> played;    ///< the queue as it last began, heard or not
   std::vector<MidiBefehl> befehle;    ///< all commands
   std::vector<VolumeWrite> volumes;   ///< all writes of both volumes
   int starts = 0;                     ///< how often a queue was started
 
   bool IsOpen() const { return open_; }
-  bool IsRunning() const { return running_; }
+  bool IsRunning() const {
+    return stand_ == MidiQueueStand::kLaeuft || stand_ == MidiQueueStand::kStumm;
+  }
   int OpenedDevice() const { return opened_device_; }  ///< GeraetNr of the last kOeffnen
 
   /// Lets the running queue come to its end and raises QueueEmpty; nothing when none runs.
   void FinishQueue() {
-    if (!running_) return;
+    if (!IsRunning()) return;
     DropRunning();
     if (QueueEmpty) QueueEmpty();
   }
@@ -123,6 +135,7 @@ class RecordingMidiOutput : public MidiOutput {
       case MidiMember::GeraetKennung:
       case MidiMember::GeraeteZahl:
       case MidiMember::OffenStand:
+      case MidiMember::QueueStand:
         break;
     }
   }
@@ -141,6 +154,8 @@ class RecordingMidiOutput : public MidiOutput {
         return static_cast<double>(geraete.size());
       case MidiMember::OffenStand:
         return open_ ? 1 : 0;
+      case MidiMember::QueueStand:
+        return static_cast<int>(stand_);
       case MidiMember::Befehl:
       case MidiMember::GeraetName:
       case MidiMember::Status:
@@ -195,8 +210,15 @@ class RecordingMidiOutput : public MidiOutput {
   void Start() {
     DropRunning();
     ++starts;
-    played = std::exchange(queued, {});
-    running_ = true;
+    waiting_ = std::exchange(queued, {});
+    stand_ = MidiQueueStand::kWartet;
+    BeginQueue();
+  }
+
+  void BeginQueue() {
+    if (device_ == Device::kLoads) return;
+    stand_ = device_ == Device::kReady ? MidiQueueStand::kLaeuft : MidiQueueStand::kStumm;
+    played = std::exchange(waiting_, {});
     if (!loop_) return;
     double last = 0;
     for (const MidiMessage& message : played) last = std::max(last, message.zeit);
@@ -205,7 +227,8 @@ class RecordingMidiOutput : public MidiOutput {
   }
 
   void DropRunning() {
-    running_ = false;
+    stand_ = MidiQueueStand::kRuht;
+    waiting_.clear();
     if (timer_ > 0) loop_->StopTimer(timer_);
     timer_ = 0;
   }
@@ -225,7 +248,9 @@ class RecordingMidiOutput : public MidiOutput {
   double links_ = 65535;
   double rechts_ = 65535;
   bool open_ = false;
-  bool running_ = false;
+  Device device_ = Device::kReady;
+  MidiQueueStand stand_ = MidiQueueStand::kRuht;
+  std::vector<MidiMessage> waiting_;
   int timer_ = 0;
 };
 

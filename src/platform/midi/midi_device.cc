@@ -5,9 +5,9 @@
 
 namespace vmod17 {
 
-std::array<MidiBytes, kMidiChannels> CentredPitchBends() {
-  std::array<MidiBytes, kMidiChannels> bends;
-  for (int channel = 0; channel < kMidiChannels; ++channel) {
+std::array<MidiBytes, kUsedChannels> CentredPitchBends() {
+  std::array<MidiBytes, kUsedChannels> bends;
+  for (int channel = 0; channel < kUsedChannels; ++channel) {
     bends[static_cast<std::size_t>(channel)] = {MidiBytes::kPitchBend + channel, 0, 64};
   }
   return bends;

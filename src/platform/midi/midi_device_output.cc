@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdint>
 #include <mutex>
+#include <thread>
 #include <utility>
 
 #include "platform/midi/player.h"
@@ -36,8 +37,12 @@ int IdOfName(const std::string& name) {
 }
 
 SynthSetup SetupOf(const MidiOptions& options) {
-  return {options.audio, options.soundfont, options.usual_soundfonts, options.audio_drivers,
-          options.sample_rate};
+  SynthSetup setup{options.audio,         options.soundfont,   options.usual_soundfonts,
+                   options.audio_drivers, options.sample_rate, options.beside};
+  if (!setup.beside && options.audio == SynthAudio::kRendered) {
+    setup.beside = [](const std::function<void()>& work) { work(); };
+  }
+  return setup;
 }
 
 }  // namespace
@@ -163,6 +168,7 @@ void MidiDeviceOutput::Set(MidiMember member, double value) {
     case MidiMember::GeraetKennung:
     case MidiMember::GeraeteZahl:
     case MidiMember::OffenStand:
+    case MidiMember::QueueStand:
       break;  // to be read only
   }
 }
@@ -181,6 +187,8 @@ double MidiDeviceOutput::Get(MidiMember member) const {
       return static_cast<double>(DeviceNames().size());
     case MidiMember::OffenStand:
       return open_ ? 1 : 0;
+    case MidiMember::QueueStand:
+      return static_cast<int>(queue_stand_);
     case MidiMember::Befehl:
     case MidiMember::GeraetName:
     case MidiMember::Status:
@@ -226,28 +234,27 @@ void MidiDeviceOutput::Open() {
 
 void MidiDeviceOutput::Drop() {
   ++generation_;
+  queue_stand_ = MidiQueueStand::kRuht;
   Do([this] { player_->Stop(); });
 }
 
 void MidiDeviceOutput::Start() {
   ++generation_;
+  queue_stand_ = MidiQueueStand::kWartet;
   const std::vector<TimedMessage> messages = std::exchange(queue_, {});
-  if (messages.empty()) {
-    Do([this] { player_->Stop(); });
-    RaiseQueueEmpty()();
-    return;
-  }
   for (const TimedMessage& message : messages) Remember(message.bytes);
-  auto queue = std::make_shared<SequencerQueue>(messages, RaiseQueueEmpty());
+  const auto tell = [this, generation = generation_](MidiQueueStand stand) {
+    program_->Post([this, generation, stand] {
+      if (generation == generation_) Take(stand);
+    });
+  };
+  auto queue = std::make_shared<SequencerQueue>(messages, tell);
   Do([this, queue] { player_->Start(queue); });
 }
 
-std::function<void()> MidiDeviceOutput::RaiseQueueEmpty() {
-  return [this, generation = generation_] {
-    program_->Post([this, generation] {
-      if (generation == generation_ && QueueEmpty) QueueEmpty();
-    });
-  };
+void MidiDeviceOutput::Take(MidiQueueStand stand) {
+  queue_stand_ = stand;
+  if (stand == MidiQueueStand::kRuht && QueueEmpty) QueueEmpty();
 }
 
 void MidiDeviceOutput::SendNow() {
@@ -270,6 +277,11 @@ void MidiDeviceOutput::SetVolume(MidiMember member, double value) {
   const bool is_left = member == MidiMember::VolumeLinks;
   (is_left ? volume_links_ : volume_rechts_) = volume;
   (is_left ? volume_->left : volume_->right) = static_cast<float>(volume / kFullVolume);
+  if (volume_news_.exchange(true)) return;
+  Do([this] {
+    volume_news_ = false;
+    player_->ChangeVolume();
+  });
 }
 
 std::vector<std::string> MidiDeviceOutput::DeviceNames() const {
@@ -280,7 +292,9 @@ std::vector<std::string> MidiDeviceOutput::DeviceNames() const {
 
 std::optional<int> MidiDeviceOutput::NumberOf(const std::string& part) const {
   ports_->Await();
-  return FindDevice(DeviceNames(), part);
+  const std::optional<int> number = FindDevice(DeviceNames(), part);
+  if (number) number_told_ = {*number, names_.at(static_cast<std::size_t>(*number))};
+  return number;
 }
 
 const std::string* MidiDeviceOutput::NameOf(int number) const {
@@ -303,11 +317,12 @@ int MidiDeviceOutput::Kennung() const {
 }
 
 DeviceChoice MidiDeviceOutput::Choice() const {
-  const std::string* name = NameOf(geraet_nr_);
+  const bool was_told = number_told_ && number_told_->first == geraet_nr_;
+  const std::string* name = was_told ? &number_told_->second : NameOf(geraet_nr_);
   if (!name) {
     return {DeviceChoice::Kind::kNone, "", geraet_nr_, static_cast<int>(names_.size())};
   }
-  if (name == &names_.back()) return {DeviceChoice::Kind::kSynth, "", 0, 0};
+  if (*name == kSynthName) return {DeviceChoice::Kind::kSynth, "", 0, 0};
   return {DeviceChoice::Kind::kPort, *name, 0, 0};
 }
 
@@ -319,6 +334,14 @@ void MidiDeviceOutput::Render(float* left, float* right, int frames) {
     rendered_ms_ += piece * 1000.0 / sample_rate_;
     done += piece;
   }
+}
+
+std::future<void> LetGo(std::unique_ptr<MidiDeviceOutput> output) {
+  output->FallSilent();
+  std::packaged_task<void()> go([output = std::move(output)]() mutable { output.reset(); });
+  std::future<void> gone = go.get_future();
+  std::thread(std::move(go)).detach();
+  return gone;
 }
 
 std::unique_ptr<MidiDeviceOutput> MakeMidiOutput(MidiOptions options, EventLoop& loop,

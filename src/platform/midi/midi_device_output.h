@@ -3,10 +3,13 @@
 
 #pragma once
 
+#include <atomic>
 #include <functional>
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/event_loop.h"
@@ -55,8 +58,8 @@ class MidiDeviceOutput : public MidiOutput {
   /// All names in the order of their numbers, as the system has them now. Never empty.
   std::vector<std::string> DeviceNames() const;
   /// The number of the device of this name, as the system has them now, or of the first whose name
-  /// holds it; none when there is no such device. May wait for the system to tell its ports, half a
-  /// second at most.
+  /// holds it; none when there is no such device. It goes on naming that device when the list
+  /// changes. May wait for the system to tell its ports, half a second at most.
   std::optional<int> NumberOf(const std::string& part) const;
 
   /// For SynthAudio::kRendered: moves the time by `frames` and writes what sounds.
@@ -74,7 +77,7 @@ class MidiDeviceOutput : public MidiOutput {
   const std::string* NameOf(int number) const;
   DeviceChoice Choice() const;
   int Kennung() const;
-  std::function<void()> RaiseQueueEmpty();
+  void Take(MidiQueueStand stand);
   void Do(std::function<void()> work);
 
   const std::shared_ptr<ProgramLink> program_;
@@ -94,18 +97,27 @@ class MidiDeviceOutput : public MidiOutput {
   double marke_ = 0;
   Programs programs_;
   std::vector<TimedMessage> queue_;
-  mutable std::vector<std::string> names_;  // as last listed
+  mutable std::vector<std::string> names_;                          // as last listed
+  mutable std::optional<std::pair<int, std::string>> number_told_;  // by `NumberOf`
 
-  // Tells a QueueEmpty of the queue that runs from one that was dropped while the event was under
-  // way.
+  MidiQueueStand queue_stand_ = MidiQueueStand::kRuht;
+  // Tells what the queue that runs says from what one said that was dropped while the word was
+  // under way.
   int generation_ = 0;
 
   double rendered_ms_ = 0;
   std::unique_ptr<SynthVolume> volume_;
+  std::atomic<bool> volume_news_ = false;  // the sound thread is about to look at it
   // The thread object outlives the player: a loader that ends late still posts to it.
   std::unique_ptr<SoundThread> thread_;
   std::unique_ptr<Player> player_;
 };
+
+/// Lets an output go beside the program, which hears nothing of it any more. An output goes only
+/// when its threads have ended, which takes a moment for a sound card and for ever when a driver
+/// hangs; that must not stop the program. The answer tells when it has gone, and need not be waited
+/// for: at the end of the process what hangs ends with it.
+std::future<void> LetGo(std::unique_ptr<MidiDeviceOutput> output);
 
 std::unique_ptr<MidiDeviceOutput> MakeMidiOutput(MidiOptions options, EventLoop& loop,
                                                  Notify notify);

@@ -9,6 +9,7 @@
 namespace vmod17 {
 
 inline constexpr int kMidiChannels = 16;
+inline constexpr int kUsedChannels = 8;  ///< the program plays on channels 0 to 7 alone
 
 /// One channel message of MIDI 1.0.
 struct MidiBytes {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,6 +19,9 @@ enum class SynthAudio {
   kRendered,  ///< the owner, into memory, in a time of its own
 };
 
+/// Does work that takes long, now or later, beside what goes on.
+using Beside = std::function<void(std::function<void()> work)>;
+
 struct MidiOptions {
   std::string soundfont;  ///< the one that the host names; empty when it names none
   std::vector<std::string> usual_soundfonts = UsualSoundfonts();  ///< tried after it
@@ -25,6 +29,8 @@ struct MidiOptions {
   double sample_rate = 48000;  ///< frames a second; JACK insists on its own
   /// With kRendered no thread runs: `MidiDeviceOutput::Render` moves the time.
   SynthAudio audio = SynthAudio::kDriver;
+  /// Loads the synthesiser. Empty: a thread of its own, or at once with kRendered.
+  Beside beside;
   std::shared_ptr<MidiPorts> ports;  ///< null for those of the system
 };
 

@@ -13,7 +13,7 @@ namespace vmod17 {
 namespace {
 
 constexpr double kNever = std::numeric_limits<double>::infinity();
-constexpr double kLongestWait = 1500;   // for the synthesiser to be loaded
+constexpr double kVolumeStep = 20;      // between two volumes of a port
 constexpr double kPresenceCheck = 500;  // how often a port that plays is looked for
 constexpr double kAudioCheck = 250;     // how often the audio thread is looked after
 // How long it may stand still: sound servers buffer up to 2 s, and a busy machine adds to that.
@@ -24,14 +24,17 @@ constexpr double kAudioDead = 4000;
 Player::Player(SynthSetup setup, MidiPorts& ports, const SynthVolume& volume, Hooks hooks)
     : hooks_(std::move(hooks)),
       ports_(ports),
+      volume_(volume),
       synth_(std::move(setup), volume, {hooks_.post, [this] { OnSynthLoaded(); }, hooks_.notify}),
       sink_([this](std::span<const MidiBytes> messages) {
         if (open_) device_->Send(messages);
-      }) {}
+      }),
+      volume_due_(kNever) {}
 
 void Player::Open(const DeviceChoice& choice, const Programs& programs) {
   Choose(choice);
   open_ = true;
+  GivePortItsVolume();
   device_->Open(programs);
 }
 
@@ -47,8 +50,7 @@ void Player::Choose(const DeviceChoice& choice) {
       device_ = &synth_;
       break;
     case DeviceChoice::Kind::kPort:
-      port_ = std::make_unique<PortDevice>(
-          ports_, choice.port, [this] { hooks_.notify(PortVanishedNotice(choice_.port)); });
+      port_ = std::make_unique<PortDevice>(ports_, choice.port, [this] { OnPortVanished(); });
       device_ = port_.get();
       break;
     case DeviceChoice::Kind::kNone:
@@ -77,25 +79,39 @@ void Player::Send(const MidiBytes& message) {
   if (open_) device_->Send({&message, 1});
 }
 
+void Player::ChangeVolume() { volume_due_ = std::min(volume_due_, hooks_.now() + kVolumeStep); }
+
+void Player::GivePortItsVolume() {
+  volume_due_ = kNever;
+  if (port_) port_->SetVolume((volume_.left + volume_.right) / 2.0);
+}
+
 void Player::Start(std::shared_ptr<SequencerQueue> queue) {
   Stop();
-  start_ = checked_ = hooks_.now();
   if (device_ != &synth_ || !open_) {
-    paced_ = std::move(queue);
-  } else if (synth_.state() == SynthDevice::State::kReady) {
-    RunOnSynth(std::move(queue));
+    RunInStep(std::move(queue));
   } else if (synth_.state() == SynthDevice::State::kLoading) {
     waiting_ = std::move(queue);
   } else {
-    paced_ = std::move(queue);
+    RunOnSynth(std::move(queue));
   }
 }
 
+void Player::RunInStep(std::shared_ptr<SequencerQueue> queue) {
+  start_ = checked_ = hooks_.now();
+  if (!open_ || !device_->IsAudible()) queue->Mute();
+  paced_ = std::move(queue);
+}
+
 void Player::RunOnSynth(std::shared_ptr<SequencerQueue> queue) {
+  if (!synth_.IsAudible()) {
+    RunInStep(std::move(queue));
+    return;
+  }
   on_synth_ = std::move(queue);
+  synth_.Run(on_synth_);
   start_ = checked_ = hooks_.now();
   blocks_ = synth_.blocks();
-  synth_.Run(on_synth_);
 }
 
 void Player::Stop() {
@@ -106,25 +122,23 @@ void Player::Stop() {
 }
 
 void Player::OnSynthLoaded() {
-  if (!waiting_) return;
-  if (synth_.state() == SynthDevice::State::kReady) {
-    RunOnSynth(std::move(waiting_));
-  } else {
-    paced_ = std::move(waiting_);
-  }
-  waiting_.reset();
+  if (waiting_) RunOnSynth(std::exchange(waiting_, nullptr));
+}
+
+void Player::OnPortVanished() {
+  if (paced_) paced_->Mute();
+  hooks_.notify(PortVanishedNotice(choice_.port));
 }
 
 double Player::RunDue() {
   const double now = hooks_.now();
   double next = kNever;
-  if (waiting_) {
-    next = start_ + kLongestWait - now;
-    if (next <= 0) paced_ = std::exchange(waiting_, nullptr);
-  }
   if (paced_) next = Pace(now);
   if (on_synth_) next = Watch(now);
-  return next;
+  if (now >= volume_due_) GivePortItsVolume();
+  next = std::min(next, volume_due_ - now);
+  // Not while a queue runs: what is sent to the synthesiser waits until a timbre is loaded.
+  return !on_synth_ && synth_.LoadOneTimbre() ? 0 : next;
 }
 
 double Player::Pace(double now) {
@@ -154,6 +168,7 @@ double Player::Watch(double now) {
     // The audio thread has let go of the queue when `Stop` returns.
     synth_.Stop();
     synth_.Lose();
+    on_synth_->Mute();
     paced_ = std::exchange(on_synth_, nullptr);
     return Pace(now);
   }

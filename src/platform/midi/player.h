@@ -51,8 +51,11 @@ class Player {
   void Open(const DeviceChoice& choice, const Programs& programs);
   void Close();
   void Send(const MidiBytes& message);
-  /// A synthesiser that still loads gets a second and a half to be ready; then the queue runs from
-  /// its beginning as if it had started at once, so that its end is never later than that.
+  /// The volumes have been changed. The synthesiser follows them by itself; a port, whose cable may
+  /// take no more than a thousand messages a second, gets the newest one some 50 times a second.
+  void ChangeVolume();
+  /// A queue begins when its device is ready: a synthesiser that still loads is waited for, and so
+  /// are the timbres of the channels that the queue uses.
   void Start(std::shared_ptr<SequencerQueue> queue);
   void Stop();
 
@@ -64,13 +67,17 @@ class Player {
 
  private:
   void Choose(const DeviceChoice& choice);
+  void GivePortItsVolume();
   void OnSynthLoaded();
+  void OnPortVanished();
   void RunOnSynth(std::shared_ptr<SequencerQueue> queue);
+  void RunInStep(std::shared_ptr<SequencerQueue> queue);
   double Pace(double now);
   double Watch(double now);
 
   const Hooks hooks_;
   MidiPorts& ports_;
+  const SynthVolume& volume_;
   SynthDevice synth_;
   SilentDevice silent_;
   std::unique_ptr<PortDevice> port_;
@@ -79,10 +86,11 @@ class Player {
   bool open_ = false;
   const SequencerQueue::Sink sink_;
 
-  double start_ = 0;                         // of whichever queue there is
+  double start_ = 0;                         // of the queue that runs
   std::shared_ptr<SequencerQueue> waiting_;  // for the synthesiser to be loaded
   std::shared_ptr<SequencerQueue> paced_;    // by the clock of the system
   std::shared_ptr<SequencerQueue> on_synth_;
+  double volume_due_;   // when a port gets its volume; never while it has the newest
   double checked_ = 0;  // when the port was last seen, or the synthesiser last played
   std::uint64_t blocks_ = 0;
 };

@@ -3,13 +3,27 @@
 
 #include "platform/midi/port_device.h"
 
+#include <cmath>
 #include <utility>
 #include <vector>
 
 namespace vmod17 {
+namespace {
+
+constexpr int kChannelVolume = 7;  // controller of MIDI 1.0
+/// What General MIDI gives a channel to begin with. Full volume is this and not 127, so that who
+/// changes nothing hears the instrument as it is.
+constexpr int kNormalVolume = 100;
+
+}  // namespace
 
 PortDevice::PortDevice(MidiPorts& ports, std::string name, std::function<void()> on_vanished)
-    : ports_(ports), name_(std::move(name)), on_vanished_(std::move(on_vanished)) {}
+    : ports_(ports),
+      name_(std::move(name)),
+      on_vanished_(std::move(on_vanished)),
+      volume_(kNormalVolume) {
+  volumes_.fill(kNormalVolume);
+}
 
 PortDevice::~PortDevice() { Close(); }
 
@@ -23,6 +37,7 @@ void PortDevice::Open(const Programs& programs) {
       return;
     }
     told_ = false;
+    volumes_.fill(kNormalVolume);
     // Only a fresh connection needs the programs: some instruments break off what they play to
     // load a timbre, even the one they have.
     for (int channel = 0; channel < kMidiChannels; ++channel) {
@@ -45,19 +60,43 @@ void PortDevice::Close() {
   }
   Send(offs);
   sounding_ = {};
+  used_ = {};
+  for (std::size_t channel = 0; channel < volumes_.size(); ++channel) {
+    SendVolume(channel, kNormalVolume);
+  }
+}
+
+void PortDevice::SetVolume(double share) {
+  volume_ = static_cast<int>(std::lround(share * kNormalVolume));
+  for (std::size_t channel = 0; channel < used_.size(); ++channel) {
+    if (used_[channel]) SendVolume(channel, volume_);
+  }
+}
+
+void PortDevice::SendVolume(std::size_t channel, int volume) {
+  if (std::exchange(volumes_[channel], volume) == volume) return;
+  SendOne({MidiBytes::kControl + static_cast<int>(channel), kChannelVolume, volume});
 }
 
 void PortDevice::Send(std::span<const MidiBytes> messages) {
   for (const MidiBytes& message : messages) {
-    if (!port_) return;
-    if (!message.IsChannelMessage()) continue;
-    if (port_->Send(message)) {
-      ++sent_;
-      Track(message);
-    } else {
-      Lose();
-    }
+    if (message.IsChannelMessage()) SendOne(message);
   }
+}
+
+void PortDevice::SendOne(const MidiBytes& message) {
+  if (message.kind() == MidiBytes::kNoteOn) {
+    const auto channel = static_cast<std::size_t>(message.channel());
+    used_[channel] = true;
+    SendVolume(channel, volume_);
+  }
+  if (!port_) return;
+  if (!port_->Send(message)) {
+    Lose();
+    return;
+  }
+  ++sent_;
+  Track(message);
 }
 
 void PortDevice::Track(const MidiBytes& message) {

@@ -15,7 +15,8 @@
 namespace vmod17 {
 
 /// A MIDI port of the system. It stays connected while the device is closed and opened again, so a
-/// reset sends no more than the note-offs of what sounds and the pitch bends.
+/// reset sends no more than the note-offs of what sounds, the pitch bends, and the channel volume
+/// where it is not the normal one.
 class PortDevice : public MidiDevice {
  public:
   /// `on_vanished` is called on the sound thread, once for each time that the port is lost or found
@@ -26,13 +27,20 @@ class PortDevice : public MidiDevice {
   void Open(const Programs& programs) override;
   void Close() override;
   void Send(std::span<const MidiBytes> messages) override;
+  bool IsAudible() const override { return port_ != nullptr; }
   void CheckPresence() override;
+
+  /// Sets the volume of the channels that have had a note since `Open`; one that gets its first
+  /// note later gets the volume just before it. `share` of the normal volume, 0 to 1.
+  void SetVolume(double share);
 
   /// Enters what is known of the port.
   void Tell(SoundFacts& facts) const;
 
  private:
   void Lose();
+  void SendOne(const MidiBytes& message);
+  void SendVolume(std::size_t channel, int volume);
   void Track(const MidiBytes& message);
 
   MidiPorts& ports_;
@@ -41,6 +49,9 @@ class PortDevice : public MidiDevice {
   std::unique_ptr<MidiPort> port_;
   bool told_ = false;
   int sent_ = 0;
+  int volume_;                              // wanted
+  std::array<int, kMidiChannels> volumes_;  // as the port has them
+  std::array<bool, kMidiChannels> used_{};  // had a note since `Open`
   std::array<std::array<bool, 128>, kMidiChannels> sounding_{};
 };
 

@@ -24,8 +24,8 @@ unsigned int TickOf(double ms) {
 
 }  // namespace
 
-SequencerQueue::SequencerQueue(std::vector<TimedMessage> messages, std::function<void()> on_over)
-    : on_over_(std::move(on_over)), sequencer_(new_fluid_sequencer2(0)) {
+SequencerQueue::SequencerQueue(std::vector<TimedMessage> messages, Tell tell)
+    : tell_(std::move(tell)), sequencer_(new_fluid_sequencer2(0)) {
   std::ranges::stable_sort(messages, {},
                            [](const TimedMessage& message) { return TickOf(message.zeit); });
   for (const TimedMessage& message : messages) {
@@ -57,19 +57,29 @@ void SequencerQueue::OnEvent(unsigned int, fluid_event_t* event, fluid_sequencer
   ++queue->sent_;
 }
 
+void SequencerQueue::Mute() {
+  if (!std::exchange(mute_, true)) tell_(MidiQueueStand::kStumm);
+}
+
 void SequencerQueue::Advance(double ms, const Sink& sink) {
   sink_ = &sink;
   fluid_sequencer_process(sequencer_.get(), TickOf(ms));
   sink_ = nullptr;
-  if (sent_ == groups_.size() && !told_) {
-    told_ = true;
-    on_over_();
-  }
+  if (!std::exchange(begun_, true) && !mute_) tell_(MidiQueueStand::kLaeuft);
+  if (sent_ == groups_.size() && !over_.exchange(true)) tell_(MidiQueueStand::kRuht);
 }
 
 double SequencerQueue::NextTime() const {
   if (groups_.empty()) return 0;
   return groups_[std::min(sent_, groups_.size() - 1)].tick / kTicksPerMs;
+}
+
+std::set<int> SequencerQueue::Channels() const {
+  std::set<int> channels;
+  for (const Group& group : groups_) {
+    for (const MidiBytes& message : group.messages) channels.insert(message.channel());
+  }
+  return channels;
 }
 
 }  // namespace vmod17

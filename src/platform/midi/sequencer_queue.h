@@ -8,10 +8,12 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <set>
 #include <span>
 #include <vector>
 
 #include "platform/midi/midi_message.h"
+#include "platform/midi_output.h"
 
 namespace vmod17 {
 
@@ -26,18 +28,25 @@ namespace vmod17 {
 class SequencerQueue {
  public:
   using Sink = std::function<void(std::span<const MidiBytes>)>;
+  using Tell = std::function<void(MidiQueueStand)>;
 
-  /// `on_over` is called once, inside the `Advance` that sent the last message; for a queue without
-  /// messages inside the first one. It may run on the audio thread.
-  SequencerQueue(std::vector<TimedMessage> messages, std::function<void()> on_over);
+  /// `tell` is called once for each stand: kLaeuft inside the first `Advance`, unless the queue is
+  /// mute, and kRuht inside the one that sent the last message; for a queue without messages inside
+  /// the first one. It may run on the audio thread.
+  SequencerQueue(std::vector<TimedMessage> messages, Tell tell);
+
+  /// The queue goes on, but cannot be heard any more.
+  void Mute();
 
   /// Gives `sink` everything up to `ms` after the start. Time never runs backwards.
   void Advance(double ms, const Sink& sink);
 
   /// Any thread.
-  bool IsOver() const { return told_; }
+  bool IsOver() const { return over_; }
   /// Milliseconds from the start to the next message; the last one's time when all have left.
   double NextTime() const;
+  /// The channels that have a message.
+  std::set<int> Channels() const;
 
  private:
   struct Group {
@@ -54,8 +63,10 @@ class SequencerQueue {
 
   std::vector<Group> groups_;
   std::size_t sent_ = 0;
-  std::atomic<bool> told_ = false;
-  std::function<void()> on_over_;
+  bool begun_ = false;
+  bool mute_ = false;
+  std::atomic<bool> over_ = false;
+  const Tell tell_;
   const Sink* sink_ = nullptr;  // only inside Advance
   std::unique_ptr<fluid_sequencer_t, DeleteSequencer> sequencer_;
 };

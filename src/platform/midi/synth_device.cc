@@ -15,6 +15,7 @@ namespace vmod17 {
 SynthDevice::SynthDevice(SynthSetup setup, const SynthVolume& volume, Hooks hooks)
     : setup_(std::move(setup)), volume_(volume), hooks_(std::move(hooks)) {
   programs_.fill(-1);
+  loaded_.fill(-1);
 }
 
 SynthDevice::~SynthDevice() {
@@ -22,26 +23,28 @@ SynthDevice::~SynthDevice() {
 }
 
 void SynthDevice::BeginLoading() {
-  if (state_ != State::kIdle && state_ != State::kLost) return;
+  if (state_ == State::kLoading || state_ == State::kReady) return;
   state_ = State::kLoading;
-  if (setup_.audio == SynthAudio::kRendered) {
-    engine_.reset();
-    Finish(LoadSynth(setup_, volume_));
+  auto load = [this, setup = setup_, lost = std::shared_ptr(std::move(engine_))]() mutable {
+    lost.reset();  // may wait for the dead driver
+    auto loaded = std::make_shared<SynthLoad>(LoadSynth(setup, volume_));
+    hooks_.post([this, loaded] { Finish(std::move(*loaded)); });
+  };
+  if (setup_.beside) {
+    setup_.beside(std::move(load));
     return;
   }
   if (loader_.joinable()) loader_.join();
-  loader_ = std::thread([this, setup = setup_, lost = std::move(engine_)]() mutable {
-    lost.reset();  // may wait for the dead driver
-    auto load = std::make_shared<SynthLoad>(LoadSynth(setup, volume_));
-    hooks_.post([this, load] { Finish(std::move(*load)); });
-  });
+  loader_ = std::thread(std::move(load));
 }
 
 void SynthDevice::Finish(SynthLoad load) {
   engine_ = std::move(load.engine);
+  loaded_.fill(-1);
   state_ = engine_ ? State::kReady : State::kSilent;
-  // Who has been told that the sound output died needs no second message that it stays dead.
-  if (load.trouble && !lost_before_) hooks_.notify(*load.trouble);
+  // Who has been told that there is no sound needs no second message while it stays so.
+  if (load.trouble && !trouble_told_) hooks_.notify(*load.trouble);
+  trouble_told_ = load.trouble.has_value();
   if (engine_) {
     const std::vector<MidiBytes> early = std::move(early_);
     early_.clear();
@@ -54,14 +57,11 @@ void SynthDevice::Finish(SynthLoad load) {
 void SynthDevice::Open(const Programs& programs) {
   open_ = true;
   programs_ = programs;
-  if (LostItsSoundfont()) state_ = State::kLost;
+  if (LostItsSoundfont()) state_ = State::kSilent;
   BeginLoading();
   if (state_ != State::kReady) {
     early_.clear();
     return;
-  }
-  for (int channel = 0; channel < kMidiChannels; ++channel) {
-    SetProgram(channel, programs_[static_cast<std::size_t>(channel)]);
   }
   const auto bends = CentredPitchBends();
   engine_->renderer().Send(bends);
@@ -79,9 +79,20 @@ void SynthDevice::Close() {
   if (engine_) engine_->renderer().Silence();
 }
 
-void SynthDevice::SetProgram(int channel, int program) {
-  // Loads the samples of the timbre, which is why it happens here and not on the audio thread.
-  if (program >= 0) fluid_synth_program_change(engine_->synth(), channel, program);
+bool SynthDevice::LoadTimbre(int channel) {
+  const auto i = static_cast<std::size_t>(channel);
+  if (programs_[i] == loaded_[i]) return false;
+  loaded_[i] = programs_[i];
+  fluid_synth_program_change(engine_->synth(), channel, programs_[i]);
+  return true;
+}
+
+bool SynthDevice::LoadOneTimbre() {
+  if (state_ != State::kReady) return false;
+  for (int channel = 0; channel < kMidiChannels; ++channel) {
+    if (LoadTimbre(channel)) return true;
+  }
+  return false;
 }
 
 void SynthDevice::Send(std::span<const MidiBytes> messages) {
@@ -92,27 +103,31 @@ void SynthDevice::Send(std::span<const MidiBytes> messages) {
         message.kind() == MidiBytes::kNoteOn || message.kind() == MidiBytes::kNoteOff;
     if (message.kind() == MidiBytes::kProgram) {
       programs_[static_cast<std::size_t>(message.channel())] = message.data1;
-      if (engine_) SetProgram(message.channel(), message.data1);
-    } else if (engine_) {
+      if (IsAudible() && playing_.contains(message.channel())) LoadTimbre(message.channel());
+    } else if (IsAudible()) {
+      if (is_note) LoadTimbre(message.channel());
       rest.push_back(message);
     } else if (state_ == State::kLoading && !is_note) {
       early_.push_back(message);
     }
   }
-  if (engine_) engine_->renderer().Send(rest);
+  if (!rest.empty()) engine_->renderer().Send(rest);
 }
 
 void SynthDevice::Run(std::shared_ptr<SequencerQueue> queue) {
+  playing_ = queue->Channels();
+  for (const int channel : playing_) LoadTimbre(channel);
   engine_->renderer().Run(std::move(queue));
 }
 
 void SynthDevice::Stop() {
+  playing_.clear();
   if (engine_) engine_->renderer().Stop();
 }
 
 void SynthDevice::Lose() {
-  state_ = State::kLost;
-  lost_before_ = true;
+  state_ = State::kSilent;
+  trouble_told_ = true;
   hooks_.notify(AudioLostNotice());
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
@@ -25,8 +26,8 @@ class SynthDevice : public MidiDevice {
     kIdle,  ///< loading has not begun
     kLoading,
     kReady,
-    kSilent,  ///< there is no soundfont or no audio; it stays so
-    kLost,    ///< the audio system died, or the soundfont is gone; the next `Open` tries again
+    /// There is no soundfont or no audio, or what there was is gone. The next `Open` tries again.
+    kSilent,
   };
   struct Hooks {
     /// Does work on the sound thread; any thread.
@@ -45,16 +46,22 @@ class SynthDevice : public MidiDevice {
   /// The soundfont to take first at the next loading, "" for the usual ones.
   void UseSoundfont(const std::string& path) { setup_.chosen_soundfont = path; }
 
-  /// Loads beside the sound thread, or at once when the caller renders. Once; later calls do
-  /// nothing.
+  /// Loads beside the sound thread, or at once when the caller renders. Does nothing while it loads
+  /// or is ready.
   void BeginLoading();
   State state() const { return state_; }
+  /// Loads one of the timbres that were sent and are not loaded yet; false when there is none. A
+  /// timbre is read from the disk, which may take long and stops all that is sent, so it is loaded
+  /// when there is time, or when a queue uses its channel.
+  bool LoadOneTimbre();
 
   void Open(const Programs& programs) override;
   void Close() override;
   void Send(std::span<const MidiBytes> messages) override;
+  bool IsAudible() const override { return state_ == State::kReady; }
 
-  /// Runs a queue by the clock of the sound card. Only in kReady.
+  /// Runs a queue by the clock of the sound card, once the timbres of its channels are loaded. Only
+  /// in kReady.
   void Run(std::shared_ptr<SequencerQueue> queue);
   void Stop();
   /// Counts the blocks that were played.
@@ -70,16 +77,18 @@ class SynthDevice : public MidiDevice {
 
  private:
   void Finish(SynthLoad load);
-  void SetProgram(int channel, int program);
+  bool LoadTimbre(int channel);
   bool LostItsSoundfont() const;
 
   SynthSetup setup_;
   const SynthVolume& volume_;
   const Hooks hooks_;
   State state_ = State::kIdle;
-  bool lost_before_ = false;
+  bool trouble_told_ = false;  // and not mended since
   bool open_ = false;
-  Programs programs_{};
+  Programs programs_{};  // wanted
+  Programs loaded_{};
+  std::set<int> playing_;         // channels of the queue that runs
   std::vector<MidiBytes> early_;  // sent between `Open` and the end of loading
   std::unique_ptr<SynthEngine> engine_;
   std::thread loader_;

@@ -24,6 +24,7 @@ struct SynthSetup {
   std::vector<std::string> soundfonts;  ///< tried after it; the first that loads is taken
   std::vector<std::string> drivers;     ///< names of FluidSynth; the first that starts is taken
   double sample_rate = 48000;           ///< frames a second; JACK insists on its own
+  Beside beside;                        ///< does the loading; empty for a thread of its own
 };
 
 /// A synthesiser of FluidSynth with its driver, which starts in `StartDriver` and ends here.

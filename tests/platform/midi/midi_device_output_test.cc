@@ -9,9 +9,12 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <random>
+#include <utility>
 
 #include "fake_ports.h"
+#include "platform/midi/player.h"
 #include "rendered_output.h"
 
 namespace vmod17 {
@@ -204,6 +207,115 @@ TEST(MidiDeviceOutput, LoadsAheadOfTheFirstOpening) {
   rendered.output.BeginLoading();
   rendered.output.BeginLoading();
   EXPECT_GT(PlayOneNote(rendered), 0.02f);
+}
+
+/// An output whose synthesiser is loaded when the test says so.
+class SlowOutput : public ::testing::TestWithParam<double> {
+ protected:
+  MidiOptions Options() {
+    MidiOptions options = NoPorts();
+    options.beside = [this](std::function<void()> work) { loading_ = std::move(work); };
+    return options;
+  }
+  void Load() { std::exchange(loading_, nullptr)(); }
+  MidiQueueStand Stand() const {
+    return static_cast<MidiQueueStand>(rendered_.output.Get(MidiMember::QueueStand));
+  }
+
+  std::function<void()> loading_;
+  RenderedOutput rendered_{Options()};
+};
+
+TEST_P(SlowOutput, LosesNoNoteHoweverLongItLoads) {
+  rendered_.Open(-1);
+  rendered_.QueueNote(60, 0, 300);
+  rendered_.QueueNote(64, 400, 300);
+  rendered_.Do(MidiBefehl::kStart);
+  EXPECT_EQ(Peak(rendered_.Render(GetParam())), 0);
+  EXPECT_EQ(Stand(), MidiQueueStand::kWartet);
+  Load();
+  EXPECT_GT(Peak(rendered_.Render(100)), 0.02f);
+  EXPECT_EQ(Stand(), MidiQueueStand::kLaeuft);
+  rendered_.Render(250);
+  EXPECT_GT(Peak(rendered_.Render(345)), 0.02f);
+  EXPECT_EQ(rendered_.queue_empty, 0);
+  rendered_.Render(10);
+  EXPECT_EQ(rendered_.queue_empty, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Loads, SlowOutput, ::testing::Values(100, 2400, 5000, 60000));
+
+TEST(MidiDeviceOutput, LooksForASoundfontAgainWithEachOpening) {
+  MidiOptions options = NoPorts();
+  const std::string path =
+      (fs::temp_directory_path() / ("melvado-late-" + std::to_string(std::random_device()())))
+          .string();
+  options.usual_soundfonts = {path};
+  RenderedOutput rendered(options);
+  EXPECT_EQ(PlayOneNote(rendered), 0);
+  fs::create_symlink(ExistingSoundfonts(UsualSoundfonts()).at(0), path);
+  rendered.Reset();
+  EXPECT_GT(PlayOneNote(rendered), 0.02f);
+  fs::remove(path);
+  EXPECT_THAT(rendered.notices, SizeIs(1));
+}
+
+/// A player of the synthesiser, in virtual time, with a timbre of its own for each channel.
+class TimbresOfAPlayer : public ::testing::Test {
+ protected:
+  TimbresOfAPlayer() {
+    Programs programs;
+    programs.fill(-1);
+    for (int channel = 0; channel < kUsedChannels; ++channel) {
+      programs[static_cast<std::size_t>(channel)] = 70 + channel;
+    }
+    player_.Open({DeviceChoice::Kind::kSynth, "", 0, 0}, programs);
+  }
+  static SynthSetup Rendered() {
+    SynthSetup setup;
+    setup.audio = SynthAudio::kRendered;
+    setup.soundfonts = UsualSoundfonts();
+    setup.beside = [](const std::function<void()>& work) { work(); };
+    return setup;
+  }
+  void Start() {
+    player_.Start(std::make_shared<SequencerQueue>(
+        std::vector<TimedMessage>{{0, {0x90, 60, 100}}, {0, {0x92, 64, 100}}, {20, {0x80, 60, 0}}},
+        [](MidiQueueStand) {}));
+  }
+  /// How many timbres the sound thread loads when it is left alone. It wants to be called again at
+  /// once as long as there is one.
+  int LoadedWhenAlone() {
+    int loaded = 0;
+    while (player_.RunDue() == 0) ++loaded;
+    return loaded;
+  }
+  void Play() {
+    std::vector<float> left(kSynthBlock);
+    std::vector<float> right(kSynthBlock);
+    for (int block = 0; block < 100; ++block)
+      player_.Render(left.data(), right.data(), kSynthBlock);
+  }
+
+  FakePorts ports_;
+  const SynthVolume volume_;
+  Player player_{Rendered(),
+                 ports_,
+                 volume_,
+                 {[] { return 0.0; }, [](const std::function<void()>& work) { work(); },
+                  [](const Notice&) {}}};
+};
+
+TEST_F(TimbresOfAPlayer, AreLoadedWhileThereIsNothingToDo) {
+  EXPECT_EQ(LoadedWhenAlone(), 8);
+  EXPECT_EQ(LoadedWhenAlone(), 0);
+}
+
+TEST_F(TimbresOfAPlayer, LetAQueueWaitForThoseOfItsChannelsAlone) {
+  Start();
+  EXPECT_EQ(LoadedWhenAlone(), 0) << "a message of the queue would be held up";
+  Play();
+  EXPECT_EQ(LoadedWhenAlone(), 6);
 }
 
 TEST(MidiDeviceOutput, FindsEachSoundfontOnce) {

@@ -5,9 +5,12 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <functional>
 #include <memory>
+#include <random>
 #include <string>
+#include <utility>
 
 #include "fake_ports.h"
 #include "rendered_output.h"
@@ -16,14 +19,23 @@
 namespace vmod17 {
 namespace {
 
+namespace fs = std::filesystem;
+
 class Subject {
  public:
   virtual ~Subject() = default;
   virtual MidiOutput& output() = 0;
   /// Delivers what is under way.
   virtual void Deliver() = 0;
+  /// Lets a queue that was started begin, and tell so.
+  virtual void LetBegin() = 0;
   /// Lets two seconds pass.
   virtual void LetPlay() = 0;
+  /// From now on the device that is opened is not ready, until `BecomeReady`.
+  virtual void LoadSlowly() = 0;
+  virtual void BecomeReady() = 0;
+  /// The device that is opened next cannot be heard.
+  virtual void Break() = 0;
 };
 
 class RecordingSubject : public Subject {
@@ -31,7 +43,11 @@ class RecordingSubject : public Subject {
   RecordingSubject() { output_.geraete = {"Port", "Synthesizer"}; }
   MidiOutput& output() override { return output_; }
   void Deliver() override {}
+  void LetBegin() override {}
   void LetPlay() override { output_.FinishQueue(); }
+  void LoadSlowly() override { output_.SetDevice(RecordingMidiOutput::Device::kLoads); }
+  void BecomeReady() override { output_.SetDevice(RecordingMidiOutput::Device::kReady); }
+  void Break() override { output_.SetDevice(RecordingMidiOutput::Device::kMute); }
 
  private:
   RecordingMidiOutput output_;
@@ -39,19 +55,45 @@ class RecordingSubject : public Subject {
 
 class RenderedSubject : public Subject {
  public:
-  explicit RenderedSubject(int device) : rendered_(Options()) {
+  explicit RenderedSubject(int device)
+      : soundfont_((fs::temp_directory_path() /
+                    ("melvado-contract-" + std::to_string(std::random_device()()) + ".sf2"))
+                       .string()),
+        rendered_(Options()) {
+    fs::create_symlink(ExistingSoundfonts(UsualSoundfonts()).at(0), soundfont_);
     rendered_.output.Set(MidiMember::GeraetNr, device);
   }
+  ~RenderedSubject() override { fs::remove(soundfont_); }
   MidiOutput& output() override { return rendered_.output; }
   void Deliver() override { rendered_.loop.Yield(); }
+  void LetBegin() override { rendered_.Render(10); }
   void LetPlay() override { rendered_.Render(2000); }
+  void LoadSlowly() override { slow_ = true; }
+  void BecomeReady() override {
+    slow_ = false;
+    if (loading_) std::exchange(loading_, nullptr)();
+  }
+  void Break() override {
+    fs::remove(soundfont_);
+    ports_->names.clear();
+  }
 
  private:
-  static MidiOptions Options() {
-    auto ports = std::make_shared<FakePorts>();
-    ports->names = {"Port"};
-    return RenderedOptions(ports);
+  MidiOptions Options() {
+    ports_->names = {"Port"};
+    MidiOptions options = RenderedOptions(ports_);
+    options.usual_soundfonts = {soundfont_};
+    options.beside = [this](std::function<void()> work) {
+      loading_ = std::move(work);
+      if (!slow_) BecomeReady();
+    };
+    return options;
   }
+
+  const std::string soundfont_;
+  std::shared_ptr<FakePorts> ports_ = std::make_shared<FakePorts>();
+  std::function<void()> loading_;
+  bool slow_ = false;
   RenderedOutput rendered_;
 };
 
@@ -67,6 +109,9 @@ class MidiOutputContract : public ::testing::TestWithParam<Maker> {
   }
 
   void Do(MidiBefehl befehl) { output_.Set(MidiMember::Befehl, static_cast<int>(befehl)); }
+  MidiQueueStand Stand() const {
+    return static_cast<MidiQueueStand>(output_.Get(MidiMember::QueueStand));
+  }
   void QueueNote() {
     output_.Set(MidiMember::Status, 0x90);
     output_.Set(MidiMember::Daten1, 60);
@@ -211,12 +256,103 @@ TEST_P(MidiOutputContract, PlaysWithoutAListenerForTheEnd) {
   EXPECT_GE(output_.Get(MidiMember::OffenStand), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Outputs, MidiOutputContract,
-    ::testing::Values(Maker{"Recording", [] { return std::make_unique<RecordingSubject>(); }},
-                      Maker{"Synthesizer", [] { return std::make_unique<RenderedSubject>(1); }},
-                      Maker{"Port", [] { return std::make_unique<RenderedSubject>(0); }}),
-    [](const auto& subject) { return subject.param.name; });
+TEST_P(MidiOutputContract, SaysHowTheQueueFaresFromItsStartToItsEnd) {
+  Do(MidiBefehl::kOeffnen);
+  QueueNote();
+  EXPECT_EQ(Stand(), MidiQueueStand::kRuht);
+  std::vector<MidiQueueStand> told;
+  output_.QueueEmpty = [&] { told.push_back(Stand()); };
+  Do(MidiBefehl::kStart);
+  subject_->LetBegin();
+  EXPECT_EQ(Stand(), MidiQueueStand::kLaeuft);
+  subject_->LetPlay();
+  EXPECT_THAT(told, ::testing::ElementsAre(MidiQueueStand::kRuht));
+}
+
+TEST_P(MidiOutputContract, SaysThatAQueueRestsThatWasStopped) {
+  for (const MidiBefehl befehl : {MidiBefehl::kStopp, MidiBefehl::kSchliessen}) {
+    Do(MidiBefehl::kOeffnen);
+    QueueNote();
+    Do(MidiBefehl::kStart);
+    subject_->LetBegin();
+    Do(befehl);
+    EXPECT_EQ(Stand(), MidiQueueStand::kRuht);
+    subject_->LetPlay();
+    EXPECT_EQ(Stand(), MidiQueueStand::kRuht);
+  }
+}
+
+TEST_P(MidiOutputContract, SaysThatADeviceCannotBeHeardAndKeepsTime) {
+  subject_->Break();
+  Do(MidiBefehl::kOeffnen);
+  QueueNote();
+  Do(MidiBefehl::kStart);
+  subject_->LetBegin();
+  EXPECT_EQ(Stand(), MidiQueueStand::kStumm);
+  EXPECT_EQ(queue_empty_, 0);
+  subject_->LetPlay();
+  EXPECT_EQ(Stand(), MidiQueueStand::kRuht);
+  EXPECT_EQ(queue_empty_, 1);
+}
+
+const Maker kRecording{"Recording", [] { return std::make_unique<RecordingSubject>(); }};
+const Maker kSynthesizer{"Synthesizer", [] { return std::make_unique<RenderedSubject>(1); }};
+const Maker kPort{"Port", [] { return std::make_unique<RenderedSubject>(0); }};
+
+INSTANTIATE_TEST_SUITE_P(Outputs, MidiOutputContract,
+                         ::testing::Values(kRecording, kSynthesizer, kPort),
+                         [](const auto& subject) { return subject.param.name; });
+
+/// Of outputs that take their time until they can sound, as a port never does.
+class SlowMidiOutputContract : public MidiOutputContract {};
+
+TEST_P(SlowMidiOutputContract, LetsTheQueueWaitForItsDeviceAndLosesNothingOfIt) {
+  subject_->LoadSlowly();
+  Do(MidiBefehl::kOeffnen);
+  QueueNote();
+  Do(MidiBefehl::kStart);
+  for (int i = 0; i < 3; ++i) {
+    subject_->LetPlay();
+    EXPECT_EQ(Stand(), MidiQueueStand::kWartet);
+  }
+  EXPECT_EQ(queue_empty_, 0);
+  subject_->BecomeReady();
+  subject_->LetBegin();
+  EXPECT_EQ(Stand(), MidiQueueStand::kLaeuft);
+  EXPECT_EQ(queue_empty_, 0);
+  subject_->LetPlay();
+  EXPECT_EQ(queue_empty_, 1);
+}
+
+TEST_P(SlowMidiOutputContract, ForgetsAQueueThatWasDroppedWhileItWaited) {
+  subject_->LoadSlowly();
+  Do(MidiBefehl::kOeffnen);
+  QueueNote();
+  Do(MidiBefehl::kStart);
+  Do(MidiBefehl::kStopp);
+  EXPECT_EQ(Stand(), MidiQueueStand::kRuht);
+  subject_->BecomeReady();
+  subject_->LetPlay();
+  EXPECT_EQ(Stand(), MidiQueueStand::kRuht);
+  EXPECT_EQ(queue_empty_, 0);
+}
+
+TEST_P(SlowMidiOutputContract, SaysThatItCannotBeHeardWhenLoadingFails) {
+  subject_->LoadSlowly();
+  Do(MidiBefehl::kOeffnen);
+  QueueNote();
+  Do(MidiBefehl::kStart);
+  subject_->Break();
+  subject_->BecomeReady();
+  subject_->LetBegin();
+  EXPECT_EQ(Stand(), MidiQueueStand::kStumm);
+  subject_->LetPlay();
+  EXPECT_EQ(queue_empty_, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Outputs, SlowMidiOutputContract,
+                         ::testing::Values(kRecording, kSynthesizer),
+                         [](const auto& subject) { return subject.param.name; });
 
 }  // namespace
 }  // namespace vmod17

@@ -84,10 +84,10 @@ TEST_F(PortOutput, GetsTheQueueInTime) {
   EXPECT_EQ(rendered_.queue_empty, 1);
 }
 
-TEST_F(PortOutput, IsCentredByOpeningAndGetsTheProgramsThatWereSentBefore) {
+TEST_F(PortOutput, IsCentredOnTheChannelsInUseByOpeningAndGetsTheProgramsThatWereSentBefore) {
   rendered_.Program(3, 71);
   rendered_.Open(0);
-  EXPECT_THAT(ports_->Of("Expander", 0xE0), SizeIs(16));
+  EXPECT_THAT(ports_->Of("Expander", 0xE0), SizeIs(8));
   for (const MidiBytes& bend : ports_->Of("Expander", 0xE0)) {
     EXPECT_EQ(bend.data1, 0);
     EXPECT_EQ(bend.data2, 64);
@@ -106,7 +106,7 @@ TEST_F(PortOutput, StaysConnectedThroughAResetAndIsCentredAgain) {
   rendered_.Reset();
   EXPECT_EQ(ports_->opened, 1);
   EXPECT_THAT(ports_->Of("Expander", 0xC0), IsEmpty());
-  ASSERT_THAT(ports_->Of("Expander", 0xE0), SizeIs(16));
+  ASSERT_THAT(ports_->Of("Expander", 0xE0), SizeIs(8));
   EXPECT_EQ(ports_->Of("Expander", 0xE0)[0].data2, 64);
 }
 
@@ -187,6 +187,119 @@ TEST_F(PortOutput, GetsNothingThatIsNoChannelMessage) {
   rendered_.Send(0xF8, 0, 0);
   rendered_.Send(60, 0, 0);
   EXPECT_THAT(ports_->got, IsEmpty());
+}
+
+TEST_F(PortOutput, IsMeantByTheNumberThatWasToldWhenTheListChangesBeforeItsUse) {
+  ASSERT_EQ(rendered_.output.NumberOf("Organ"), 1);
+  ports_->names = {"New Piano", "Expander", "Organ"};
+  ASSERT_EQ(rendered_.output.Get(MidiMember::GeraeteZahl), 4);
+  rendered_.Open(1);
+  rendered_.QueueNote(60, 0, 1000);
+  rendered_.Do(MidiBefehl::kStart);
+  EXPECT_THAT(NotesOn("Organ"), ElementsAre(60));
+  EXPECT_THAT(NotesOn("Expander"), IsEmpty());
+}
+
+TEST_F(PortOutput, ThatIsGoneBeforeItsUseIsMissedByItsName) {
+  ASSERT_EQ(rendered_.output.NumberOf("Organ"), 1);
+  ports_->names = {};
+  ASSERT_EQ(rendered_.output.Get(MidiMember::GeraeteZahl), 1);
+  rendered_.Open(1);
+  rendered_.Render(10);
+  ASSERT_THAT(rendered_.notices, SizeIs(1));
+  EXPECT_EQ(rendered_.notices[0].text_id, 9155);
+  EXPECT_THAT(rendered_.notices[0].details, ElementsAre("Organ"));
+}
+
+/// Loudness on a port: controller 7 of the channels in use, 100 where nothing is changed.
+class PortVolume : public PortOutput {
+ protected:
+  struct Volume {
+    int channel;
+    int value;
+    bool operator==(const Volume&) const = default;
+  };
+
+  PortVolume() { rendered_.Open(0); }
+  void SetVolume(int value) {
+    rendered_.output.Set(MidiMember::VolumeLinks, value);
+    rendered_.output.Set(MidiMember::VolumeRechts, value);
+  }
+  /// What the program does with the volume at the start of a queue, `ms` long.
+  void Rise(double ms) {
+    for (int value = 0; value <= 65500; value += 500) {
+      SetVolume(value);
+      rendered_.Render(ms / 132);
+    }
+    SetVolume(65535);
+  }
+  std::vector<Volume> Volumes() const {
+    std::vector<Volume> volumes;
+    for (const MidiBytes& message : ports_->Of("Expander", 0xB0)) {
+      EXPECT_EQ(message.data1, 7);
+      volumes.push_back({message.channel(), message.data2});
+    }
+    return volumes;
+  }
+};
+
+TEST_F(PortVolume, IsNotTouchedByARiseThatIsOverBeforeItCouldBeHeard) {
+  rendered_.QueueNote(60, 0, 1000);
+  rendered_.Do(MidiBefehl::kStart);
+  Rise(5);
+  rendered_.Render(2000);
+  EXPECT_THAT(Volumes(), IsEmpty());
+}
+
+TEST_F(PortVolume, FollowsALongRiseFiftyTimesASecondAndEndsAtTheNormalVolume) {
+  rendered_.QueueNote(60, 0, 3000, 0);
+  rendered_.QueueNote(64, 0, 3000, 1);
+  rendered_.Do(MidiBefehl::kStart);
+  Rise(1000);
+  rendered_.Render(100);
+  const std::vector<Volume> volumes = Volumes();
+  EXPECT_GE(volumes.size(), 80u);
+  EXPECT_LE(volumes.size(), 104u);
+  EXPECT_EQ(volumes.end()[-2], (Volume{0, 100}));
+  EXPECT_EQ(volumes.end()[-1], (Volume{1, 100}));
+}
+
+TEST_F(PortVolume, OfAQueueThatBeginsFadedIsSentBeforeItsFirstNotes) {
+  SetVolume(0);
+  rendered_.Render(100);
+  EXPECT_THAT(Volumes(), IsEmpty()) << "no channel is in use";
+  rendered_.QueueNote(60, 0, 1000, 3);
+  rendered_.Do(MidiBefehl::kStart);
+  EXPECT_EQ(Volumes(), (std::vector<Volume>{{3, 0}}));
+  EXPECT_EQ(ports_->got.back().message.kind(), MidiBytes::kNoteOn);
+  SetVolume(65535);
+  rendered_.Render(100);
+  EXPECT_EQ(Volumes(), (std::vector<Volume>{{3, 0}, {3, 100}}));
+}
+
+TEST_F(PortVolume, IsPutBackByClosingAndSetAgainWhereItIsStillDown) {
+  rendered_.QueueNote(60, 0, 1000);
+  rendered_.Do(MidiBefehl::kStart);
+  SetVolume(32768);
+  rendered_.Render(100);
+  EXPECT_EQ(Volumes(), (std::vector<Volume>{{0, 50}}));
+  rendered_.Do(MidiBefehl::kSchliessen);
+  EXPECT_EQ(Volumes(), (std::vector<Volume>{{0, 50}, {0, 100}}));
+  ports_->got.clear();
+  rendered_.Open(0);
+  EXPECT_THAT(Volumes(), IsEmpty());
+  rendered_.QueueNote(60, 0, 1000);
+  rendered_.Do(MidiBefehl::kStart);
+  EXPECT_EQ(Volumes(), (std::vector<Volume>{{0, 50}}));
+}
+
+TEST_F(PortVolume, IsPutBackBeforeAnotherDeviceTakesOver) {
+  rendered_.QueueNote(60, 0, 1000);
+  rendered_.Do(MidiBefehl::kStart);
+  SetVolume(0);
+  rendered_.Render(100);
+  rendered_.Open(1);
+  EXPECT_EQ(Volumes(), (std::vector<Volume>{{0, 0}, {0, 100}}));
 }
 
 TEST(SystemMidiPorts, CanBeListedOnAnyMachine) {
