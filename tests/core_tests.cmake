@@ -65,6 +65,7 @@ target_sources(
           worksheet/task_selection_test.cc
           worksheet/test_flow_test.cc
           worksheet/training_flow_test.cc
+          worksheet/waiting_flow_test.cc
           worksheet/worksheet_screen_test.cc)
 target_compile_definitions(
   core_tests PRIVATE VMOD17_GOLDEN_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}/golden")

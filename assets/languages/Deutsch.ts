@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Das MIDI-Gerät „%1“ ist nicht mehr da. Prüfen Sie sein Kabel und ob es eingeschaltet ist; bei den nächsten Akkorden wird es noch einmal gesucht. Die Übung geht ohne Ton weiter.</translation>
+        <translation>Das MIDI-Gerät „%1“ ist nicht mehr da. Prüfen Sie sein Kabel und ob es eingeschaltet ist; bei den nächsten Akkorden wird es noch einmal gesucht.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>Das MIDI-Gerät Nummer %1 gibt es nicht; vorhanden sind %2 Geräte. Wählen Sie in Melvado ein anderes MIDI-Gerät. Die Übung geht ohne Ton weiter.</translation>
+        <translation>Das MIDI-Gerät Nummer %1 gibt es nicht; vorhanden sind %2 Geräte. Wählen Sie in Melvado ein anderes MIDI-Gerät.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Es ist ein Fehler aufgetreten, mit dem das Programm nicht gerechnet hat (%1). Er steht im Protokoll; Sie können weitermachen. Bitte schicken Sie den Fehlerbericht aus dem Protokoll ein.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Klang wird vorbereitet …</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Es konnte nichts gespielt werden, weil die Klangausgabe nicht bereit ist. Prüfen Sie Lautsprecher, Kopfhörer oder MIDI-Gerät und versuchen Sie es dann noch einmal. Gewertet wurde davon nichts.</translation>
     </message>
     <message id="9551s">
         <source></source>

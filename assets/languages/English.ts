@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>The MIDI device "%1" is not there any more. Check its cable and whether it is switched on; the next chords try to reach it again. The exercise goes on without sound.</translation>
+        <translation>The MIDI device "%1" is not there any more. Check its cable and whether it is switched on; the next chords try to reach it again.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>MIDI device number %1 does not exist; there are %2 devices. Choose another MIDI device in Melvado. The exercise goes on without sound.</translation>
+        <translation>MIDI device number %1 does not exist; there are %2 devices. Choose another MIDI device in Melvado.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>An error has occurred that the program did not expect (%1). It is in the log; you can go on. Please send the fault report from the log.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Preparing the sound ...</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Nothing could be played: the sound output is not ready. Check the loudspeakers, the headphones or the MIDI device, then try again. Nothing has been counted.</translation>
     </message>
     <message id="9551s">
         <source></source>

@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>El dispositivo MIDI «%1» ya no está disponible. Compruebe el cable y que esté encendido; con los próximos acordes se buscará de nuevo. El ejercicio continúa sin sonido.</translation>
+        <translation>El dispositivo MIDI «%1» ya no está disponible. Compruebe el cable y que esté encendido; con los próximos acordes se buscará de nuevo.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>No existe el dispositivo MIDI número %1; dispositivos presentes: %2. Elija otro dispositivo MIDI en Melvado. El ejercicio continúa sin sonido.</translation>
+        <translation>No existe el dispositivo MIDI número %1; dispositivos presentes: %2. Elija otro dispositivo MIDI en Melvado.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Se ha producido un error que el programa no esperaba (%1). Está en el registro; puede continuar. Envíe el informe de error del registro.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Preparando el sonido…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>No se pudo reproducir nada porque la salida de sonido no está lista. Compruebe los altavoces, los auriculares o el dispositivo MIDI e inténtelo de nuevo. No se ha contado nada.</translation>
     </message>
     <message id="9551s">
         <source></source>

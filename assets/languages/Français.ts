@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Le périphérique MIDI «&#xa0;%1&#xa0;» n’est plus là. Vérifiez son câble et qu’il est bien allumé&#xa0;; il sera recherché de nouveau aux prochains accords. L’exercice continue sans le son.</translation>
+        <translation>Le périphérique MIDI «&#xa0;%1&#xa0;» n’est plus là. Vérifiez son câble et qu’il est bien allumé&#xa0;; il sera recherché de nouveau aux prochains accords.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>Le périphérique MIDI numéro %1 n’existe pas&#xa0;; nombre de périphériques présents&#xa0;: %2. Choisissez un autre périphérique MIDI dans Melvado. L’exercice continue sans le son.</translation>
+        <translation>Le périphérique MIDI numéro %1 n’existe pas&#xa0;; nombre de périphériques présents&#xa0;: %2. Choisissez un autre périphérique MIDI dans Melvado.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Une erreur que le programme n’attendait pas est survenue (%1). Elle figure dans le journal ; vous pouvez continuer. Veuillez envoyer le rapport d’erreur depuis le journal.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Préparation du son…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Rien n’a pu être joué, car la sortie audio n’est pas prête. Vérifiez les haut-parleurs, le casque ou le périphérique MIDI, puis réessayez. Rien n’a été compté.</translation>
     </message>
     <message id="9551s">
         <source></source>

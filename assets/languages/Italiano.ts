@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Il dispositivo MIDI «%1» non è più disponibile. Controlla il cavo e che sia acceso; con i prossimi accordi verrà cercato di nuovo. L’esercizio continua senza suono.</translation>
+        <translation>Il dispositivo MIDI «%1» non è più disponibile. Controlla il cavo e che sia acceso; con i prossimi accordi verrà cercato di nuovo.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>Il dispositivo MIDI numero %1 non esiste; dispositivi presenti: %2. Scegli un altro dispositivo MIDI in Melvado. L’esercizio continua senza suono.</translation>
+        <translation>Il dispositivo MIDI numero %1 non esiste; dispositivi presenti: %2. Scegli un altro dispositivo MIDI in Melvado.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Si è verificato un errore che il programma non prevedeva (%1). È nel registro; puoi continuare. Invia il rapporto di errore preso dal registro.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Preparazione del suono…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Non è stato possibile suonare nulla perché l’uscita audio non è pronta. Controlla gli altoparlanti, le cuffie o il dispositivo MIDI e riprova. Nulla è stato conteggiato.</translation>
     </message>
     <message id="9551s">
         <source></source>

@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Het MIDI-apparaat ‘%1’ is er niet meer. Controleer de kabel en kijk of het apparaat aanstaat; bij de volgende akkoorden wordt het opnieuw gezocht. De oefening gaat zonder geluid door.</translation>
+        <translation>Het MIDI-apparaat ‘%1’ is er niet meer. Controleer de kabel en kijk of het apparaat aanstaat; bij de volgende akkoorden wordt het opnieuw gezocht.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>MIDI-apparaat nummer %1 bestaat niet; aantal aanwezige apparaten: %2. Kies in Melvado een ander MIDI-apparaat. De oefening gaat zonder geluid door.</translation>
+        <translation>MIDI-apparaat nummer %1 bestaat niet; aantal aanwezige apparaten: %2. Kies in Melvado een ander MIDI-apparaat.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Er is een fout opgetreden waarop het programma niet rekende (%1). Ze staat in het logboek; u kunt doorgaan. Stuur het foutrapport uit het logboek op.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Geluid wordt voorbereid…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Er kon niets worden gespeeld, omdat de geluidsuitvoer niet gereed is. Controleer de luidsprekers, de koptelefoon of het MIDI-apparaat en probeer het dan opnieuw. Er is niets meegeteld.</translation>
     </message>
     <message id="9551s">
         <source></source>

@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Urządzenie MIDI „%1” nie jest już dostępne. Sprawdź kabel i to, czy urządzenie jest włączone; przy następnych akordach program poszuka go ponownie. Ćwiczenie trwa dalej bez dźwięku.</translation>
+        <translation>Urządzenie MIDI „%1” nie jest już dostępne. Sprawdź kabel i to, czy urządzenie jest włączone; przy następnych akordach program poszuka go ponownie.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>Nie ma urządzenia MIDI o numerze %1; liczba dostępnych urządzeń: %2. Wybierz w programie Melvado inne urządzenie MIDI. Ćwiczenie trwa dalej bez dźwięku.</translation>
+        <translation>Nie ma urządzenia MIDI o numerze %1; liczba dostępnych urządzeń: %2. Wybierz w programie Melvado inne urządzenie MIDI.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Wystąpił błąd, którego program nie przewidział (%1). Jest w dzienniku; możesz kontynuować. Wyślij raport o błędzie z dziennika.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Przygotowywanie dźwięku…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Nie można było nic odtworzyć, ponieważ wyjście dźwięku nie jest gotowe. Sprawdź głośniki, słuchawki lub urządzenie MIDI i spróbuj ponownie. Nic nie zostało policzone.</translation>
     </message>
     <message id="9551s">
         <source></source>

@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>O dispositivo MIDI “%1” já não está disponível. Verifique o cabo e se o dispositivo está ligado; nos próximos acordes será procurado outra vez. O exercício continua sem som.</translation>
+        <translation>O dispositivo MIDI “%1” já não está disponível. Verifique o cabo e se o dispositivo está ligado; nos próximos acordes será procurado outra vez.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>O dispositivo MIDI número %1 não existe; dispositivos existentes: %2. Escolha outro dispositivo MIDI no Melvado. O exercício continua sem som.</translation>
+        <translation>O dispositivo MIDI número %1 não existe; dispositivos existentes: %2. Escolha outro dispositivo MIDI no Melvado.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Ocorreu um erro que o programa não esperava (%1). Está no histórico; você pode continuar. Envie o relatório de erro do histórico.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>A preparar o som…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Não foi possível tocar nada, porque a saída de som não está pronta. Verifique os altifalantes, os auscultadores ou o dispositivo MIDI e tente outra vez. Nada foi contado.</translation>
     </message>
     <message id="9551s">
         <source></source>

@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Zařízení MIDI „%1“ už není k dispozici. Zkontrolujte jeho kabel a zda je zapnuté; u dalších akordů se vyhledá znovu. Cvičení pokračuje bez zvuku.</translation>
+        <translation>Zařízení MIDI „%1“ už není k dispozici. Zkontrolujte jeho kabel a zda je zapnuté; u dalších akordů se vyhledá znovu.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>Zařízení MIDI číslo %1 neexistuje; počet dostupných zařízení: %2. Vyberte v programu Melvado jiné zařízení MIDI. Cvičení pokračuje bez zvuku.</translation>
+        <translation>Zařízení MIDI číslo %1 neexistuje; počet dostupných zařízení: %2. Vyberte v programu Melvado jiné zařízení MIDI.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Došlo k chybě, se kterou program nepočítal (%1). Je v protokolu; můžete pokračovat. Pošlete prosím hlášení o chybě z protokolu.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Zvuk se připravuje…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Nic nebylo možné přehrát, protože zvukový výstup není připraven. Zkontrolujte reproduktory, sluchátka nebo zařízení MIDI a zkuste to znovu. Nic nebylo započítáno.</translation>
     </message>
     <message id="9551s">
         <source></source>

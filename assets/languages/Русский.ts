@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>MIDI-устройство «%1» больше недоступно. Проверьте его кабель и включено ли оно; на следующих аккордах программа попробует найти его снова. Упражнение продолжается без звука.</translation>
+        <translation>MIDI-устройство «%1» больше недоступно. Проверьте его кабель и включено ли оно; на следующих аккордах программа попробует найти его снова.</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>MIDI-устройства с номером %1 нет; всего устройств: %2. Выберите в Melvado другое MIDI-устройство. Упражнение продолжается без звука.</translation>
+        <translation>MIDI-устройства с номером %1 нет; всего устройств: %2. Выберите в Melvado другое MIDI-устройство.</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>Произошла ошибка, которой программа не ожидала (%1). Она записана в журнал; можно продолжать. Отправьте отчёт об ошибке из журнала.</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>Подготовка звука…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>Ничего не удалось воспроизвести: звуковой выход не готов. Проверьте колонки, наушники или MIDI-устройство и попробуйте ещё раз. Ничего не засчитано.</translation>
     </message>
     <message id="9551s">
         <source></source>

@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>MIDI 设备“%1”已不可用。请检查连接线以及设备是否已开启；播放后面的和弦时会再次查找。练习将在无声状态下继续。</translation>
+        <translation>MIDI 设备“%1”已不可用。请检查连接线以及设备是否已开启；播放后面的和弦时会再次查找。</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>编号为 %1 的 MIDI 设备不存在；现有 %2 台设备。请在 Melvado 中选择其他 MIDI 设备。练习将在无声状态下继续。</translation>
+        <translation>编号为 %1 的 MIDI 设备不存在；现有 %2 台设备。请在 Melvado 中选择其他 MIDI 设备。</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>发生了程序未预料到的错误（%1）。该错误已记入日志，您可以继续。请发送日志中的错误报告。</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>正在准备声音……</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>无法播放：声音输出尚未就绪。请检查扬声器、耳机或 MIDI 设备，然后重试。本次不计入成绩。</translation>
     </message>
     <message id="9551s">
         <source></source>

@@ -675,11 +675,11 @@
     </message>
     <message id="9155s">
         <source></source>
-        <translation>MIDI 機器「%1」が見つからなくなりました。ケーブルと電源を確認してください。次のコードでもう一度探します。練習は音なしで続きます。</translation>
+        <translation>MIDI 機器「%1」が見つからなくなりました。ケーブルと電源を確認してください。次のコードでもう一度探します。</translation>
     </message>
     <message id="9156s">
         <source></source>
-        <translation>%1 番の MIDI 機器はありません。使用できる機器は %2 台です。Melvado で別の MIDI 機器を選んでください。練習は音なしで続きます。</translation>
+        <translation>%1 番の MIDI 機器はありません。使用できる機器は %2 台です。Melvado で別の MIDI 機器を選んでください。</translation>
     </message>
     <message id="9157s">
         <source></source>
@@ -980,6 +980,14 @@
     <message id="9467s">
         <source></source>
         <translation>予期しないエラーが発生しました（%1）。ログに記録しました。そのまま続けられます。ログから障害報告をお送りください。</translation>
+    </message>
+    <message id="9531s">
+        <source></source>
+        <translation>音を準備しています…</translation>
+    </message>
+    <message id="9532s">
+        <source></source>
+        <translation>音の出力の準備ができていないため、何も演奏できませんでした。スピーカー、ヘッドホン、または MIDI 機器を確認して、もう一度お試しください。今回の分は数えられていません。</translation>
     </message>
     <message id="9551s">
         <source></source>

@@ -186,6 +186,8 @@ class Einstellung1 : public Form {
   void SpieleProbe();
   int ProbenNoten() const;
   bool ProbeGilt() const;
+  void ZeigeWarten();
+  void BeendeWarten();
   void SendeKlangfarben();
   void ErlaubeProbe(bool erlaubt);
   void BeendeProbe();

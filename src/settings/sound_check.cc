@@ -9,6 +9,7 @@
 #include "settings/settings_screen.h"
 #include "shell/numbers.h"
 #include "sound/sample_playback.h"
+#include "sound/sound_words.h"
 
 namespace vmod17 {
 namespace {
@@ -74,10 +75,29 @@ void Einstellung1::SpieleProbe() {
   probe.ReiheEin();
   Delay(kRuheVorDemStart);
   if (!ProbeGilt()) return;
+  parts_.midi.MidiStart();
+  const Beginn beginn =
+      parts_.midi.WarteAufBeginn([this] { return !ProbeGilt(); }, [this] { ZeigeWarten(); });
+  if (!ProbeGilt()) return;
+  BeendeWarten();
+  if (beginn == Beginn::kStumm) {
+    BeendeProbe();
+    shell_.messages.Warn(shell_.texts.Words(kKlangFehlt), caption);
+    return;
+  }
   // Should the output never tell that its queue is empty, the buttons come back all the same.
   klangprobe.interval = settings.SpielDauer(shell_.state) + kNachfrist;
   klangprobe.Enable();
-  parts_.midi.MidiStart();
+}
+
+void Einstellung1::ZeigeWarten() {
+  pointer = Pointer::kHourglass;
+  klang_contr.caption = shell_.texts.Words(kKlangKommt);
+}
+
+void Einstellung1::BeendeWarten() {
+  pointer = Pointer::kDefault;
+  klang_contr.caption = shell_.texts.Sprachtext(366);
 }
 
 /// Notes of a sample chord: as many as the largest chosen kind has.
@@ -106,6 +126,7 @@ void Einstellung1::ErlaubeProbe(bool erlaubt) {
 void Einstellung1::BeendeProbe() {
   if (!probe_laeuft_) return;
   probe_laeuft_ = false;
+  BeendeWarten();
   klangprobe.Disable();
   // Both come back in the state that the selection has by now.
   cmdOK.enabled = auswahl_vollstaendig_;

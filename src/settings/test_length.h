@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <optional>
+
 namespace vmod17 {
 
 /// Milliseconds before a task that follows by itself.
@@ -13,6 +15,9 @@ struct TestRest {
   int test_aufgaben = 0;  ///< tasks of the test, even
   int rest_aufgaben = 0;
   int rest_sek = 0;  ///< seconds, a multiple of 10
+
+  std::optional<float> halt_seit{};  ///< clock since which the time stands, for want of sound
+  float gutschrift = 0;              ///< seconds that it is still to stand for what was lost so
 };
 
 /// What the length of a test depends on.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "catalogue/chord_board.h"
 #include "platform/event_loop.h"
@@ -35,9 +36,11 @@ class ChordPlayback {
   ChordPlayback(EventLoop& loop, ModMIDI& midi, const AppState& state,
                 const ExerciseSettings& settings, const ChordBoard& board);
 
-  /// Queues and starts the task, and returns when it has begun; returns early, with nothing
-  /// started, when `abbruch` is set meanwhile.
-  void SpieleAufgabe(PlaybackTask& task, const bool& abbruch);
+  /// Queues and starts the task, and returns when it has begun to sound; returns early, with
+  /// nothing started, when `abbruch` is set meanwhile. `dauert` is called when the output keeps it
+  /// waiting.
+  Beginn SpieleAufgabe(PlaybackTask& task, const bool& abbruch,
+                       const std::function<void()>& dauert);
 
   /// Draws the detuning of a task.
   static void TonhoeheWuerfeln(PlaybackTask& task, Random& random);

@@ -3,6 +3,8 @@
 
 #include "sound/mod_midi.h"
 
+#include <utility>
+
 namespace vmod17 {
 namespace {
 
@@ -14,6 +16,9 @@ constexpr int kTonhoehe = 224;
 
 constexpr int kMarkeNoteAus = 1000000;
 constexpr int kStandardStaerke = 100;
+
+constexpr float kUnbemerkt = 300;  // ms that a wait may last before it is shown
+constexpr float kGeduld = 20000;   // ms until an output that only loads counts as none
 
 }  // namespace
 
@@ -78,6 +83,23 @@ void ModMIDI::MidiStart() {
   SetzeLautstaerken(midiVolumeLeft, midiVolumeRight);
 }
 
+Beginn ModMIDI::WarteAufBeginn(const std::function<bool()>& verlassen,
+                               const std::function<void()>& dauert) {
+  const float start = loop_.Clock();
+  bool gezeigt = false;
+  while (!verlassen() && QueueStand() == MidiQueueStand::kWartet) {
+    const float gewartet = ClockDifference(start, loop_.Clock()) * 1000;
+    if (gewartet >= kGeduld) break;
+    if (gewartet >= kUnbemerkt && !std::exchange(gezeigt, true)) dauert();
+    loop_.WaitForEvent((gezeigt ? kGeduld : kUnbemerkt) - gewartet);
+  }
+  if (verlassen()) return Beginn::kAbgebrochen;
+  const MidiQueueStand stand = QueueStand();
+  if (stand == MidiQueueStand::kLaeuft || stand == MidiQueueStand::kRuht) return Beginn::kKlingt;
+  MidiReset();
+  return Beginn::kStumm;
+}
+
 void ModMIDI::MidiAusblenden() {
   Befehl(MidiBefehl::kStopp);
   const int links = static_cast<int>(Port().Get(MidiMember::VolumeLinks));
@@ -100,6 +122,10 @@ MidiOutput& ModMIDI::Port() {
 
 void ModMIDI::Befehl(MidiBefehl befehl) {
   Port().Set(MidiMember::Befehl, static_cast<int>(befehl));
+}
+
+MidiQueueStand ModMIDI::QueueStand() {
+  return static_cast<MidiQueueStand>(static_cast<int>(Port().Get(MidiMember::QueueStand)));
 }
 
 void ModMIDI::SetzeLautstaerken(int links, int rechts) {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -17,6 +18,13 @@ namespace vmod17 {
 struct MidiGeraet {
   double kennung = 0;
   std::string name;
+};
+
+/// How a queue that was started began.
+enum class Beginn {
+  kKlingt,       ///< it sounds
+  kStumm,        ///< its output cannot be heard; the queue was dropped
+  kAbgebrochen,  ///< the screen was left before
 };
 
 /// `modMIDI`, the thin layer over the output object. It keeps no notes: a playing is a queue of
@@ -47,6 +55,12 @@ class ModMIDI {
   void SetzeKlangfarbe(int patch, int kanal);
   /// Starts the queue, then lets the volume rise, serving events meanwhile.
   void MidiStart();
+  /// Waits, serving events, until the queue that was started has begun, or cannot be heard, or has
+  /// waited for its output so long that this is as good as the same. Not at all where the output
+  /// was ready. `verlassen` tells that nobody waits any more; `dauert` is called once, when it
+  /// takes so long that the user should see why.
+  Beginn WarteAufBeginn(const std::function<bool()>& verlassen,
+                        const std::function<void()>& dauert);
   /// Stops the queue and lets the volume fall, serving events meanwhile.
   void MidiAusblenden();
 
@@ -60,6 +74,7 @@ class ModMIDI {
   /// The output in use. Errors: kInvalidCall before `MidiOeffnen`.
   MidiOutput& Port();
   void Befehl(MidiBefehl befehl);
+  MidiQueueStand QueueStand();
   void SetzeLautstaerken(int links, int rechts);
   void Sende(int status, int daten1, int daten2);
 

@@ -8,6 +8,7 @@
 
 #include "shell/delay.h"
 #include "shell/numbers.h"
+#include "sound/sound_words.h"
 #include "worksheet/worksheet_screen.h"
 
 namespace vmod17 {
@@ -47,8 +48,10 @@ void Arbeitsblatt1::ZeigeZaehler() {
 }
 
 bool Arbeitsblatt1::Wartet() const {
-  const bool aufgabe_offen = run_.akk_nr >= 1 && run_.akk_nr <= parts_.settings.akk_anzahl;
-  const bool zeit_laeuft = WahlAutomat.enabled || (IstTest() && Uhrzeit.enabled);
+  const bool aufgabe_offen =
+      run_.akk_nr >= 1 && run_.akk_nr <= parts_.settings.akk_anzahl && !run_.ungehoert;
+  const bool testzeit_laeuft = IstTest() && Uhrzeit.enabled && !run_.test.halt_seit;
+  const bool zeit_laeuft = WahlAutomat.enabled || testzeit_laeuft;
   return loaded() && !aufgabe_offen && !spieltimer.enabled && !zeit_laeuft;
 }
 
@@ -97,7 +100,11 @@ void Arbeitsblatt1::NimmAngebotZurueck() {
 
 void Arbeitsblatt1::CmdNextAufg_Click() {
   CmdNextAufg.enabled = false;
-  mat_wahl();
+  if (run_.ungehoert) {
+    SpieleUngehoerte();
+  } else {
+    mat_wahl();
+  }
 }
 
 void Arbeitsblatt1::WahlAutomat_Timer() {
@@ -116,8 +123,23 @@ void Arbeitsblatt1::mat_wahl() {
     if (parts_.settings.frequenz_art == 1) {
       ChordPlayback::TonhoeheWuerfeln(run_.task, parts_.random);
     }
-    Spiele(SpielArt::kAufgabe);
+    if (!Spiele(SpielArt::kAufgabe)) BieteUngehoerteAn();
   });
+}
+
+void Arbeitsblatt1::SpieleUngehoerte() {
+  Bewache("mat_wahl.", [this] {
+    run_.ungehoert = false;
+    CmdNextAufg.visible = parts_.settings.abfolge == 0;
+    if (!Spiele(SpielArt::kAufgabe)) BieteUngehoerteAn();
+  });
+}
+
+/// By the button in every sequence: what the student has to mend takes its time.
+void Arbeitsblatt1::BieteUngehoerteAn() {
+  run_.ungehoert = true;
+  CmdNextAufg.visible = true;
+  CmdNextAufg.enabled = true;
 }
 
 void Arbeitsblatt1::BereiteAufgabeVor() {
@@ -147,31 +169,65 @@ void Arbeitsblatt1::LegeLoesungBereit(int slot) {
   erg[slot].caption = jz_kl[e].caption;
 }
 
-void Arbeitsblatt1::Spiele(SpielArt art) {
+bool Arbeitsblatt1::Spiele(SpielArt art) {
   run_.spiel_art = art;
   listening = true;
-  playback_.SpieleAufgabe(run_.task, run_.abbruch);
-  if (!run_.abbruch) spieltimer.Enable();
+  const float seit = shell_.loop.Clock();
+  const Beginn beginn = playback_.SpieleAufgabe(run_.task, run_.abbruch, [&] {
+    HalteTestzeitAn(seit);
+    ZeigeWarten();
+  });
+  if (beginn == Beginn::kAbgebrochen) return true;
+  BeendeWarten();
+  listening = beginn == Beginn::kKlingt;
+  if (beginn == Beginn::kStumm) {
+    HalteTestzeitAn(seit);
+    MeldeStumm();
+    return run_.abbruch;
+  }
+  SetzeTestzeitFort();
+  spieltimer.Enable();
+  return true;
 }
+
+/// The output is not ready yet: the student learns what the task waits for, and can leave.
+void Arbeitsblatt1::ZeigeWarten() {
+  listening = false;
+  pointer = Pointer::kHourglass;
+  WaitMeld.caption = shell_.texts.Words(kKlangKommt);
+  WaitMeldung.visible = true;
+  Say(WaitMeld.caption);
+}
+
+void Arbeitsblatt1::BeendeWarten() {
+  pointer = Pointer::kDefault;
+  WaitMeldung.visible = false;
+  WaitMeld.caption = shell_.texts.Sprachtext(726);
+}
+
+void Arbeitsblatt1::MeldeStumm() { shell_.messages.Warn(shell_.texts.Words(kKlangFehlt), caption); }
 
 void Arbeitsblatt1::spieltimer_Timer() {
   Bewache("spieltimer_timer.", [this] {
     spieltimer.Disable();
-    listening = false;
-    if (run_.abbruch) return;
-    if (run_.spiel_art != SpielArt::kKontrolle) {
-      AntwortenFreigeben();
-      wieder.enabled = true;
-      SageAntwortbereit();
-      run_.clock.antw_start = shell_.loop.Clock();
-      return;
-    }
-    wieder2.enabled = true;
-    if (run_.lauf_status != LaufStatus::kTrainingZuEnde &&
-        run_.lauf_status != LaufStatus::kTestZuEnde) {
-      BieteWeiterAn();
-    }
+    if (!run_.abbruch) BeendeSpiel();
   });
+}
+
+void Arbeitsblatt1::BeendeSpiel() {
+  listening = false;
+  if (run_.spiel_art != SpielArt::kKontrolle) {
+    AntwortenFreigeben();
+    wieder.enabled = true;
+    SageAntwortbereit();
+    run_.clock.antw_start = shell_.loop.Clock();
+    return;
+  }
+  wieder2.enabled = true;
+  if (run_.lauf_status != LaufStatus::kTrainingZuEnde &&
+      run_.lauf_status != LaufStatus::kTestZuEnde) {
+    BieteWeiterAn();
+  }
 }
 
 // The repeats are no routines of weight: an error in them goes to the run-time report, since what
@@ -186,13 +242,21 @@ void Arbeitsblatt1::wieder_Click() {
   parts_.midi.MidiReset();
   Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
   if (run_.abbruch) return;
+  const RunCount zuvor = run_.count;
   Erhoehe(run_.count.wiederholt);
   ZeigeZaehler();
   ++run_.answers.whlg_ar.at(run_.akk_nr);
   ++run_.clock.anz_whlg;
   run_.clock.antw_ende = shell_.loop.Clock();
   run_.clock.antw_dauer += ClockDifference(run_.clock.antw_start, run_.clock.antw_ende);
-  Spiele(SpielArt::kWiederholung);
+  if (Spiele(SpielArt::kWiederholung)) return;
+  // Nothing was heard again, so nothing counts.
+  run_.count = zuvor;
+  ZeigeZaehler();
+  --run_.answers.whlg_ar.at(run_.akk_nr);
+  --run_.clock.anz_whlg;
+  SetzeTestzeitFort();
+  BeendeSpiel();
 }
 
 void Arbeitsblatt1::wieder2_Click() {
@@ -204,7 +268,9 @@ void Arbeitsblatt1::wieder2_Click() {
   parts_.midi.MidiReset();
   Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
   if (run_.abbruch) return;
-  Spiele(SpielArt::kKontrolle);
+  if (Spiele(SpielArt::kKontrolle)) return;
+  SetzeTestzeitFort();
+  BeendeSpiel();
 }
 
 void Arbeitsblatt1::Uhrzeit_Timer() {
@@ -240,6 +306,7 @@ void Arbeitsblatt1::zurueck_Click() {
 void Arbeitsblatt1::HalteAn() {
   zurueck.enabled = false;
   run_.abbruch = true;
+  BeendeWarten();
   Uhrzeit.Disable();
   spieltimer.Disable();
   WahlAutomat.Disable();

@@ -76,6 +76,7 @@ struct RunState {
   int akk_nr = 0;  ///< the open slot; one more than `akk_anzahl` when the task is finished
   LaufStatus lauf_status = LaufStatus::kNochKeine;
   SpielArt spiel_art = SpielArt::kAufgabe;
+  bool ungehoert = false;    ///< the task could not be played, and waits to be asked for again
   bool abbruch = false;      ///< the worksheet is being left
   int schalter_zaehler = 0;  ///< 1 from the first finished task on
 };

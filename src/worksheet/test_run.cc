@@ -35,8 +35,25 @@ void Arbeitsblatt1::ZaehleTestaufgabe() {
   lab_aufgaben.caption = shell_.texts.Sprachtext(462) + " " + SignedText(test.rest_aufgaben);
 }
 
+void Arbeitsblatt1::HalteTestzeitAn(float seit) {
+  if (!run_.test.halt_seit) run_.test.halt_seit = seit;
+}
+
+void Arbeitsblatt1::SetzeTestzeitFort() {
+  TestRest& test = run_.test;
+  if (!test.halt_seit) return;
+  test.gutschrift += ClockDifference(*test.halt_seit, shell_.loop.Clock());
+  test.halt_seit.reset();
+}
+
 void Arbeitsblatt1::ZaehleTestzeit() {
-  run_.test.rest_sek -= kSekundenJeTakt;
+  TestRest& test = run_.test;
+  // Time that was lost is given back in whole beats, the broken one in the student's favour.
+  if (test.halt_seit || test.gutschrift > 0) {
+    test.gutschrift -= kSekundenJeTakt;
+    return;
+  }
+  test.rest_sek -= kSekundenJeTakt;
   ZeigeRestzeit();
   if (run_.test.rest_sek <= 0) BeendeTestNachZeit();
 }

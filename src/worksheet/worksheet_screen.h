@@ -109,7 +109,8 @@ class Arbeitsblatt1 : public Form {
   /// and a training is stored unless it would take another one's place.
   void Abbrechen();
 
-  /// Draws the next task, enters it in the record and plays it.
+  /// Draws the next task, enters it in the record and plays it. One that cannot be heard is offered
+  /// again.
   void mat_wahl();
   /// Judges a click: on tile `index` of the board, or on group `index`.
   void akk_antw(int index);
@@ -133,7 +134,14 @@ class Arbeitsblatt1 : public Form {
   // run_flow.cc
   void BereiteAufgabeVor();
   void LegeLoesungBereit(int slot);
-  void Spiele(SpielArt art);
+  /// Plays the task. False when it cannot be heard, which the student has been told then.
+  bool Spiele(SpielArt art);
+  void BeendeSpiel();
+  void ZeigeWarten();
+  void BeendeWarten();
+  void MeldeStumm();
+  void BieteUngehoerteAn();
+  void SpieleUngehoerte();
   void BieteErsteAufgabeAn();
   void NaechsteAufgabeAnbieten();
   void BieteWeiterAn();
@@ -204,6 +212,9 @@ class Arbeitsblatt1 : public Form {
   void BeginneTest();
   void ZaehleTestaufgabe();
   void ZaehleTestzeit();
+  /// The time of a test stands while nothing can be heard; `seit` by the clock.
+  void HalteTestzeitAn(float seit);
+  void SetzeTestzeitFort();
   void ZeigeRestzeit();
   void BeendeTestNachZeit();
 

@@ -307,6 +307,58 @@ TEST_F(SoundCheck, IsNotHeldUpByTheTimerOfASampleBefore) {
   ExpectButtons(true);
 }
 
+// --- An output that takes its time ----------------------------------------------------------
+
+TEST_F(SoundCheck, WaitsVisiblyForItsOutputAndHoldsTheButtonsToTheEndOfTheSound) {
+  output.SetDevice(RecordingMidiOutput::Device::kLoads);
+  loop.StartTimer(5000, EventLoop::Repeat::kOnce,
+                  [&] { output.SetDevice(RecordingMidiOutput::Device::kReady); });
+  bool shown = false;
+  loop.meanwhile = [&] {
+    if (screen().klang_contr.caption != "[9531s]") return;
+    shown = true;
+    EXPECT_EQ(screen().pointer, Form::Pointer::kHourglass);
+    ExpectButtons(false);
+    EXPECT_TRUE(screen().cmdZurueck.Reachable());
+  };
+  screen().klang_contr.Press();
+  EXPECT_TRUE(shown);
+  EXPECT_EQ(screen().klang_contr.caption, "[366s]");
+  EXPECT_EQ(screen().pointer, Form::Pointer::kDefault);
+  EXPECT_THAT(Notes(), ElementsAre(48, 52, 55));
+  loop.Advance(2690);
+  ExpectButtons(false);
+  loop.Advance(20);
+  ExpectButtons(true);
+}
+
+TEST_F(SoundCheck, SaysThatItCannotBeHeardAndMayBeAskedForAgain) {
+  output.SetDevice(RecordingMidiOutput::Device::kMute);
+  screen().klang_contr.Press();
+  ASSERT_THAT(messages.warnings, SizeIs(1));
+  EXPECT_EQ(messages.warnings[0].text, "[9532s]");
+  EXPECT_FALSE(output.IsRunning());
+  ExpectButtons(true);
+  output.SetDevice(RecordingMidiOutput::Device::kReady);
+  EXPECT_TRUE(screen().klang_contr.Press());
+  EXPECT_TRUE(output.IsRunning());
+}
+
+TEST_F(SoundCheck, CanBeLeftWhileItWaitsForItsOutput) {
+  output.SetDevice(RecordingMidiOutput::Device::kLoads);
+  Einstellung1& s = screen();
+  loop.StartTimer(2000, EventLoop::Repeat::kOnce, [&] { s.cmdZurueck.Press(); });
+  const double before = loop.Elapsed();
+  s.klang_contr.Press();
+  EXPECT_NEAR(loop.Elapsed() - before, 2000, 1);
+  output.SetDevice(RecordingMidiOutput::Device::kReady);
+  loop.Advance(20000);
+  EXPECT_EQ(program.einstellung1(), nullptr);
+  EXPECT_FALSE(output.IsRunning());
+  EXPECT_EQ(loop.timers(), 0);
+  EXPECT_THAT(messages.warnings, IsEmpty());
+}
+
 // --- The screen is left meanwhile -----------------------------------------------------------
 
 class SoundCheckLeft : public SoundCheck, public ::testing::WithParamInterface<int> {};

@@ -64,7 +64,9 @@ class Playback : public ::testing::Test {
     BoardOf({3, 7}, {2, 5});
     task_.aufg_akk_ar = {0, 11, 12, 13, 14};
   }
-  void Play() { playback_.SpieleAufgabe(task_, abbruch_); }
+  void Play() {
+    beginn_ = playback_.SpieleAufgabe(task_, abbruch_, [] {});
+  }
 
   std::vector<double> NoteOnTimes() const { return Times(output_.PlayedNoteOns()); }
   std::vector<double> NoteOffTimes() const { return Times(output_.PlayedNoteOffs()); }
@@ -116,6 +118,7 @@ class Playback : public ::testing::Test {
   ChordBoard board_{table_};
   PlaybackTask task_;
   bool abbruch_ = false;
+  Beginn beginn_ = Beginn::kKlingt;
   ChordPlayback playback_{loop_, midi_, state_, settings_, board_};
 };
 
@@ -389,6 +392,18 @@ TEST_F(Playback, Rests50MillisecondsBeforeTheQueueAnd100AfterIt) {
   Play();
   EXPECT_NEAR(queued_at, 50, 0.5);
   EXPECT_NEAR(started_at, 150, 0.5);
+}
+
+TEST_F(Playback, SaysWhetherTheTaskSounds) {
+  FourNotes();
+  Play();
+  EXPECT_EQ(beginn_, Beginn::kKlingt);
+  output_.SetDevice(RecordingMidiOutput::Device::kMute);
+  Play();
+  EXPECT_EQ(beginn_, Beginn::kStumm);
+  abbruch_ = true;
+  Play();
+  EXPECT_EQ(beginn_, Beginn::kAbgebrochen);
 }
 
 TEST_F(Playback, StartsNothingWhenTheScreenIsLeftInTheFirstDelay) {

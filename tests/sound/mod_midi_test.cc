@@ -374,6 +374,87 @@ TEST_F(ModMIDITest, LetsTimersRunWhileTheVolumeRises) {
   EXPECT_EQ(fired, 1);
 }
 
+// --- The beginning of a queue ---------------------------------------------------------------
+
+class Beginning : public ModMIDITest {
+ protected:
+  using Device = RecordingMidiOutput::Device;
+
+  Beginning() {
+    Open();
+    midi_.midiVolumeLeft = 0;
+  }
+  void Start(Device device) {
+    output_.SetDevice(device);
+    midi_.MidiNote(60, 0, 100, 0, 0);
+    midi_.MidiStart();
+  }
+  Beginn Wait() {
+    return midi_.WarteAufBeginn([this] { return left_; }, [this] { shown_ = loop_.Elapsed(); });
+  }
+
+  bool left_ = false;
+  double shown_ = -1;
+};
+
+TEST_F(Beginning, IsThereAtOnceWhereTheOutputIsReady) {
+  Start(Device::kReady);
+  EXPECT_EQ(Wait(), Beginn::kKlingt);
+  EXPECT_EQ(loop_.Elapsed(), 0);
+  EXPECT_EQ(shown_, -1);
+}
+
+TEST_F(Beginning, ComesInTheMomentInWhichTheOutputIsReady) {
+  Start(Device::kLoads);
+  loop_.StartTimer(2400, EventLoop::Repeat::kOnce, [&] { output_.SetDevice(Device::kReady); });
+  EXPECT_EQ(Wait(), Beginn::kKlingt);
+  EXPECT_NEAR(loop_.Elapsed(), 2400, 0.1);
+  EXPECT_NEAR(shown_, 300, 1);
+  EXPECT_TRUE(output_.IsRunning());
+}
+
+TEST_F(Beginning, IsNotShownAsLateBeforeItIs) {
+  Start(Device::kLoads);
+  loop_.StartTimer(290, EventLoop::Repeat::kOnce, [&] { output_.SetDevice(Device::kReady); });
+  EXPECT_EQ(Wait(), Beginn::kKlingt);
+  EXPECT_EQ(shown_, -1);
+}
+
+TEST_F(Beginning, NeverComesWhereTheOutputCannotBeHeard) {
+  Start(Device::kMute);
+  EXPECT_EQ(Wait(), Beginn::kStumm);
+  EXPECT_FALSE(output_.IsRunning()) << "what cannot be heard is dropped";
+  EXPECT_TRUE(output_.IsOpen());
+}
+
+TEST_F(Beginning, NeverComesWhereLoadingFails) {
+  Start(Device::kLoads);
+  loop_.StartTimer(5000, EventLoop::Repeat::kOnce, [&] { output_.SetDevice(Device::kMute); });
+  EXPECT_EQ(Wait(), Beginn::kStumm);
+  EXPECT_NEAR(loop_.Elapsed(), 5000, 0.1);
+}
+
+TEST_F(Beginning, IsGivenUpAfterTwentySecondsAndThenNothingSoundsAnyMore) {
+  Start(Device::kLoads);
+  EXPECT_EQ(Wait(), Beginn::kStumm);
+  EXPECT_NEAR(loop_.Elapsed(), 20000, 5);
+  output_.SetDevice(Device::kReady);
+  EXPECT_FALSE(output_.IsRunning());
+}
+
+TEST_F(Beginning, IsNotWaitedForWhenTheScreenIsLeft) {
+  Start(Device::kLoads);
+  loop_.StartTimer(1000, EventLoop::Repeat::kOnce, [&] { left_ = true; });
+  EXPECT_EQ(Wait(), Beginn::kAbgebrochen);
+  EXPECT_NEAR(loop_.Elapsed(), 1000, 0.1);
+}
+
+TEST_F(Beginning, OfAQueueThatIsOverAlreadyWasHeard) {
+  Start(Device::kReady);
+  output_.FinishQueue();
+  EXPECT_EQ(Wait(), Beginn::kKlingt);
+}
+
 TEST(MidiEvent, RaisesQueueEmptyForWhoeverListens) {
   MidiEvent event;
   EXPECT_NO_THROW(event.SendQueueEmpty());

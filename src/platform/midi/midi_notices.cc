@@ -54,14 +54,14 @@ Notice PortVanishedNotice(const std::string& name) {
   return {
       9155,
       "The MIDI device \"%1\" is not there any more. Check its cable and whether it is switched "
-      "on; the next chords try to reach it again. The exercise goes on without sound.",
+      "on; the next chords try to reach it again.",
       {name}};
 }
 
 Notice NoSuchDeviceNotice(int number, int count) {
   return {9156,
           "MIDI device number %1 does not exist; there are %2 devices. Choose another MIDI device "
-          "in Melvado. The exercise goes on without sound.",
+          "in Melvado.",
           {std::to_string(number), std::to_string(count)}};
 }
 

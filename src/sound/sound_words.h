@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/notice.h"
+
+namespace vmod17 {
+
+/// Stands where the user waits for the output.
+inline const Notice kKlangKommt{9531, "Preparing the sound ...", {}};
+/// What was asked for was not played.
+inline const Notice kKlangFehlt{
+    9532,
+    "Nothing could be played: the sound output is not ready. Check the loudspeakers, the "
+    "headphones or the MIDI device, then try again. Nothing has been counted.",
+    {}};
+
+}  // namespace vmod17
