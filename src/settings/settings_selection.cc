@@ -42,7 +42,7 @@ void Verschiebe(ItemList& quelle, ItemList& ziel) {
 
 void Einstellung1::ok_bereit() {
   auswahl_vollstaendig_ = true;
-  cmdOK.enabled = true;
+  cmdOK.enabled = !probe_laeuft_;
   cmdOK.back_color = kBereitFarbe;
   cmdOK.caption = shell_.texts.Sprachtext(432);
 }
