@@ -26,7 +26,7 @@ namespace vmod17 {
 namespace {
 
 // All lengths in units, counted from the upper left corner of the canvas.
-constexpr QSizeF kCanvas{1024, 730};
+constexpr QSizeF kCanvas{1024, 700};
 constexpr double kLeft = 72;
 constexpr double kWidth = 880;
 constexpr double kGap = 20;
@@ -34,13 +34,13 @@ constexpr double kColumn = (kWidth - kGap) / 2;
 constexpr double kRight = kLeft + kColumn + kGap;
 constexpr double kPadding = 24;
 constexpr double kField = kColumn - 2 * kPadding;
-const QRectF kBanner(kLeft, 24, kWidth, 112);
-const QRectF kUserCard(kLeft, 154, kColumn, 272);
-const QRectF kSoundCard(kRight, 154, kColumn, 272);
-const QRectF kVerdictCard(kLeft, 442, kWidth, 108);
-const QRectF kStart(kLeft, 568, kWidth, 78);
-constexpr double kFooter = 666;
-constexpr double kSmallest = 0.75;  // pixels of a unit in the smallest window
+const QRectF kBanner(kLeft, 14, kWidth, 112);
+const QRectF kUserCard(kLeft, 142, kColumn, 272);
+const QRectF kSoundCard(kRight, 142, kColumn, 272);
+const QRectF kVerdictCard(kLeft, 428, kWidth, 108);
+const QRectF kStart(kLeft, 552, kWidth, 78);
+constexpr double kFooter = 646;
+constexpr double kSmallest = 0.85;  // pixels of a unit in the smallest window
 constexpr double kWidestEntry = 560;
 
 constexpr int kPollMs = 1500;
@@ -71,9 +71,9 @@ HomeWindow::HomeWindow(Host& host, QtEventLoop& loop, MessageBox& messages, File
   setMinimumSize((kCanvas * kSmallest).toSize());
   title_ = Make<TextWidget>(
       "title",
-      {.rect = {kLeft + 36, 40, 560, 44}, .look = Look::kOnBanner, .text = 32, .bold = true});
+      {.rect = {kLeft + 36, 30, 560, 44}, .look = Look::kOnBanner, .text = 32, .bold = true});
   subtitle_ = Make<TextWidget>(
-      "subtitle", {.rect = {kLeft + 36, 86, 560, 30}, .look = Look::kOnBanner, .text = 17});
+      "subtitle", {.rect = {kLeft + 36, 76, 560, 30}, .look = Look::kOnBanner, .text = 17});
   BuildUsers();
   BuildSound();
   start_ = MakeButton(

@@ -81,10 +81,9 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
 }
 
 void Arbeitsblatt1::StelleInRahmen() {
-  for (Control* control :
-       std::initializer_list<Control*>{&PicUetyp[0], &PicUetyp[1], &cmdHilfe, &Uhr, &matboxanz,
-                                       &ergebnis_anz[0], &ergebnis_anz[1], &ergebnis_anz[2],
-                                       &stop_uhr, &lab_aufgaben, &cmd_test_aus, &cmd_test_ein}) {
+  for (Control* control : std::initializer_list<Control*>{
+           &PicUetyp[0], &PicUetyp[1], &cmdHilfe, &Uhr, &ergebnis_anz[0], &ergebnis_anz[1],
+           &ergebnis_anz[2], &stop_uhr, &lab_aufgaben, &cmd_test_aus, &cmd_test_ein}) {
     control->container = &PicUebTyp;
   }
   for (int e = 1; e <= kBrettGroesse; ++e) {

@@ -4,8 +4,12 @@
 #include "platform/qt/entry_list.h"
 
 #include <QComboBox>
+#include <QFontMetrics>
+#include <QPainter>
 #include <algorithm>
 #include <functional>
+
+#include "platform/qt/look.h"
 
 namespace vmod17 {
 namespace {
@@ -70,6 +74,31 @@ QStringList RowTexts(const QAbstractItemView& view) {
 }
 
 DropDownEntries::DropDownEntries(QComboBox& closed) : QListView(&closed), closed_(closed) {}
+
+QSize DropDownDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const {
+  const QFontMetrics metrics(option.font);
+  return {metrics.horizontalAdvance(index.data().toString()) + metrics.height(),
+          metrics.height() * 3 / 2};
+}
+
+void DropDownDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const {
+  const look::Palette& colors = look::PresentColors();
+  const bool cursor = option.state.testFlag(QStyle::State_Selected);
+  painter->save();
+  painter->fillRect(option.rect, colors.card);
+  if (cursor) {
+    look::DrawPlate(*painter, QRectF(option.rect).adjusted(2, 1, -2, -1), colors.pressed,
+                    colors.accent, 4, 1);
+  }
+  const int side = QFontMetrics(option.font).height() / 2;
+  painter->setFont(option.font);
+  painter->setPen(colors.text);
+  painter->drawText(option.rect.adjusted(side, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                    index.data().toString());
+  painter->restore();
+}
 
 void DropDownEntries::keyboardSearch(const QString& text) {
   const int row = search_.Type(text, RowTexts(*this), currentIndex().row());

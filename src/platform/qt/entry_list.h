@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QString>
 #include <QStringList>
+#include <QStyledItemDelegate>
 
 #include "platform/qt/accessible.h"
 
@@ -43,6 +44,15 @@ class DropDownEntries : public QListView, public TakesEntries {
  private:
   QComboBox& closed_;
   TypedSearch search_;
+};
+
+/// Paints the entries of a list that drops down as those of a list box are painted.
+class DropDownDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
 };
 
 }  // namespace vmod17

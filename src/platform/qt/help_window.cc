@@ -75,6 +75,18 @@ QByteArray Read(const std::filesystem::path& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// A style sheet, which names the light colours, with others in their places.
+QString InColors(const QByteArray& sheet, const look::Palette& colors) {
+  using look::Palette;
+  QString style = QString::fromUtf8(sheet);
+  for (QColor Palette::*const color :
+       {&Palette::text, &Palette::quiet_text, &Palette::accent, &Palette::accent_hover,
+        &Palette::section, &Palette::hover, &Palette::slot_line}) {
+    style.replace((look::kLight.*color).name(), (colors.*color).name());
+  }
+  return style;
+}
+
 }  // namespace
 
 /// Shows what the window finds for an address. The address of a page does not tell the folder, so
@@ -91,6 +103,7 @@ class HelpWindow::Browser : public QTextBrowser {
     const QString file = FileOf(source().resolved(name));
     const QByteArray held = Read(help_.Find(file));
     if (type == QTextDocument::ImageResource) return Scaled(QImage::fromData(held));
+    if (type == QTextDocument::StyleSheetResource) return InColors(held, help_.style_.colors());
     if (type != QTextDocument::HtmlResource) return QString::fromUtf8(held);
     if (held.isEmpty()) return help_.Missing();
     return help_.WithNote(file, WithWordsOfPictures(QString::fromUtf8(held)));
@@ -270,6 +283,12 @@ void HelpWindow::StandBefore(QWidget* dialog) {
 }
 
 void HelpWindow::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), style_.colors().page); }
+
+/// The colours of a page are in its style, which is read with it.
+void HelpWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && !browser_->source().isEmpty()) browser_->reload();
+}
 
 void HelpWindow::resizeEvent(QResizeEvent*) { Arrange(); }
 

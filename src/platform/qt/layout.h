@@ -43,6 +43,9 @@ inline constexpr double kSmallCardHead = 30;
 /// The height of an entry in a list box.
 inline constexpr double kListRow = 23;
 
+/// The least number of pixels of a unit: the smallest type, of 12 units, has 11 pixels then.
+inline constexpr double kLeastFactor = 0.9;
+
 struct Placement {
   QRectF rect;
   Look look = Look::kPlain;
@@ -69,8 +72,8 @@ struct Backdrop {
 };
 
 struct Layout {
-  QSizeF canvas{1024, 730};                 ///< the least room; the page may have more
-  QSizeF content{1016, 660};                ///< what of it must stay visible
+  QSizeF canvas{1024, 660};                 ///< the least room; the page may have more
+  QSizeF content{1016, 658};                ///< what of it must stay visible
   std::map<std::string, Placement> places;  ///< by Id; a control without a place is not shown
   std::vector<KeyBinding> keys;
   std::vector<Backdrop> backdrops;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include <QFontMetricsF>
 #include <algorithm>
 #include <array>
 #include <string>
@@ -25,13 +26,13 @@ constexpr double kHead = kSmallCardHead;
 constexpr double kOption = 34;
 constexpr double kRow = 36;
 constexpr double kNote = 20;
-constexpr double kMover = 30;  // the buttons between two lists
+constexpr double kMover = 26;  // the buttons between two lists
 
 // The columns of cards. The first two tell what is asked, the next two how it sounds, the last one
 // how a run goes: each of these stands on a ground of its own.
-constexpr double kBasics = 172;
+constexpr double kBasics = 170;
 constexpr double kLists = 330;
-constexpr double kLoudness = 134;
+constexpr double kLoudness = 146;
 constexpr double kManner = 148;
 constexpr double kRun = 138;
 
@@ -97,7 +98,7 @@ class CardBuilder {
   void Options(const std::string& name) { Options(name, Inside()); }
   void Options(const std::string& name, double width) {
     for (int i = 0; i < 2; ++i) {
-      layout_.places[IdOf(name, i)] = {.rect = QRectF(Left() - 2, next_, width + 4, kOption),
+      layout_.places[IdOf(name, i)] = {.rect = QRectF(Left() - 5, next_, width + 10, kOption),
                                        .text = 14};
       next_ += kOption;
     }
@@ -118,15 +119,15 @@ class CardBuilder {
   /// Two lists with their buttons between them, and the hint under the second one.
   void ListPair(const std::string& lists, const std::string& labels, const std::string& buttons,
                 int entries) {
-    const double width = (Inside() - kMover - 12) / 2;
+    const double width = (Inside() - kMover - 8) / 2;
     const double height = entries * kListRow + 4;
     const double top = next_ + kNote;
     for (int i = 0; i < 2; ++i) {
       const double left = i == 0 ? Left() : card_.right() - kMargin - width;
       Note(IdOf(labels, i), left, width);
-      layout_.places[IdOf(lists, i)] = {.rect = QRectF(left, top, width, height), .text = 13};
+      layout_.places[IdOf(lists, i)] = {.rect = QRectF(left, top, width, height), .text = 12};
       layout_.places[IdOf(buttons, i)] = {
-          .rect = QRectF(Left() + width + 6, top + height / 2 - 38 + i * 40, kMover, 36),
+          .rect = QRectF(Left() + width + 4, top + height / 2 - 38 + i * 40, kMover, 36),
           .text = 18,
           .align = Qt::AlignCenter};
     }
@@ -217,8 +218,8 @@ void FillCard(CardBuilder& card, int frame) {
     case 4:
       return card.List("akkzahl_cmb");
     case 8:
-      card.List("training_Combo");
-      return card.List("prfnr_Comb");
+      card.LongList("training_Combo");
+      return card.LongList("prfnr_Comb");
     case 10:
       card.LongList("arpeg_cmb");
       return card.NamedList("lb10", "cmb_arpTmp");
@@ -245,6 +246,26 @@ void FillCards(Layout& layout, const QPointF& corner) {
   }
 }
 
+/// All headings in one size, the largest at which each stands in its line.
+void SetHeadings(Layout& layout, const Form& form) {
+  constexpr double kLargest = 14;
+  constexpr double kSmallest = 11;
+  double size = kLargest;
+  for (const auto& [id, place] : layout.places) {
+    const Control* const label = FindControl(form, id);
+    if (place.look != Look::kHeading || label == nullptr) continue;
+    const QString text = QString::fromStdString(label->caption).trimmed();
+    const auto too_wide = [&] {
+      const QFontMetricsF metrics(look::Type(size, look::Weight::kBold));
+      return metrics.horizontalAdvance(text) > place.rect.width() * 0.97;
+    };
+    while (size > kSmallest && too_wide()) size -= 1;
+  }
+  for (auto& [id, place] : layout.places) {
+    if (place.look == Look::kHeading) place.text = size;
+  }
+}
+
 void FillBar(Layout& layout, const QRectF& bar) {
   layout.places["ausblick"] = {
       .rect = QRectF(bar.left() + kRing, bar.top() + 4, bar.width() - 2 * kRing, kOutlook),
@@ -267,7 +288,7 @@ void FillBar(Layout& layout, const QRectF& bar) {
 
 }  // namespace
 
-Layout LayoutSettings(const Form&, const QSizeF& page) {
+Layout LayoutSettings(const Form& form, const QSizeF& page) {
   Layout layout;
   const QRectF last = Sections().back().back().rect;
   const double width = last.right() + 2 * kRing;
@@ -281,6 +302,7 @@ Layout LayoutSettings(const Form&, const QSizeF& page) {
   const QRectF bar(x, y + height - kBar, width, kBar);
   FillBar(layout, bar);
   layout.places["aktionsbox"] = {.rect = QRectF(x, y + kTitle, width, height - kTitle)};
+  SetHeadings(layout, form);
   layout.vacancies = {"grdeinst(2)", "grdeinst(11)", "grdeinst(12)"};
 
   layout.tab_by_column = true;

@@ -11,11 +11,13 @@ namespace vmod17 {
 namespace {
 
 constexpr double kWidth = 983;  // answer area and action box together
-constexpr double kTop = 10;
 constexpr double kStrip = 56;
+constexpr double kHighestStrip = 84;
+constexpr double kMostAbove = 24;  // of the header
 constexpr double kBoxHeight = 545;
 constexpr double kBeyond = 8;  // by which the cards stand out above and below
 constexpr double kHalfGap = 8;
+constexpr double kGauge = 84;
 
 constexpr int kTiles = 24;
 constexpr int kTilesInRow = 6;
@@ -24,6 +26,7 @@ constexpr int kSlots = 4;
 
 constexpr double kTileWidth = 100;
 constexpr double kTileGap = 28;
+constexpr double kTileGapAtGauge = 12;
 constexpr double kTileMargin = 21;
 constexpr double kTileEdge = 5;  // of the coloured frame around the picture
 constexpr double kSymbolHeight = 40;
@@ -46,49 +49,67 @@ bool Visible(const Form& form, const std::string& id) {
 void FillStrip(Layout& layout, const Form& form, const QRectF& strip) {
   auto& places = layout.places;
   const double middle = strip.center().x();
-  const double y = strip.top();
+  const auto in_row = [&strip](double left, double width, double height) {
+    return QRectF(left, strip.center().y() - height / 2, width, height);
+  };
+  const double right = middle + 36;  // of the sign in the middle
   places["PicUebTyp"] = {.rect = strip};
-  places["cmdHilfe"] = {.rect = QRectF(strip.left() + 10, y + 8, 40, 40),
+  places["cmdHilfe"] = {.rect = in_row(strip.left() + 10, 40, 40),
                         .look = Look::kQuiet,
                         .text = 19,
                         .align = Qt::AlignCenter};
   for (int i = 0; i < 2; ++i) {
-    places[IdOf("PicUetyp", i)] = {.rect = QRectF(middle - 22, y + 6, 44, 44)};
+    places[IdOf("PicUetyp", i)] = {.rect = in_row(middle - 22, 44, 44)};
   }
   for (const char* id : {"cmd_test_aus", "cmd_test_ein"}) {
-    places[id] = {
-        .rect = QRectF(middle - 36 - 196, y + 10, 196, 36), .text = 14, .align = Qt::AlignCenter};
+    places[id] = {.rect = in_row(middle - 36 - 196, 196, 36), .text = 14, .align = Qt::AlignCenter};
   }
   for (int i = 0; i < 3; ++i) {
-    places[IdOf("ergebnis_anz", i)] = {.rect = QRectF(middle - 36 - 196, y + 6, 196, 44),
+    places[IdOf("ergebnis_anz", i)] = {.rect = in_row(right, 320, 44),
                                        .look = i == 2 ? Look::kHint : Look::kPlain,
-                                       .text = 16,
-                                       .align = Qt::AlignRight | Qt::AlignVCenter,
+                                       .text = 18,
                                        .bold = true};
   }
-  places["matboxanz"] = {.rect = QRectF(middle + 36, y + 7, 340, 43),
-                         .text = 12.5,
-                         .named_by = "ergebnis_anz(0)",
-                         .ends = {"ergebnis_anz(1)", "ergebnis_anz(2)"}};
-  places["stop_uhr"] = {.rect = QRectF(middle + 36, y + 6, 172, 44), .text = 15};
-  places["lab_aufgaben"] = {.rect = QRectF(middle + 218, y + 6, 176, 44), .text = 15};
-  places["Uhr"] = {.rect = QRectF(strip.right() - 92, y + 10, 76, 36),
+  places["stop_uhr"] = {.rect = in_row(right, 172, 44), .text = 15};
+  places["lab_aufgaben"] = {.rect = in_row(right + 182, 176, 44), .text = 15};
+  places["Uhr"] = {.rect = in_row(strip.right() - 92, 76, 36),
                    .look = Look::kQuiet,
                    .text = 17,
                    .align = Qt::AlignRight | Qt::AlignVCenter};
-  const bool counted = Visible(form, "PicUetyp(0)") || Visible(form, "PicUetyp(1)");
-  layout.title = counted ? QRectF(strip.left() + 64, y, 180, strip.height())
-                         : QRectF(middle - 210, y, 420, strip.height());
-  layout.title_text = counted ? 15 : 19;
-  if (counted) layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
+  if (Visible(form, "PicUetyp(0)")) {
+    layout.title = in_row(strip.left() + 64, middle - 36 - strip.left() - 64, kStrip);
+  } else if (Visible(form, "PicUetyp(1)")) {
+    layout.title = in_row(strip.left() + 64, 180, kStrip);
+  } else {
+    layout.title = in_row(middle - 210, 420, kStrip);
+  }
+  const bool centred = layout.title.center().x() == middle;
+  layout.title_text = layout.title.width() < 200 ? 15 : 19;
+  if (!centred) layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+/// The gauge stands at the end of the answer area, next to the actions.
+void FillGauge(Layout& layout, const QRectF& box) {
+  layout.places["matboxanz"] = {
+      .rect = QRectF(box.right() - 10 - kGauge, box.top(), kGauge, kBoxHeight),
+      .text = 13,
+      .named_by = "ergebnis_anz(0)",
+      .ends = {"ergebnis_anz(1)", "ergebnis_anz(2)"}};
+}
+
+/// The answer area without the gauge.
+QRectF RoomForAnswers(const Form& form, const QRectF& box) {
+  const bool gauge = Visible(form, "matboxanz");
+  return gauge ? box.adjusted(0, 0, -kGauge - kHalfGap, 0) : box;
 }
 
 /// Tops and heights of tiles and symbols are the program's; here is where they stand in a row.
-void FillTiles(Layout& layout, const QRectF& box) {
+void FillTiles(Layout& layout, const Form& form, const QRectF& box) {
+  const double gap = Visible(form, "matboxanz") ? kTileGapAtGauge : kTileGap;
   for (int i = 1; i <= kTiles; ++i) {
     const int column = (i - 1) % kTilesInRow;
     const int row = (i - 1) / kTilesInRow;
-    const double x = box.left() + kTileMargin + column * (kTileWidth + kTileGap);
+    const double x = box.left() + kTileMargin + column * (kTileWidth + gap);
     const double y = box.top() + row * 136;
     layout.places[IdOf("klang_pan", i)] = {.rect = QRectF(x, y + kSymbolHeight, kTileWidth, 84),
                                            .look = Look::kTile};
@@ -137,7 +158,7 @@ void FillGroups(Layout& layout, const QRectF& box) {
 
 void FillSlots(Layout& layout, const QRectF& box, const Form& form) {
   const double right = box.right() - 14;
-  const double left = box.left() + kHalfGap + 14;
+  const double left = box.left() + kHalfGap + 8;
   const double step = box.height() < kBoxHeight ? 50 : 58;
   layout.places["nrakk(0)"] = {.rect = QRectF(left, box.top() + 8, right - left, 24),
                                .look = Look::kHeading,
@@ -147,7 +168,7 @@ void FillSlots(Layout& layout, const QRectF& box, const Form& form) {
     const double width = WidthOf(form, IdOf("ergebnis", i), 95);
     const double height = HeightOf(form, IdOf("ergebnis", i), 46);
     const double y = box.top() + 38 + (i - 1) * step;
-    const double label = right - width - 6 - left;
+    const double label = right - width - 4 - left;
     const bool alone = Visible(form, "jzakk_box(1)");  // nothing will stand under the slot's label
     layout.places[IdOf("nrakk", i)] = {
         .rect = QRectF(left, alone ? y : y + 2, label, alone ? height : 22),
@@ -235,10 +256,13 @@ Layout LayoutWorksheet(const Form& form, const QSizeF& page) {
   const double answer_width = WidthOf(form, box, kWidth - action_width);
   const double width = answer_width + action_width;
   const double x = (page.width() - width) / 2;
-  FillStrip(layout, form, QRectF(x, kTop, width, kStrip));
-
-  const double below = kTop + kStrip;
-  const double y = below + (page.height() - below - kBoxHeight) / 2;
+  // The header takes some of the height that is left, and stands close above its cards.
+  const double cards = kBoxHeight + 2 * kBeyond;
+  const double between = 2 * kHalfGap;
+  const double strip = std::clamp(page.height() - cards - 3 * between, kStrip, kHighestStrip);
+  const double above = std::min((page.height() - cards - between - strip) / 2, kMostAbove);
+  FillStrip(layout, form, QRectF(x, above, width, strip));
+  const double y = above + strip + between + kBeyond;
   const QRectF action(x + answer_width, y, action_width, action_height);
   const QRectF answers(x, y, answer_width, kBoxHeight);
   layout.places["jzakk_box(0)"] = {.rect = answers};
@@ -249,9 +273,10 @@ Layout LayoutWorksheet(const Form& form, const QSizeF& page) {
                       {"jzakk_box(1)", QMarginsF(0, kBeyond, -kHalfGap, kBeyond)},
                       {"aktionsbox", QMarginsF(-kHalfGap, kBeyond, 0, kBeyond)}};
 
-  FillTiles(layout, answers);
+  FillGauge(layout, answers);
+  FillTiles(layout, form, answers);
   FillPictures(layout, form);
-  FillGroups(layout, answers);
+  FillGroups(layout, RoomForAnswers(form, answers));
   const double middle = action.center().x() + kHalfGap / 2;
   FillSlots(layout, action, form);
   FillCounters(layout, action, middle);

@@ -16,6 +16,7 @@ namespace vmod17::look {
 namespace {
 
 constexpr double kSmallest = 0.6;
+constexpr double kSmallestPixels = 11;
 
 /// Relative luminance as in WCAG 2.1.
 double Luminance(const QColor& color) {
@@ -171,12 +172,14 @@ Setting SetText(const QString& text, const QSizeF& box, double pixels, Weight we
   Setting setting{Type(pixels, weight), false, true};
   if (text.isEmpty()) return setting;
   const bool has_lines = text.contains('\n');
-  for (double size = pixels; size >= pixels * kSmallest; size -= 1) {
+  const double smallest = std::min(pixels, std::max(kSmallestPixels, pixels * kSmallest));
+  for (double size = pixels;; size = std::max(size - 1, smallest)) {
     setting.font = Type(size, weight);
     setting.wrap = has_lines;
     if (Holds(box, setting.font, text, has_lines)) return setting;
     setting.wrap = true;
     if (Holds(box, setting.font, text, true)) return setting;
+    if (size <= smallest) break;
   }
   setting.fits = false;
   return setting;

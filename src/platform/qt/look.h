@@ -89,7 +89,7 @@ struct Setting {
 };
 
 /// Sets a text at `pixels`; one that is too long is wrapped between words where there is height
-/// for it, else made smaller, down to three fifths.
+/// for it, else made smaller, down to three fifths and not below 11 pixels.
 Setting SetText(const QString& text, const QSizeF& box, double pixels, Weight weight);
 
 void DrawText(QPainter& painter, const QRectF& box, const QString& text, const Setting& setting,

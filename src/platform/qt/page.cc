@@ -117,7 +117,7 @@ void Page::Arrange(const QSize& size) {
   size_ = size;
   const double fitting =
       std::min(size.width() / layout_.canvas.width(), size.height() / layout_.canvas.height());
-  style_.factor = std::max(1.0, fitting);
+  style_.factor = std::max(kLeastFactor, fitting);
   if (form_ != nullptr) Place();
 }
 

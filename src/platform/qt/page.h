@@ -29,11 +29,11 @@ class Page : public QWidget {
 
   /// Shows what differs in the form, and finds the focus a new place where it lost its own.
   void Refresh();
-  /// Puts everything in place for a size in pixels: the largest factor, not below 1, at which the
-  /// canvas fits.
+  /// Puts everything in place for a size in pixels: the largest factor at which the canvas fits,
+  /// but none at which type could no longer be read.
   void Arrange(const QSize& size);
   /// The least size at which nothing is cut off.
-  QSize LeastSize() const { return layout_.content.toSize(); }
+  QSize LeastSize() const { return (layout_.content * kLeastFactor).toSize(); }
   double factor() const { return style_.factor; }
 
   /// Gives the focus to where it was when the screen was last shown, or to its first control.

@@ -18,6 +18,9 @@
 namespace vmod17 {
 namespace {
 
+constexpr double kGaugeEnd = 84;  // height of the words at an end of the gauge
+constexpr QSizeF kGaugeMark{52, 24};
+
 bool IsEnter(const QKeyEvent* event) {
   return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
@@ -450,7 +453,7 @@ DropDownWidget::DropDownWidget(QWidget* parent, const PageStyle& style, const Pl
   setView(new DropDownEntries(*this));
 }
 
-QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(34), height()); }
+QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(34), height() - Px(2)); }
 
 void DropDownWidget::showPopup() {
   const QFont font = look::Type(Px(place_.text), look::Weight::kNormal);
@@ -541,21 +544,9 @@ ListWidget::ListWidget(QWidget* parent, const PageStyle& style, const Placement&
           [this](QListWidgetItem* item) { TakeEntry(row(item)); });
 }
 
-double ListWidget::RowWidth() const { return width() - Px(12); }
+double ListWidget::RowWidth() const { return width() - Px(9); }
 
-QFont ListWidget::EntryType() const {
-  constexpr double kSmallest = 0.7;
-  const double pixels = Px(place_.text);
-  double widest = 0;
-  const QFontMetricsF metrics(look::Type(pixels, look::Weight::kNormal));
-  for (int i = 0; i < count(); ++i) {
-    widest = std::max(widest, metrics.horizontalAdvance(item(i)->text()));
-  }
-  const double share = widest <= RowWidth() ? 1.0 : std::max(kSmallest, RowWidth() / widest);
-  // Type comes in whole pixels, and smaller type is a little wider than its share.
-  return look::Type(share < 1 ? std::max(pixels * kSmallest, pixels * share - 0.8) : pixels,
-                    look::Weight::kNormal);
-}
+QFont ListWidget::EntryType() const { return look::Type(Px(place_.text), look::Weight::kNormal); }
 
 bool ListWidget::EntriesFit() const {
   const QFontMetricsF metrics(EntryType());
@@ -629,69 +620,72 @@ bool GaugeWidget::SetEnds(const QString& low, const QString& high) {
   return true;
 }
 
-/// The words stand under the scale.
+/// The words stand above and under the scale, and the mark reaches beyond both its ends.
 QRectF GaugeWidget::Track() const {
-  const double side = Px(8);  // half of the pointer
-  return QRectF(side, Px(7), width() - 2 * side, Px(10));
+  const double wide = Px(14);
+  const double end = Px(kGaugeEnd) + Px(kGaugeMark.height()) / 2;
+  return QRectF((width() - wide) / 2, end, wide, height() - 2 * end);
 }
 
 QRectF GaugeWidget::PlaceOfEnd(bool high) const {
-  const double top = Px(23);
-  const double wide = (width() - Px(44)) / 2;  // between them is the value
-  return QRectF(high ? width() - wide : 0, top, wide, height() - top);
+  const double side = Px(3);
+  const double edge = Px(8);
+  const double tall = Px(kGaugeEnd) - 2 * edge;
+  return QRectF(side, high ? edge : height() - edge - tall, width() - 2 * side, tall);
 }
 
 bool GaugeWidget::EndsFit() const {
   const QSizeF box = PlaceOfEnd(false).size();
   const double size = Px(place_.text);
-  return look::SetText(low_, box, size, look::Weight::kNormal).fits &&
-         look::SetText(high_, box, size, look::Weight::kNormal).fits;
+  return look::SetText(low_, box, size, look::Weight::kBold).fits &&
+         look::SetText(high_, box, size, look::Weight::kBold).fits;
 }
 
-/// From green, where nothing is left to learn, to red, where it was too much.
+/// From green at the bottom to red at the top.
 void GaugeWidget::PaintScale(QPainter& painter) const {
   const QRectF track = Track();
-  QLinearGradient ground(track.topLeft(), track.topRight());
+  QLinearGradient ground(track.bottomLeft(), track.topLeft());
   ground.setColorAt(0, colors().solved);
   ground.setColorAt(0.5, colors().half_way);
   ground.setColorAt(1, colors().too_hard);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(ground);
-  painter.drawRoundedRect(track, track.height() / 2, track.height() / 2);
-  painter.setPen(QPen(Qt::white, Px(1)));
+  painter.drawRoundedRect(track, track.width() / 2, track.width() / 2);
+  painter.setPen(QPen(colors().card, Px(1)));
   for (int tenth = 1; tenth < 10; ++tenth) {
-    const double x = track.left() + track.width() * tenth / 10;
-    const double inset = tenth == 5 ? 0 : track.height() * 0.3;
-    painter.drawLine(QPointF(x, track.top() + inset), QPointF(x, track.bottom() - inset));
+    const double y = track.bottom() - track.height() * tenth / 10;
+    const double inset = tenth == 5 ? 0 : track.width() * 0.3;
+    painter.drawLine(QPointF(track.left() + inset, y), QPointF(track.right() - inset, y));
   }
 }
 
-void GaugeWidget::PaintPointer(QPainter& painter) const {
+/// Where the training stands, with the number.
+void GaugeWidget::PaintMark(QPainter& painter) const {
   const QRectF track = Track();
   const double share = std::clamp(value(), 0, 100) / 100.0;
-  const QPointF at(track.left() + track.width() * share, track.center().y());
-  painter.setPen(QPen(colors().card, Px(2)));
-  painter.setBrush(colors().text);
-  painter.drawEllipse(at, Px(7), Px(7));
+  QRectF mark(QPointF(), kGaugeMark * style_.factor);
+  mark.moveCenter(QPointF(track.center().x(), track.bottom() - track.height() * share));
+  look::DrawPlate(painter, mark, colors().text, colors().card, mark.height() / 2, Px(2));
+  const QString percent = QString("%1%").arg(value());
+  look::DrawText(painter, mark, percent,
+                 look::SetText(percent, mark.size(), Px(place_.text), look::Weight::kBold),
+                 colors().card, Qt::AlignCenter);
 }
 
 void GaugeWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  look::DrawPlate(painter, QRectF(rect()), colors().section, {}, Px(look::kRadius), 0);
   PaintScale(painter);
-  PaintPointer(painter);
-  const double size = Px(place_.text);
-  const auto write = [&](const QRectF& box, const QString& text, const QColor& color,
-                         look::Weight weight, Qt::Alignment align) {
-    look::DrawText(painter, box, text, look::SetText(text, box.size(), size, weight), color,
-                   align | Qt::AlignVCenter);
+  const auto write = [&](bool high, const QString& text, const QColor& color) {
+    const QRectF box = PlaceOfEnd(high);
+    look::DrawText(painter, box, text,
+                   look::SetText(text, box.size(), Px(place_.text), look::Weight::kBold), color,
+                   Qt::AlignCenter);
   };
-  const QRectF low = PlaceOfEnd(false);
-  const QRectF high = PlaceOfEnd(true);
-  write(low, low_, colors().solved_text, look::Weight::kNormal, Qt::AlignLeft);
-  write(high, high_, colors().too_hard_text, look::Weight::kNormal, Qt::AlignRight);
-  write(QRectF(low.topRight(), high.bottomLeft()), QString("%1%").arg(value()), colors().text,
-        look::Weight::kBold, Qt::AlignHCenter);
+  write(true, high_, colors().too_hard_text);
+  write(false, low_, colors().solved_text);
+  PaintMark(painter);
 }
 
 // --- SliderWidget

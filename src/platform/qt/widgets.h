@@ -189,7 +189,7 @@ class ListWidget : public QListWidget, public Dressed, public TakesEntries {
   void keyboardSearch(const QString& text) override;
   void TakeEntry(int row) override;
   int ChosenEntry() const override { return -1; }
-  /// False when an entry is longer than its row allows at the smallest type.
+  /// False when an entry is longer than its row allows.
   bool EntriesFit() const;
   QColor Ground() const override;
   QColor Ink() const override;
@@ -205,13 +205,13 @@ class ListWidget : public QListWidget, public Dressed, public TakesEntries {
 
  private:
   class Delegate;
-  /// The largest type, up to that of the place, at which all entries fit.
   QFont EntryType() const;
   double RowWidth() const;
 
   TypedSearch search_;
 };
 
+/// Stands upright: nothing is left to learn at the bottom, it was too much at the top.
 class GaugeWidget : public QProgressBar, public Dressed {
  public:
   GaugeWidget(QWidget* parent, const PageStyle& style, const Placement& place);
@@ -228,7 +228,7 @@ class GaugeWidget : public QProgressBar, public Dressed {
   QRectF Track() const;
   QRectF PlaceOfEnd(bool high) const;
   void PaintScale(QPainter& painter) const;
-  void PaintPointer(QPainter& painter) const;
+  void PaintMark(QPainter& painter) const;
 
   QString low_;
   QString high_;

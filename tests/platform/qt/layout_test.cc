@@ -260,12 +260,32 @@ TEST(Languages, ThatComeWithTheProgramAreAllTested) {
 INSTANTIATE_TEST_SUITE_P(Languages, LayoutIn, testing::ValuesIn(LocalesOfTheProgram()),
                          [](const auto& test) { return InTestName(test.param); });
 
-TEST(Layout, GrowsWithTheWindowAndNeverShrinksBelowItsUnits) {
+TEST(Layout, GrowsAndShrinksWithTheWindowAsFarAsItsTypeCanBeRead) {
   ProgramFixture p;
   p.ToFirstScreen();
-  EXPECT_EQ(Shown(p.first(), kSmall).page().factor(), 1.0);
-  EXPECT_DOUBLE_EQ(Shown(p.first(), kLarge).page().factor(), 1440 / 730.0);
-  EXPECT_EQ(Shown(p.first(), QSize(640, 480)).page().factor(), 1.0);
+  EXPECT_DOUBLE_EQ(Shown(p.first(), kSmall).page().factor(), 1.0);
+  EXPECT_DOUBLE_EQ(Shown(p.first(), kLarge).page().factor(), 1440 / 660.0);
+  EXPECT_DOUBLE_EQ(Shown(p.first(), QSize(1280, 627)).page().factor(), 0.95);
+  EXPECT_DOUBLE_EQ(Shown(p.first(), QSize(640, 480)).page().factor(), kLeastFactor);
+}
+
+TEST(Layout, ScrollsNothingOnALowScreen) {
+  ProgramFixture p;
+  p.ToSettings();
+  EXPECT_LE(Shown(p.settings_screen(), kLow).page().LeastSize().height(), 600);
+  p.StartRun();
+  EXPECT_LE(Shown(p.worksheet(), kLow).page().LeastSize().height(), 600);
+}
+
+TEST(Layout, HasNoEmptyBandUnderTheHeaderOfTheWorksheet) {
+  ProgramFixture p;
+  p.ToWorksheet();
+  for (const QSize& size : {kSmall, kLow, kLarge}) {
+    Shown shown(p.worksheet(), size);
+    const double band =
+        shown.OnPage(shown.At("jzakk_box(0)")).top() - shown.OnPage(shown.At("PicUebTyp")).bottom();
+    EXPECT_LE(band / shown.page().factor(), 26) << size.width();
+  }
 }
 
 TEST(Layout, KeepsTheStepsOfTheTileRows) {

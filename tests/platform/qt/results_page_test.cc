@@ -291,10 +291,10 @@ TEST_F(ResultsPage, ShowsTheNotationBlackOnWhiteInARedFrame) {
   const QImage cell = Look("klang_pan(1)");
   EXPECT_EQ(cell.pixelColor(1, cell.height() / 2), QColor(255, 0, 0));
   const QImage notes = Look("jz_kl(1)");
-  int black = 0;
+  int dark = 0;  // not quite black where the picture is made smaller
   for (int y = 0; y < notes.height(); ++y)
-    black += notes.pixelColor(notes.width() / 5, y) == Qt::black;
-  EXPECT_GE(black, 5);  // the lines of the staff
+    dark += notes.pixelColor(notes.width() / 5, y).lightness() < 160;
+  EXPECT_GE(dark, 5);  // the lines of the staff
 }
 
 }  // namespace

@@ -173,10 +173,11 @@ TEST_F(SettingsPage, TellsALockedFrameByItsColourALockAndItsGround) {
   QWidget& frame = At("grdeinst(7)");
   const auto lock = [&] {  // dark pixels where the sign stands
     const QImage image = frame.grab().toImage();
-    const int f = static_cast<int>(view_.page()->factor());
+    const double f = view_.page()->factor();
     int dark = 0;
-    for (int x = image.width() - 26 * f; x < image.width() - 4 * f; ++x) {
-      for (int y = 6 * f; y < 26 * f; ++y) dark += image.pixelColor(x, y).lightness() < 60 ? 1 : 0;
+    for (int x = image.width() - qRound(26 * f); x < image.width() - qRound(4 * f); ++x) {
+      for (int y = qRound(6 * f); y < qRound(26 * f); ++y)
+        dark += image.pixelColor(x, y).lightness() < 60 ? 1 : 0;
     }
     return dark;
   };

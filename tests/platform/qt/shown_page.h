@@ -16,6 +16,8 @@
 namespace vmod17 {
 
 inline const QSize kSmall(1024, 768);
+inline const QSize kLow(1280, 680);
+inline const QSize kNarrow(1008, 640);
 inline const QSize kLarge(2560, 1440);
 
 /// A page of the program in a language, at a size.
@@ -158,7 +160,7 @@ inline void ExpectNoWordIsMissing(const Form& form) {
 
 inline void ExpectWellLaidOut(Form& form) {
   ExpectNoWordIsMissing(form);
-  for (const QSize& size : {kSmall, kLarge}) {
+  for (const QSize& size : {kSmall, kLow, kNarrow, kLarge}) {
     Shown shown(form, size);
     ExpectAllIsOnThePage(shown);
     ExpectNothingCoversAnother(shown);

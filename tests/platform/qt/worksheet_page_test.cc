@@ -98,34 +98,43 @@ TEST_P(Header, SaysTheGaugeWithItsValueAndWhatItsEndsMean) {
 INSTANTIATE_TEST_SUITE_P(Languages, Header, testing::ValuesIn(LocalesOfTheProgram()),
                          [](const auto& test) { return InTestName(test.param); });
 
-TEST(Gauge, GoesFromGreenToRedAndShowsWhereTheTrainingStands) {
+TEST(Gauge, StandsUprightWithItsValueAtItsMark) {
   ProgramFixture p;
   p.ToSettings();
   p.settings_screen().training_Combo.Select(1);
   p.StartRun();
-  const auto pointer = [&](int percent) {  // its place, as a share of the gauge
+  const auto mark = [&](int percent) {  // its place, as a share of the gauge from its bottom on
     p.worksheet().matboxanz.percent = percent;
     const Shown shown(p.worksheet(), kSmall);
     const QImage image = shown.At("matboxanz").grab().toImage();
-    int left = image.width();
-    int right = 0;
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixelColor(x, 12) != look::kLight.text) continue;
-      left = std::min(left, x);
-      right = std::max(right, x);
+    int top = image.height();
+    int bottom = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      if (image.pixelColor(image.width() / 2 - 22, y) != look::kLight.text) continue;
+      top = std::min(top, y);
+      bottom = std::max(bottom, y);
     }
-    return (left + right) / 2.0 / image.width();
+    return 1 - (top + bottom) / 2.0 / image.height();
   };
-  EXPECT_LT(pointer(0), 0.05);
-  EXPECT_NEAR(pointer(50), 0.5, 0.02);
-  EXPECT_GT(pointer(100), 0.95);
-  EXPECT_LT(pointer(38), pointer(39));
+  EXPECT_NEAR(mark(50), 0.5, 0.01);
+  EXPECT_LT(mark(0), 0.2);
+  EXPECT_GT(mark(100), 0.8);
+  EXPECT_NEAR(mark(100) - mark(50), mark(50) - mark(0), 0.01);
+  EXPECT_LT(mark(38), mark(39));
+}
 
-  p.worksheet().matboxanz.percent = 50;
+TEST(Gauge, GoesFromGreenAtTheBottomToRedAtTheTop) {
+  ProgramFixture p;
+  p.ToSettings();
+  p.settings_screen().training_Combo.Select(1);
+  p.StartRun();
   const Shown shown(p.worksheet(), kSmall);
-  const QImage scale = shown.At("matboxanz").grab().toImage();
-  const QImage low = scale.copy(0, 0, scale.width() / 4, 20);
-  const QImage high = scale.copy(scale.width() * 3 / 4, 0, scale.width() / 4, 20);
+  QWidget& gauge = shown.At("matboxanz");
+  EXPECT_GT(gauge.height(), 4 * gauge.width());
+  const QImage scale = gauge.grab().toImage();
+  const QRect middle(scale.width() / 2 - 8, 0, 16, scale.height() / 4);
+  const QImage high = scale.copy(middle);
+  const QImage low = scale.copy(middle.translated(0, scale.height() - middle.height()));
   EXPECT_GT(Count(low, look::kLight.solved), 50);
   EXPECT_EQ(Count(low, look::kLight.too_hard), 0);
   EXPECT_GT(Count(high, look::kLight.too_hard), 50);
