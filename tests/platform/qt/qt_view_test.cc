@@ -132,14 +132,14 @@ TEST_F(QtViewTest, GoesOnByEnterWhereverTheFocusIs) {
   EXPECT_NE(p_.program.einstellung1(), nullptr);
 }
 
-TEST_F(QtViewTest, LeavesTheSettingsByEscape) {
+TEST_F(QtViewTest, StaysOnTheSettingsAtEscape) {
   p_.ToSettings();
   Attach(p_.settings_screen());
   EXPECT_EQ(Focus(), "cmdOK");
   Einstellung1& settings = p_.settings_screen();
   Key(Qt::Key_Escape);
-  EXPECT_FALSE(settings.visible);
-  EXPECT_TRUE(p_.first().visible);
+  EXPECT_TRUE(settings.visible);
+  EXPECT_FALSE(p_.first().visible);
 }
 
 TEST_F(QtViewTest, TakesTheFocusToTheTilesWhenTheyOpenAndBackToTheNextTask) {
