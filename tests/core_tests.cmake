@@ -48,6 +48,7 @@ target_sources(
   PRIVATE app/clock_independence_test.cc
           app/exams_test.cc
           app/free_practice_simulation_test.cc
+          app/group_selections_test.cc
           app/student_runs_test.cc
           app/lesson_record_golden_test.cc
           results/counters_test.cc

@@ -89,6 +89,10 @@ void ChordBoard::SetzeAkkTab(const BoardSelection& selection, Random& random) {
   limits.Setze(selection.best_art == 0 ? akk_zahl : static_cast<int>(selection.gruppen.size()));
 }
 
+void ChordBoard::MeldeGruppen() {
+  for (int e = 1; e <= akk_zahl; ++e) grp_aktiv_ar[akk_tab_[e].group] = 1;
+}
+
 void ChordBoard::Sammle(const BoardSelection& selection) {
   kandidat_ar_.clear();
   vorrat_ar_.fill(0);

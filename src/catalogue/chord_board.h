@@ -66,6 +66,9 @@ class ChordBoard {
   /// kind or group has its share. Fills the groups and notes of `ChordTable` for the run.
   /// Errors: RunTimeError kNothingToDraw when the share of a kind or group cannot be drawn.
   void SetzeAkkTab(const BoardSelection& selection, Random& random);
+  /// Sets the flag of every group that the board holds. Building it leaves out those that have come
+  /// by the filling up alone.
+  void MeldeGruppen();
   /// Takes over a stored board in place of building one; the Klang numbers are worked out. Fills
   /// the notes of `ChordTable` for the run; `limits` stay as they are. Errors: RunTimeError
   /// kTypeMismatch, with the board as it was, when this selection cannot have given these entries.

@@ -172,6 +172,8 @@ void Arbeitsblatt1::BaueAuf() {
     NimmTrainingAuf();
   } else {
     parts_.board.SetzeAkkTab(Auswahl(), parts_.random);
+    // What can be asked needs a button, and only groups with a flag have one.
+    parts_.board.MeldeGruppen();
   }
   BaueAntwortfeld();
   BereiteSlotsVor();
