@@ -427,7 +427,8 @@ void HomeWindow::RemoveUser() {
                           "Remove %1 from the list? The stored trainings are kept: whoever is "
                           "added with this number again goes on with them.",
                           {Shown(user)});
-    if (messages_.Ask(question.toStdString(), "Melvado") == MessageBox::Answer::kYes) {
+    if (messages_.Ask(question.toStdString(), "Melvado", MessageBox::Answer::kNo) ==
+        MessageBox::Answer::kYes) {
       host_.RemoveUser(user.id);
       user_->setFocus(Qt::OtherFocusReason);
     }
@@ -494,7 +495,9 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
       words.Say(9451,
                 "The exercise has ended unexpectedly. What was stored before is still there. Do "
                 "you want to see the end of the log?");
-  if (messages_.Ask(question.toStdString(), "Melvado") == MessageBox::Answer::kYes) ShowLog();
+  if (messages_.Ask(question.toStdString(), "Melvado", MessageBox::Answer::kYes) ==
+      MessageBox::Answer::kYes)
+    ShowLog();
 }
 
 void HomeWindow::ShowLog() {

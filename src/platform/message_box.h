@@ -16,8 +16,11 @@ class MessageBox {
   virtual ~MessageBox() = default;
   /// A warning with one OK. `text` may have several lines, separated by line feeds.
   virtual void Warn(const std::string& text, const std::string& title) = 0;
-  /// A question with Yes and No. Closing the box means No.
-  virtual Answer Ask(const std::string& text, const std::string& title) = 0;
+  /// A question with Yes and No, which stands until one of the two is pressed: closing the box is
+  /// no answer. `preselected` is what Enter presses.
+  virtual Answer Ask(const std::string& text, const std::string& title, Answer preselected) = 0;
+  /// Takes a question that stands away, since it means nothing any more; its answer is No.
+  virtual void Withdraw() = 0;
 };
 
 }  // namespace vmod17

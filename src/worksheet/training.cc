@@ -110,7 +110,7 @@ void Arbeitsblatt1::BieteSichernAn() {
 
 bool Arbeitsblatt1::WillSichern(const std::string& frage) {
   sichern_gefragt_ = true;
-  const MessageBox::Answer answer = shell_.messages.Ask(frage, caption);
+  const MessageBox::Answer answer = shell_.messages.Ask(frage, caption, MessageBox::Answer::kYes);
   // The program may have been ended while the question stood.
   return std::exchange(sichern_gefragt_, false) && answer == MessageBox::Answer::kYes;
 }

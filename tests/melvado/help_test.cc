@@ -120,7 +120,7 @@ TEST_F(HostHelpTest, ShowsThePageOfTheHomeWindowUnderAMessage) {
     EXPECT_EQ(QApplication::activeWindow(), &box);
     QTest::keyClick(box.windowHandle(), Qt::Key_Return);
   });
-  EXPECT_EQ(messages.Ask("?", "Melvado"), MessageBox::Answer::kYes);
+  EXPECT_EQ(messages.Ask("?", "Melvado", MessageBox::Answer::kYes), MessageBox::Answer::kYes);
 }
 
 TEST_F(HostHelpTest, KeepsItsOwnPageForItsOwnKey) {

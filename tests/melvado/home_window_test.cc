@@ -371,6 +371,7 @@ TEST_F(HomeWindowTest, RemovesAUserOnlyIfTheAnswerIsYes) {
   Press("remove_user");
   ASSERT_THAT(messages_.questions, SizeIs(1));
   EXPECT_THAT(messages_.questions[0].text, HasSubstr("bleiben erhalten"));
+  EXPECT_EQ(messages_.preselected, MessageBox::Answer::kNo);
   EXPECT_THAT(host_->Users(), SizeIs(1));
   messages_.answer = MessageBox::Answer::kYes;
   Press("remove_user");

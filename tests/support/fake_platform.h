@@ -35,17 +35,24 @@ class ScriptedMessageBox : public MessageBox {
   std::vector<Shown> warnings;
   std::vector<Shown> questions;
   Answer answer = Answer::kNo;
+  std::optional<Answer> preselected;  ///< in the question asked last
+  int withdrawn = 0;                  ///< questions that were taken away
   /// Runs while a message is on display.
   std::function<void()> meanwhile;
+  /// Runs while a question stands.
+  std::function<void()> while_asked;
 
   void Warn(const std::string& text, const std::string& title) override {
     warnings.push_back({text, title});
     if (meanwhile) meanwhile();
   }
-  Answer Ask(const std::string& text, const std::string& title) override {
+  Answer Ask(const std::string& text, const std::string& title, Answer first) override {
     questions.push_back({text, title});
+    preselected = first;
+    if (while_asked) while_asked();
     return answer;
   }
+  void Withdraw() override { ++withdrawn; }
 };
 
 /// Answers with the files that a test names; none at first, as a user who gives up.

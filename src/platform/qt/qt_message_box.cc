@@ -4,10 +4,25 @@
 #include "platform/qt/qt_message_box.h"
 
 #include <QAbstractButton>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <utility>
 
 namespace vmod17 {
 namespace {
+
+/// Stands until one of its buttons is pressed: neither Escape nor the window's cross is an answer.
+class QuestionBox : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override { event->ignore(); }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (!event->matches(QKeySequence::Cancel)) QMessageBox::keyPressEvent(event);
+  }
+};
 
 void Label(QMessageBox& box, QMessageBox::StandardButton button, const std::string& word) {
   if (!word.empty()) box.button(button)->setText(QString::fromStdString(word));
@@ -34,16 +49,24 @@ void QtMessageBox::Warn(const std::string& text, const std::string& title) {
   Show(box);
 }
 
-MessageBox::Answer QtMessageBox::Ask(const std::string& text, const std::string& title) {
-  QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
+MessageBox::Answer QtMessageBox::Ask(const std::string& text, const std::string& title,
+                                     Answer preselected) {
+  QuestionBox box(QMessageBox::Question, QString::fromStdString(title),
                   QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, Window());
+  box.setWindowFlag(Qt::WindowCloseButtonHint, false);
   box.setTextFormat(Qt::PlainText);
-  box.setDefaultButton(QMessageBox::Yes);
-  box.setEscapeButton(QMessageBox::No);
+  box.setDefaultButton(preselected == Answer::kYes ? QMessageBox::Yes : QMessageBox::No);
   const Words words_now = CurrentWords();
   Label(box, QMessageBox::Yes, words_now.yes);
   Label(box, QMessageBox::No, words_now.no);
-  return Show(box) == QMessageBox::Yes ? Answer::kYes : Answer::kNo;
+  const QPointer<QMessageBox> before_it = std::exchange(question_, &box);
+  const int answer = Show(box);
+  question_ = before_it;
+  return answer == QMessageBox::Yes ? Answer::kYes : Answer::kNo;
+}
+
+void QtMessageBox::Withdraw() {
+  if (question_) question_->done(QMessageBox::No);
 }
 
 }  // namespace vmod17

@@ -35,7 +35,8 @@ class QtMessageBox : public MessageBox {
   std::function<void()> before;
 
   void Warn(const std::string& text, const std::string& title) override;
-  Answer Ask(const std::string& text, const std::string& title) override;
+  Answer Ask(const std::string& text, const std::string& title, Answer preselected) override;
+  void Withdraw() override;
 
  private:
   int Show(QMessageBox& box) const;
@@ -43,6 +44,7 @@ class QtMessageBox : public MessageBox {
   Words CurrentWords() const { return words ? words() : Words{}; }
 
   std::function<QWidget*()> window_;
+  QPointer<QMessageBox> question_;  // the one that stands
 };
 
 }  // namespace vmod17

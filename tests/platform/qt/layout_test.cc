@@ -250,7 +250,7 @@ TEST_P(LayoutIn, ShowsMessagesWhole) {
     }
     box->close();
   });
-  messages.Ask(longest, "Melvado");
+  messages.Ask(longest, "Melvado", MessageBox::Answer::kYes);
 }
 
 TEST(Languages, ThatComeWithTheProgramAreAllTested) {

@@ -8,11 +8,14 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
 #include <functional>
 
 namespace vmod17 {
 namespace {
+
+using Answer = MessageBox::Answer;
 
 /// What the user does once the box stands.
 void Then(const std::function<void(QMessageBox&)>& act) {
@@ -47,15 +50,48 @@ TEST(QtMessageBox, TellsYesFromNo) {
     EXPECT_EQ(box.button(QMessageBox::No)->text(), "Nein");
     box.button(QMessageBox::Yes)->click();
   });
-  EXPECT_EQ(messages.Ask("Speichern?", "Melvado"), MessageBox::Answer::kYes);
+  EXPECT_EQ(messages.Ask("Speichern?", "Melvado", Answer::kYes), Answer::kYes);
   Then([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
-  EXPECT_EQ(messages.Ask("Speichern?", "Melvado"), MessageBox::Answer::kNo);
+  EXPECT_EQ(messages.Ask("Speichern?", "Melvado", Answer::kYes), Answer::kNo);
 }
 
-TEST(QtMessageBox, TakesAClosedQuestionAsNo) {
+TEST(QtMessageBox, TakesNeitherEscapeNorTheWindowsCrossForAnAnswer) {
+  for (const auto first : {Answer::kYes, Answer::kNo}) {
+    QtMessageBox messages(nullptr);
+    Then([](QMessageBox& box) {
+      QTest::keyClick(&box, Qt::Key_Escape);
+      EXPECT_TRUE(box.isVisible());
+      EXPECT_FALSE(box.close());
+      EXPECT_TRUE(box.isVisible());
+      box.button(QMessageBox::Yes)->click();
+    });
+    EXPECT_EQ(messages.Ask("Speichern?", "Melvado", first), Answer::kYes);
+  }
+}
+
+TEST(QtMessageBox, PressesWithEnterWhatIsPreselected) {
+  for (const auto first : {Answer::kYes, Answer::kNo}) {
+    QtMessageBox messages(nullptr);
+    Then([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(messages.Ask("Speichern?", "Melvado", first), first);
+  }
+}
+
+TEST(QtMessageBox, WithdrawsTheQuestionThatStands) {
   QtMessageBox messages(nullptr);
-  Then([](QMessageBox& box) { box.close(); });
-  EXPECT_EQ(messages.Ask("Speichern?", "Melvado"), MessageBox::Answer::kNo);
+  messages.Withdraw();  // none
+  Then([&](QMessageBox& box) {
+    messages.Withdraw();
+    EXPECT_FALSE(box.isVisible());
+  });
+  EXPECT_EQ(messages.Ask("Speichern?", "Melvado", Answer::kYes), Answer::kNo);
+  messages.Withdraw();
+}
+
+TEST(QtMessageBox, LetsTheProgramEndWhileAQuestionStands) {
+  QtMessageBox messages(nullptr);
+  Then([](QMessageBox&) { QCoreApplication::exit(); });
+  EXPECT_EQ(messages.Ask("Speichern?", "Melvado", Answer::kYes), Answer::kNo);
 }
 
 }  // namespace
