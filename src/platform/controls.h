@@ -305,6 +305,7 @@ class ItemList : public Control {
   struct Entry {
     std::string text;
     int item_data = 0;
+    bool empty = false;  ///< stands where there is nothing to choose; `Step` goes past it
     bool operator==(const Entry&) const = default;
   };
 
@@ -331,6 +332,9 @@ class ItemList : public Control {
     list_index_ = -1;
   }
   void Add(std::string text, int item_data) { entries_.push_back({std::move(text), item_data}); }
+  void AddEmpty(std::string text, int item_data) {
+    entries_.push_back({std::move(text), item_data, true});
+  }
   /// Inserts an entry before entry `at`; the selection stays with its entry.
   void Insert(int at, Entry new_entry) {
     if (at != count()) Need(at);
@@ -356,6 +360,13 @@ class ItemList : public Control {
     if (!Reachable() || i < 0 || i >= count()) return false;
     Select(i);
     return true;
+  }
+  /// The user goes on from the selected entry to the next one, `way` 1, or the one before, -1.
+  /// Returns whether there is one and the list could be reached.
+  bool Step(int way) {
+    int i = list_index_ + way;
+    while (i >= 0 && i < count() && entries_[i].empty) i += way;
+    return Choose(i);
   }
 
  private:

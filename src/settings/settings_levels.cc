@@ -53,8 +53,11 @@ void Einstellung1::FuelleTraining(Fortsetzung fortsetzung) {
   training_Combo.Clear();
   for (int i = 0; i < static_cast<int>(shell_.texts.modus_name_ar.size()); ++i) {
     const bool leer = i == kModusFortsetzung && fortsetzung == Fortsetzung::kKeine;
-    training_Combo.Add(leer ? kKeinTraining : shell_.texts.modus_name_ar[i],
-                       ItemList::kValueIsIndex);
+    if (leer) {
+      training_Combo.AddEmpty(kKeinTraining, ItemList::kValueIsIndex);
+    } else {
+      training_Combo.Add(shell_.texts.modus_name_ar[i], ItemList::kValueIsIndex);
+    }
   }
 }
 

@@ -102,6 +102,24 @@ TEST_F(Levels, BecomeANewTrainingFromAnyLevelWhenThereIsNothingToTakeUp) {
   }
 }
 
+TEST_F(Levels, AreAllReachedByTheArrowKeysWhenThereIsNothingToTakeUp) {
+  ToSettings();
+  ItemList& levels = screen().training_Combo;
+  std::vector<int> down, up;
+  while (levels.Step(1)) down.push_back(settings().uebmodus);
+  while (levels.Step(-1)) up.push_back(settings().uebmodus);
+  EXPECT_THAT(down, ElementsAre(1, 3, 4));
+  EXPECT_THAT(up, ElementsAre(3, 1, 0));
+}
+
+TEST_F(Levels, AreAllReachedByTheArrowKeysWhenATrainingCanBeTakenUp) {
+  StoreTraining(DreiklangTraining());
+  ToSettings();
+  std::vector<int> down;
+  while (screen().training_Combo.Step(1)) down.push_back(settings().uebmodus);
+  EXPECT_THAT(down, ElementsAre(1, 2, 3, 4));
+}
+
 TEST_F(Levels, CanBeFilledAnewByTheWorksheet) {
   ToSettings();
   screen().FuelleTraining(Einstellung1::Fortsetzung::kVorhanden);

@@ -115,6 +115,9 @@ class DropDownBinding : public Binding {
     QObject::connect(
         &widget, &QComboBox::activated, &widget,
         [&list, deliver = site.deliver](int row) { deliver([&list, row] { list.Choose(row); }); });
+    widget.step = [&list, deliver = site.deliver](int way) {
+      deliver([&list, way] { list.Step(way); });
+    };
   }
 
  protected:

@@ -488,6 +488,9 @@ void DropDownWidget::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     return;
   }
+  const bool up = event->key() == Qt::Key_Up;
+  const bool along = up || event->key() == Qt::Key_Down;
+  if (along && step && !event->modifiers().testFlag(Qt::AltModifier)) return step(up ? -1 : 1);
   QComboBox::keyPressEvent(event);
 }
 

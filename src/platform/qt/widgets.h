@@ -170,6 +170,8 @@ class OptionWidget : public QRadioButton, public Dressed {
 class DropDownWidget : public QComboBox, public Dressed {
  public:
   DropDownWidget(QWidget* parent, const PageStyle& style, const Placement& place);
+  /// The user goes one entry down, 1, or up, -1, while the list is closed.
+  std::function<void(int way)> step;
   void showPopup() override;
   QColor Ground() const override;
 
