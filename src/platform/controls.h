@@ -160,11 +160,22 @@ class Label : public Control {
   using Control::Control;
 };
 
+/// How a control was judged when it was pressed as an answer.
+struct AnswerMark {
+  enum class Kind { kTick, kCross };
+  Kind kind = Kind::kTick;
+  int slot = 0;  ///< the question that was answered, from 1; 0 where there is only one
+  bool operator==(const AnswerMark&) const = default;
+};
+
 /// A control that the user can press.
 class Pressable : public Control {
  public:
   using Control::Control;
   std::function<void()> Click;
+
+  int number = 0;                 ///< shown small beside what it shows; 0 for none
+  std::vector<AnswerMark> marks;  ///< shown small, in the order of their making
 
   /// The user presses it. Returns whether it could be reached.
   bool Press() {

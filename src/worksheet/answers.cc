@@ -93,6 +93,7 @@ void Arbeitsblatt1::AntwortSetzen(int clicked, bool right, XmlElement& record) {
 
 void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
   const int slot = run_.akk_nr;
+  Markiere(clicked, AnswerMark::Kind::kTick);
   ergebnis[slot].back_color = Colors::kBlack;
   ergebnis[slot].fore_color = kRichtigText;
   if (NachAkkorden()) {
@@ -117,6 +118,7 @@ void Arbeitsblatt1::Richtig(int clicked, XmlElement& record) {
 
 void Arbeitsblatt1::Falsch(int clicked, XmlElement& record) {
   const int slot = run_.akk_nr;
+  Markiere(clicked, AnswerMark::Kind::kCross);
   TauscheFarben(ergebnis[slot]);
   Erhoehe(run_.count.falsch);
   ZeigeZaehler();
@@ -143,6 +145,8 @@ void Arbeitsblatt1::Falsch(int clicked, XmlElement& record) {
 }
 
 void Arbeitsblatt1::Verloren(int slot) {
+  Markiere(NachAkkorden() ? run_.task.aufg_akk_ar.at(slot) : Gefragt(slot).group,
+           AnswerMark::Kind::kTick);
   if (NachAkkorden()) {
     ZeigeLoesung(slot, Colors::kRed);
   } else {
@@ -169,6 +173,17 @@ void Arbeitsblatt1::BenenneSlot(int slot, Notice wie) {
 std::string Arbeitsblatt1::Loesungsname(int slot) const {
   return NachAkkorden() ? jz_kl[run_.task.aufg_akk_ar.at(slot)].spoken
                         : akk_group[Gefragt(slot).group].caption;
+}
+
+/// What is marked stays so until the next task. Where a task has several chords a mark tells which
+/// of them it is about, since all choices open again for each.
+void Arbeitsblatt1::Markiere(int choice, AnswerMark::Kind kind) {
+  Wahl(choice).marks.push_back({kind, parts_.settings.akk_anzahl > 1 ? run_.akk_nr : 0});
+}
+
+void Arbeitsblatt1::LoescheMarken() {
+  for (int e = 1; e <= kBrettGroesse; ++e) jz_kl[e].marks.clear();
+  for (int g = 1; g <= kGruppen; ++g) akk_group[g].marks.clear();
 }
 
 void Arbeitsblatt1::Streiche(int clicked) {

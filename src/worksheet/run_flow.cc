@@ -145,6 +145,7 @@ void Arbeitsblatt1::BieteUngehoerteAn() {
 void Arbeitsblatt1::BereiteAufgabeVor() {
   run_.answers = TaskAnswers();
   for (int slot = 1; slot <= parts_.settings.akk_anzahl; ++slot) LegeLoesungBereit(slot);
+  LoescheMarken();
   run_.akk_nr = 1;
   nrakk[1].enabled = true;
   CmdNextAufg.enabled = false;

@@ -276,6 +276,7 @@ void Arbeitsblatt1::BaueKacheln() {
     jz_kl[e].image = settings.akk_anzeige == 0 ? store.jakk(n) : store.jbez(n);
     if (settings.akk_anzeige == 0) Akkbez[e].image = store.jbez(n);
     jz_kl[e].caption = Akkbez[e].caption = ChordOfKlang(n).symbol;
+    jz_kl[e].number = e;
     jz_kl[e].description = shell_.texts.Sprachtext(374) + " " + DecimalText(e);
   }
   BenenneKacheln();

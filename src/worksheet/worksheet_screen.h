@@ -171,6 +171,8 @@ class Arbeitsblatt1 : public Form {
   void BenenneSlot(int slot, Notice wie);
   /// The solution as its tile or group is called.
   std::string Loesungsname(int slot) const;
+  void Markiere(int choice, AnswerMark::Kind kind);
+  void LoescheMarken();
   void Streiche(int clicked);
   void NaechsterAkkord();
   void BeendeAufgabe();
@@ -222,6 +224,10 @@ class Arbeitsblatt1 : public Form {
   bool IstFortsetzung() const { return parts_.settings.uebmodus == kModusFortsetzung; }
   bool IstTest() const { return parts_.settings.IstTest(); }
   bool NachAkkorden() const { return parts_.settings.best_art == 0; }
+  /// A tile or a group button, by what is named in this run.
+  Pressable& Wahl(int i) const {
+    return NachAkkorden() ? static_cast<Pressable&>(jz_kl[i]) : akk_group[i];
+  }
   const BoardEntry& Gefragt(int slot) const { return parts_.board[run_.task.aufg_akk_ar.at(slot)]; }
 
   Shell& shell_;

@@ -101,6 +101,59 @@ TEST(Answers, MarksARightGroup) {
   EXPECT_EQ(p.OpenSlots(), std::vector<int>{2});
 }
 
+constexpr AnswerMark kTick = {AnswerMark::Kind::kTick, 0};
+constexpr AnswerMark kCross = {AnswerMark::Kind::kCross, 0};
+using Marks = std::vector<AnswerMark>;
+
+TEST(Answers, PutATickOnTheRightTileAndACrossOnEachWrongOneUntilTheNextTask) {
+  for (const auto& change : {Chords(1), Groups(1)}) {
+    WorksheetFixture p;
+    p.Begin(change, {5, 6}, {2, 3, 5});
+    p.PlayTask();
+    const int first = p.Wrong();
+    EXPECT_EQ(p.Choice(first).marks, Marks{kCross});
+    EXPECT_TRUE(p.Choice(p.RightChoice()).marks.empty());
+    p.Repeat();
+    EXPECT_EQ(p.Choice(first).marks, Marks{kCross}) << "of the open slot, heard again";
+    const int right = p.Right();
+    EXPECT_EQ(p.Choice(right).marks, Marks{kTick});
+    EXPECT_EQ(p.Choice(first).marks, Marks{kCross});
+    p.ControlRepeat();
+    EXPECT_EQ(p.Choice(right).marks, Marks{kTick});
+    p.worksheet().CmdNextAufg.Press();
+    EXPECT_TRUE(p.Choice(right).marks.empty());
+    EXPECT_TRUE(p.Choice(first).marks.empty());
+  }
+}
+
+TEST(Answers, PutATickOnTheRightTileOfALostSlotToo) {
+  for (const auto& change : {Chords(1), Groups(1)}) {
+    WorksheetFixture p;
+    p.Begin(change, {5, 6}, {2, 3, 5});
+    p.PlayTask();
+    const int right = p.RightChoice();
+    while (p.run().akk_nr == 1) EXPECT_EQ(p.Choice(p.Wrong()).marks, Marks{kCross});
+    EXPECT_EQ(p.Choice(right).marks, Marks{kTick});
+  }
+}
+
+TEST(Answers, TellWithTheirMarksOfWhichChordOfTheTaskTheyWere) {
+  WorksheetFixture p;
+  p.Begin(Chords(2));
+  p.random.Script({0.05f, 0.45f, 0.15f, 0.35f});
+  p.PlayTask();
+  ASSERT_EQ(p.Asked(1), 1);
+  ASSERT_EQ(p.Asked(2), 2);
+  EXPECT_TRUE(p.Choice(2).Press());
+  EXPECT_TRUE(p.Choice(1).Press());
+  EXPECT_TRUE(p.Choice(1).Press());
+  EXPECT_TRUE(p.Choice(2).Press());
+  EXPECT_EQ(p.Choice(1).marks,
+            (Marks{{AnswerMark::Kind::kTick, 1}, {AnswerMark::Kind::kCross, 2}}));
+  EXPECT_EQ(p.Choice(2).marks,
+            (Marks{{AnswerMark::Kind::kCross, 1}, {AnswerMark::Kind::kTick, 2}}));
+}
+
 TEST(Answers, FlipsTheMarkAtEachWrongClickUntilTheSlotIsLost) {
   WorksheetFixture p;
   p.Begin();

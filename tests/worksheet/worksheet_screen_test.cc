@@ -200,6 +200,18 @@ TEST(WorksheetScreen, BeginsWithAllTilesClosed) {
   EXPECT_TRUE(p.OpenChoices().empty());
 }
 
+TEST(WorksheetScreen, NumbersItsTilesAsTheSolutionsAreNumbered) {
+  for (const int akk_anzeige : {0, 1}) {
+    WorksheetFixture p;
+    p.Begin([&](ExerciseSettings& s) { s.akk_anzeige = akk_anzeige; });
+    for (int e = 1; e <= 10; ++e) EXPECT_EQ(p.worksheet().jz_kl[e].number, e);
+    p.PlayTask();
+    const int right = p.Right();
+    EXPECT_EQ(p.worksheet().akk_lfdnr[1].caption, "[374s] " + std::to_string(right));
+    EXPECT_EQ(p.worksheet().jz_kl[right].number, right);
+  }
+}
+
 TEST(WorksheetScreen, ShowsNotationAndSymbolOfEachChord) {
   WorksheetFixture p;
   p.Begin({}, {3, 4}, {7});

@@ -18,6 +18,7 @@ class PressBinding : public Binding {
  public:
   PressBinding(Pressable& control, PressWidget& widget, const BindingSite& site)
       : Binding(control, widget, widget),
+        control_(control),
         press_(widget),
         picture_(dynamic_cast<Picture*>(&control)) {
     widget.move_focus = [&control, move = site.move_focus](int key) { return move(control, key); };
@@ -28,6 +29,8 @@ class PressBinding : public Binding {
 
  protected:
   void RefreshKind() override {
+    if (control_.number != number_) press_.SetNumber(number_ = control_.number);
+    if (control_.marks != marks_) press_.SetMarks(marks_ = control_.marks);
     if (picture_ == nullptr || picture_->image == image_) return;
     image_ = picture_->image;
     press_.SetImage(image_);
@@ -35,9 +38,12 @@ class PressBinding : public Binding {
   void WithdrawKind() override { press_.SetImage(image_ = {}); }
 
  private:
+  const Pressable& control_;
   PressWidget& press_;
   Picture* picture_;
   PictureId image_;
+  int number_ = 0;
+  std::vector<AnswerMark> marks_;
 };
 
 class TextBinding : public Binding {

@@ -59,6 +59,10 @@ extern const Palette kDark;
 inline constexpr QColor kBannerBegin{0x19, 0x38, 0x73};
 inline constexpr QColor kBannerEnd{0x2B, 0x5C, 0xB8};
 
+// A mark has a ground of its own on whatever it stands, and its sign is white.
+inline constexpr QColor kTick{0x1B, 0x7A, 0x3C};
+inline constexpr QColor kCross{0xB7, 0x1C, 0x2B};
+
 /// The colours for the application's palette as it is now: dark where its windows are.
 const Palette& PresentColors();
 /// The same colours for what the toolkit draws by itself: message boxes, menus, tool tips.

@@ -58,6 +58,34 @@ void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const 
   }
 }
 
+void DrawAnswerMark(QPainter& painter, const QRectF& box, const AnswerMark& mark) {
+  const bool tick = mark.kind == AnswerMark::Kind::kTick;
+  const double height = box.height();
+  look::DrawPlate(painter, box, tick ? look::kTick : look::kCross, Qt::white, height / 2,
+                  height / 12);
+  const QRectF sign(box.right() - height, box.top(), height, height);
+  if (mark.slot > 0) {
+    painter.setFont(look::Type(height * 0.72, look::Weight::kBold));
+    painter.setPen(Qt::white);
+    painter.drawText(QRectF(box.topLeft(), sign.bottomLeft()).adjusted(height * 0.25, 0, 0, 0),
+                     Qt::AlignCenter, QString::number(mark.slot));
+  }
+  const double unit = height / 10;
+  const QPointF c = sign.center();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(Qt::white, 1.5 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(Qt::NoBrush);
+  if (tick) {
+    painter.drawPolyline(QPolygonF{{c + QPointF(-2.2, 0.2) * unit, c + QPointF(-0.5, 1.9) * unit,
+                                    c + QPointF(2.3, -1.8) * unit}});
+  } else {
+    const QPointF down = QPointF(1.8, 1.8) * unit;
+    const QPointF up = QPointF(1.8, -1.8) * unit;
+    painter.drawLine(c - down, c + down);
+    painter.drawLine(c - up, c + up);
+  }
+}
+
 void DrawLock(QPainter& painter, const QRectF& box, const QColor& color) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF square = Square(box);

@@ -20,6 +20,9 @@ namespace {
 
 constexpr double kGaugeEnd = 84;  // height of the words at an end of the gauge
 constexpr QSizeF kGaugeMark{52, 24};
+constexpr double kNumberText = 11;  // of a tile's number
+constexpr double kTileMark = 14;    // of a mark on a tile
+constexpr double kLargeMark = 20;   // the same on a button
 
 bool IsEnter(const QKeyEvent* event) {
   return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -111,6 +114,16 @@ void PressWidget::SetImage(const PictureId& image) {
   update();
 }
 
+void PressWidget::SetNumber(int number) {
+  number_ = number;
+  update();
+}
+
+void PressWidget::SetMarks(const std::vector<AnswerMark>& marks) {
+  marks_ = marks;
+  update();
+}
+
 QSizeF PressWidget::TextBox() const {
   const double side = place_.look == Look::kTile ? 4 : 20;
   return QSizeF(width() - Px(side), height() - Px(6));
@@ -162,10 +175,40 @@ void PressWidget::PaintTile(QPainter& painter) {
     painter.drawPixmap(corner, picture);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
   }
+  PaintNumber(painter);
   if (isEnabled() && (isDown() || underMouse())) {
     painter.fillRect(rect(), QColor(0x2B, 0x5C, 0xB8, isDown() ? 60 : 22));
   }
+  PaintMarks(painter);
   if (ShowsFocus()) look::DrawFocusRing(painter, QRectF(rect()), colors(), Px(2), style_.factor);
+}
+
+/// In the corner that the pictures leave free.
+void PressWidget::PaintNumber(QPainter& painter) {
+  if (number_ == 0) return;
+  const QRectF box = QRectF(rect()).adjusted(Px(3), 0, 0, -Px(1));
+  painter.setFont(look::Type(Px(kNumberText), look::Weight::kNormal));
+  painter.setPen(Ink());
+  painter.drawText(box, Qt::AlignLeft | Qt::AlignBottom, QString::number(number_));
+}
+
+/// From the lower right corner upwards, and further to the left when the column is full.
+void PressWidget::PaintMarks(QPainter& painter) {
+  const bool tile = place_.look == Look::kTile;
+  const double height = Px(tile ? kTileMark : kLargeMark);
+  const double gap = Px(1);
+  const double margin = Px(tile ? 2 : 8);
+  double right = width() - margin;
+  double bottom = this->height() - margin;
+  for (const AnswerMark& mark : marks_) {
+    const double wide = mark.slot == 0 ? height : 1.7 * height;
+    if (bottom - height < 0) {
+      right -= wide + gap;
+      bottom = this->height() - margin;
+    }
+    DrawAnswerMark(painter, QRectF(right - wide, bottom - height, wide, height), mark);
+    bottom -= height + gap;
+  }
 }
 
 void PressWidget::PaintButton(QPainter& painter) {
@@ -179,6 +222,7 @@ void PressWidget::PaintButton(QPainter& painter) {
   } else {
     DrawSign(painter, image_.kind, box, Ink());
   }
+  PaintMarks(painter);
   if (ShowsFocus()) look::DrawFocusRing(painter, box, colors(), radius, style_.factor);
 }
 

@@ -13,6 +13,7 @@
 #include <QSlider>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "platform/controls.h"
 #include "platform/qt/accessible.h"
@@ -95,6 +96,8 @@ class PressWidget : public QAbstractButton, public Dressed {
   std::function<bool(int key)> move_focus;
 
   void SetImage(const PictureId& image);
+  void SetNumber(int number);
+  void SetMarks(const std::vector<AnswerMark>& marks);
   QColor Ground() const override;
   QColor Ink() const override;
 
@@ -108,9 +111,13 @@ class PressWidget : public QAbstractButton, public Dressed {
  private:
   void PaintTile(QPainter& painter);
   void PaintButton(QPainter& painter);
+  void PaintNumber(QPainter& painter);
+  void PaintMarks(QPainter& painter);
   QColor Edge() const;
 
   PictureId image_;
+  int number_ = 0;
+  std::vector<AnswerMark> marks_;
 };
 
 /// A label, or a panel that shows a result.

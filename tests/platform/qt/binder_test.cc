@@ -171,6 +171,67 @@ TEST_F(Binder, ShowsTheColoursThatTheProgramSets) {
   EXPECT_EQ(Middle(widget), QColor(0, 192, 0));
 }
 
+TEST_F(Binder, DrawsTicksAndCrossesOnWhatWasPressed) {
+  form_.panel.Click = [] {};
+  for (const Look look : {Look::kTile, Look::kLarge}) {
+    auto& widget = Show<PressWidget>(form_.panel, look);
+    const auto pixels = [&widget](const QColor& color) {
+      const QImage image = widget.grab().toImage();
+      int found = 0;
+      for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) found += image.pixelColor(x, y) == color ? 1 : 0;
+      }
+      return found;
+    };
+    EXPECT_EQ(pixels(look::kTick) + pixels(look::kCross), 0);
+    form_.panel.marks = {{AnswerMark::Kind::kTick, 0}};
+    Refresh();
+    EXPECT_GT(pixels(look::kTick), 30);
+    EXPECT_EQ(pixels(look::kCross), 0);
+    form_.panel.marks = {{AnswerMark::Kind::kCross, 1}, {AnswerMark::Kind::kTick, 2}};
+    Refresh();
+    EXPECT_GT(pixels(look::kTick), 30);
+    EXPECT_GT(pixels(look::kCross), 30);
+    form_.panel.marks.clear();
+    Refresh();
+    EXPECT_EQ(pixels(look::kTick) + pixels(look::kCross), 0);
+    bindings_.clear();
+  }
+}
+
+TEST_F(Binder, WritesItsNumberOnATile) {
+  form_.panel.Click = [] {};
+  form_.panel.back_color = Colors::kGrey;
+  auto& widget = Show<PressWidget>(form_.panel, Look::kTile);
+  const QImage bare = widget.grab().toImage();
+  form_.panel.number = 17;
+  Refresh();
+  const QImage numbered = widget.grab().toImage();
+  EXPECT_NE(bare, numbered);
+  const QRect middle = numbered.rect().adjusted(20, 0, 0, -16);
+  EXPECT_EQ(bare.copy(middle), numbered.copy(middle)) << "in its corner";
+}
+
+TEST_F(Binder, GoesPastEmptyEntriesByTheArrowKeysAndTakesThemByMouse) {
+  form_.list.Add("eins", 1);
+  form_.list.AddEmpty("---", 2);
+  form_.list.Add("drei", 3);
+  form_.list.Select(0);
+  auto& combo = Show<DropDownWidget>(form_.list);
+  const auto press = [&](Qt::Key key) {
+    QTest::keyClick(&combo, key);
+    Refresh();
+    return form_.list.list_index();
+  };
+  EXPECT_EQ(press(Qt::Key_Down), 2);
+  EXPECT_EQ(combo.currentIndex(), 2);
+  EXPECT_EQ(press(Qt::Key_Down), 2);
+  EXPECT_EQ(press(Qt::Key_Up), 0);
+  EXPECT_EQ(press(Qt::Key_Up), 0);
+  emit combo.activated(1);
+  EXPECT_EQ(form_.list.list_index(), 1);
+}
+
 TEST_F(Binder, HidesAndShowsAsTheProgramSays) {
   auto& widget = Show<QWidget>(form_.label);
   EXPECT_TRUE(widget.isVisible());
