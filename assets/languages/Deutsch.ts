@@ -981,6 +981,10 @@
         <source></source>
         <translation>Es ist ein Fehler aufgetreten, mit dem das Programm nicht gerechnet hat (%1). Er steht im Protokoll; Sie können weitermachen. Bitte schicken Sie den Fehlerbericht aus dem Protokoll ein.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>Der Test ist noch nicht zu Ende. Soll er ohne Ergebnis abgebrochen werden?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Klang wird vorbereitet …</translation>

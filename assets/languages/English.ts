@@ -981,6 +981,10 @@
         <source></source>
         <translation>An error has occurred that the program did not expect (%1). It is in the log; you can go on. Please send the fault report from the log.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>The test is not over yet. End it without results?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Preparing the sound ...</translation>

@@ -981,6 +981,10 @@
         <source></source>
         <translation>Se ha producido un error que el programa no esperaba (%1). Está en el registro; puede continuar. Envíe el informe de error del registro.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>El test aún no ha terminado. ¿Abandonarlo sin resultados?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Preparando el sonido…</translation>

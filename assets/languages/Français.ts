@@ -981,6 +981,10 @@
         <source></source>
         <translation>Une erreur que le programme n’attendait pas est survenue (%1). Elle figure dans le journal ; vous pouvez continuer. Veuillez envoyer le rapport d’erreur depuis le journal.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>Le test n’est pas terminé. L’abandonner sans résultats ?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Préparation du son…</translation>

@@ -981,6 +981,10 @@
         <source></source>
         <translation>Si è verificato un errore che il programma non prevedeva (%1). È nel registro; puoi continuare. Invia il rapporto di errore preso dal registro.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>Il test non è ancora finito. Interromperlo senza risultati?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Preparazione del suono…</translation>

@@ -981,6 +981,10 @@
         <source></source>
         <translation>Er is een fout opgetreden waarop het programma niet rekende (%1). Ze staat in het logboek; u kunt doorgaan. Stuur het foutrapport uit het logboek op.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>De test is nog niet afgelopen. Afbreken zonder resultaten?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Geluid wordt voorbereid…</translation>

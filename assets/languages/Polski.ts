@@ -981,6 +981,10 @@
         <source></source>
         <translation>Wystąpił błąd, którego program nie przewidział (%1). Jest w dzienniku; możesz kontynuować. Wyślij raport o błędzie z dziennika.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>Test jeszcze się nie skończył. Przerwać go bez wyników?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Przygotowywanie dźwięku…</translation>

@@ -981,6 +981,10 @@
         <source></source>
         <translation>Ocorreu um erro que o programa não esperava (%1). Está no histórico; você pode continuar. Envie o relatório de erro do histórico.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>O teste ainda não terminou. Abandoná-lo sem resultados?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>A preparar o som…</translation>

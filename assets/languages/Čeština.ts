@@ -981,6 +981,10 @@
         <source></source>
         <translation>Došlo k chybě, se kterou program nepočítal (%1). Je v protokolu; můžete pokračovat. Pošlete prosím hlášení o chybě z protokolu.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>Test ještě neskončil. Ukončit ho bez výsledků?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Zvuk se připravuje…</translation>

@@ -981,6 +981,10 @@
         <source></source>
         <translation>Произошла ошибка, которой программа не ожидала (%1). Она записана в журнал; можно продолжать. Отправьте отчёт об ошибке из журнала.</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>Тест ещё не закончен. Прервать его без результатов?</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>Подготовка звука…</translation>

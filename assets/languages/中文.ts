@@ -981,6 +981,10 @@
         <source></source>
         <translation>发生了程序未预料到的错误（%1）。该错误已记入日志，您可以继续。请发送日志中的错误报告。</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>测验尚未结束。要放弃测验（不显示结果）吗？</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>正在准备声音……</translation>

@@ -981,6 +981,10 @@
         <source></source>
         <translation>予期しないエラーが発生しました（%1）。ログに記録しました。そのまま続けられます。ログから障害報告をお送りください。</translation>
     </message>
+    <message id="9502s">
+        <source></source>
+        <translation>テストはまだ終わっていません。結果なしで終了しますか？</translation>
+    </message>
     <message id="9531s">
         <source></source>
         <translation>音を準備しています…</translation>

@@ -68,12 +68,12 @@ void Program::OpenWorksheet() {
   arbeitsblatt1_->visible = false;
 }
 
-void Program::OpenResults(std::function<void(const std::string&)> closed) {
+void Program::OpenResults(RunEnd end, std::function<void(const std::string&)> closed) {
   if (testergebnis_ || !einstellung1_ || !grd_einst_) return;
   Load(testergebnis_, shell_,
        Testergebnis::Parts{settings_, board_, pictures_, counters_, *einstellung1_, *grd_einst_,
                            platform_.printer},
-       std::move(closed));
+       end, std::move(closed));
 }
 
 void Program::ShowFirstScreen() {

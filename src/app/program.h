@@ -77,7 +77,7 @@ class Program : private Navigation {
  private:
   void OpenSettings() override;
   void OpenWorksheet() override;
-  void OpenResults(std::function<void(const std::string&)> closed) override;
+  void OpenResults(RunEnd end, std::function<void(const std::string&)> closed) override;
   void ShowFirstScreen() override;
   void ShowSettings() override;
 

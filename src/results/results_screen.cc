@@ -15,6 +15,8 @@ namespace {
 // The worksheet's sign that the results are on their way is to be seen for this long.
 constexpr int kStartIntervall = 300;
 constexpr int kTestIntervall = 2000;
+// Whoever was about to press a tile presses whatever has come in its place.
+constexpr int kSchonfrist = 1000;
 
 constexpr int kZellenJeZeile = 8;
 constexpr int kKurzName = 10;  // of a group whose name is too long for a cell
@@ -37,18 +39,21 @@ const Raster& RasterFuer(int letzter_klangtyp) {
 
 }  // namespace
 
-Testergebnis::Testergebnis(Shell& shell, const Parts& parts,
+Testergebnis::Testergebnis(Shell& shell, const Parts& parts, RunEnd end,
                            std::function<void(const std::string&)> closed)
     : Form("testergebnis"),
       start(*this, shell.loop, "start", kStartIntervall),
       testtimer(*this, shell.loop, "testtimer", kTestIntervall),
+      schonfrist(*this, shell.loop, "schonfrist", kSchonfrist),
       shell_(shell),
       parts_(parts),
+      end_(end),
       closed_(std::move(closed)) {
   StelleInRahmen();
   Verdrahte();
   cmdHilfe.caption = "?";
   datum.visible = false;
+  zeit_um.visible = false;
   gr_einst.visible = false;
   einst_cont.visible = false;
 }
@@ -61,7 +66,8 @@ void Testergebnis::StelleInRahmen() {
     akk_group[e].container = &erg_cont;
     ergebnis[e].container = &erg_cont;
   }
-  for (Control* control : std::initializer_list<Control*>{&lab_ges, &ergebnis[0], &datum}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&lab_ges, &ergebnis[0], &datum, &zeit_um}) {
     control->container = &erg_cont;
   }
   grd_einst_head.container = &gr_einst;
@@ -85,6 +91,7 @@ void Testergebnis::StelleInRahmen() {
 void Testergebnis::Verdrahte() {
   start.Fire = [this] { start_Timer(); };
   testtimer.Fire = [this] { testtimer_Timer(); };
+  schonfrist.Fire = [this] { schonfrist_Timer(); };
   for (int i : {0, 1}) {
     cmdOK[i].Click = [this, i] { cmdOK_Click(i); };
     cmdPrint[i].Click = [this, i] { cmdPrint_Click(i); };
@@ -127,8 +134,21 @@ void Testergebnis::BaueAuf() {
   BaueRaster();
   SetzeTexte();
   ZeigeErgebnisse();
+  if (end_ == RunEnd::kTimeUp) MeldeZeitUm();
   visible = true;
   Say(lab_ges.caption + shell_.texts.Sprachtext(700) + " " + ergebnis[0].caption);
+}
+
+void Testergebnis::MeldeZeitUm() {
+  zeit_um.caption = shell_.texts.Words({9728, "Time is up", {}});
+  zeit_um.visible = true;
+  PicSchalt[0].enabled = false;
+  schonfrist.Enable();
+}
+
+void Testergebnis::schonfrist_Timer() {
+  schonfrist.Disable();
+  PicSchalt[0].enabled = true;
 }
 
 void Testergebnis::BaueRaster() {

@@ -14,6 +14,7 @@
 #include "settings/settings_record.h"
 #include "settings/settings_screen.h"
 #include "shell/first_screen.h"
+#include "shell/navigation.h"
 #include "shell/shell.h"
 
 namespace vmod17 {
@@ -40,7 +41,8 @@ class Testergebnis : public Form {
 
   /// `closed` is told when the screen has gone, with the tag of `cmdOK(1)`: "OK" when all went
   /// well.
-  Testergebnis(Shell& shell, const Parts& parts, std::function<void(const std::string&)> closed);
+  Testergebnis(Shell& shell, const Parts& parts, RunEnd end,
+               std::function<void(const std::string&)> closed);
 
   Frame erg_cont{*this, "erg_cont"};
   ControlArray<Picture> Akkbez{*this, "Akkbez", 1, kBrettGroesse};
@@ -50,6 +52,7 @@ class Testergebnis : public Form {
   Label lab_ges{*this, "lab_ges"};
   ControlArray<Label> ergebnis{*this, "ergebnis", 0, kBrettGroesse};
   Label datum{*this, "datum"};
+  Label zeit_um{*this, "zeit_um"};
   Frame gr_einst{*this, "gr_einst"};
   Label grd_einst_head{*this, "grd_einst_head"};
   ControlArray<Label> g_einst_lab{*this, "g_einst_lab", 0, kGrundZeilen - 1};
@@ -64,6 +67,7 @@ class Testergebnis : public Form {
   Button cmdHilfe{*this, "cmdHilfe"};
   Timer start;
   Timer testtimer;
+  Timer schonfrist;  ///< while it runs the first face takes no key
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -71,6 +75,7 @@ class Testergebnis : public Form {
 
   void start_Timer();
   void testtimer_Timer();
+  void schonfrist_Timer();
   void cmdOK_Click(int index);
   void cmdPrint_Click(int index);
   void cmdHilfe_Click();
@@ -79,6 +84,7 @@ class Testergebnis : public Form {
   void StelleInRahmen();
   void Verdrahte();
   void BaueAuf();
+  void MeldeZeitUm();
 
   void BaueRaster();
   void BaueZelle(int e);
@@ -104,6 +110,7 @@ class Testergebnis : public Form {
 
   Shell& shell_;
   Parts parts_;
+  RunEnd end_;
   std::function<void(const std::string&)> closed_;
 };
 

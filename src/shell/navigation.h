@@ -8,6 +8,12 @@
 
 namespace vmod17 {
 
+/// How a run came to its results.
+enum class RunEnd {
+  kLeft,   ///< the student went to them
+  kTimeUp  ///< they came by themselves
+};
+
 /// The way from screen to screen. A screen is opened in two moves: the opener hides itself and asks
 /// for the next one, which is loaded hidden and shows itself when it has built itself.
 class Navigation {
@@ -20,7 +26,7 @@ class Navigation {
   virtual void OpenWorksheet() = 0;
   /// Opens the results screen in front of the worksheet. `closed` is told when it has gone, with
   /// its verdict on itself: "OK", or another word when a part of it could not be shown.
-  virtual void OpenResults(std::function<void(const std::string& tag)> closed) = 0;
+  virtual void OpenResults(RunEnd end, std::function<void(const std::string& tag)> closed) = 0;
   /// Show a screen that waits hidden.
   virtual void ShowFirstScreen() = 0;
   virtual void ShowSettings() = 0;

@@ -296,7 +296,7 @@ void Arbeitsblatt1::zurueck_Click() {
     zurueck.back_color = Colors::kMagenta;
     zurueck.fore_color = Colors::kBlack;
     zurueck.caption = shell_.texts.Sprachtext(640);
-    OeffneErgebnisse();
+    OeffneErgebnisse(RunEnd::kLeft);
     return;
   }
   if (IstZuSichern()) BieteSichernAn();
@@ -317,9 +317,9 @@ void Arbeitsblatt1::HalteAn() {
 
 /// The results stand in front of the worksheet, which is out of reach meanwhile and leaves with
 /// them.
-void Arbeitsblatt1::OeffneErgebnisse() {
+void Arbeitsblatt1::OeffneErgebnisse(RunEnd end) {
   enabled = false;
-  shell_.navigation.OpenResults([this](const std::string& tag) {
+  shell_.navigation.OpenResults(end, [this](const std::string& tag) {
     if (tag != "OK") zurueck.tag = "ERROR";
     Verlasse();
   });

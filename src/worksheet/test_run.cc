@@ -3,6 +3,9 @@
 
 // A test and an exam: a fixed number of tasks in a limited time.
 
+#include <string>
+#include <utility>
+
 #include "shell/numbers.h"
 #include "worksheet/worksheet_screen.h"
 
@@ -73,7 +76,24 @@ void Arbeitsblatt1::BeendeTestNachZeit() {
   Say(shell_.texts.Words({9728, "Time is up", {}}));
   BeendeAufzeichnung();
   // Events are served while the record is saved: the program may have been ended in them.
-  if (loaded()) OeffneErgebnisse();
+  if (!loaded()) return;
+  if (ende_gefragt_) shell_.messages.Withdraw();
+  OeffneErgebnisse(RunEnd::kTimeUp);
+}
+
+bool Arbeitsblatt1::TestLaeuft() const {
+  return visible && IstTest() && run_.lauf_status != LaufStatus::kTestZuEnde;
+}
+
+/// A key or the window's cross is pressed by mistake more easily than a button, and a test that is
+/// left has no results. The time goes on meanwhile.
+bool Arbeitsblatt1::WillTestBeenden() {
+  if (std::exchange(ende_gefragt_, true)) return false;
+  const std::string frage =
+      shell_.texts.Words({9502, "The test is not over yet. End it without results?", {}});
+  const MessageBox::Answer answer = shell_.messages.Ask(frage, caption, MessageBox::Answer::kNo);
+  ende_gefragt_ = false;
+  return answer == MessageBox::Answer::kYes;
 }
 
 }  // namespace vmod17

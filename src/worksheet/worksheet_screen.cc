@@ -143,7 +143,8 @@ void Arbeitsblatt1::Form_Unload() {
 }
 
 void Arbeitsblatt1::Form_Close() {
-  if (zurueck.enabled) zurueck_Click();
+  if (!zurueck.enabled || (TestLaeuft() && !WillTestBeenden())) return;
+  zurueck_Click();
 }
 
 void Arbeitsblatt1::start_Timer() {

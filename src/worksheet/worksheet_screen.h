@@ -147,7 +147,7 @@ class Arbeitsblatt1 : public Form {
   void BieteWeiterAn();
   void NimmAngebotZurueck();
   void HalteAn();
-  void OeffneErgebnisse();
+  void OeffneErgebnisse(RunEnd end);
   void BeendeAufzeichnung();
   void Verlasse();
   void MeldeEnde();
@@ -219,6 +219,8 @@ class Arbeitsblatt1 : public Form {
   void SetzeTestzeitFort();
   void ZeigeRestzeit();
   void BeendeTestNachZeit();
+  bool TestLaeuft() const;
+  bool WillTestBeenden();
 
   bool IstTraining() const { return parts_.settings.IstTraining(); }
   bool IstFortsetzung() const { return parts_.settings.uebmodus == kModusFortsetzung; }
@@ -238,6 +240,7 @@ class Arbeitsblatt1 : public Form {
   Scoring scoring_;
   StoredTraining fortsetzung_;      ///< what a continued training was stored as
   bool sichern_gefragt_ = false;    ///< the question whether to save stands
+  bool ende_gefragt_ = false;       ///< the question whether to end the test stands
   bool aufzeichnung_offen_ = true;  ///< the record still waits for its end
   std::unique_ptr<MidiEvent> midi_ereignis;
 };

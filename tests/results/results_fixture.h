@@ -29,10 +29,11 @@ class ResultsFixture : public ModeFixture {
   using ModeFixture::ModeFixture;
   using Choose = std::function<void(Einstellung1&)>;
 
-  /// To the results of a test whose time is up before anything was answered.
+  /// To the results of a test whose time is up before anything was answered, once they take keys.
   void ToResults(const Choose& choose = {}, int uebmodus = kTest) {
     ToResultsPending(choose, uebmodus);
     loop.Advance(300);
+    loop.Advance(results().schonfrist.interval);
   }
   /// The same, but the screen has not been set up yet.
   void ToResultsPending(const Choose& choose = {}, int uebmodus = kTest) {

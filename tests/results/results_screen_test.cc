@@ -569,6 +569,7 @@ TEST(ResultsScreen, IsNewForEveryRun) {
   p.loop.Advance(300);
   Testergebnis& r = p.results();
   EXPECT_TRUE(r.erg_cont.visible);
+  p.loop.Advance(r.schonfrist.interval);
   EXPECT_TRUE(r.cmdPrint[0].Reachable());
   EXPECT_NE(r.ergebnis[1].back_color, Rgb(255, 255, 255));
   ExpectGrid(p, {204, 40, 120});
@@ -684,6 +685,7 @@ class OpenedResults : public Stage {
   std::vector<std::string> told;
   Testergebnis results{shell,
                        {settings, board, pictures, counters, einstellung, first_screen, printer},
+                       RunEnd::kLeft,
                        [this](const std::string& tag) { told.push_back(tag); }};
 };
 

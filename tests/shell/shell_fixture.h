@@ -41,7 +41,9 @@ class RecordingNavigation : public Navigation {
 
   void OpenSettings() override { Note("OpenSettings"); }
   void OpenWorksheet() override { Note("OpenWorksheet"); }
-  void OpenResults(std::function<void(const std::string&)>) override { Note("OpenResults"); }
+  void OpenResults(RunEnd, std::function<void(const std::string&)>) override {
+    Note("OpenResults");
+  }
   void ShowFirstScreen() override { Note("ShowFirstScreen"); }
   void ShowSettings() override { Note("ShowSettings"); }
 

@@ -137,6 +137,7 @@ class ModeFixture : public WorksheetFixture {
     ASSERT_NE(program.testergebnis(), nullptr);
     loop.Advance(300);
     ASSERT_TRUE(results().visible);
+    if (results().zeit_um.visible) loop.Advance(results().schonfrist.interval);
     EXPECT_TRUE(results().cmdOK[0].Press());
     EXPECT_TRUE(results().cmdOK[1].Press());
   }

@@ -863,6 +863,12 @@ TEST(Leaving, SavesTheRecordOnceInEveryModeFromEveryState) {
           const bool asked = training && p.run().schalter_zaehler > 0;
           p.messages.answer = answer;
           way.go(p);
+          // A test asks before the window ends it; what a Yes does is a leaving like the others.
+          if (modus >= kTest && way.go == CloseWindow) {
+            EXPECT_EQ(p.messages.questions.size(), 1u);
+            p.messages.questions.clear();
+            if (answer == MessageBox::Answer::kNo) continue;
+          }
           ASSERT_EQ(p.program.arbeitsblatt1(), nullptr);
           EXPECT_EQ(p.messages.questions.size(), asked ? 1u : 0u);
           EXPECT_EQ(p.host.Sent("STORE"), asked && answer == MessageBox::Answer::kYes ? 2 : 0);

@@ -42,7 +42,7 @@ class ShellHarness : public Navigation {
 
   void OpenSettings() override {}
   void OpenWorksheet() override {}
-  void OpenResults(std::function<void(const std::string&)>) override {}
+  void OpenResults(RunEnd, std::function<void(const std::string&)>) override {}
   void ShowFirstScreen() override {}
   void ShowSettings() override { ++settings_shown; }
 };

@@ -223,6 +223,59 @@ TEST(TestRun, ShowsNoResultsWhenItIsLeftBefore) {
   }
 }
 
+TEST(TestRun, AsksBeforeItIsEndedByAKeyOrByTheWindow) {
+  for (const int modus : kBothModes) {
+    ModeFixture p;
+    p.BeginMode(modus);
+    p.PlayTask();
+    p.messages.answer = MessageBox::Answer::kNo;
+    p.worksheet().Form_Close();
+    ASSERT_EQ(p.messages.questions.size(), 1u);
+    EXPECT_EQ(p.messages.questions[0].title, "[348s]");
+    EXPECT_EQ(p.messages.preselected, MessageBox::Answer::kNo);
+    ASSERT_NE(p.program.arbeitsblatt1(), nullptr);
+    EXPECT_NE(p.Right(), 0) << "the test goes on";
+    EXPECT_EQ(p.documents.Latest().saves, 0);
+
+    p.messages.answer = MessageBox::Answer::kYes;
+    p.worksheet().Form_Close();
+    EXPECT_EQ(p.messages.questions.size(), 2u);
+    EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+    EXPECT_EQ(p.program.testergebnis(), nullptr);
+    EXPECT_EQ(p.documents.Latest().saves, 1);
+  }
+}
+
+TEST(TestRun, AsksOnceAtATime) {
+  ModeFixture p;
+  p.BeginMode(kPruefung);
+  p.messages.while_asked = [&] { p.worksheet().Form_Close(); };
+  p.worksheet().Form_Close();
+  EXPECT_EQ(p.messages.questions.size(), 1u);
+  EXPECT_NE(p.program.arbeitsblatt1(), nullptr);
+}
+
+TEST(TestRun, GoesToItsResultsWithoutAQuestionOnceItIsFinished) {
+  ModeFixture p;
+  p.BeginMode(kTest, Chords(4));
+  p.FinishTest();
+  p.worksheet().Form_Close();
+  EXPECT_THAT(p.messages.questions, IsEmpty());
+  p.PassResults();
+}
+
+TEST(TestRun, CanBeCutOffFromOutsideWhileItAsks) {
+  ModeFixture p;
+  p.BeginMode(kPruefung);
+  p.PlayTask();
+  p.messages.answer = MessageBox::Answer::kYes;
+  p.messages.while_asked = [&] { p.program.Leave(); };
+  p.worksheet().Form_Close();
+  EXPECT_TRUE(p.ended);
+  EXPECT_EQ(p.documents.Latest().saves, 1);
+  EXPECT_TRUE(p.view.forms.empty());
+}
+
 // ---- The time -----------------------------------------------------------------------------------
 
 /// A test, and the moment at which its time is up.
@@ -427,6 +480,72 @@ TEST(TestTime, ClosedByTheWindowWhileTheResultsAreComingSavesNothingTwice) {
   p.worksheet().Form_Close();
   EXPECT_NE(p.program.arbeitsblatt1(), nullptr);
   ExpectTimeUp(p, "closed");
+}
+
+TEST(TestTime, GoesOnWhileAQuestionStandsAndThenTheAnswerMeansNothing) {
+  for (const auto answer : {MessageBox::Answer::kYes, MessageBox::Answer::kNo}) {
+    TimedTest p(kPruefung);
+    p.PlayTask();
+    p.UntilBeforeEnd(500);
+    p.messages.answer = answer;
+    p.messages.while_asked = [&] {
+      while (p.loop.Elapsed() < p.end() - 150) p.loop.WaitForEvent(100);
+      EXPECT_EQ(p.messages.withdrawn, 0);
+      while (p.loop.Elapsed() < p.end() + 400) p.loop.WaitForEvent(100);
+      EXPECT_EQ(p.messages.withdrawn, 1);
+      EXPECT_TRUE(p.results().visible);
+    };
+    p.worksheet().Form_Close();
+    ASSERT_EQ(p.messages.questions.size(), 1u);
+    p.messages.questions.clear();
+    ExpectTimeUp(p, "a question stands");
+  }
+}
+
+TEST(TestTime, WithdrawsNoQuestionWhereNoneStands) {
+  TimedTest p(kTest);
+  p.UntilBeforeEnd(0);
+  EXPECT_EQ(p.messages.withdrawn, 0);
+}
+
+TEST(TestTime, IsSaidToBeUpByTheResultsThatComeByThemselves) {
+  for (const int modus : kBothModes) {
+    TimedTest p(modus);
+    p.PlayTask();
+    p.UntilBeforeEnd(0);
+    p.loop.Advance(300);
+    EXPECT_TRUE(p.results().zeit_um.visible);
+    EXPECT_EQ(p.results().zeit_um.caption, "[9728s]");
+    p.PassResults();
+  }
+}
+
+TEST(TestTime, LeavesAKeyForATileWithoutEffectOnTheResults) {
+  TimedTest p(kTest);
+  p.PlayTask();
+  p.UntilBeforeEnd(0);
+  p.loop.Advance(300);
+  Testergebnis& results = p.results();
+  ASSERT_TRUE(results.visible);
+  p.loop.Advance(999);
+  for (Button* button : {&results.cmdOK[0], &results.cmdPrint[0]}) EXPECT_FALSE(button->Press());
+  EXPECT_TRUE(results.erg_cont.visible);
+  p.loop.Advance(1);
+  EXPECT_TRUE(results.cmdPrint[0].Reachable());
+  EXPECT_TRUE(results.cmdOK[0].Press());
+  EXPECT_TRUE(results.einst_cont.visible);
+  EXPECT_TRUE(results.cmdOK[1].Press());
+  EXPECT_EQ(p.loop.timers(), 0);
+}
+
+TEST(TestTime, IsNoMatterOfTheResultsOfAFinishedTest) {
+  ModeFixture p;
+  p.BeginMode(kTest, Chords(4));
+  p.FinishTest();
+  EXPECT_TRUE(p.worksheet().zurueck.Press());
+  p.loop.Advance(300);
+  EXPECT_FALSE(p.results().zeit_um.visible);
+  EXPECT_TRUE(p.results().cmdOK[0].Press());
 }
 
 TEST(TestTime, LetsTheProgramBeLeftFromTheResults) {

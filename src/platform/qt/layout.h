@@ -59,10 +59,12 @@ struct Placement {
   double head = 0;  ///< of a frame: where it begins what the program places in it
 };
 
-/// What a key does: it presses the first of the controls that can be reached.
+/// What a key does: it presses the first of the controls that can be reached, or closes the screen
+/// as the window's cross does while one of them can be reached.
 struct KeyBinding {
   QKeySequence keys;
   std::vector<std::string> controls;
+  bool closes = false;
 };
 
 /// A card that the page draws behind a frame and that may reach beyond it.

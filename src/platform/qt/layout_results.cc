@@ -70,12 +70,22 @@ Backdrop CardIn(const std::string& control, const QRectF& frame, const QRectF& c
 
 void FillHeader(Layout& layout, const Form& form, const Sheet& sheet) {
   const bool dated = Visible(form, "erg_cont") && Visible(form, "datum");
+  const bool time_up = Visible(form, "zeit_um");
+  const bool two_lines = dated || (Visible(form, "erg_cont") && time_up);
   const QRectF inside = sheet.header.adjusted(kEdge, 0, -kEdge, 0);
-  layout.title = QRectF(inside.left(), inside.top() + (dated ? 4 : 0), 600, dated ? 34 : kHeader);
+  layout.title =
+      QRectF(inside.left(), inside.top() + (two_lines ? 4 : 0), 600, two_lines ? 34 : kHeader);
   layout.title_text = 20;
   layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
   layout.places["datum"] = {
-      .rect = QRectF(inside.left(), inside.top() + 36, 600, 18), .look = Look::kQuiet, .text = 13};
+      .rect = QRectF(inside.left(), inside.top() + 36, time_up ? 250 : 600, 18),
+      .look = Look::kQuiet,
+      .text = 13};
+  layout.places["zeit_um"] = {
+      .rect = QRectF(inside.left() + (dated ? 260 : 0), inside.top() + 35, dated ? 340 : 600, 20),
+      .look = Look::kHint,
+      .text = 15,
+      .bold = true};
   layout.places["lab_ges"] = {
       .rect = QRectF(inside.right() - 130 - 14 - 200, inside.top(), 200, kHeader),
       .text = 17,

@@ -237,7 +237,7 @@ void FillKeys(Layout& layout) {
   layout.keys = {{QKeySequence(Qt::Key_N), {"CmdNextAufg"}},
                  {QKeySequence(Qt::Key_R), {"wieder"}},
                  {QKeySequence(Qt::Key_K), {"wieder2"}},
-                 {QKeySequence(Qt::Key_Escape), {"zurueck"}}};
+                 {QKeySequence(Qt::Key_Escape), {"zurueck"}, true}};
   for (int i = 1; i <= kTiles; ++i) {
     layout.keys.push_back({QKeySequence(kAnswerKeys[static_cast<std::size_t>(i - 1)]),
                            {IdOf("jz_kl", i), IdOf("akk_group", i)}});

@@ -255,18 +255,24 @@ bool Page::HandleKey(const QKeyEvent& event) {
   const bool menu_key = event.key() == Qt::Key_Menu ||
                         (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
   if (menu_key) return AskMenuOf(FrameWithFocus(), QPoint(-1, -1));
-  std::vector<std::string> ids;
+  KeyBinding meant;
   const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  if (enter && !layout_.default_control.empty()) ids = {layout_.default_control};
+  if (enter && !layout_.default_control.empty()) {
+    meant.controls = {layout_.default_control};
+  }
   const QKeySequence pressed(event.key() |
                              static_cast<int>(event.modifiers().toInt() & ~Qt::KeypadModifier));
   for (const KeyBinding& key : layout_.keys) {
-    if (key.keys == pressed) ids = key.controls;
+    if (key.keys == pressed) meant = key;
   }
-  for (const std::string& id : ids) {
+  for (const std::string& id : meant.controls) {
     Pressable* const control = PressableOf(id);
     if (control == nullptr || !control->Reachable()) continue;
-    Deliver([control] { control->Press(); });
+    if (meant.closes) {
+      Deliver([form = form_] { form->Form_Close(); });
+    } else {
+      Deliver([control] { control->Press(); });
+    }
     return true;
   }
   return false;

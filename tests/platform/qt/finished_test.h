@@ -37,4 +37,14 @@ inline void ToResults(ProgramFixture& p) {
   ASSERT_TRUE(p.results().visible);
 }
 
+/// The same for a test whose time runs out; the results have just come.
+inline void RunOutOfTime(ProgramFixture& p) {
+  p.settings_screen().training_Combo.Select(3);
+  p.StartRun();
+  p.loop.Advance(p.run().test.rest_sek * 1000.0);
+  ASSERT_NE(p.program.testergebnis(), nullptr);
+  p.loop.Advance(300);
+  ASSERT_TRUE(p.results().visible);
+}
+
 }  // namespace vmod17

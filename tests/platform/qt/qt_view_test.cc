@@ -255,6 +255,21 @@ TEST_F(QtViewTest, RepeatsByKeyAndLeavesByEscape) {
   EXPECT_TRUE(p_.settings_screen().visible);
 }
 
+TEST_F(QtViewTest, AsksBeforeEscapeEndsATest) {
+  p_.ToSettings();
+  p_.settings_screen().training_Combo.Select(3);
+  p_.StartRun();
+  Attach(p_.worksheet());
+  p_.messages.answer = MessageBox::Answer::kNo;
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(p_.messages.questions.size(), 1u);
+  EXPECT_TRUE(p_.worksheet().visible);
+  p_.messages.answer = MessageBox::Answer::kYes;
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(p_.messages.questions.size(), 2u);
+  EXPECT_TRUE(p_.settings_screen().visible);
+}
+
 TEST_F(QtViewTest, WalksTheWorksheetByTabAsTheEyeDoes) {
   ToWorksheet();
   Key(Qt::Key_N);

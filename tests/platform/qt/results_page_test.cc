@@ -49,6 +49,16 @@ TEST_P(ResultsIn, ShowsBothFacesWholeBeforeAndAfterTheyArePrinted) {
   ExpectWellLaidOut(p_.results());
 }
 
+TEST_P(ResultsIn, SayThatTimeIsUpAlsoOnPaper) {
+  RunOutOfTime(p_);
+  EXPECT_TRUE(p_.results().zeit_um.visible);
+  ExpectWellLaidOut(p_.results());
+  p_.loop.Advance(1000);
+  ExpectWellLaidOut(p_.results());
+  EXPECT_TRUE(p_.results().cmdPrint[0].Press());
+  ExpectWellLaidOut(p_.results());
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, ResultsIn,
                          testing::Combine(testing::ValuesIn(LocalesOfTheProgram()),
                                           testing::Values(0, 1)),
@@ -167,6 +177,31 @@ class ResultsPage : public testing::Test {
   QtEventLoop qt_loop_;
   QtView view_{qt_loop_};
 };
+
+TEST(ResultsOfATestThatRanOutOfTime, TakeNoKeyAndNoClickInTheirFirstSecond) {
+  ProgramFixture p;
+  p.ToSettings();
+  RunOutOfTime(p);
+  QtEventLoop loop;
+  QtView view{loop};
+  loop.after_event = [&] { view.Refresh(); };
+  view.Attach(p.results());
+  view.Refresh();
+  QCoreApplication::processEvents();
+  QWidget& window = *view.Window();
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape}) {
+    QTest::keyClick(window.focusWidget(), key);
+  }
+  auto& button = *view.page()->findChild<QWidget*>("cmdOK(0)");
+  QTest::mouseClick(&button, Qt::LeftButton);
+  EXPECT_TRUE(p.results().erg_cont.visible);
+  p.loop.Advance(1000);
+  view.Refresh();
+  EXPECT_EQ(window.focusWidget(), &button);
+  QTest::keyClick(window.focusWidget(), Qt::Key_Space);
+  EXPECT_TRUE(p.results().einst_cont.visible);
+  view.Detach(p.results());
+}
 
 TEST_F(ResultsPage, SaysACellAsSymbolGroupAndPercentage) {
   for (int e = 1; e <= p_.program.board().akk_zahl; ++e) {
