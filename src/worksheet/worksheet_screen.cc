@@ -137,7 +137,12 @@ void Arbeitsblatt1::Form_Unload() {
   const int letzter = parts_.settings.klangfarb_art == 0 ? 0 : ModMIDI::kKanaele - 1;
   for (int kanal = 0; kanal <= letzter; ++kanal) {
     parts_.settings.klang_kanal = kanal;
-    parts_.einstellung1.SetzeKlangfarbe(parts_.settings.patch_ar[kanal], kanal);
+    if (kanal == 0) {
+      parts_.einstellung1.SetzeKlangfarbe(parts_.settings.patch_ar[0], 0);
+    } else {
+      // Sends the timbre of the voice, and shows that it is the one that is edited.
+      parts_.einstellung1.Channel_Combo.Select(kanal - 1);
+    }
   }
   BeendeAufzeichnung();
 }

@@ -688,6 +688,54 @@ TEST(Leaving, InThePauseOfARepeatDoesNotCountTheRepeat) {
   EXPECT_EQ(p.output.starts, 1);
 }
 
+TEST(Leaving, InThePauseOfARepeatLeavesTheOutputToWhoeverComesNext) {
+  for (const bool control : {false, true}) {
+    WorksheetFixture p;
+    p.Begin();
+    p.PlayTask();
+    if (control) p.FinishTask();
+    std::size_t told = 0;
+    p.AtMoment(1, [&] {
+      Leave(p);
+      told = p.output.befehle.size();
+    });
+    EXPECT_TRUE(control ? p.worksheet().wieder2.Press() : p.worksheet().wieder.Press());
+    EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+    EXPECT_EQ(p.output.befehle.size(), told) << (control ? "control repeat" : "repeat");
+  }
+}
+
+TEST(Leaving, SetsTheTimbresAgainAndEditsTheLastOfThem) {
+  WorksheetFixture one;
+  one.Begin();
+  one.settings().klang_kanal = 3;
+  Leave(one);
+  EXPECT_EQ(one.settings().klang_kanal, 0);
+
+  WorksheetFixture several;
+  several.ToSettings();
+  several.settings_screen().kl_farb.Choose(1);
+  several.StartRun();
+  const auto voices = several.settings().patch_ar;
+  Leave(several);
+  EXPECT_EQ(several.settings().klang_kanal, 7);
+  EXPECT_EQ(several.settings().patch_ar, voices);
+}
+
+TEST(Leaving, ShowsTheVoiceThatIsEditedAndItsTimbre) {
+  WorksheetFixture p;
+  p.ToSettings();
+  Einstellung1& settings = p.settings_screen();
+  settings.kl_farb.Choose(1);
+  ASSERT_EQ(settings.Channel_Combo.list_index(), 0);
+  p.StartRun();
+  Leave(p);
+  EXPECT_EQ(settings.Channel_Combo.list_index(), 6);
+  EXPECT_EQ(settings.ComboPatch.list_index(), 74) << "the recorder";
+  EXPECT_TRUE(settings.ComboPatch.Choose(0));
+  EXPECT_EQ(p.settings().patch_ar, (std::array<int, 8>{0, 70, 68, 71, 73, 73, 72, 0}));
+}
+
 TEST(Leaving, StartsNothingWhenItComesBeforeTheSound) {
   for (const int moment : {1, 2}) {
     WorksheetFixture p;

@@ -342,9 +342,9 @@ void ExpectTimeUp(TimedTest& p, const std::string& where) {
   EXPECT_EQ(p.documents.Latest().saves, 1) << "before the results";
   EXPECT_FALSE(w.Uhrzeit.enabled);
   EXPECT_FALSE(w.WahlAutomat.enabled);
-  EXPECT_FALSE(w.wieder.Reachable());
-  EXPECT_FALSE(w.wieder2.Reachable());
-  EXPECT_FALSE(w.zurueck.Reachable());
+  EXPECT_FALSE(w.wieder.enabled);
+  EXPECT_FALSE(w.wieder2.enabled);
+  EXPECT_FALSE(w.zurueck.enabled);
   EXPECT_THAT(p.OpenChoices(), IsEmpty());
   EXPECT_TRUE(w.run().abbruch);
   EXPECT_FALSE(p.output.IsRunning());
