@@ -290,6 +290,7 @@ void FillBar(Layout& layout, const QRectF& bar) {
 
 Layout LayoutSettings(const Form& form, const QSizeF& page) {
   Layout layout;
+  layout.canvas.setHeight(672);  // some air above and below
   const QRectF last = Sections().back().back().rect;
   const double width = last.right() + 2 * kRing;
   const double height = kTitle + kTotal + 2 * kRing + kBar;

@@ -495,6 +495,7 @@ DropDownWidget::DropDownWidget(QWidget* parent, const PageStyle& style, const Pl
   // Some styles would show all entries at once, from one edge of the screen to the other.
   setStyleSheet("combobox-popup: 0");
   setView(new DropDownEntries(*this));
+  setItemDelegate(new DropDownDelegate(this));
 }
 
 QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(34), height() - Px(2)); }

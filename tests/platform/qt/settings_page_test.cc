@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
 #include <QTest>
@@ -167,6 +168,16 @@ TEST_F(SettingsPage, SlidesTheLoudnessByKeys) {
   EXPECT_EQ(screen().HSliderVolume.value(), 0);
   QTest::keyClick(&slider, Qt::Key_End);
   EXPECT_EQ(screen().HSliderVolume.value(), 127);
+}
+
+TEST_F(SettingsPage, DropsDownListsWhoseEntriesLookLikeThoseOfTheListBoxes) {
+  auto& list = At<DropDownWidget>("temp_Combo");
+  list.showPopup();
+  const QRect row = list.view()->visualRect(list.view()->model()->index(list.currentIndex(), 0));
+  const QImage image = list.view()->viewport()->grab().toImage();
+  EXPECT_EQ(image.pixelColor(row.right() - 8, row.center().y()), look::kLight.pressed);
+  EXPECT_EQ(image.pixelColor(row.right() - 8, row.center().y() + row.height()), look::kLight.card);
+  list.hidePopup();
 }
 
 TEST_F(SettingsPage, TellsALockedFrameByItsColourALockAndItsGround) {
