@@ -313,6 +313,7 @@ void Arbeitsblatt1::HalteAn() {
   WahlAutomat.Disable();
   listening = false;
   parts_.midi.MidiReset();
+  if (ende_gefragt_) shell_.messages.Withdraw();
 }
 
 /// The results stand in front of the worksheet, which is out of reach meanwhile and leaves with

@@ -76,9 +76,7 @@ void Arbeitsblatt1::BeendeTestNachZeit() {
   Say(shell_.texts.Words({9728, "Time is up", {}}));
   BeendeAufzeichnung();
   // Events are served while the record is saved: the program may have been ended in them.
-  if (!loaded()) return;
-  if (ende_gefragt_) shell_.messages.Withdraw();
-  OeffneErgebnisse(RunEnd::kTimeUp);
+  if (loaded()) OeffneErgebnisse(RunEnd::kTimeUp);
 }
 
 bool Arbeitsblatt1::TestLaeuft() const {

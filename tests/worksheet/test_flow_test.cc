@@ -502,6 +502,26 @@ TEST(TestTime, GoesOnWhileAQuestionStandsAndThenTheAnswerMeansNothing) {
   }
 }
 
+TEST(TestRun, WithdrawsTheQuestionWhenAnErrorEndsItMeanwhile) {
+  TimedTest p(kTest);
+  p.PlayTask();
+  p.FinishTask();
+  p.messages.answer = MessageBox::Answer::kYes;
+  p.messages.while_asked = [&] {
+    p.random.Always(0);  // no root can be drawn for the task that follows by itself
+    const double end = p.loop.Elapsed() + 5000;
+    while (p.program.arbeitsblatt1() != nullptr && p.loop.Elapsed() < end) {
+      p.loop.WaitForEvent(100);
+    }
+    EXPECT_EQ(p.program.arbeitsblatt1(), nullptr);
+    EXPECT_EQ(p.messages.withdrawn, 1);
+  };
+  p.worksheet().Form_Close();
+  EXPECT_EQ(p.messages.questions.size(), 1u);
+  EXPECT_EQ(p.messages.warnings.size(), 1u);
+  EXPECT_TRUE(p.settings_screen().visible);
+}
+
 TEST(TestTime, WithdrawsNoQuestionWhereNoneStands) {
   TimedTest p(kTest);
   p.UntilBeforeEnd(0);
