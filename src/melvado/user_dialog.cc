@@ -85,9 +85,13 @@ QLabel* UserDialog::MakeLine(const char* name) {
   return line;
 }
 
-void UserDialog::Try() {
+StoreUser UserDialog::Typed() const {
   const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
-  const auto fault = take_({text(number_), text(name_), text(first_name_)});
+  return {text(number_), text(name_), text(first_name_)};
+}
+
+void UserDialog::Try() {
+  const auto fault = take_(Typed());
   for (QLineEdit* field : {name_, first_name_, number_}) field->setAccessibleDescription({});
   if (!fault) return accept();
   note_->hide();
@@ -110,11 +114,11 @@ void UserDialog::Grow() {
 }
 
 QLineEdit& UserDialog::FaultyField() const {
-  const qsizetype number = number_->text().size();
-  if (number > 0 && number <= kLongestNumber) {
-    for (QLineEdit* name : {name_, first_name_}) {
-      if (name->text().size() > kLongestName) return *name;
-    }
+  const StoreUser user = Cleaned(Typed());
+  const auto length = [](const std::string& text) { return QString::fromStdString(text).size(); };
+  if (!user.id.empty() && length(user.id) <= kLongestNumber) {
+    if (length(user.name) > kLongestName) return *name_;
+    if (length(user.first_name) > kLongestName) return *first_name_;
   }
   return number_->isReadOnly() ? *name_ : *number_;
 }

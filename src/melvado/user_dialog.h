@@ -30,6 +30,7 @@ class UserDialog : public QDialog {
  private:
   QLineEdit* MakeField(const char* name, const std::string& text);
   QLabel* MakeLine(const char* name);
+  StoreUser Typed() const;
   void Try();
   void Grow();
   /// Where the fault of what was typed is to be mended.

@@ -332,6 +332,11 @@ TEST_F(HomeWindowTest, AsksAgainUntilANumberCanBeTaken) {
     EXPECT_EQ(dialog.focusWidget()->objectName(), "name");
     EXPECT_EQ(dialog.focusWidget()->accessibleDescription(), fault->text());
     EXPECT_TRUE(dialog.findChild<QLineEdit*>("number")->accessibleDescription().isEmpty());
+    Type(dialog, "number", "   ");
+    Click(dialog, "ok");
+    EXPECT_THAT(fault->text().toStdString(), HasSubstr("Matrikelnummer ein"));
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "number");
+    Type(dialog, "number", "4712");
     Type(dialog, "name", "Tal");
     Click(dialog, "ok");
     EXPECT_FALSE(dialog.isVisible());
