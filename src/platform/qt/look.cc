@@ -16,7 +16,6 @@ namespace vmod17::look {
 namespace {
 
 constexpr double kSmallest = 0.6;
-constexpr double kSmallestPixels = 11;
 
 /// Relative luminance as in WCAG 2.1.
 double Luminance(const QColor& color) {

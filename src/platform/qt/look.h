@@ -68,6 +68,8 @@ const Palette& PresentColors();
 /// The same colours for what the toolkit draws by itself: message boxes, menus, tool tips.
 QPalette ForToolkit(const Palette& colors);
 
+/// No text on the screen is smaller, in pixels.
+inline constexpr double kSmallestPixels = 11;
 inline constexpr double kRadius = 8;
 inline constexpr double kCardRadius = 12;
 

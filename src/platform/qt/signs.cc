@@ -65,7 +65,8 @@ void DrawAnswerMark(QPainter& painter, const QRectF& box, const AnswerMark& mark
                   height / 12);
   const QRectF sign(box.right() - height, box.top(), height, height);
   if (mark.slot > 0) {
-    painter.setFont(look::Type(height * 0.72, look::Weight::kBold));
+    painter.setFont(
+        look::Type(std::max(height * 0.72, look::kSmallestPixels), look::Weight::kBold));
     painter.setPen(Qt::white);
     painter.drawText(QRectF(box.topLeft(), sign.bottomLeft()).adjusted(height * 0.25, 0, 0, 0),
                      Qt::AlignCenter, QString::number(mark.slot));

@@ -187,7 +187,8 @@ void PressWidget::PaintTile(QPainter& painter) {
 void PressWidget::PaintNumber(QPainter& painter) {
   if (number_ == 0) return;
   const QRectF box = QRectF(rect()).adjusted(Px(3), 0, 0, -Px(1));
-  painter.setFont(look::Type(Px(kNumberText), look::Weight::kNormal));
+  painter.setFont(
+      look::Type(std::max(Px(kNumberText), look::kSmallestPixels), look::Weight::kNormal));
   painter.setPen(Ink());
   painter.drawText(box, Qt::AlignLeft | Qt::AlignBottom, QString::number(number_));
 }
