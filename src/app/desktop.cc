@@ -208,12 +208,7 @@ void Desktop::TellOfLanguages() {
 }
 
 void Desktop::ShowHelp(const std::string& page) {
-  const std::string name = program_->server().HostSprache();
-  std::string locale;
-  for (const LanguageColumn& column : languages_.Table()) {
-    if (column[1] == name) locale = column[0];
-  }
-  help_.Show(page, locale);
+  help_.Show(page, program_->texts().Gebietsschema());
 }
 
 void Desktop::RunTimeReport(const std::exception_ptr& error) {
