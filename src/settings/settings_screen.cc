@@ -313,10 +313,10 @@ void Einstellung1::SetzeTexte() {
   lb11[2].caption = text(395);
   lb2[2].caption = text(396);
   lb2[3].caption = text(2);
-  klanglst[0].spoken = text(9551);
-  klanglst[1].spoken = text(9552);
-  grplst[0].spoken = text(9553);
-  grplst[1].spoken = text(9554);
+  klanglst[0].spoken = shell_.texts.SprachtextOder(9551, "Klangtyp wählen");
+  klanglst[1].spoken = shell_.texts.SprachtextOder(9552, "Klangtyp gewählt");
+  grplst[0].spoken = shell_.texts.SprachtextOder(9553, "Gruppe wählen");
+  grplst[1].spoken = shell_.texts.SprachtextOder(9554, "Gruppe gewählt");
   cmdOK.caption = text(139);
   cmdZurueck.caption = text(640);
   cmdHilfe.spoken = shell_.texts.Words({9421, "Help", {}});
