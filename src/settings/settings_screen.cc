@@ -171,11 +171,10 @@ void Einstellung1::Verdrahte() {
       const ItemList& von = (*listen)[i];
       const ItemList& nach = (*listen)[1 - i];
       dann_ausblick((*listen)[i].Click, [&] {
-        return texts.Words(
-            {9731, "%1: from “%2” to “%3”", {von.text(), von.description, nach.description}});
+        return texts.Words({9731, "%1: from “%2” to “%3”", {von.text(), von.spoken, nach.spoken}});
       });
       dann_ausblick((*alle)[i].Click, [&] {
-        return texts.Words({9732, "all from “%1” to “%2”", {von.description, nach.description}});
+        return texts.Words({9732, "all from “%1” to “%2”", {von.spoken, nach.spoken}});
       });
     }
   }
