@@ -53,6 +53,7 @@ void Einstellung1::klang_contr_Click() {
   klang_contr.enabled = false;
   cmdOK.enabled = false;
   probe_laeuft_ = true;
+  listening = true;
   ZeigeAusblick();
   try {
     SpieleProbe();
@@ -85,14 +86,17 @@ void Einstellung1::SpieleProbe() {
     shell_.messages.Warn(shell_.texts.Words(kKlangFehlt), caption);
     return;
   }
+  listening = true;
   // Should the output never tell that its queue is empty, the buttons come back all the same.
   klangprobe.interval = settings.SpielDauer(shell_.state) + kNachfrist;
   klangprobe.Enable();
 }
 
 void Einstellung1::ZeigeWarten() {
+  listening = false;
   pointer = Pointer::kHourglass;
   klang_contr.caption = shell_.texts.Words(kKlangKommt);
+  Say(klang_contr.caption);
 }
 
 void Einstellung1::BeendeWarten() {
@@ -126,6 +130,7 @@ void Einstellung1::ErlaubeProbe(bool erlaubt) {
 void Einstellung1::BeendeProbe() {
   if (!probe_laeuft_) return;
   probe_laeuft_ = false;
+  listening = false;
   BeendeWarten();
   klangprobe.Disable();
   // Both come back in the state that the selection has by now.

@@ -346,11 +346,37 @@ TEST_F(SoundCheck, WaitsVisiblyForItsOutputAndHoldsTheButtonsToTheEndOfTheSound)
   ExpectButtons(true);
 }
 
+TEST_F(SoundCheck, LetsNothingBeSpokenFromItsPressToItsEnd) {
+  bool in_the_pause = false;
+  loop.StartTimer(20, EventLoop::Repeat::kOnce, [&] { in_the_pause = screen().listening; });
+  screen().klang_contr.Press();
+  EXPECT_TRUE(in_the_pause);
+  EXPECT_TRUE(screen().listening);
+  output.FinishQueue();
+  EXPECT_FALSE(screen().listening);
+}
+
+TEST_F(SoundCheck, SaysThatItsOutputTakesItsTimeBeforeItSounds) {
+  output.SetDevice(RecordingMidiOutput::Device::kLoads);
+  loop.StartTimer(5000, EventLoop::Repeat::kOnce,
+                  [&] { output.SetDevice(RecordingMidiOutput::Device::kReady); });
+  std::vector<std::string> said;
+  loop.meanwhile = [&] {
+    if (screen().pointer != Form::Pointer::kHourglass || !said.empty()) return;
+    EXPECT_FALSE(screen().listening);
+    said = screen().TakeSaid();
+  };
+  screen().klang_contr.Press();
+  EXPECT_THAT(said, ElementsAre("[9531s]"));
+  EXPECT_TRUE(screen().listening);
+}
+
 TEST_F(SoundCheck, SaysThatItCannotBeHeardAndMayBeAskedForAgain) {
   output.SetDevice(RecordingMidiOutput::Device::kMute);
   screen().klang_contr.Press();
   ASSERT_THAT(messages.warnings, SizeIs(1));
   EXPECT_EQ(messages.warnings[0].text, "[9532s]");
+  EXPECT_FALSE(screen().listening);
   EXPECT_FALSE(output.IsRunning());
   ExpectButtons(true);
   output.SetDevice(RecordingMidiOutput::Device::kReady);

@@ -87,6 +87,23 @@ TEST(WaitingTask, ShowsThatItWaitsAfterThreeTenthsOfASecond) {
   EXPECT_EQ(p.worksheet().WaitMeld.caption, "[726s]");
 }
 
+TEST(WaitingTask, SaysThatItWaitsAndListensFromTheFirstSound) {
+  SlowRun p;
+  p.Begin();
+  p.worksheet().TakeSaid();
+  p.LoadFor(2400);
+  std::vector<std::string> said;
+  p.WhileWaiting([&] {
+    EXPECT_EQ(p.worksheet().listening, !p.Waits());
+    if (p.Waits() && said.empty()) said = p.worksheet().TakeSaid();
+  });
+  p.worksheet().CmdNextAufg.Press();
+  p.WhileWaiting(nullptr);
+  EXPECT_EQ(said, std::vector<std::string>{"[9531s]"});
+  EXPECT_TRUE(p.output.IsRunning());
+  EXPECT_TRUE(p.worksheet().listening);
+}
+
 TEST(WaitingTask, ShowsNothingOfAWaitThatNobodyNotices) {
   SlowRun p;
   p.Begin();
