@@ -176,6 +176,7 @@ class AccessibleEntries : public QAccessibleWidget {
 };
 
 /// The toolkit's own is called by its chosen entry, where the name has to be the label beside it.
+/// Readers ask for no value of a list that is closed, so the entry is its description as well.
 class AccessibleDropDown : public QAccessibleWidget {
  public:
   explicit AccessibleDropDown(DropDownWidget& list)
@@ -190,7 +191,11 @@ class AccessibleDropDown : public QAccessibleWidget {
     return child != nullptr && child->object() == list_.view() ? 0 : -1;
   }
   QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Value ? list_.currentText() : QAccessibleWidget::text(kind);
+    const QString entry = list_.currentText();
+    const QString words = QAccessibleWidget::text(kind);
+    if (kind == QAccessible::Value) return entry;
+    if (kind != QAccessible::Description) return words;
+    return words.isEmpty() ? entry : entry + ". " + words;
   }
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();

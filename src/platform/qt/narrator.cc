@@ -5,6 +5,7 @@
 
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QComboBox>
 #include <QWidget>
 #include <utility>
 
@@ -85,14 +86,19 @@ void Narrator::PassOn(QAccessibleEvent* event) {
 /// Returns whether an event goes through as it is.
 bool Narrator::Heed(const QAccessibleEvent& event) {
   const bool focus = event.type() == QAccessible::Focus;
+  const bool in_focus = event.object() == QApplication::focusWidget();
+  const auto* const list = qobject_cast<const QComboBox*>(event.object());
+  const bool entry = event.type() == QAccessible::ValueChanged && in_focus && list != nullptr;
   if (!changing_) {
     if (focus) untold_.reset();
+    if (entry) line_.Say(list->currentText());
     return true;
   }
+  if (entry) new_entry_ = true;
   if (!focus && event.type() != QAccessible::ValueChanged) return true;
   // A list tells of its entries as if the focus came to them, wherever it is; and readers speak of
   // every step of a gauge.
-  if (event.object() != QApplication::focusWidget()) return false;
+  if (!in_focus) return false;
   if (!focus) return true;
   untold_ = Place{event.object(), event.child()};
   return false;
@@ -111,10 +117,15 @@ void Narrator::Begin(bool listening) {
 void Narrator::End(const std::vector<std::string>& said) {
   changing_ = false;
   if (!QAccessible::isActive()) return;
-  for (const std::string& sentence : said) said_ << QString::fromStdString(sentence);
+  const auto* const list = qobject_cast<QComboBox*>(QApplication::focusWidget());
+  if (std::exchange(new_entry_, false) && list != nullptr && !untold_) said_ << list->currentText();
+  for (const std::string& sentence : said) {
+    if (!sentence.empty()) said_ << QString::fromStdString(sentence);
+  }
   if (listening_) return;
   if (said_.isEmpty()) return TellFocus();
-  if (untold_) said_ << NameOfFocus();
+  // A page that nothing can take the focus from has it itself, and its name is its title.
+  if (untold_ && !said_.contains(NameOfFocus())) said_ << NameOfFocus();
   untold_.reset();
   line_.Say(Joined(std::exchange(said_, {})));
 }
@@ -131,7 +142,8 @@ QString Narrator::NameOfFocus() const {
   QAccessibleInterface* const place = QAccessible::queryAccessibleInterface(untold_->object);
   if (place == nullptr) return {};
   QAccessibleInterface* const child = place->child(untold_->child);
-  return (child != nullptr ? child : place)->text(QAccessible::Name);
+  if (child != nullptr) return child->text(QAccessible::Name);
+  return Joined({place->text(QAccessible::Name), place->text(QAccessible::Value)});
 }
 
 }  // namespace vmod17

@@ -22,6 +22,9 @@ namespace vmod17 {
 /// whether the answer was right. So the words come with the name of the new place at their end, in
 /// place of the move itself.
 ///
+/// A closed list whose entry changes under the focus is told by the words too, since readers do not
+/// heed what the toolkit tells of it.
+///
 /// While the user listens to what is played, nothing of the kind comes at all. The reader's focus
 /// rests on a blank meanwhile, and to go there silences what it was saying.
 ///
@@ -59,6 +62,7 @@ class Narrator {
   Blank* blank_;
   QStringList said_;
   std::optional<Place> untold_;  ///< where the focus went without the reader's knowledge
+  bool new_entry_ = false;       ///< the program changed the closed list that has the focus
   bool changing_ = false;        ///< between `Begin` and `End`
   bool listening_ = false;
 };

@@ -252,6 +252,7 @@ TEST_F(AccessibleSettings, CallAListByItsLabelAndTellWhatIsChosen) {
   EXPECT_EQ(list.role(), QAccessible::ComboBox);
   EXPECT_EQ(list.text(QAccessible::Name).toStdString(), p_.settings_screen().lb15[0].caption);
   EXPECT_EQ(list.text(QAccessible::Value).toStdString(), p_.settings_screen().temp_Combo.text());
+  EXPECT_EQ(list.text(QAccessible::Description), list.text(QAccessible::Value));
   QAccessibleInterface& entries = *list.child(0);
   EXPECT_EQ(entries.parent(), &list);
   EXPECT_EQ(entries.childCount(), p_.settings_screen().temp_Combo.count());

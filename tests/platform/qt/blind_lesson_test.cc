@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/qt/page.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_view.h"
 #include "screen_reader.h"
@@ -143,6 +144,20 @@ TEST_F(BlindLesson, TellsEachScreenByItsTitle) {
   Key(Qt::Key_Return);
   p_.loop.Advance(200);
   EXPECT_EQ(reader_.Spoken(), "Jazz-Akkorde bestimmen. Aufgabe 1");
+}
+
+TEST_F(BlindLesson, TellsEachEntryThatAKeyChoosesInAClosedList) {
+  Start();
+  ToSettings();
+  const ItemList& levels = p_.settings_screen().training_Combo;
+  view_.page()->findChild<QWidget*>("training_Combo")->setFocus();
+  reader_.Spoken();
+  for (const int key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up}) {
+    const int before = levels.list_index();
+    const std::string spoken = Key(key);
+    EXPECT_NE(levels.list_index(), before);
+    EXPECT_EQ(spoken.rfind(levels.text(), 0), 0u) << spoken;
+  }
 }
 
 TEST_F(BlindLesson, LeadsThroughATrainingToItsEnd) {

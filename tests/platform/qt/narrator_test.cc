@@ -6,9 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSlider>
 
 #include "screen_reader.h"
 
@@ -64,6 +66,55 @@ TEST_F(NarratorTest, SaysFirstWhatIsSaidWhereTheProgramMovesTheFocus) {
   EXPECT_EQ(reader_.Spoken(), "Wrong. Two");
 }
 
+TEST_F(NarratorTest, NamesAPageOnceThatHasTheFocusItself) {
+  QWidget page(&window_);
+  page.setAccessibleName("Settings");
+  page.setFocusPolicy(Qt::StrongFocus);
+  page.show();
+  Change(false, {"Settings"}, [&] { page.setFocus(); });
+  EXPECT_EQ(reader_.Spoken(), "Settings");
+}
+
+TEST_F(NarratorTest, TellsTheValueOfWhatTheFocusCameTo) {
+  QSlider loudness(Qt::Horizontal, &window_);
+  loudness.setAccessibleName("Loudness");
+  loudness.setFocusPolicy(Qt::StrongFocus);
+  loudness.setValue(40);
+  loudness.show();
+  Change(false, {"Settings"}, [&] { loudness.setFocus(); });
+  EXPECT_EQ(reader_.Spoken(), "Settings. Loudness. 40");
+}
+
+TEST_F(NarratorTest, TellsTheEntryThatTheUserChoosesInAClosedListBeforeWhatFollows) {
+  QComboBox list(&window_);
+  list.addItems({"Training", "Test"});
+  list.show();
+  list.setFocus();
+  reader_.Spoken();
+  list.setCurrentIndex(1);
+  Say({"20 tasks"});
+  EXPECT_EQ(reader_.Spoken(), "Test | 20 tasks");
+}
+
+TEST_F(NarratorTest, TellsTheEntryThatTheProgramPutsInItsPlace) {
+  QComboBox list(&window_);
+  list.addItems({"Training", "Test"});
+  list.show();
+  list.setFocus();
+  reader_.Spoken();
+  list.setCurrentIndex(1);
+  Change(false, {"None is saved"}, [&] { list.setCurrentIndex(0); });
+  EXPECT_EQ(reader_.Spoken(), "Test | Training. None is saved");
+}
+
+TEST_F(NarratorTest, LeavesOutTheEntriesOfListsWithoutTheFocus) {
+  QComboBox list(&window_);
+  list.addItems({"Training", "Test"});
+  list.show();
+  Change(false, {}, [&] { list.setCurrentIndex(1); });
+  EXPECT_EQ(reader_.Spoken(), "");
+}
+
 TEST_F(NarratorTest, CutsNothingOffByTellingTheFocusLater) {
   Change(false, {"Wrong"}, [this] { one_.setEnabled(false); });
   reader_.Spoken();
@@ -74,6 +125,13 @@ TEST_F(NarratorTest, CutsNothingOffByTellingTheFocusLater) {
 TEST_F(NarratorTest, TellsTheFocusAloneWhereNothingIsSaid) {
   Change(false, {}, [this] { two_.setFocus(); });
   EXPECT_EQ(reader_.Spoken(), "Two");
+}
+
+TEST_F(NarratorTest, TellsTheFocusItselfWhereAllThatIsSaidIsEmpty) {
+  Change(false, {""}, [this] { two_.setFocus(); });
+  reader_.Spoken();
+  two_.setAccessibleName("of its own");  // heard only of what has the reader's focus
+  EXPECT_EQ(reader_.Spoken(), "of its own");
 }
 
 TEST_F(NarratorTest, LeavesTheFocusThatTheUserMovesToTheReader) {
@@ -143,7 +201,7 @@ TEST_F(NarratorTest, LeavesOutTheStepsOfAGauge) {
 }
 
 TEST_F(NarratorTest, LetsAllOtherEventsThrough) {
-  Change(false, {}, [this] { one_.setAccessibleDescription("of its own"); });
+  Change(false, {}, [this] { one_.setAccessibleName("of its own"); });
   EXPECT_EQ(reader_.Spoken(), "of its own");
 }
 

@@ -12,6 +12,8 @@
 #include <QTimer>
 #include <functional>
 
+#include "accessible_tree.h"
+
 namespace vmod17 {
 namespace {
 
@@ -40,6 +42,26 @@ TEST(QtMessageBox, WarnsInPlainWordsUntilTheUserAgrees) {
   EXPECT_EQ(text, "Zeile 1\n<b>Zeile 2</b>");
   EXPECT_EQ(title, "Melvado 2000");
   EXPECT_EQ(button, "Gut");
+}
+
+TEST(QtMessageBox, IsReadWholeByAReaderOfTheScreen) {
+  const HeardEvents reader;
+  QtMessageBox messages(nullptr);
+  QAccessible::Role role = QAccessible::NoRole;
+  QStringList read;
+  Then([&](QMessageBox& box) {
+    role = QAccessible::queryAccessibleInterface(&box)->role();
+    ForEachAccessible(*QAccessible::queryAccessibleInterface(&box), [&](auto& element) {
+      if (!element.state().invisible) read << element.text(QAccessible::Name);
+    });
+    box.button(QMessageBox::No)->click();
+  });
+  messages.words = [] { return QtMessageBox::Words{"", "Ja", "Nein"}; };
+  messages.Ask("Speichern?\nEin Stand geht verloren.", "Melvado", MessageBox::Answer::kNo);
+  // Readers speak of an alert with all its labels, as soon as it comes.
+  EXPECT_EQ(role, QAccessible::AlertMessage);
+  EXPECT_EQ(read.filter("Speichern?\nEin Stand geht verloren.").size(), 1);
+  for (const char* word : {"Melvado", "Ja", "Nein"}) EXPECT_TRUE(read.contains(word)) << word;
 }
 
 TEST(QtMessageBox, TellsYesFromNo) {

@@ -11,7 +11,8 @@
 namespace vmod17 {
 
 /// Stands in for a reader of the screen: hears the toolkit's events, and writes down what the
-/// readers of today speak of them. It must be there before what it is to hear.
+/// readers of today speak of them: not the entry of a closed list nor a new description, of which
+/// the toolkit sends no words. It must be there before what it is to hear.
 class ScreenReader {
  public:
   ScreenReader() {
@@ -51,10 +52,8 @@ class ScreenReader {
           Speak(source->text(QAccessible::Name));
         }
         return;
-      case QAccessible::DescriptionChanged:
-        if (IsInFocus(source)) Speak(source->text(QAccessible::Description));
-        return;
       case QAccessible::ValueChanged:
+        if (source->role() == QAccessible::ComboBox) return;
         if (IsInFocus(source) || source->role() == QAccessible::ProgressBar) {
           Speak(source->text(QAccessible::Value));
         }
