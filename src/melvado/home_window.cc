@@ -49,9 +49,14 @@ Placement ButtonPlace(const QRectF& rect, double text = 15) {
   return {.rect = rect, .text = text, .align = Qt::AlignCenter};
 }
 
+/// The toolkit tells of each name that is set, also of the one that it has.
+void Name(QWidget& widget, const QString& name) {
+  if (widget.accessibleName() != name) widget.setAccessibleName(name);
+}
+
 void SetWords(QWidget& widget, Dressed& dress, const QString& text) {
   dress.SetCaption(text);
-  widget.setAccessibleName(text);
+  Name(widget, text);
 }
 
 QString FileName(const std::string& path) {
@@ -220,6 +225,9 @@ void HomeWindow::Act(const std::function<void()>& action) {
 }
 
 void HomeWindow::Refresh() {
+  narrator_.Begin(host_.TestRuns());
+  const bool output_noted = !output_note_->caption().isEmpty();
+  const bool verdict_known = verdict_is_good_.has_value();
   filling_ = true;
   ShowWords();
   ShowUsers();
@@ -229,6 +237,12 @@ void HomeWindow::Refresh() {
   ShowVerdict();
   ShowStart();
   filling_ = false;
+  // What happens away from the focus.
+  std::vector<std::string> said;
+  const auto say = [&](const TextWidget& line) { said.push_back(line.caption().toStdString()); };
+  if (!output_noted) say(*output_note_);
+  if (!verdict_known && verdict_is_good_) say(*verdict_);
+  narrator_.End(said);
 }
 
 void HomeWindow::ShowWords() {
@@ -248,9 +262,9 @@ void HomeWindow::ShowWords() {
   SetWords(*log_button_, *log_button_, words.Say(9419, "Log"));
   SetWords(*quit_, *quit_, words.Say(9420, "Quit"));
   SetWords(*help_, *help_, words.Say(9421, "Help"));
-  user_->setAccessibleName(user_heading_->caption());
-  language_->setAccessibleName(language_heading_->caption());
-  output_->setAccessibleName(output_heading_->caption());
+  Name(*user_, user_heading_->caption());
+  Name(*language_, language_heading_->caption());
+  Name(*output_, output_heading_->caption());
 }
 
 void HomeWindow::Fill(DropDownWidget& list, const QStringList& entries, int chosen) {
@@ -282,6 +296,8 @@ void HomeWindow::ShowUsers() {
   Fill(*user_, entries, index);
   change_user_->setEnabled(index > 0);
   remove_user_->setEnabled(index > 0);
+  // Who has just been added or changed is told where the focus went.
+  start_->setAccessibleDescription(user_heading_->caption() + " " + entries[index]);
 }
 
 void HomeWindow::ShowLanguages() {
@@ -306,12 +322,13 @@ void HomeWindow::ShowOutputs() {
   }
   Fill(*output_, entries, choice.chosen);
   const Output& chosen = choice.outputs[static_cast<std::size_t>(choice.chosen)];
-  SetWords(
-      *output_note_, *output_note_,
+  const QString note =
       chosen.is_there
           ? QString()
           : words.Say(9416, "%1 is not connected. The built-in synthesiser plays in its place.",
-                      {QString::fromStdString(chosen.name)}));
+                      {QString::fromStdString(chosen.name)});
+  SetWords(*output_note_, *output_note_, note);
+  output_->setAccessibleDescription(note);
 }
 
 void HomeWindow::ShowSoundfont() {
@@ -327,6 +344,7 @@ void HomeWindow::ShowSoundfont() {
                      {FileName(path)});
   }
   SetWords(*soundfont_note_, *soundfont_note_, note);
+  soundfont_->setAccessibleDescription(note);
   soundfont_->setEnabled(!host_.SoundfontIsNamed() && !host_.TestRuns());
   usual_soundfont_->setEnabled(!host_.SoundfontIsNamed() && !path.empty() && !host_.TestRuns());
 }
@@ -448,14 +466,14 @@ void HomeWindow::TakeSoundfont(const std::string& path) {
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   const std::optional<Notice> fault = host_.ChooseSoundfont(path);
   QGuiApplication::restoreOverrideCursor();
+  // The other button of the two is locked where the soundfont of the system plays.
+  soundfont_->setFocus(Qt::OtherFocusReason);
   if (fault) messages_.Warn(host_.words().Say(*fault).toStdString(), "Melvado");
 }
 
 void HomeWindow::Test() {
   if (host_.TestRuns()) return;
   host_.TestSound([this] { Refresh(); });
-  ShowVerdict();
-  ShowSoundfont();
 }
 
 void HomeWindow::Start() {

@@ -13,6 +13,7 @@
 #include "melvado/host.h"
 #include "platform/file_dialog.h"
 #include "platform/message_box.h"
+#include "platform/qt/narrator.h"
 #include "platform/qt/picture_source.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/widgets.h"
@@ -114,6 +115,7 @@ class HomeWindow : public QWidget {
   std::vector<StoreUser> users_;
   std::unique_ptr<QTimer> poll_;
   std::unique_ptr<LogWindow> log_;
+  Narrator narrator_{*this};
   std::optional<bool> verdict_is_good_;  // none: no test has come to its end
   bool filling_ = false;                 // a list changes by the program, not by the user
   bool was_open_ = false;

@@ -126,9 +126,13 @@ TEST_F(BadInput, ASoundfontThatVanishesGivesWayToTheSystemsAndIsToldOf) {
   Press("test");
   ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
   EXPECT_THAT(host_->verdict()->Ids(), ElementsAre(9442, 9157, 9444));
+  Find<QWidget>("usual_soundfont")->setFocus();
   Press("usual_soundfont");
   EXPECT_EQ(host_->Soundfont(), "");
   EXPECT_FALSE(Find<QWidget>("usual_soundfont")->isEnabled());
+  // The focus has gone no further than it must, and tells what plays now.
+  EXPECT_EQ(window_->focusWidget(), Find<QWidget>("soundfont"));
+  EXPECT_EQ(Find<QWidget>("soundfont")->accessibleDescription(), Caption("soundfont_note"));
 }
 
 TEST_F(BadInput, ASoundfontThatIsNamedFromOutsideIsShownAndNotToBeChosen) {

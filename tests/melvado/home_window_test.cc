@@ -20,6 +20,7 @@
 #include "melvado/log_window.h"
 #include "melvado/user_dialog.h"
 #include "melvado_testing.h"
+#include "platform/qt/screen_reader.h"
 
 namespace vmod17 {
 namespace {
@@ -399,6 +400,7 @@ TEST_F(HomeWindowTest, ShowsADeviceThatComesAndGoes) {
   host_->RefreshOutputs();
   EXPECT_EQ(Caption("output"), "Piano (nicht angeschlossen)");
   EXPECT_THAT(Caption("output_note").toStdString(), HasSubstr("eingebaute Synthesizer"));
+  EXPECT_EQ(Find<QWidget>("output")->accessibleDescription(), Caption("output_note"));
   ports_->Plug({"Expander", "Piano"});
   host_->RefreshOutputs();
   EXPECT_EQ(Caption("output"), "Piano");
@@ -450,6 +452,8 @@ TEST_F(HomeWindowTest, LeadsOnByEnterAfterAUserWasAdded) {
   Open();
   AddUser("4711", "Berg", "Anna");
   EXPECT_EQ(window_->focusWidget(), Find<QWidget>("start"));
+  EXPECT_EQ(Plain(Find<QWidget>("start")->accessibleDescription()),
+            Plain(Caption("user_heading") + " Berg, Anna (4711)"));
 }
 
 TEST_F(HomeWindowTest, KeepsTheFocusOnTheTestWhileItRuns) {
@@ -596,6 +600,49 @@ TEST_F(HomeWindowTest, AsksToQuitWhenItIsClosed) {
   window_->close();
   Press("quit");
   EXPECT_EQ(asked, 2);
+}
+
+// ---- What a reader of the screen speaks
+
+class SpokenHome : public HomeWindowTest {
+ protected:
+  SpokenHome() { ports_->Plug({"Piano"}); }
+  ~SpokenHome() override { window_.reset(); }
+
+  ScreenReader reader_;
+};
+
+TEST_F(SpokenHome, IsSilentOverTheChordOfTheSoundTestAndTellsTheVerdict) {
+  Open();
+  Choose("output", 0);
+  Find<QWidget>("test")->setFocus();
+  reader_.Spoken();
+  Press("test");
+  EXPECT_EQ(reader_.Spoken(), " ");  // which ends what was being spoken
+  ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
+  EXPECT_EQ(reader_.Spoken(), (Caption("verdict") + " " + Caption("test")).toStdString());
+  Press("test");
+  ASSERT_TRUE(ServeUntil([this] { return !host_->TestRuns(); }));
+  EXPECT_THAT(reader_.Spoken(), HasSubstr(Caption("verdict").toStdString()));
+}
+
+TEST_F(SpokenHome, TellsThatItsOutputHasGone) {
+  Open();
+  Choose("output", 0);
+  reader_.Spoken();
+  ports_->Plug({});
+  host_->RefreshOutputs();
+  EXPECT_EQ(reader_.Spoken(), Caption("output_note").toStdString());
+  host_->RefreshOutputs();
+  EXPECT_EQ(reader_.Spoken(), "");
+}
+
+TEST_F(SpokenHome, TellsTheEntryThatAKeyChoosesInAList) {
+  Open();
+  Find<QWidget>("output")->setFocus();
+  reader_.Spoken();
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Up);
+  EXPECT_EQ(reader_.Spoken(), "Piano");
 }
 
 // ---- Without mouse and keys, as an assistive technology works
