@@ -152,7 +152,7 @@ void Einstellung1::Verdrahte() {
   const auto dann_ausblick = [this](auto& event, std::function<std::string()> bewegung = {}) {
     event = [this, was = std::move(bewegung), handler = std::move(event)](auto... index) {
       const std::string vorher = ausblick.caption;
-      const std::string bewegt = was ? was() : "";
+      const std::string bewegt = was && form_bereit ? was() : "";
       handler(index...);
       ZeigeAusblick();
       TakeSaid();
