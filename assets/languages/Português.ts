@@ -657,6 +657,10 @@
         <source></source>
         <translation>Neste momento, os seus treinos gravados em %1 não podem ser lidos (%2). Nada foi alterado. Pode praticar; para os continuar, inicie o programa outra vez mais tarde.</translation>
     </message>
+    <message id="9110s">
+        <source></source>
+        <translation>Não é possível ler o endereço do servidor com os treinos guardados (MELVADO_STORE). Nada foi criado nem alterado. Pode praticar, mas o que guardar agora perde-se no fim do programa. Escreva-o na forma postgresql://utilizador:senha@máquina/base e volte a iniciar o programa.</translation>
+    </message>
     <message id="9151s">
         <source></source>
         <translation>O exercício não tem som: o banco de sons dos instrumentos (soundfont) está danificado: %1. Reinstale o pacote fluid-soundfont-gm e, depois, inicie o programa outra vez.</translation>

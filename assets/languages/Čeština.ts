@@ -657,6 +657,10 @@
         <source></source>
         <translation>Tréninky uložené v %1 teď nelze přečíst (%2). Nic se nezměnilo. Můžete cvičit; chcete-li v nich pokračovat, spusťte prosím program znovu později.</translation>
     </message>
+    <message id="9110s">
+        <source></source>
+        <translation>Adresu serveru s uloženými tréninky (MELVADO_STORE) nelze přečíst. Nic nebylo vytvořeno ani změněno. Můžete cvičit, ale co nyní uložíte, se koncem programu ztratí. Napište ji ve tvaru postgresql://uživatel:heslo@počítač/databáze a spusťte program znovu.</translation>
+    </message>
     <message id="9151s">
         <source></source>
         <translation>Cvičení zůstane bez zvuku: soubor se zvuky nástrojů (SoundFont) je poškozený: %1. Nainstalujte znovu balíček fluid-soundfont-gm a pak program spusťte znovu.</translation>

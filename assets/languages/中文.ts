@@ -657,6 +657,10 @@
         <source></source>
         <translation>目前无法读取 %1 中已保存的训练（%2）。没有任何内容被更改。您可以练习；如要继续已保存的训练，请稍后重新启动程序。</translation>
     </message>
+    <message id="9110s">
+        <source></source>
+        <translation>无法读取保存训练的服务器地址（MELVADO_STORE）。没有创建或更改任何内容。您可以练习，但现在保存的内容会在程序结束时丢失。请按 postgresql://用户:密码@主机/数据库 的形式书写，然后重新启动程序。</translation>
+    </message>
     <message id="9151s">
         <source></source>
         <translation>练习没有声音：乐器音色文件（SoundFont）已损坏：%1。请重新安装软件包 fluid-soundfont-gm，然后重新启动程序。</translation>

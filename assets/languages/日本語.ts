@@ -657,6 +657,10 @@
         <source></source>
         <translation>%1 に保存されているトレーニングを現在読み込めません（%2）。何も変更されていません。練習はできます。保存したトレーニングを続けるには、しばらくしてからプログラムを起動し直してください。</translation>
     </message>
+    <message id="9110s">
+        <source></source>
+        <translation>保存されたトレーニングのサーバーのアドレス（MELVADO_STORE）を読み取れません。何も作成も変更もされていません。練習はできますが、今保存したものはプログラムの終了時に失われます。postgresql://ユーザー:パスワード@ホスト/データベース の形で書いてから、プログラムを再起動してください。</translation>
+    </message>
     <message id="9151s">
         <source></source>
         <translation>音が出ません。楽器の音のファイル（サウンドフォント）が破損しています: %1。パッケージ fluid-soundfont-gm を再インストールしてから、プログラムを起動し直してください。</translation>

@@ -27,8 +27,14 @@ std::string WithoutNames(const std::string& text, const std::string& home) {
     const QString whole = QRegularExpression::escape(QString::fromStdString(home)) + "(?!\\w)";
     rest.replace(QRegularExpression(whole, QRegularExpression::UseUnicodePropertiesOption), "~");
   }
-  static const QRegularExpression kUserOfServer("(postgres(?:ql)?://)[^/\\s]*@");
+  // A password may hold any character, so that of a line with an address all goes up to the last
+  // sign that can be its end.
+  static const QRegularExpression kUserOfServer("(postgres(?:ql)?://).*@",
+                                                QRegularExpression::CaseInsensitiveOption);
   rest.replace(kUserOfServer, "\\1");
+  static const QRegularExpression kPassword("(password\\s*=\\s*)\\S+",
+                                            QRegularExpression::CaseInsensitiveOption);
+  rest.replace(kPassword, "\\1...");
   return rest.toStdString();
 }
 

@@ -75,5 +75,15 @@ TEST(FaultReport, LeavesOutTheUserOfAServer) {
   EXPECT_THAT(report, HasSubstr("no answer from postgres://school.example/melvado\n"));
 }
 
+TEST(FaultReport, LeavesOutPasswordsWithWhateverCharacters) {
+  LogEntry line;
+  line.text = "no POSTGRESQL://anna:a/b#c?d e@f@school.example/melvado";
+  LogEntry pair;
+  pair.text = "host=school.example password=geheim user=anna";
+  const std::string report = FaultReport({}, {line, pair});
+  EXPECT_THAT(report, HasSubstr("no POSTGRESQL://school.example/melvado\n"));
+  EXPECT_THAT(report, HasSubstr("host=school.example password=... user=anna\n"));
+}
+
 }  // namespace
 }  // namespace vmod17

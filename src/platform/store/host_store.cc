@@ -549,6 +549,10 @@ bool HostStore::Open(Patience patience) {
 }
 
 bool HostStore::OpenAnew(int wait_ms) {
+  if (address_->kind == StoreAddress::Kind::kUnreadable) {
+    Tell(UnreadableAddressNotice());
+    return false;
+  }
   if (!connection_) {
     connection_ = MakeSqlConnection(*address_);
     tables_ = std::make_unique<StoreTables>(*connection_);

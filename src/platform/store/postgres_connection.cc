@@ -9,7 +9,7 @@
 namespace vmod17 {
 
 PostgresConnection::PostgresConnection(const QUrl& address)
-    : SqlConnection(QStringLiteral("QPSQL")), is_valid_(address.isValid()) {
+    : SqlConnection(QStringLiteral("QPSQL")) {
   database_.setHostName(address.host());
   if (address.port() > 0) database_.setPort(address.port());
   database_.setUserName(address.userName());
@@ -29,8 +29,6 @@ PostgresConnection::PostgresConnection(const QUrl& address)
 }
 
 void PostgresConnection::Open(int wait_ms) {
-  // The client library would fill the gaps of an address with a database of its own choice.
-  if (!is_valid_) throw SqlError(SqlFailure::kUnreachable, "this is no address of a server");
   Close();
   if (!database_.open()) Throw(database_.lastError());
   // The "already exists" of a table that another machine makes at the same moment is no warning.

@@ -33,9 +33,6 @@ class PostgresConnection : public SqlConnection {
  protected:
   SqlFailure Classify(const QSqlError& error) const override;
   QString BeginStatement() const override { return QStringLiteral("BEGIN"); }
-
- private:
-  bool is_valid_;
 };
 
 }  // namespace vmod17

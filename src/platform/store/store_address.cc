@@ -10,6 +10,55 @@
 
 namespace vmod17 {
 
+namespace {
+
+/// Whether whoever wrote this had a server in mind, however badly it is spelt.
+bool LooksLikeServer(const QString& text) {
+  static const QRegularExpression kScheme("^(postgres(ql)?\\s*:|[a-z][a-z0-9+.-]*://)",
+                                          QRegularExpression::CaseInsensitiveOption);
+  static const QRegularExpression kKeyValue(
+      "(^|\\s)(host|hostaddr|port|dbname|user|password|service)\\s*=",
+      QRegularExpression::CaseInsensitiveOption);
+  return kScheme.match(text).hasMatch() || kKeyValue.match(text).hasMatch();
+}
+
+/// A percent sign that begins no code stands for itself: a password may hold one.
+QString Decoded(const QString& text) {
+  static const QRegularExpression kCode("%([0-9A-Fa-f]{2})");
+  QByteArray bytes;
+  qsizetype end = 0;
+  for (const QRegularExpressionMatch& code : kCode.globalMatch(text)) {
+    bytes += text.mid(end, code.capturedStart() - end).toUtf8();
+    bytes += static_cast<char>(code.captured(1).toInt(nullptr, 16));
+    end = code.capturedEnd();
+  }
+  return QString::fromUtf8(bytes + text.mid(end).toUtf8());
+}
+
+/// The server that an address names as a whole; an invalid URL when it cannot be read.
+QUrl ServerOf(const QString& text) {
+  static const QRegularExpression kAddress(
+      "^postgres(?:ql)?://"
+      "(?:(?<user>[^:/?#\\s]*)(?::(?<password>.*))?(?<at>@))?"
+      "(?<host>[^:/?#@\\s]*|\\[[^\\]@\\s]*\\])(?::(?<port>[0-9]{1,5}))?"
+      "(?<path>/[^?#@\\s]*)?(?:\\?(?<options>[^#@\\s]*))?$",
+      QRegularExpression::CaseInsensitiveOption);
+  const QRegularExpressionMatch match = kAddress.match(text);
+  if (!match.hasMatch()) return {};
+  QUrl server;
+  server.setScheme("postgresql");
+  const bool here = match.captured("host").isEmpty() && !match.captured("at").isEmpty();
+  server.setHost(here ? QStringLiteral("localhost") : match.captured("host"));
+  if (!match.captured("port").isEmpty()) server.setPort(match.captured("port").toInt());
+  server.setUserName(Decoded(match.captured("user")), QUrl::DecodedMode);
+  server.setPassword(Decoded(match.captured("password")), QUrl::DecodedMode);
+  server.setPath(match.captured("path"));
+  if (!match.captured("options").isEmpty()) server.setQuery(match.captured("options"));
+  return server;
+}
+
+}  // namespace
+
 std::string UserDataFolder() {
   QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
   // A relative XDG_DATA_HOME would put the store wherever the program happens to be started.
@@ -19,11 +68,12 @@ std::string UserDataFolder() {
 
 std::string StoreAddress::Display() const {
   if (kind == Kind::kFile) return path.toStdString();
+  if (kind == Kind::kUnreadable) return {};
   return server.toDisplayString(QUrl::RemovePassword | QUrl::RemoveQuery).toStdString();
 }
 
 std::string StoreAddress::Identity() const {
-  if (kind == Kind::kServer) return Display();
+  if (kind != Kind::kFile) return Display();
   const QFileInfo file(path);
   const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
   const QString whole = folder.isEmpty() ? file.absoluteFilePath() : folder + '/' + file.fileName();
@@ -32,17 +82,16 @@ std::string StoreAddress::Identity() const {
 
 StoreAddress ParseStoreAddress(const std::string& address) {
   StoreAddress parsed;
-  if (address.empty()) {
+  const QString text = QString::fromStdString(address);
+  if (text.isEmpty()) {
     parsed.is_default = true;
     parsed.path = QString::fromStdString(UserDataFolder()) + "/store.sqlite";
-  } else if (address.starts_with("postgresql://") || address.starts_with("postgres://")) {
-    parsed.kind = StoreAddress::Kind::kServer;
-    QString text = QString::fromStdString(address);
-    // A user without a host, for the server's socket on this machine, is no URL by the letter.
-    text.replace(QRegularExpression("^([a-z]+://[^/@]*@)/"), "\\1localhost/");
-    parsed.server = QUrl(text);
+  } else if (LooksLikeServer(text.trimmed())) {
+    parsed.server = ServerOf(text.trimmed());
+    parsed.kind =
+        parsed.server.isValid() ? StoreAddress::Kind::kServer : StoreAddress::Kind::kUnreadable;
   } else {
-    parsed.path = QString::fromStdString(address);
+    parsed.path = text;
   }
   return parsed;
 }

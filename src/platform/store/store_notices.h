@@ -20,6 +20,8 @@ Notice FullStoreNotice(const std::string& place, const std::string& reason);
 Notice BrokenStoreNotice(const std::string& place, const std::string& aside);
 /// `key` is the record's key, `aside` the key under which it was put aside.
 Notice DamagedRecordNotice(const std::string& key, const std::string& aside);
+/// Of an address no part is told, for nobody knows which of it is a secret.
+Notice UnreadableAddressNotice();
 Notice UnreachableServerNotice(const std::string& place, const std::string& reason);
 Notice UnreadableStoreNotice(const std::string& place, const std::string& reason);
 
