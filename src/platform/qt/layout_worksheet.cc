@@ -13,7 +13,6 @@ namespace {
 constexpr double kWidth = 983;  // answer area and action box together
 constexpr double kStrip = 56;
 constexpr double kHighestStrip = 84;
-constexpr double kMostAbove = 24;  // of the header
 constexpr double kBoxHeight = 545;
 constexpr double kBeyond = 8;  // by which the cards stand out above and below
 constexpr double kHalfGap = 8;
@@ -26,7 +25,7 @@ constexpr int kSlots = 4;
 
 constexpr double kTileWidth = 100;
 constexpr double kTileGap = 28;
-constexpr double kTileGapAtGauge = 12;
+constexpr double kTileGapAtGauge = 11;
 constexpr double kTileMargin = 21;
 constexpr double kTileEdge = 5;  // of the coloured frame around the picture
 constexpr double kSymbolHeight = 40;
@@ -91,7 +90,7 @@ void FillStrip(Layout& layout, const Form& form, const QRectF& strip) {
 /// The gauge stands at the end of the answer area, next to the actions.
 void FillGauge(Layout& layout, const QRectF& box) {
   layout.places["matboxanz"] = {
-      .rect = QRectF(box.right() - 10 - kGauge, box.top(), kGauge, kBoxHeight),
+      .rect = QRectF(box.right() - kHalfGap - kBeyond - kGauge, box.top(), kGauge, kBoxHeight),
       .text = 13,
       .named_by = "ergebnis_anz(0)",
       .ends = {"ergebnis_anz(1)", "ergebnis_anz(2)"}};
@@ -256,11 +255,12 @@ Layout LayoutWorksheet(const Form& form, const QSizeF& page) {
   const double answer_width = WidthOf(form, box, kWidth - action_width);
   const double width = answer_width + action_width;
   const double x = (page.width() - width) / 2;
-  // The header takes some of the height that is left, and stands close above its cards.
+  // The header takes some of the height that is left, and stands close above its cards; what is
+  // left then is above and below.
   const double cards = kBoxHeight + 2 * kBeyond;
   const double between = 2 * kHalfGap;
   const double strip = std::clamp(page.height() - cards - 3 * between, kStrip, kHighestStrip);
-  const double above = std::min((page.height() - cards - between - strip) / 2, kMostAbove);
+  const double above = (page.height() - cards - between - strip) / 2;
   FillStrip(layout, form, QRectF(x, above, width, strip));
   const double y = above + strip + between + kBeyond;
   const QRectF action(x + answer_width, y, action_width, action_height);

@@ -48,6 +48,20 @@ std::optional<QColor> Optional(const std::optional<Color>& color) {
   return look::ToQ(*color);
 }
 
+/// A picture with a place of its own has a white ground there; another stands on what is below it.
+bool BringsItsWhite(Look look) { return look == Look::kMark || look == Look::kTile; }
+
+/// A picture without its white, its black in another colour.
+QImage InInk(const QPixmap& picture, const QColor& ink) {
+  QImage drawn(picture.size(), QImage::Format_ARGB32_Premultiplied);
+  drawn.setDevicePixelRatio(picture.devicePixelRatio());
+  drawn.fill(ink);
+  QImage share = picture.toImage().convertToFormat(QImage::Format_Grayscale8);
+  share.invertPixels();
+  drawn.setAlphaChannel(share);
+  return drawn;
+}
+
 }  // namespace
 
 // --- Dressed
@@ -278,7 +292,7 @@ bool TextWidget::HasGround() const {
 QColor TextWidget::Ground() const {
   const bool is_picture =
       image_.kind == PictureId::Kind::kNotation || image_.kind == PictureId::Kind::kSymbol;
-  if (is_picture) return Qt::white;
+  if (is_picture) return BringsItsWhite(place_.look) ? QColor(Qt::white) : GroundBelow();
   if (HasGround()) return *back_;
   if (place_.look == Look::kOnBanner) return look::kBannerEnd;
   return place_.look == Look::kPrimary ? colors().hover : GroundBelow();
@@ -332,13 +346,10 @@ void TextWidget::PaintImage(QPainter& painter) {
   }
   const QSizeF size = picture.deviceIndependentSize();
   const double free = width() - size.width();
-  const bool alone = place_.look == Look::kMark || place_.look == Look::kTile;
-  const QPointF corner(alone ? qRound(free / 2) : 0, qRound((height() - size.height()) / 2));
-  if (alone) {
-    painter.fillRect(rect(), Qt::white);
-  } else {
-    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-  }
+  const bool white = BringsItsWhite(place_.look);
+  const QPointF corner(white ? qRound(free / 2) : 0, qRound((height() - size.height()) / 2));
+  if (!white) return painter.drawImage(corner, InInk(picture, Ink()));
+  painter.fillRect(rect(), Qt::white);
   painter.drawPixmap(corner, picture);
 }
 

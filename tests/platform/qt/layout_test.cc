@@ -288,6 +288,18 @@ TEST(Layout, HasNoEmptyBandUnderTheHeaderOfTheWorksheet) {
   }
 }
 
+TEST(Layout, HasAsMuchRoomAboveTheWorksheetAsBelowIt) {
+  ProgramFixture p;
+  p.ToWorksheet();
+  for (const QSize& size : {QSize(1024, 768), QSize(1280, 1024), kLow}) {
+    Shown shown(p.worksheet(), size);
+    constexpr double kBeyond = 8;  // by which the card stands out
+    const double below = size.height() - shown.OnPage(shown.At("jzakk_box(0)")).bottom() -
+                         kBeyond * shown.page().factor();
+    EXPECT_NEAR(shown.OnPage(shown.At("PicUebTyp")).top(), below, 2) << size.height();
+  }
+}
+
 TEST(Layout, KeepsTheStepsOfTheTileRows) {
   ProgramFixture p;
   p.ToWorksheet();

@@ -123,6 +123,38 @@ TEST(Gauge, StandsUprightWithItsValueAtItsMark) {
   EXPECT_LT(mark(38), mark(39));
 }
 
+TEST(Gauge, KeepsItsDistanceFromTheEdgesOfItsCardAndFromTheTiles) {
+  ProgramFixture p;
+  p.ToSettings();
+  p.settings_screen().training_Combo.Select(1);
+  p.StartRun();
+  const Shown shown(p.worksheet(), kSmall);
+  const QRect answers = shown.OnPage(shown.At("jzakk_box(0)"));
+  const QRect gauge = shown.OnPage(shown.At("matboxanz"));
+  constexpr int kBeyond = 8;  // by which the card stands out above and below, and stays back beside
+  EXPECT_EQ(answers.right() - kBeyond - gauge.right(), gauge.top() - (answers.top() - kBeyond));
+  EXPECT_GE(gauge.left() - shown.OnPage(shown.At("klang_pan(6)")).right(), kBeyond);
+}
+
+TEST(SymbolsOfTheTiles, CanBeReadOnALightAndOnADarkDesktop) {
+  ProgramFixture p;
+  p.ToWorksheet();
+  for (const bool dark : {false, true}) {
+    const ForcedPalette desktop(dark);
+    Shown shown(p.worksheet(), kSmall);
+    const QRect place = shown.OnPage(shown.At("Akkbez(1)"));
+    const QImage image = shown.page().grab(place).toImage();
+    const QColor ground = image.pixelColor(image.rect().bottomRight());
+    int inked = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        inked += look::Contrast(image.pixelColor(x, y), ground) >= 4.5 ? 1 : 0;
+      }
+    }
+    EXPECT_GT(inked, 12) << dark;
+  }
+}
+
 TEST(Gauge, GoesFromGreenAtTheBottomToRedAtTheTop) {
   ProgramFixture p;
   p.ToSettings();
