@@ -178,17 +178,17 @@ std::vector<double> RowHeights(const Form& form, const Table& table, double size
 /// In the largest type in which all rows find their place.
 void FillTable(Layout& layout, const Form& form, const Table& table) {
   constexpr double kLargestType = 15;
-  constexpr double kSmallestType = 9;
+  constexpr double kSmallestType = 12.5;  // 11 pixels where the page is smallest
   double size = kLargestType;
   std::vector<double> heights;
   double gap = 0;
-  for (; size >= kSmallestType; size -= 1) {
+  for (;; size = std::max(size - 1, kSmallestType)) {
     heights = RowHeights(form, table, size);
     double sum = 0;
     for (const double height : heights) sum += height;
     const auto rows = static_cast<double>(heights.size());
     gap = std::min(size * 0.9, (table.box.height() - sum) / std::max(1.0, rows));
-    if (gap >= size * 0.3) break;
+    if (gap >= size * 0.3 || size <= kSmallestType) break;
   }
   double y = table.box.top();
   for (std::size_t i = 0; i < table.rows.size(); ++i) {

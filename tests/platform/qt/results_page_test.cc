@@ -49,6 +49,16 @@ TEST_P(ResultsIn, ShowsBothFacesWholeBeforeAndAfterTheyArePrinted) {
   ExpectWellLaidOut(p_.results());
 }
 
+TEST_P(ResultsIn, AreWrittenInTypeOfElevenPixelsAtLeast) {
+  ToResults(p_);
+  EXPECT_TRUE(p_.results().cmdOK[0].Press());
+  Shown shown(p_.results(), kLow);
+  for (const Binding* binding : shown.Visible()) {
+    if (binding->dressed().caption().isEmpty()) continue;
+    EXPECT_GE(binding->dressed().Type().pixelSize(), 11) << binding->control().Id();
+  }
+}
+
 TEST_P(ResultsIn, SayThatTimeIsUpAlsoOnPaper) {
   RunOutOfTime(p_);
   EXPECT_TRUE(p_.results().zeit_um.visible);
@@ -108,7 +118,7 @@ TEST(ResultsLayout, FindsRoomForThreeRowsOfTheHighestCells) {
       control->visible = true;
     }
   }
-  ExpectWellLaidOut(screen);
+  ExpectWellLaidOut(screen, {kSmall, kLarge});  // a lower window scrolls
 }
 
 TEST(ResultsLayout, PutsTheUserOnTheLeftOfTheSettings) {

@@ -158,9 +158,10 @@ inline void ExpectNoWordIsMissing(const Form& form) {
   }
 }
 
-inline void ExpectWellLaidOut(Form& form) {
+inline void ExpectWellLaidOut(Form& form,
+                              const std::vector<QSize>& sizes = {kSmall, kLow, kNarrow, kLarge}) {
   ExpectNoWordIsMissing(form);
-  for (const QSize& size : {kSmall, kLow, kNarrow, kLarge}) {
+  for (const QSize& size : sizes) {
     Shown shown(form, size);
     ExpectAllIsOnThePage(shown);
     ExpectNothingCoversAnother(shown);
