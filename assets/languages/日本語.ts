@@ -254,7 +254,7 @@
     </message>
     <message id="312s">
         <source></source>
-        <translation>ハーフディミニッシュ</translation>
+        <translation>ハーフディム</translation>
     </message>
     <message id="319s">
         <source></source>

@@ -56,7 +56,8 @@ struct Placement {
   std::string named_by{};  ///< the control whose caption names or explains this one
   /// Of a gauge: the controls whose captions tell what 0 and 100 per cent mean.
   std::array<std::string, 2> ends{};
-  double head = 0;  ///< of a frame: where it begins what the program places in it
+  double head = 0;         ///< of a frame: where it begins what the program places in it
+  double least_width = 0;  ///< about its middle, where the program's own is too narrow for words
 };
 
 /// What a key does: it presses the first of the controls that can be reached, or closes the screen

@@ -127,8 +127,10 @@ void FillCell(Layout& layout, const Form& form, int e, double left, double top) 
                               .look = Look::kTile,
                               .text = 15,
                               .align = Qt::AlignCenter};
-  places[IdOf("akk_group", e)] = {
-      .rect = QRectF(x, top, 96, 20), .text = 12, .align = Qt::AlignCenter};
+  places[IdOf("akk_group", e)] = {.rect = QRectF(x, top, 96, 20),
+                                  .text = 12,
+                                  .align = Qt::AlignCenter,
+                                  .least_width = kColumn - 2};
   places[IdOf("ergebnis", e)] = {.rect = QRectF(x, top, kCellWidth, 20),
                                  .look = Look::kMark,
                                  .text = 14,

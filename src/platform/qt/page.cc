@@ -166,7 +166,9 @@ QRectF Page::PlaceOf(const Control& control) const {
   if (control.top) rect.moveTop(origin.y() + *control.top);
   if (control.width) rect.setWidth(*control.width);
   if (control.height) rect.setHeight(*control.height);
-  return rect;
+  if (place == layout_.places.end()) return rect;
+  const double beyond = std::max(0.0, place->second.least_width - rect.width()) / 2;
+  return rect.adjusted(-beyond, 0, beyond, 0);
 }
 
 /// Where a container begins what the program places in it.
