@@ -52,7 +52,6 @@ UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& use
   connect(ok, &QPushButton::clicked, this, [this] { Try(); });
   auto* const cancel = new QPushButton(words.Say(9428, "Cancel"));
   cancel->setObjectName("cancel");
-  cancel->setAutoDefault(false);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();

@@ -347,6 +347,19 @@ TEST_F(HomeWindowTest, AsksAgainUntilANumberCanBeTaken) {
   EXPECT_THAT(host_->Users(), SizeIs(2));
 }
 
+TEST_F(HomeWindowTest, AddsNobodyWhenReturnIsPressedOnCancel) {
+  Open();
+  Then([](UserDialog& dialog) {
+    Type(dialog, "number", "4711");
+    auto* const cancel = dialog.findChild<QPushButton*>("cancel");
+    cancel->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(cancel, Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  Press("add_user");
+  EXPECT_THAT(host_->Users(), IsEmpty());
+}
+
 TEST_F(HomeWindowTest, ChangesTheNamesOfAUserButNotHisNumber) {
   Open();
   AddUser("4711", "Berg", "Anna");
