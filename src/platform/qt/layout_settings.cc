@@ -107,8 +107,9 @@ class CardBuilder {
   /// With room for two lines.
   void LongList(const std::string& id) {
     List(id, heading_);
-    layout_.places[id].rect.setHeight(kRow + 8);
-    next_ += 8;
+    constexpr double kSecondLine = 14;
+    layout_.places[id].rect.setHeight(kRow + kSecondLine);
+    next_ += kSecondLine;
   }
   void NamedList(const std::string& label, const std::string& id) {
     next_ += 6;
@@ -219,7 +220,7 @@ void FillCard(CardBuilder& card, int frame) {
       return card.List("akkzahl_cmb");
     case 8:
       card.LongList("training_Combo");
-      return card.LongList("prfnr_Comb");
+      return card.List("prfnr_Comb");
     case 10:
       card.LongList("arpeg_cmb");
       return card.NamedList("lb10", "cmb_arpTmp");

@@ -510,7 +510,8 @@ DropDownWidget::DropDownWidget(QWidget* parent, const PageStyle& style, const Pl
   setItemDelegate(new DropDownDelegate(this));
 }
 
-QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(34), height() - Px(2)); }
+/// Within the edge and the ring of the focus, which would cut what is as high as the list.
+QSizeF DropDownWidget::TextBox() const { return QSizeF(width() - Px(34), height() - Px(6)); }
 
 void DropDownWidget::showPopup() {
   const QFont font = look::Type(Px(place_.text), look::Weight::kNormal);
