@@ -67,11 +67,13 @@ class Testergebnis : public Form {
   Button cmdHilfe{*this, "cmdHilfe"};
   Timer start;
   Timer testtimer;
-  Timer schonfrist;  ///< while it runs the first face takes no key
+  Timer schonfrist;  ///< while it runs nothing leaves the first face
 
   void Form_Load() override;
   void Form_Unload() override;
-  void Form_Close() override { cmdOK_Click(1); }
+  void Form_Close() override {
+    if (!schonfrist.enabled) cmdOK_Click(1);
+  }
 
   void start_Timer();
   void testtimer_Timer();

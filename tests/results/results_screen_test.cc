@@ -575,6 +575,20 @@ TEST(ResultsScreen, IsNewForEveryRun) {
   ExpectGrid(p, {204, 40, 120});
 }
 
+TEST(ResultsScreen, IsNotClosedInItsFirstSecondWhenItComesByItself) {
+  ResultsFixture p;
+  p.ToResultsPending();
+  p.loop.Advance(300);
+  p.results().Form_Close();
+  p.loop.Advance(p.results().schonfrist.interval - 1);
+  ASSERT_NE(p.program.testergebnis(), nullptr);
+  p.results().Form_Close();
+  ASSERT_NE(p.program.testergebnis(), nullptr);
+  p.loop.Advance(1);
+  p.results().Form_Close();
+  ExpectLeft(p);
+}
+
 TEST(ResultsScreen, OpensTheHelp) {
   ResultsFixture p;
   p.ToResults();
