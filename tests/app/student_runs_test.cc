@@ -476,10 +476,10 @@ class Student {
     p_->loop.Advance(300);
     ASSERT_TRUE(p_->results().visible);
     CheckMarks();
+    if (p_->results().zeit_um.visible) p_->loop.Advance(p_->results().schonfrist.interval);
     if (skill_ == Skill::kGuesses && dice_.OneIn(2)) {
       p_->results().Form_Close();
     } else {
-      if (p_->results().zeit_um.visible) p_->loop.Advance(p_->results().schonfrist.interval);
       EXPECT_TRUE(p_->results().cmdOK[0].Press());
       EXPECT_TRUE(p_->results().cmdOK[1].Press());
     }
