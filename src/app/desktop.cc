@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <chrono>
 #include <exception>
+#include <future>
 #include <utility>
 
 #include "app/places.h"
@@ -72,10 +73,13 @@ Desktop::Desktop()
   program_->OnEnd = [this] { loop_.Quit(); };
 }
 
-Desktop::~Desktop() {
+Desktop::~Desktop() { End(); }
+
+bool Desktop::End() {
+  if (!output_) return true;
   notices_.reset();
   program_.reset();
-  LetGo(std::move(output_)).wait_for(kTimeToLetGo);
+  return LetGo(std::move(output_)).wait_for(kTimeToLetGo) == std::future_status::ready;
 }
 
 void Desktop::Tell(const Notice& notice) {

@@ -38,6 +38,9 @@ class Desktop {
   /// 1 after an error that nothing in the program could deal with. Where the user is at work with
   /// it already, brings that process to the front and returns 0 at once.
   int Run();
+  /// Gives back what the program holds, after `Run`. False where the sound hangs: then a thread
+  /// stands in a driver, and the process must end without the end handlers of the libraries.
+  bool End();
   /// Ends the program from any state, as its user would: a run is left and its record saved.
   void Leave();
   /// The last resort for an error that left its handler, to which the loop hands it: logs it, tells

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <signal.h>
+#include <unistd.h>
 
 #include <QApplication>
 
@@ -16,5 +17,9 @@ int main(int argc, char* argv[]) {
   vmod17::SetUpApplication();
   vmod17::Desktop desktop;
   const vmod17::EndOnSignal end_on_signal([&desktop] { desktop.Leave(); });
-  return desktop.Run();
+  const int status = desktop.Run();
+  // All is saved, and the host has its word. What a library does when a process ends in order may
+  // wait for the thread that hangs in it, or pull away what it stands on.
+  if (!desktop.End()) _exit(status);
+  return status;
 }

@@ -95,6 +95,7 @@ HomeWindow::HomeWindow(Host& host, QtEventLoop& loop, MessageBox& messages, File
 HomeWindow::~HomeWindow() {
   host_.changed = nullptr;
   host_.on_module_shown = nullptr;
+  host_.on_module_back = nullptr;
   host_.on_module_end = nullptr;
 }
 
@@ -206,6 +207,7 @@ void HomeWindow::Connect() {
     hide();
     if (on_module_shown) on_module_shown();
   };
+  host_.on_module_back = [this] { loop_.Deliver([this] { Return(); }); };
   host_.on_module_end = [this](const ModuleEnd& end) {
     loop_.Deliver([this, end] { ModuleEnded(end); });
   };
@@ -481,15 +483,23 @@ void HomeWindow::Start() {
   host_.StartModule();
 }
 
-void HomeWindow::ModuleEnded(const ModuleEnd& end) {
-  const Words& words = host_.words();
+/// The user is here again.
+void HomeWindow::Return() {
   Refresh();
   if (!isVisible()) Open();
   start_->setFocus(Qt::OtherFocusReason);
+}
+
+void HomeWindow::ModuleEnded(const ModuleEnd& end) {
+  // The user may be at work in the next one. What was wrong with this one is in the log.
+  if (host_.ModuleRuns()) return;
+  const Words& words = host_.words();
   switch (end.kind) {
     case ModuleEnd::Kind::kMenu:
-      return;
+    case ModuleEnd::Kind::kHung:
+      return;  // the user has been here since the module gave control back
     case ModuleEnd::Kind::kOpenBefore:
+      Return();
       messages_.Warn(
           words.Say(9452, "The exercise is open already. After OK its window comes to the front.")
               .toStdString(),
@@ -498,6 +508,7 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
       host_.BringModuleToFront();
       return;
     case ModuleEnd::Kind::kNotStarted:
+      Return();
       return messages_.Warn(
           words
               .Say(9453,
@@ -507,6 +518,7 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
               .toStdString(),
           "Melvado");
     case ModuleEnd::Kind::kBroken:
+      Return();
       break;
   }
   const QString question =

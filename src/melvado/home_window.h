@@ -101,6 +101,7 @@ class HomeWindow : public QWidget {
   void TakeSoundfont(const std::string& path);
   void Test();
   void Start();
+  void Return();
   void ModuleEnded(const ModuleEnd& end);
   void ShowLog();
   bool AskHelp(const QWidget& asked, const QKeyEvent& key);

@@ -48,6 +48,7 @@ Host::Host(HostSetup setup, EventLoop& loop)
   module_.on_shown = [this] {
     if (on_module_shown) on_module_shown();
   };
+  module_.on_back = [this] { ModuleIsBack(); };
   module_.on_end = [this](const ModuleEnd& end) { ModuleEnded(end); };
   ports_->Prepare();
   if (setup_.midi) {
@@ -237,6 +238,11 @@ bool Host::BringModuleToFront() {
   return SingleInstance::BringToFront(ModuleKey(setup_.store, ChosenUser()));
 }
 
+void Host::ModuleIsBack() {
+  RefreshOutputs();
+  if (on_module_back) on_module_back();
+}
+
 /// What the module could not log any more is logged for it.
 void Host::ModuleEnded(const ModuleEnd& end) {
   std::string what;
@@ -244,6 +250,8 @@ void Host::ModuleEnded(const ModuleEnd& end) {
     what = setup_.module + " could not be started: " + end.reason.toStdString();
   } else if (end.crashed) {
     what = "vmod17 was ended by signal " + std::to_string(end.code);
+  } else if (end.kind == ModuleEnd::Kind::kHung) {
+    what = "vmod17 had given control back, but its process stayed and was killed";
   } else if (end.kind == ModuleEnd::Kind::kBroken) {
     what = "vmod17 ended without a word, with status " + std::to_string(end.code);
   }

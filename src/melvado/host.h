@@ -94,12 +94,16 @@ class Host {
 
   // --- The module
   std::function<void()> on_module_shown;
+  /// The module has given control back; `on_module_end` follows when its process has ended.
+  std::function<void()> on_module_back;
   std::function<void(const ModuleEnd&)> on_module_end;
   void StartModule();
   /// What the module is given of the choices.
   std::string Session() { return store_.Session(); }
   bool ModuleRuns() const { return module_.runs(); }
   qint64 module_process() const { return module_.process_id(); }
+  /// See `ModuleProcess::leaving`.
+  int ModulesThatLeave() const { return module_.leaving(); }
   /// False when there is none to be brought, or it does not answer in some seconds.
   bool BringModuleToFront();
 
@@ -118,6 +122,7 @@ class Host {
   std::optional<Notice> Store(const std::function<void()>& work);
   void Choose(const std::function<void()>& work);
   void SpeakLanguage();
+  void ModuleIsBack();
   void ModuleEnded(const ModuleEnd& end);
   FaultFacts Facts();
 

@@ -3,6 +3,8 @@
 
 #include "melvado/module_process.h"
 
+#include <QTimer>
+#include <algorithm>
 #include <utility>
 
 #include "app/places.h"
@@ -10,17 +12,22 @@
 namespace vmod17 {
 
 ModuleProcess::~ModuleProcess() {
-  if (!process_) return;
-  process_->disconnect();
-  process_->terminate();
-  process_->waitForFinished(kTimeToEndMs);
+  if (at_work_) {
+    at_work_->process.disconnect();
+    at_work_->process.terminate();
+    at_work_->process.waitForFinished(kTimeToEndMs);
+  }
+  for (const auto& module : leaving_) {
+    module->process.disconnect();
+    module->process.waitForFinished(static_cast<int>(module->patience.remainingTime()));
+  }
 }
 
 void ModuleProcess::Start(const QString& program, const QString& store, const QString& session) {
-  if (process_) return;
-  menu_ = open_before_ = false;
-  process_ = std::make_unique<QProcess>();
-  QProcess& process = *process_;
+  if (at_work_) return;
+  at_work_ = std::make_unique<Module>();
+  Module& module = *at_work_;
+  QProcess& process = module.process;
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
   surroundings.insert(kHostVariable, "1");
@@ -29,37 +36,62 @@ void ModuleProcess::Start(const QString& program, const QString& store, const QS
   // Taken over by the host, where it may have been changed since.
   surroundings.remove("MELVADO_MIDI");
   process.setProcessEnvironment(surroundings);
-  QObject::connect(&process, &QProcess::readyReadStandardOutput, &process, [this] { Hear(); });
-  QObject::connect(&process, &QProcess::errorOccurred, &process, [this](QProcess::ProcessError e) {
-    if (e != QProcess::FailedToStart) return;
-    End({ModuleEnd::Kind::kNotStarted, false, 0, process_->errorString()});
-  });
+  QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
+                   [this, &module] { Hear(module); });
+  QObject::connect(&process, &QProcess::errorOccurred, &process,
+                   [this, &module](QProcess::ProcessError e) {
+                     if (e != QProcess::FailedToStart) return;
+                     const QString why = module.process.errorString();
+                     End(module, {ModuleEnd::Kind::kNotStarted, false, 0, why});
+                   });
   QObject::connect(&process, &QProcess::finished, &process,
-                   [this](int code, QProcess::ExitStatus status) {
-                     Hear();
-                     ModuleEnd end;
-                     end.crashed = status == QProcess::CrashExit;
-                     end.code = code;
-                     // What a module writes at its end may be lost when it crashes there.
-                     if (menu_ && !end.crashed) end.kind = ModuleEnd::Kind::kMenu;
-                     if (open_before_ && !end.crashed) end.kind = ModuleEnd::Kind::kOpenBefore;
-                     End(std::move(end));
+                   [this, &module](int code, QProcess::ExitStatus status) {
+                     Hear(module);
+                     Finish(module, code, status);
                    });
   process.start(program, QStringList());
 }
 
-void ModuleProcess::Hear() {
-  while (process_ && process_->canReadLine()) {
-    const QByteArray line = process_->readLine().trimmed();
-    if (line == ModuleLine::kMenu) menu_ = true;
-    if (line == ModuleLine::kOpen) open_before_ = true;
+void ModuleProcess::Hear(Module& module) {
+  while (module.process.canReadLine()) {
+    const QByteArray line = module.process.readLine().trimmed();
+    if (line == ModuleLine::kOpen) module.open_before = true;
     if (line == ModuleLine::kShown && on_shown) on_shown();
+    if (line == ModuleLine::kMenu && !std::exchange(module.menu, true)) TakeBack();
   }
 }
 
-void ModuleProcess::End(ModuleEnd end) {
+void ModuleProcess::TakeBack() {
+  Module& module = *at_work_;
+  leaving_.push_back(std::move(at_work_));
+  module.patience.setRemainingTime(time_to_leave_ms_);
+  QTimer::singleShot(time_to_leave_ms_, &module, [&module] {
+    module.killed = true;
+    module.process.kill();
+  });
+  if (on_back) on_back();
+}
+
+void ModuleProcess::Finish(Module& module, int code, QProcess::ExitStatus status) {
+  ModuleEnd end;
+  end.crashed = status == QProcess::CrashExit && !module.killed;
+  end.code = code;
+  // What a module writes at its end may be lost when it crashes there.
+  if (module.menu && !end.crashed) end.kind = ModuleEnd::Kind::kMenu;
+  if (module.killed) end.kind = ModuleEnd::Kind::kHung;
+  if (module.open_before && !end.crashed) end.kind = ModuleEnd::Kind::kOpenBefore;
+  End(module, end);
+}
+
+void ModuleProcess::End(Module& module, const ModuleEnd& end) {
   // The process is the sender of what is being delivered.
-  process_.release()->deleteLater();
+  if (at_work_.get() == &module) {
+    at_work_.release()->deleteLater();
+  } else {
+    const auto left = std::ranges::find(leaving_, &module, &std::unique_ptr<Module>::get);
+    left->release()->deleteLater();
+    leaving_.erase(left);
+  }
   if (on_end) on_end(end);
 }
 

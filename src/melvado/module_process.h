@@ -3,10 +3,13 @@
 
 #pragma once
 
+#include <QDeadlineTimer>
+#include <QObject>
 #include <QProcess>
 #include <QString>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace vmod17 {
 
@@ -14,6 +17,7 @@ namespace vmod17 {
 struct ModuleEnd {
   enum class Kind {
     kMenu,        ///< by its own way out, back to the host, and whole to its end
+    kHung,        ///< it had found its way out, but its process stayed and was killed
     kOpenBefore,  ///< at once: another process is at work, which it has brought to the front
     kBroken,      ///< in any other way
     kNotStarted,  ///< it could not be started at all
@@ -29,33 +33,55 @@ struct ModuleEnd {
 inline constexpr int kTimeToEndMs = 15'000;
 
 /// The module as a process of its own, one at a time. What it says is in app/places.h.
+///
+/// A module that has given control back has saved all and closed its window. For the user it is
+/// over then, and another one may be started, while its process still takes leave of the sound
+/// card, which may be slow, or hang.
 class ModuleProcess {
  public:
-  ModuleProcess() = default;
+  /// `time_to_leave_ms`  from the moment in which a module gives control back until it is killed
+  explicit ModuleProcess(int time_to_leave_ms = kTimeToEndMs)
+      : time_to_leave_ms_(time_to_leave_ms) {}
   /// Asks a module that still runs to end, and gives it `kTimeToEndMs` before it is killed. That
   /// happens when the desktop ends, or the host in the moment before the module is shown: later the
-  /// module's window hides the host's.
+  /// module's window hides the host's. One that is leaving has the rest of its time.
   ~ModuleProcess();
   ModuleProcess(const ModuleProcess&) = delete;
   ModuleProcess& operator=(const ModuleProcess&) = delete;
 
   std::function<void()> on_shown;
+  /// The module has given control back.
+  std::function<void()> on_back;
+  /// Its process has ended; after `on_back`, if that came.
   std::function<void(const ModuleEnd&)> on_end;
 
   /// `store`    handed on, see `ParseStoreAddress`
   /// `session`  handed on, see `HostStore::Session`
   void Start(const QString& program, const QString& store, const QString& session);
-  bool runs() const { return process_ != nullptr; }
-  /// 0 when none runs.
-  qint64 process_id() const { return process_ ? process_->processId() : 0; }
+  /// A module is at work: it was started and has not given control back.
+  bool runs() const { return at_work_ != nullptr; }
+  /// How many processes have given control back and have not ended.
+  int leaving() const { return static_cast<int>(leaving_.size()); }
+  /// Of the module at work; 0 when none is.
+  qint64 process_id() const { return at_work_ ? at_work_->process.processId() : 0; }
 
  private:
-  void Hear();
-  void End(ModuleEnd end);
+  struct Module : QObject {
+    QProcess process;
+    QDeadlineTimer patience{QDeadlineTimer::Forever};  // with it, once it is leaving
+    bool menu = false;
+    bool open_before = false;
+    bool killed = false;
+  };
 
-  std::unique_ptr<QProcess> process_;
-  bool menu_ = false;
-  bool open_before_ = false;
+  void Hear(Module& module);
+  void TakeBack();
+  void Finish(Module& module, int code, QProcess::ExitStatus status);
+  void End(Module& module, const ModuleEnd& end);
+
+  const int time_to_leave_ms_;
+  std::unique_ptr<Module> at_work_;
+  std::vector<std::unique_ptr<Module>> leaving_;
 };
 
 }  // namespace vmod17

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // A module that does what the variable FAKE_MODULE says, word by word: a word in capitals is said
-// as a line, "wait" waits for SIGTERM, "abort" and a number end it. Before that it writes what it
-// was given of the surroundings to the file that FAKE_MODULE_NOTES names.
+// as a line, "wait" waits for SIGTERM, "hang" until it is killed, "abort" and a number end it.
+// Before that it writes what it was given of the surroundings to the file that FAKE_MODULE_NOTES
+// names.
 
 #include <signal.h>
 #include <unistd.h>
@@ -46,6 +47,8 @@ int main() {
   for (std::string word; words >> word;) {
     if (word == "wait") {
       WaitForTheEnd();
+    } else if (word == "hang") {
+      for (;;) pause();
     } else if (word == "abort") {
       std::abort();
     } else if (std::isdigit(static_cast<unsigned char>(word[0]))) {

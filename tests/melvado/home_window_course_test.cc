@@ -111,6 +111,61 @@ TEST_F(HomeWindowCourse, SaysThatAModuleHasCrashedOnItsWayOut) {
   EXPECT_THAT(host_->Log().back().text, HasSubstr("signal 6"));
 }
 
+TEST_F(HomeWindowCourse, IsBackAtTheWordOfAModuleWhoseProcessHangs) {
+  Open();
+  const Surrounding fake("FAKE_MODULE", "SHOWN MENUE wait 0");
+  Press("start");
+  const auto hung = static_cast<pid_t>(host_->module_process());
+  ASSERT_TRUE(ServeUntil([this] { return host_->ModulesThatLeave() == 1; }));
+  Serve();
+  EXPECT_TRUE(window_->isVisible());
+  EXPECT_EQ(Caption("start"), "Jazz-Akkorde bestimmen");
+  EXPECT_TRUE(Find<QWidget>("test")->isEnabled());
+  EXPECT_EQ(kill(hung, 0), 0);
+
+  ShowModule();
+  kill(hung, SIGTERM);
+  ASSERT_TRUE(ServeUntil([this] { return host_->ModulesThatLeave() == 0; }));
+  Serve();
+  EXPECT_FALSE(window_->isVisible()) << "the user is at work in the next one";
+  EndModule();
+}
+
+TEST_F(HomeWindowCourse, LeavesTheFocusWhereItIsWhenTheProcessEnds) {
+  Open();
+  const Surrounding fake("FAKE_MODULE", "SHOWN MENUE wait 0");
+  Press("start");
+  const auto leaving = static_cast<pid_t>(host_->module_process());
+  ASSERT_TRUE(ServeUntil([this] { return host_->ModulesThatLeave() == 1; }));
+  Serve();
+  EXPECT_EQ(window_->focusWidget(), Find<QWidget>("start"));
+  Find<QWidget>("language")->setFocus();
+  kill(leaving, SIGTERM);
+  ASSERT_TRUE(ServeUntil([this] { return host_->ModulesThatLeave() == 0; }));
+  Serve();
+  EXPECT_EQ(window_->focusWidget(), Find<QWidget>("language"));
+  EXPECT_THAT(messages_.questions, IsEmpty());
+}
+
+TEST_F(HomeWindowCourse, LogsButDoesNotAskAboutACrashOnTheWayOutWhileTheNextOneRuns) {
+  Open();
+  {
+    const Surrounding fake("FAKE_MODULE", "SHOWN MENUE wait abort");
+    Press("start");
+  }
+  const auto crashing = static_cast<pid_t>(host_->module_process());
+  ASSERT_TRUE(ServeUntil([this] { return host_->ModulesThatLeave() == 1; }));
+  Serve();
+  ShowModule();
+  kill(crashing, SIGTERM);
+  ASSERT_TRUE(ServeUntil([this] { return host_->ModulesThatLeave() == 0; }));
+  Serve();
+  EXPECT_THAT(messages_.questions, IsEmpty());
+  EXPECT_FALSE(window_->isVisible());
+  EXPECT_THAT(host_->Log().back().text, HasSubstr("signal 6"));
+  EndModule();
+}
+
 TEST_F(HomeWindowCourse, BringsTheModuleToTheFrontForASecondStart) {
   Open();
   ShowModule();

@@ -187,7 +187,8 @@ class HostStage : public testing::Test {
   void RunModule(const QByteArray& script) {
     const Surrounding fake("FAKE_MODULE", script);
     Press("start");
-    ASSERT_TRUE(ServeUntil([this] { return !host_->ModuleRuns(); }));
+    ASSERT_TRUE(
+        ServeUntil([this] { return !host_->ModuleRuns() && host_->ModulesThatLeave() == 0; }));
     Serve();
   }
 

@@ -18,6 +18,7 @@ class ModuleProcessTest : public testing::Test {
  protected:
   ModuleProcessTest() {
     process_.on_shown = [this] { ++shown_; };
+    process_.on_back = [this] { ++back_; };
     process_.on_end = [this](const ModuleEnd& end) { ends_.push_back(end); };
   }
 
@@ -31,6 +32,7 @@ class ModuleProcessTest : public testing::Test {
 
   ModuleProcess process_;
   int shown_ = 0;
+  int back_ = 0;
   std::vector<ModuleEnd> ends_;
 };
 
@@ -113,6 +115,83 @@ TEST_F(ModuleProcessTest, HandsOnStoreAndSessionAndKeepsTheOutputThatItHasTakenO
   EXPECT_EQ(written.readAll(),
             "MELVADO_HOST=1\nMELVADO_STORE=/some/store\n"
             "MELVADO_SESSION=what was chosen\nMELVADO_MIDI=none\n");
+}
+
+TEST_F(ModuleProcessTest, IsBackOnceForAModuleThatEndsAtOnceAfterItsWord) {
+  EXPECT_EQ(Run("SHOWN MENUE MENUE 0").kind, Kind::kMenu);
+  EXPECT_EQ(back_, 1);
+  EXPECT_EQ(process_.leaving(), 0);
+}
+
+TEST_F(ModuleProcessTest, IsNotBackFromAModuleThatBreaks) {
+  EXPECT_EQ(Run("SHOWN 3").kind, Kind::kBroken);
+  EXPECT_EQ(back_, 0);
+}
+
+/// A process that stays after its module has given control back.
+class LeavingModule : public testing::Test {
+ protected:
+  void Start(ModuleProcess& process, const QByteArray& script) {
+    process.on_back = [this] { ++back_; };
+    process.on_end = [this](const ModuleEnd& end) { ends_.push_back(end); };
+    const Surrounding fake("FAKE_MODULE", script);
+    process.Start(FAKE_MODULE, "", "");
+    id_ = static_cast<pid_t>(process.process_id());
+  }
+  bool IsAlive() const { return kill(id_, 0) == 0; }
+
+  int back_ = 0;
+  std::vector<ModuleEnd> ends_;
+  pid_t id_ = 0;
+};
+
+TEST_F(LeavingModule, IsOverForTheUserAtItsWord) {
+  ModuleProcess process;
+  Start(process, "SHOWN MENUE wait 0");
+  ASSERT_TRUE(ServeUntil([this] { return back_ == 1; }));
+  EXPECT_FALSE(process.runs());
+  EXPECT_EQ(process.process_id(), 0);
+  EXPECT_EQ(process.leaving(), 1);
+  EXPECT_TRUE(IsAlive());
+  EXPECT_TRUE(ends_.empty());
+  kill(id_, SIGTERM);
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(ends_[0].kind, Kind::kMenu);
+  EXPECT_EQ(process.leaving(), 0);
+}
+
+TEST_F(LeavingModule, IsInNobodysWayWhenTheNextOneIsStarted) {
+  ModuleProcess process;
+  Start(process, "MENUE wait 0");
+  ASSERT_TRUE(ServeUntil([this] { return back_ == 1; }));
+  const pid_t first = id_;
+  Start(process, "MENUE 0");
+  EXPECT_NE(id_, 0);
+  EXPECT_NE(id_, first);
+  ASSERT_TRUE(ServeUntil([this] { return back_ == 2 && ends_.size() == 1; }));
+  EXPECT_EQ(process.leaving(), 1);
+  kill(first, SIGTERM);
+  ASSERT_TRUE(ServeUntil([this] { return ends_.size() == 2; }));
+  EXPECT_EQ(ends_[1].kind, Kind::kMenu);
+}
+
+TEST_F(LeavingModule, IsKilledWhenItStays) {
+  ModuleProcess process(50);
+  Start(process, "MENUE hang");
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(ends_[0].kind, Kind::kHung);
+  EXPECT_FALSE(ends_[0].crashed);
+  EXPECT_FALSE(IsAlive());
+}
+
+TEST_F(LeavingModule, IsKilledWhenTheHostGoesAndItStays) {
+  {
+    ModuleProcess process(50);
+    Start(process, "MENUE hang");
+    ASSERT_TRUE(ServeUntil([this] { return back_ == 1; }));
+  }
+  EXPECT_FALSE(IsAlive());
+  EXPECT_TRUE(ends_.empty());
 }
 
 TEST(ModuleProcess, EndsItsModuleByTheModulesOwnWayWhenTheHostGoes) {

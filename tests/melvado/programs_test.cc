@@ -6,6 +6,7 @@
 #include <signal.h>
 
 #include <QDir>
+#include <QLocalServer>
 #include <QProcess>
 
 #include "app/places.h"
@@ -68,6 +69,35 @@ TEST_F(Programs, ASecondModuleOfOneUserEndsAtOnceWithStatus0) {
   EXPECT_EQ(Status(*second), 0);
   EXPECT_EQ(first->state(), QProcess::Running);
   End(*first);
+}
+
+/// A sound server that takes every connection and never says a word.
+class HungSoundServer {
+ public:
+  explicit HungSoundServer(const QString& path)
+      : variable_("PULSE_SERVER", ("unix:" + path).toUtf8()) {
+    server_.listen(path);
+  }
+  /// Waits until a program has come to it, which then waits for its word.
+  bool Holds() { return server_.hasPendingConnections() || server_.waitForNewConnection(30'000); }
+
+ private:
+  const Surrounding variable_;
+  QLocalServer server_;
+};
+
+TEST_F(Programs, TheModuleGivesControlBackAndEndsThoughTheSoundServerHangs) {
+  HungSoundServer server(folder_.filePath("pulse"));
+  const auto module = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*module), "SHOWN");
+  ASSERT_TRUE(server.Holds());
+  module->terminate();
+  EXPECT_EQ(Line(*module), "MENUE");
+  // At once for the next one; the former process may still be there.
+  const auto next = Start(MODULE_PROGRAM);
+  EXPECT_EQ(Line(*next), "SHOWN");
+  EXPECT_EQ(Status(*module), 0);
+  End(*next);
 }
 
 TEST_F(Programs, AnotherUserMayRunAModuleOfHisOwn) {

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <future>
 #include <mutex>
+#include <thread>
 #include <utility>
 
 #include "platform/midi/midi_ports.h"
@@ -170,7 +171,12 @@ class RtMidiPorts : public MidiPorts {
   /// To find out that no JACK server runs takes up to 10 ms, to connect to one ten times as much.
   void TakeLister(std::chrono::milliseconds patience) {
     if (lister_) return;
-    if (!connecting_.valid()) connecting_ = std::async(std::launch::async, &Connect);
+    if (!connecting_.valid()) {
+      // Not `std::async`, whose future waits for a server that hangs when it goes.
+      std::packaged_task<std::unique_ptr<Connection>()> connect(&Connect);
+      connecting_ = connect.get_future();
+      std::thread(std::move(connect)).detach();
+    }
     if (connecting_.wait_for(patience) == std::future_status::ready) lister_ = connecting_.get();
   }
 
