@@ -32,7 +32,7 @@ class StoreProcess {
 
   /// The next line of its answers, or "" when it has ended or is silent for half a minute.
   QString Hear() {
-    while (!process_.canReadLine() && process_.waitForReadyRead(30'000)) {
+    while (!process_.canReadLine() && process_.waitForReadyRead(120'000)) {
     }
     return QString::fromUtf8(process_.readLine()).trimmed();
   }
