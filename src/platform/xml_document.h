@@ -47,7 +47,8 @@ class XmlDocument {
 
   virtual void SetRootName(std::string_view name) = 0;
   /// The name under which `Save` writes, UTF-8: a folder, a backslash, a base name. On a system
-  /// whose separator is another one, that last backslash stands for the separator.
+  /// whose separator is another one, that last backslash stands for the separator. A number goes
+  /// into the name where another document has it already.
   virtual void SetFileName(std::string_view name) = 0;
   virtual std::unique_ptr<XmlNodeList> RootAttributes() = 0;
   virtual std::unique_ptr<XmlNodeList> RootChildren() = 0;

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "platform/run_time_error.h"
-#include "platform/xml/whole_file.h"
+#include "platform/xml/record_file.h"
 #include "platform/xml/xml_text.h"
 
 namespace vmod17 {
@@ -152,19 +152,6 @@ struct StringWriter : pugi::xml_writer {
   std::string text;
 };
 
-// A file name in its two parts. Only the backslash before the base name is the separator's sign:
-// the folder stands as it came, with whatever characters and separators of its own it has.
-struct FileName {
-  explicit FileName(const std::string& name) {
-    const std::size_t backslash = name.rfind('\\');
-    if (backslash != std::string::npos) folder = name.substr(0, backslash);
-    base = backslash == std::string::npos ? name : name.substr(backslash + 1);
-  }
-
-  std::string folder;
-  std::string base;
-};
-
 Notice SavedElsewhereNotice(const std::string& folder, const std::string& reason,
                             const std::string& path) {
   return {9201,
@@ -193,7 +180,9 @@ class PugiDocument : public XmlDocument {
   }
 
   void SetRootName(std::string_view name) override { root_.set_name(CheckedName(name).c_str()); }
-  void SetFileName(std::string_view name) override { file_name_ = name; }
+  void SetFileName(std::string_view name) override {
+    file_ = RecordFile(std::string(name), fallback_folder_);
+  }
   std::unique_ptr<XmlNodeList> RootAttributes() override { return ElementNode(root_).Attributes(); }
   std::unique_ptr<XmlNodeList> RootChildren() override { return ElementNode(root_).Children(); }
 
@@ -201,7 +190,7 @@ class PugiDocument : public XmlDocument {
     try {
       return SaveSomewhere();
     } catch (const std::exception& error) {
-      Tell(NotSavedNotice(FileName(file_name_).folder, error.what()));
+      Tell(NotSavedNotice(file_.folder(), error.what()));
       return false;
     }
   }
@@ -210,19 +199,16 @@ class PugiDocument : public XmlDocument {
   bool SaveSomewhere() {
     StringWriter writer;
     document_.save(writer, "  ", pugi::format_indent, pugi::encoding_utf8);
-    const FileName name(file_name_);
-    std::string refusal = "no folder is named";
-    if (!name.folder.empty()) {
-      const int error = WriteWholeFile(name.folder + '/' + name.base, writer.text);
-      if (error == 0) return true;
-      refusal = SystemReason(error);
+    switch (file_.Save(writer.text)) {
+      case RecordFile::Saved::kWhereItBelongs:
+        return true;
+      case RecordFile::Saved::kElsewhere:
+        Tell(SavedElsewhereNotice(file_.folder(), file_.refusal(), file_.path()));
+        return true;
+      case RecordFile::Saved::kNowhere:
+        break;
     }
-    const std::string elsewhere = fallback_folder_ + '/' + name.base;
-    if (MakePrivateFolder(fallback_folder_) == 0 && WriteWholeFile(elsewhere, writer.text) == 0) {
-      Tell(SavedElsewhereNotice(name.folder, refusal, elsewhere));
-      return true;
-    }
-    Tell(NotSavedNotice(name.folder, refusal));
+    Tell(NotSavedNotice(file_.folder(), file_.refusal()));
     return false;
   }
 
@@ -232,7 +218,7 @@ class PugiDocument : public XmlDocument {
 
   std::string fallback_folder_;
   Notify notify_;
-  std::string file_name_;
+  RecordFile file_{"", fallback_folder_};
   pugi::xml_document document_;
   pugi::xml_node root_;
 };

@@ -18,9 +18,10 @@ namespace vmod17 {
 /// does not allow, and for adding to the lists of an attribute. An attribute that is added under
 /// the name of another takes its place, since an element has each name once.
 ///
-/// `Save` raises nothing. When the named folder does not take the file, it goes under its own name
-/// to `fallback_folder` (UTF-8, made if it is missing, for its owner alone), and `notify` tells
-/// where it is. When that fails too, `notify` tells that there is no record.
+/// `Save` raises nothing, and replaces no file but the document's own: where its name is taken,
+/// "-2" and so on goes before the extension. When the named folder does not take the file, it goes
+/// under its own name to `fallback_folder` (UTF-8, made if it is missing, for its owner alone), and
+/// `notify` tells where it is. When that fails too, `notify` tells that there is no record.
 XmlDocumentFactory PugiDocumentFactory(std::string fallback_folder, Notify notify);
 
 }  // namespace vmod17

@@ -13,6 +13,11 @@ namespace vmod17 {
 /// (0600). Returns 0, or the system's error number; then nothing is left behind.
 int WriteWholeFile(const std::string& path, std::string_view bytes);
 
+/// The same under a name that nobody else has: where something lies at `path`, whatever it is and
+/// whoever has put it there, "-2", "-3" and so on goes before the extension. `path` is then the
+/// name that was taken.
+int WriteNewFile(std::string& path, std::string_view bytes);
+
 /// Makes a folder and those above it, for their owner alone (0700), if they are missing.
 /// Returns 0, or the system's error number.
 int MakePrivateFolder(const std::string& path);

@@ -3,20 +3,18 @@
 
 #include "platform/xml/pugi_document.h"
 
-#include <fcntl.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <stdlib.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <pugixml.hpp>
 #include <set>
 
+#include "scratch_folder.h"
 #include "support/xml_contract.h"
 
 namespace vmod17 {
@@ -24,34 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A folder that is there for one test. Anyone may go through it, for the tests that give up the
-// rights of the administrator.
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    std::string name = (fs::temp_directory_path() / "vmod17-xml-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path_ = name;
-    fs::permissions(path_, fs::perms(0755));
-  }
-  ~ScratchFolder() { fs::remove_all(path_); }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
-
- private:
-  fs::path path_;
-};
-
-std::string Content(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-int Entries(const std::string& folder) {
-  return static_cast<int>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
-}
+using ::testing::HasSubstr;
 
 class PugiDocumentUnderTest : public DocumentUnderTest {
  public:
@@ -142,6 +113,24 @@ TEST_F(PugiDocument, ReplacesTheFileWhenSavedAgain) {
   EXPECT_NE(Content(folder_ / "a.xml").find("<more>later</more>"), std::string::npos);
 }
 
+TEST_F(PugiDocument, LeavesTheFilesOfOtherDocumentsOfItsNameAlone) {
+  std::vector<std::unique_ptr<XmlDocument>> documents;
+  for (const char* mark : {"first", "second", "third"}) {
+    documents.push_back(MakeLesson(folder_ / "fallback"));
+    documents.back()->RootChildren()->Add(mark, "mark");
+    documents.back()->SetFileName((folder_ / "") + "\\MVX261025023000.xml");
+  }
+  // Saved again each stays where it is.
+  for (int i = 0; i < 2; ++i) {
+    for (const auto& document : documents) ASSERT_TRUE(document->Save());
+  }
+  EXPECT_EQ(Entries(folder_ / ""), 3);
+  EXPECT_THAT(Content(folder_ / "MVX261025023000.xml"), HasSubstr("first"));
+  EXPECT_THAT(Content(folder_ / "MVX261025023000-2.xml"), HasSubstr("second"));
+  EXPECT_THAT(Content(folder_ / "MVX261025023000-3.xml"), HasSubstr("third"));
+  EXPECT_TRUE(notices_.empty());
+}
+
 TEST_F(PugiDocument, CanBeReadBackWhateverItsTextsHold) {
   std::string every_byte;
   for (int byte = 0; byte < 256; ++byte) every_byte += static_cast<char>(byte);
@@ -211,10 +200,8 @@ TEST_F(PugiDocument, TellsWhenItCanBeSavedNowhere) {
 // What a child process found, as its exit code.
 enum Finding { kAsExpected = 10, kOtherNotice = 11, kOtherResult = 12, kNoRights = 13 };
 
-// The administrator may write everywhere, so a test of rights becomes nobody.
 void GiveUpRights() {
-  constexpr uid_t kNobody = 65534;
-  if (::getuid() == 0 && ::setuid(kNobody) != 0) ::_exit(kNoRights);
+  if (!BecomeNobody()) ::_exit(kNoRights);
 }
 
 // A file that may not grow refuses like a disk that is full, after some of it was written.
