@@ -4,7 +4,9 @@
 # The tests of everything that needs no window, sound or store.
 vmod17_test(
   core_tests
-  SOURCES app/program_test.cc
+  SOURCES app/notices_test.cc
+          app/program_test.cc
+          app/unsaved_records_test.cc
           shell/app_state_test.cc
           shell/delay_test.cc
           shell/error_report_test.cc

@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Das Protokoll Ihrer Übung konnte nicht gespeichert werden, weder im Ordner %1 (%2) noch im eigenen Ordner des Programms. Bitte schaffen Sie vor der nächsten Übung Platz auf der Festplatte oder prüfen Sie den Ordner.</translation>
+        <translation>Das Protokoll Ihrer Übung konnte nicht gespeichert werden, weder im Ordner %1 (%2) noch im eigenen Ordner des Programms. Schaffen Sie Platz auf der Festplatte und versuchen Sie es noch einmal, oder wählen Sie einen anderen Ordner. Bis dahin wird es aufgehoben, aber nicht über das Ende des Programms hinaus.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Anderer Ordner …</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Protokoll aufgeben</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Protokoll speichern</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>Das Protokoll konnte nicht als %1 gespeichert werden (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

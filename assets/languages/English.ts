@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>The record of your exercise could not be saved, neither in the folder %1 (%2) nor in the program's own folder. Please make room on the disk or check the folder before the next exercise.</translation>
+        <translation>The record of your exercise could not be saved, neither in the folder %1 (%2) nor in the program's own folder. Make room on the disk and try again, or choose another folder. Until then it is kept, but not beyond the end of the program.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Try again</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Another folder…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Give the record up</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Save the record</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>The record could not be saved as %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>El informe de su ejercicio no se ha podido guardar, ni en la carpeta %1 (%2) ni en la carpeta propia del programa. Antes del próximo ejercicio, libere espacio en el disco o revise la carpeta.</translation>
+        <translation>El informe de su ejercicio no se ha podido guardar, ni en la carpeta %1 (%2) ni en la carpeta propia del programa. Libere espacio en el disco e inténtelo de nuevo, o elija otra carpeta. Hasta entonces se conserva, pero no más allá del final del programa.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Intentarlo de nuevo</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Otra carpeta…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Renunciar al informe</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Guardar el informe</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>El informe no se ha podido guardar como %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

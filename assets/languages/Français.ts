@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Le compte rendu de votre exercice n’a pas pu être enregistré, ni dans le dossier %1 (%2), ni dans le dossier propre au programme. Avant le prochain exercice, libérez de la place sur le disque ou vérifiez le dossier.</translation>
+        <translation>Le compte rendu de votre exercice n’a pas pu être enregistré, ni dans le dossier %1 (%2), ni dans le dossier propre au programme. Libérez de la place sur le disque et réessayez, ou choisissez un autre dossier. D’ici là il est conservé, mais pas au-delà de la fin du programme.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Réessayer</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Autre dossier…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Abandonner le compte rendu</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Enregistrer le compte rendu</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>Le compte rendu n’a pas pu être enregistré sous %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Il resoconto del tuo esercizio non si è potuto salvare, né nella cartella %1 (%2) né nella cartella del programma stesso. Prima del prossimo esercizio libera spazio sul disco o controlla la cartella.</translation>
+        <translation>Il resoconto del tuo esercizio non si è potuto salvare, né nella cartella %1 (%2) né nella cartella del programma stesso. Libera spazio sul disco e riprova, oppure scegli un’altra cartella. Fino ad allora viene conservato, ma non oltre la fine del programma.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Riprova</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Altra cartella…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Rinuncia al resoconto</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Salva il resoconto</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>Il resoconto non si è potuto salvare come %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Het verslag van je oefening kon niet worden opgeslagen, niet in de map %1 (%2) en ook niet in de eigen map van het programma. Maak vóór de volgende oefening ruimte vrij op de schijf of controleer de map.</translation>
+        <translation>Het verslag van je oefening kon niet worden opgeslagen, niet in de map %1 (%2) en ook niet in de eigen map van het programma. Maak ruimte vrij op de schijf en probeer het opnieuw, of kies een andere map. Tot dan wordt het bewaard, maar niet langer dan tot het einde van het programma.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Andere map…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Verslag opgeven</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Verslag opslaan</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>Het verslag kon niet worden opgeslagen als %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

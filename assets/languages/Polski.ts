@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Nie udało się zapisać raportu z ćwiczenia ani w folderze %1 (%2), ani we własnym folderze programu. Przed następnym ćwiczeniem zwolnij miejsce na dysku lub sprawdź folder.</translation>
+        <translation>Nie udało się zapisać raportu z ćwiczenia ani w folderze %1 (%2), ani we własnym folderze programu. Zwolnij miejsce na dysku i spróbuj ponownie albo wybierz inny folder. Do tego czasu raport jest przechowywany, ale nie dłużej niż do zakończenia programu.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Spróbuj ponownie</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Inny folder…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Zrezygnuj z raportu</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Zapisz raport</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>Nie udało się zapisać raportu jako %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

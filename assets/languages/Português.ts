@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Não foi possível gravar o relatório do seu exercício, nem na pasta %1 (%2) nem na pasta do próprio programa. Antes do próximo exercício, abra espaço no disco ou verifique a pasta.</translation>
+        <translation>Não foi possível gravar o relatório do seu exercício, nem na pasta %1 (%2) nem na pasta do próprio programa. Abra espaço no disco e tente outra vez, ou escolha outra pasta. Até lá é conservado, mas não para além do fim do programa.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Tentar outra vez</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Outra pasta…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Desistir do relatório</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Gravar o relatório</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>Não foi possível gravar o relatório como %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

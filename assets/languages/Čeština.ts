@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Záznam o cvičení se nepodařilo uložit ani do složky %1 (%2), ani do vlastní složky programu. Před dalším cvičením prosím uvolněte místo na disku nebo zkontrolujte složku.</translation>
+        <translation>Záznam o cvičení se nepodařilo uložit ani do složky %1 (%2), ani do vlastní složky programu. Uvolněte místo na disku a zkuste to znovu, nebo zvolte jinou složku. Do té doby je uschován, ale ne déle než do konce programu.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Zkusit znovu</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Jiná složka…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Vzdát se záznamu</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Uložit záznam</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>Záznam se nepodařilo uložit jako %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

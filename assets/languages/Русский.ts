@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>Не удалось сохранить протокол занятия ни в папке %1 (%2), ни в собственной папке программы. Перед следующим занятием освободите место на диске или проверьте папку.</translation>
+        <translation>Не удалось сохранить протокол занятия ни в папке %1 (%2), ни в собственной папке программы. Освободите место на диске и попробуйте ещё раз или выберите другую папку. До тех пор он хранится, но не дольше, чем до завершения программы.</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>Попробовать ещё раз</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>Другая папка…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>Отказаться от протокола</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>Сохранить протокол</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>Не удалось сохранить протокол как %1 (%2).</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>无法保存练习记录：文件夹 %1（%2）和程序自身的文件夹都无法写入。请在下次练习前清理磁盘空间或检查该文件夹。</translation>
+        <translation>无法保存练习记录：文件夹 %1（%2）和程序自身的文件夹都无法写入。请清理磁盘空间后重试，或选择其他文件夹。在此之前记录会被保留，但程序结束后不再保留。</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>重试</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>其他文件夹…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>放弃记录</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>保存记录</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>无法将记录保存为 %1（%2）。</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -695,7 +695,27 @@
     </message>
     <message id="9202s">
         <source></source>
-        <translation>練習の記録を、フォルダー %1（%2）にもプログラム自身のフォルダーにも保存できませんでした。次の練習の前に、ディスクの空き容量を増やすか、フォルダーを確認してください。</translation>
+        <translation>練習の記録を、フォルダー %1（%2）にもプログラム自身のフォルダーにも保存できませんでした。ディスクの空き容量を増やしてもう一度試すか、別のフォルダーを選んでください。それまで記録は残りますが、プログラムが終了すると失われます。</translation>
+    </message>
+    <message id="9203s">
+        <source></source>
+        <translation>もう一度試す</translation>
+    </message>
+    <message id="9204s">
+        <source></source>
+        <translation>別のフォルダー…</translation>
+    </message>
+    <message id="9205s">
+        <source></source>
+        <translation>記録をあきらめる</translation>
+    </message>
+    <message id="9206s">
+        <source></source>
+        <translation>記録を保存</translation>
+    </message>
+    <message id="9207s">
+        <source></source>
+        <translation>記録を %1 として保存できませんでした（%2）。</translation>
     </message>
     <message id="9251s">
         <source></source>

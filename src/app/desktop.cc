@@ -55,6 +55,8 @@ Desktop::Desktop()
       program_(std::make_unique<Program>(MakePlatform(), Identity())) {
   notices_ = std::make_unique<Notices>(loop_, messages_, program_->texts(),
                                        [this] { return program_->Quiet(); });
+  unsaved_records_ =
+      std::make_unique<UnsavedRecords>(*notices_, messages_, dialog_, program_->texts());
   loop_.after_event = [this] { AfterEvent(); };
   loop_.on_error = [this](std::exception_ptr error) { RunTimeReport(error); };
   messages_.words = [this] {
@@ -70,13 +72,17 @@ Desktop::Desktop()
   };
   view_.on_help = [this](const std::string& form_name) { ShowHelp(form_name); };
   messages_.before = [this] { view_.Refresh(); };
-  program_->OnEnd = [this] { loop_.Quit(); };
+  program_->OnEnd = [this] {
+    unsaved_records_->Offer();
+    loop_.Quit();
+  };
 }
 
 Desktop::~Desktop() { End(); }
 
 bool Desktop::End() {
   if (!output_) return true;
+  unsaved_records_.reset();
   notices_.reset();
   program_.reset();
   return LetGo(std::move(output_)).wait_for(kTimeToLetGo) == std::future_status::ready;
@@ -98,7 +104,10 @@ int Desktop::Run() {
 }
 
 void Desktop::Leave() {
-  loop_.Deliver([this] { program_->Leave(); });
+  loop_.Deliver([this] {
+    unsaved_records_->SaveUnasked();
+    program_->Leave();
+  });
 }
 
 /// Two at once would write over each other's training.
@@ -157,7 +166,20 @@ Platform Desktop::MakePlatform() {
           printer_,
           [this] { return store_.Service(); },
           [this] { return std::make_unique<SharedLanguages>(languages_); },
-          PugiDocumentFactory(UserDataFolder(), [this](const Notice& notice) { Tell(notice); })};
+          MakeDocuments()};
+}
+
+/// Each run begins a document, and is told of its own troubles.
+XmlDocumentFactory Desktop::MakeDocuments() {
+  XmlDocumentFactory make = PugiDocumentFactory(
+      UserDataFolder(), [this](const Notice& notice) { Tell(notice); },
+      [this](std::shared_ptr<UnsavedRecord> record) {
+        if (unsaved_records_) unsaved_records_->Keep(std::move(record));
+      });
+  return [this, make = std::move(make)] {
+    store_.TellAnew();
+    return make();
+  };
 }
 
 /// The output is remembered by the host. The variable sets it from outside, by a part of its name;

@@ -8,6 +8,7 @@
 
 #include "app/notices.h"
 #include "app/program.h"
+#include "app/unsaved_records.h"
 #include "platform/midi/midi_device_output.h"
 #include "platform/qt/help_window.h"
 #include "platform/qt/qt_event_loop.h"
@@ -51,6 +52,7 @@ class Desktop {
   void Tell(const Notice& notice);
   StoreOptions HostOptions();
   Platform MakePlatform();
+  XmlDocumentFactory MakeDocuments();
   bool IsFirst();
   bool ReturnToHost();
   void ComeToFront();
@@ -74,6 +76,7 @@ class Desktop {
   PugiTestFiles test_files_;
   QtPrinter printer_{loop_, SystemPrintTargets(loop_)};
   std::unique_ptr<Notices> notices_;  // before those that tell, so that it goes after them
+  std::unique_ptr<UnsavedRecords> unsaved_records_;
   std::unique_ptr<MidiDeviceOutput> output_;
   HostStore store_;
   std::unique_ptr<Program> program_;

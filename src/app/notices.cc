@@ -3,6 +3,7 @@
 
 #include "app/notices.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vmod17 {
@@ -17,8 +18,18 @@ Notices::Notices(EventLoop& loop, MessageBox& messages, const TextLookup& texts,
     : loop_(loop), messages_(messages), texts_(texts), ready_(std::move(ready)) {}
 
 void Notices::Tell(const Notice& notice) {
-  if (!told_.emplace(notice.text_id, notice.details).second) return;
-  pending_.push_back(notice);
+  const auto is_same = [&](const Waiting& waiting) {
+    return waiting.notice && waiting.notice->text_id == notice.text_id &&
+           waiting.notice->details == notice.details;
+  };
+  if (std::ranges::any_of(waiting_, is_same)) return;
+  Await({notice, [this, notice] { messages_.Warn(texts_.Words(notice), "Melvado"); }});
+}
+
+void Notices::Ask(std::function<void()> question) { Await({std::nullopt, std::move(question)}); }
+
+void Notices::Await(Waiting waiting) {
+  waiting_.push_back(std::move(waiting));
   Arm();
 }
 
@@ -34,13 +45,13 @@ void Notices::Arm() {
 }
 
 void Notices::Show() {
-  if (pending_.empty()) return;
+  if (waiting_.empty()) return;
   if (ready_()) {
-    const Notice notice = pending_.front();
-    pending_.erase(pending_.begin());
-    messages_.Warn(texts_.Words(notice), "Melvado");
+    const Waiting first = waiting_.front();
+    waiting_.erase(waiting_.begin());
+    first.show();
   }
-  if (!pending_.empty()) Arm();
+  if (!waiting_.empty()) Arm();
 }
 
 }  // namespace vmod17

@@ -4,9 +4,7 @@
 #pragma once
 
 #include <functional>
-#include <set>
-#include <string>
-#include <utility>
+#include <optional>
 #include <vector>
 
 #include "platform/event_loop.h"
@@ -16,17 +14,27 @@
 
 namespace vmod17 {
 
-/// Tells the user what the platform has to say, the same once in a process: as soon as no handler
-/// is running and the program is in a moment that a message does not spoil.
+/// Tells the user what the platform has to say, as soon as no handler is running and the program is
+/// in a moment that a message does not spoil.
 class Notices {
  public:
   /// `ready` tells whether this is such a moment.
   Notices(EventLoop& loop, MessageBox& messages, const TextLookup& texts,
           std::function<bool()> ready);
 
+  /// The same notice is told once while it waits for its moment. Whoever tells it knows when it is
+  /// new again.
   void Tell(const Notice& notice);
+  /// Runs `question` in such a moment.
+  void Ask(std::function<void()> question);
 
  private:
+  struct Waiting {
+    std::optional<Notice> notice;  // none for a question
+    std::function<void()> show;
+  };
+
+  void Await(Waiting waiting);
   void Arm();
   void Show();
 
@@ -34,8 +42,7 @@ class Notices {
   MessageBox& messages_;
   const TextLookup& texts_;
   std::function<bool()> ready_;
-  std::set<std::pair<int, std::vector<std::string>>> told_;
-  std::vector<Notice> pending_;
+  std::vector<Waiting> waiting_;
   bool armed_ = false;
 };
 

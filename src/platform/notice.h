@@ -10,7 +10,7 @@
 
 namespace vmod17 {
 
-/// Something that the user should be told once, in plain words, while the program goes on.
+/// Something that the user should be told in plain words while the program goes on.
 struct Notice {
   int text_id;                       ///< id of the text, in which %1, %2 stand for the details
   std::string english;               ///< the same text, for a language that has no word for the id
@@ -28,8 +28,8 @@ inline std::string WithDetails(std::string text, const std::vector<std::string>&
   return text;
 }
 
-/// Takes a notice on the program's thread. The same notice, by id and details, is shown once in a
-/// process; a call never blocks.
+/// Takes a notice on the program's thread; a call never blocks. Who calls sees to it that a trouble
+/// that goes on is told once, and a new one again.
 using Notify = std::function<void(const Notice&)>;
 
 }  // namespace vmod17

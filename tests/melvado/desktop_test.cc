@@ -4,8 +4,10 @@
 #include "app/desktop.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QIcon>
 #include <QMessageBox>
+#include <QTest>
 #include <utility>
 
 #include "melvado_testing.h"
@@ -110,6 +112,121 @@ TEST(Desktop, LogsAndTellsAnErrorThatNothingDealtWithAndEndsWithStatusOne) {
   EXPECT_EQ(log[0].number, 340);
   EXPECT_EQ(log[0].text, "no control 9");
   EXPECT_EQ(log[0].source, "a test");
+}
+
+/// A student at the real program: begins and leaves as many runs as are wanted, answers what is
+/// asked and ends the program.
+class Student {
+ public:
+  /// `answer` gives the word of the button to be pressed in a question, "" to let it stand
+  Student(int runs, std::function<QString(int asked)> answer)
+      : runs_(runs), answer_(std::move(answer)) {
+    QObject::connect(&look_, &QTimer::timeout, &look_, [this] { Look(); });
+    look_.start(10);
+  }
+  int asked() const { return asked_; }
+
+ private:
+  void Look() {
+    if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      return Answer(*box);
+    }
+    // Not from within this timer, which would not fire again while a question stands.
+    if (!busy_) QTimer::singleShot(0, &look_, [this] { Go(); });
+  }
+
+  void Go() {
+    QWidget* const ready = Ready();
+    if (ready == nullptr || std::exchange(busy_, true)) return;
+    if (ready->objectName() == "zurueck") {
+      --runs_;
+      QTest::keyClick(ready->window(), Qt::Key_Escape);
+    } else if (runs_ > 0) {
+      QTest::keyClick(ready->window(), Qt::Key_Return);
+    } else {
+      ready->window()->close();
+    }
+    busy_ = false;
+  }
+
+  /// The button that leads on, or out of a run.
+  static QWidget* Ready() {
+    for (QWidget* const widget : QApplication::allWidgets()) {
+      const QString name = widget->objectName();
+      if ((name == "zurueck" || name == "cmdOK") && widget->isVisible() && widget->isEnabled()) {
+        return widget;
+      }
+    }
+    return nullptr;
+  }
+
+  void Answer(QMessageBox& box) {
+    if (&box == let_stand_) return;
+    const QString word = box.buttons().size() == 1 ? box.buttons()[0]->text() : answer_(++asked_);
+    for (QAbstractButton* const button : box.buttons()) {
+      if (button->text() == word) return button->click();
+    }
+    let_stand_ = &box;
+  }
+
+  QTimer look_;
+  int runs_;
+  std::function<QString(int)> answer_;
+  int asked_ = 0;
+  bool busy_ = false;  // what was done last goes on
+  const QMessageBox* let_stand_ = nullptr;
+};
+
+/// The program with its folders for records on a place that takes nothing, until there is room.
+class FullDisk : public testing::Test {
+ protected:
+  FullDisk() {
+    QFile file(folder_.filePath("disk"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+  }
+  ~FullDisk() override { QLocale::setDefault(before_); }
+
+  void MakeRoom() {
+    QFile::remove(folder_.filePath("disk"));
+    EXPECT_TRUE(QDir().mkpath(folder_.filePath("disk/temp")));
+  }
+  QStringList Records() const { return QDir(folder_.filePath("disk/temp")).entryList({"*.xml"}); }
+
+  const QLocale before_;
+  const QObject scope_;  // of what is still to come
+  const QTemporaryDir folder_;
+  const Surrounding runtime_{"XDG_RUNTIME_DIR", folder_.path().toUtf8()};
+  const Surrounding data_{"XDG_DATA_HOME", folder_.filePath("disk/data").toUtf8()};
+  const Surrounding temp_{"temp", folder_.filePath("disk/temp").toUtf8()};
+  const Surrounding store_{"MELVADO_STORE", folder_.filePath("store.sqlite").toUtf8()};
+};
+
+TEST_F(FullDisk, LosesNoRecordOfSeveralRunsWithoutTheStudentsWord) {
+  Desktop desktop;
+  Student student(3, [&](int asked) {
+    if (asked == 3) MakeRoom();
+    return asked == 1 ? "Give the record up" : "Try again";
+  });
+  QTimer::singleShot(60'000, &scope_, [&] { desktop.Leave(); });
+  EXPECT_EQ(desktop.Run(), 0);
+  // The second record is asked for twice; for the third there is room.
+  EXPECT_EQ(student.asked(), 3);
+  EXPECT_EQ(Records().size(), 2);
+}
+
+TEST_F(FullDisk, EndsWithoutWaitingForAnAnswerWhenItIsCutOff) {
+  Desktop desktop;
+  Student student(1, [&](int) {
+    QTimer::singleShot(0, &scope_, [&] {
+      MakeRoom();
+      desktop.Leave();
+    });
+    return "";
+  });
+  QTimer::singleShot(60'000, &scope_, [&] { FAIL(); });
+  EXPECT_EQ(desktop.Run(), 0);
+  EXPECT_EQ(student.asked(), 1);
+  EXPECT_EQ(Records().size(), 1);
 }
 
 }  // namespace

@@ -35,8 +35,10 @@ class ScriptedMessageBox : public MessageBox {
   std::vector<Shown> warnings;
   std::vector<Shown> questions;
   Answer answer = Answer::kNo;
-  std::optional<Answer> preselected;  ///< in the question asked last
-  int withdrawn = 0;                  ///< questions that were taken away
+  std::vector<std::vector<std::string>> offered;  ///< the answers of the questions that have words
+  std::vector<std::optional<int>> choices;        ///< which of them is taken; none when used up
+  std::optional<Answer> preselected;              ///< in the question asked last
+  int withdrawn = 0;                              ///< questions that were taken away
   /// Runs while a message is on display.
   std::function<void()> meanwhile;
   /// Runs while a question stands.
@@ -51,6 +53,16 @@ class ScriptedMessageBox : public MessageBox {
     preselected = first;
     if (while_asked) while_asked();
     return answer;
+  }
+  std::optional<int> Choose(const std::string& text, const std::string& title,
+                            const std::vector<std::string>& answers) override {
+    questions.push_back({text, title});
+    offered.push_back(answers);
+    if (while_asked) while_asked();
+    if (choices.empty()) return std::nullopt;
+    const std::optional<int> choice = choices.front();
+    choices.erase(choices.begin());
+    return choice;
   }
   void Withdraw() override { ++withdrawn; }
 };

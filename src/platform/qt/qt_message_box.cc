@@ -7,6 +7,8 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
+#include <algorithm>
 #include <utility>
 
 namespace vmod17 {
@@ -53,16 +55,36 @@ MessageBox::Answer QtMessageBox::Ask(const std::string& text, const std::string&
                                      Answer preselected) {
   QuestionBox box(QMessageBox::Question, QString::fromStdString(title),
                   QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, Window());
-  box.setWindowFlag(Qt::WindowCloseButtonHint, false);
-  box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(preselected == Answer::kYes ? QMessageBox::Yes : QMessageBox::No);
   const Words words_now = CurrentWords();
   Label(box, QMessageBox::Yes, words_now.yes);
   Label(box, QMessageBox::No, words_now.no);
+  return ShowQuestion(box) == QMessageBox::Yes ? Answer::kYes : Answer::kNo;
+}
+
+std::optional<int> QtMessageBox::Choose(const std::string& text, const std::string& title,
+                                        const std::vector<std::string>& answers) {
+  QuestionBox box(QMessageBox::Question, QString::fromStdString(title),
+                  QString::fromStdString(text), QMessageBox::NoButton, Window());
+  std::vector<QAbstractButton*> buttons;
+  for (const std::string& answer : answers) {
+    // Of one role, so that they stand in their order.
+    buttons.push_back(box.addButton(QString::fromStdString(answer), QMessageBox::ActionRole));
+  }
+  box.setDefaultButton(qobject_cast<QPushButton*>(buttons.front()));
+  ShowQuestion(box);
+  const auto chosen = std::ranges::find(buttons, box.clickedButton());
+  if (chosen == buttons.end()) return std::nullopt;
+  return static_cast<int>(chosen - buttons.begin());
+}
+
+int QtMessageBox::ShowQuestion(QMessageBox& box) {
+  box.setWindowFlag(Qt::WindowCloseButtonHint, false);
+  box.setTextFormat(Qt::PlainText);
   const QPointer<QMessageBox> before_it = std::exchange(question_, &box);
   const int answer = Show(box);
   question_ = before_it;
-  return answer == QMessageBox::Yes ? Answer::kYes : Answer::kNo;
+  return answer;
 }
 
 void QtMessageBox::Withdraw() {

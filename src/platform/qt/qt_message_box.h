@@ -36,10 +36,13 @@ class QtMessageBox : public MessageBox {
 
   void Warn(const std::string& text, const std::string& title) override;
   Answer Ask(const std::string& text, const std::string& title, Answer preselected) override;
+  std::optional<int> Choose(const std::string& text, const std::string& title,
+                            const std::vector<std::string>& answers) override;
   void Withdraw() override;
 
  private:
   int Show(QMessageBox& box) const;
+  int ShowQuestion(QMessageBox& box);
   QWidget* Window() const { return window_ ? window_() : nullptr; }
   Words CurrentWords() const { return words ? words() : Words{}; }
 

@@ -302,6 +302,7 @@ void HostStore::ChangeSettings(const Settings& changes) {
     WriteFailed(error);
   }
   pending_settings_ = written ? Settings() : all;
+  if (written) TellAnew();
   for (const auto& [name, value] : changes) SetHere(name, value);
 }
 
@@ -450,6 +451,7 @@ std::optional<std::string> HostStore::Unwritten(const RecordKey& key) const {
 void HostStore::Keep(const Records& records) {
   try {
     if (WriteRecords(records)) return;
+    if (in_memory_) Tell(*in_memory_);
   } catch (const SqlError& error) {
     WriteFailed(error);
   }
@@ -462,6 +464,7 @@ bool HostStore::WriteRecords(const Records& records) {
     tables.Write(records);
   });
   if (!written) return false;
+  TellAnew();
   for (const auto& [key, value] : records) pending_.erase(key);
   try {
     WritePending();
@@ -542,15 +545,15 @@ bool HostStore::Open(Patience patience) {
     }
     state_ = State::kMemoryOnly;
     const std::string place = address_->Display();
-    Tell(IsFile() ? UnusableStoreNotice(place, error.what())
-                  : UnreachableServerNotice(place, error.what()));
+    TellInMemory(IsFile() ? UnusableStoreNotice(place, error.what())
+                          : UnreachableServerNotice(place, error.what()));
   }
   return state_ == State::kOpen;
 }
 
 bool HostStore::OpenAnew(int wait_ms) {
   if (address_->kind == StoreAddress::Kind::kUnreadable) {
-    Tell(UnreadableAddressNotice());
+    TellInMemory(UnreadableAddressNotice());
     return false;
   }
   if (!connection_) {
@@ -568,7 +571,7 @@ bool HostStore::OpenAnew(int wait_ms) {
   const std::optional<std::int64_t> version = tables_->Version();
   if (version.value_or(0) > kStoreVersion) {
     connection_->Close();
-    Tell(NewerStoreNotice(address_->Display()));
+    TellInMemory(NewerStoreNotice(address_->Display()));
     return false;
   }
   connection_->Prepare();
@@ -625,7 +628,7 @@ bool HostStore::Repair() {
   const QString aside = locked ? MoveStoreAside(address_->path, options_.clock()) : QString();
   if (aside.isEmpty()) {
     state_ = State::kMemoryOnly;
-    Tell(UnusableStoreNotice(address_->Display(), "the file is damaged"));
+    TellInMemory(UnusableStoreNotice(address_->Display(), "the file is damaged"));
     return false;
   }
   Tell(BrokenStoreNotice(address_->Display(), aside.toStdString()));
@@ -644,6 +647,12 @@ bool HostStore::WasReplaced() const {
 
 void HostStore::Tell(const Notice& notice) {
   if (told_.insert(notice.text_id).second && options_.notify) options_.notify(notice);
+}
+
+/// Told again with what is stored in later runs, since all of it is lost.
+void HostStore::TellInMemory(const Notice& notice) {
+  in_memory_ = notice;
+  Tell(notice);
 }
 
 void HostStore::TellUnreadable(const SqlError& error) {

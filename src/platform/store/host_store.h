@@ -64,7 +64,8 @@ struct StoreOptions {
 /// process. The settings are read once, when the store is opened: a process belongs to the user for
 /// whom it was started. What the store does not take of them is kept like a record.
 ///
-/// A store that is missing is made. Of a store that does not work the user is told once:
+/// A store that is missing is made. Of a store that does not work the user is told, once until it
+/// has stored something again or `TellAnew` is called:
 ///
 /// | the store is             | reading                   | storing                              |
 /// |--------------------------|---------------------------|--------------------------------------|
@@ -124,6 +125,9 @@ class HostStore {
   /// taken them all, and another process may have changed them in it.
   std::string Session();
 
+  /// A run begins: a trouble that was told before is told again when it is met again.
+  void TellAnew() { told_.clear(); }
+
   /// The newest `count` log lines, oldest first; none when the store cannot be read.
   std::vector<LogEntry> Log(int count);
 
@@ -172,6 +176,7 @@ class HostStore {
   std::string Setting(const std::string& name);
 
   void Tell(const Notice& notice);
+  void TellInMemory(const Notice& notice);
   void TellUnreadable(const SqlError& error);
   void WriteFailed(const SqlError& error);
 
@@ -193,7 +198,8 @@ class HostStore {
   std::map<std::string, UserChange> pending_users_;
   Settings pending_settings_;
   std::int64_t log_bytes_to_trim_ = 0;  // 0: before the next line
-  std::set<int> told_;
+  std::set<int> told_;                  // since something was stored or a run began
+  std::optional<Notice> in_memory_;     // why nothing is stored at all
 };
 
 }  // namespace vmod17

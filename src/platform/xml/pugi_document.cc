@@ -9,6 +9,7 @@
 
 #include "platform/run_time_error.h"
 #include "platform/xml/record_file.h"
+#include "platform/xml/whole_file.h"
 #include "platform/xml/xml_text.h"
 
 namespace vmod17 {
@@ -162,17 +163,61 @@ Notice SavedElsewhereNotice(const std::string& folder, const std::string& reason
 }
 
 Notice NotSavedNotice(const std::string& folder, const std::string& reason) {
-  return {9202,
-          "The record of your exercise could not be saved, neither in the folder %1 (%2) nor in "
-          "the program's own folder. Please make room on the disk or "
-          "check the folder before the next exercise.",
-          {folder, reason}};
+  return {
+      9202,
+      "The record of your exercise could not be saved, neither in the folder %1 (%2) nor in "
+      "the program's own folder. Make room on the disk and try again, or choose another folder. "
+      "Until then it is kept, but not beyond the end of the program.",
+      {folder, reason}};
 }
+
+Notice NotSavedAsNotice(const std::string& path, const std::string& reason) {
+  return {9207, "The record could not be saved as %1 (%2).", {path, reason}};
+}
+
+/// What is to be written of a document, and where. It outlives a document that could not be saved.
+class Record : public UnsavedRecord {
+ public:
+  Record(std::string fallback_folder, Notify notify)
+      : fallback_folder_(std::move(fallback_folder)), notify_(std::move(notify)) {}
+
+  void SetFileName(std::string_view name) {
+    file_ = RecordFile(std::string(name), fallback_folder_);
+  }
+  void SetContent(std::string bytes) { bytes_ = std::move(bytes); }
+
+  std::string Name() const override { return file_.base(); }
+  Notice Trouble() const override { return NotSavedNotice(file_.folder(), file_.refusal()); }
+
+  bool Save() override {
+    const RecordFile::Saved saved = file_.Save(bytes_);
+    if (saved == RecordFile::Saved::kElsewhere) {
+      Tell(SavedElsewhereNotice(file_.folder(), file_.refusal(), file_.path()));
+    }
+    return saved != RecordFile::Saved::kNowhere;
+  }
+
+  std::optional<Notice> SaveAs(const std::string& path) override {
+    const int error = file_.SaveAs(path, bytes_);
+    if (error == 0) return std::nullopt;
+    return NotSavedAsNotice(path, SystemReason(error));
+  }
+
+  void Tell(const Notice& notice) const {
+    if (notify_) notify_(notice);
+  }
+
+ private:
+  std::string fallback_folder_;
+  Notify notify_;
+  RecordFile file_{"", fallback_folder_};
+  std::string bytes_;
+};
 
 class PugiDocument : public XmlDocument {
  public:
-  PugiDocument(std::string fallback_folder, Notify notify)
-      : fallback_folder_(std::move(fallback_folder)), notify_(std::move(notify)) {
+  PugiDocument(std::shared_ptr<Record> record, KeepUnsaved keep)
+      : record_(std::move(record)), keep_(std::move(keep)) {
     pugi::xml_node declaration = document_.append_child(pugi::node_declaration);
     declaration.append_attribute("version") = "1.0";
     declaration.append_attribute("encoding") = "UTF-8";
@@ -180,54 +225,42 @@ class PugiDocument : public XmlDocument {
   }
 
   void SetRootName(std::string_view name) override { root_.set_name(CheckedName(name).c_str()); }
-  void SetFileName(std::string_view name) override {
-    file_ = RecordFile(std::string(name), fallback_folder_);
-  }
+  void SetFileName(std::string_view name) override { record_->SetFileName(name); }
   std::unique_ptr<XmlNodeList> RootAttributes() override { return ElementNode(root_).Attributes(); }
   std::unique_ptr<XmlNodeList> RootChildren() override { return ElementNode(root_).Children(); }
 
   bool Save() override {
     try {
-      return SaveSomewhere();
+      return SaveOrKeep();
     } catch (const std::exception& error) {
-      Tell(NotSavedNotice(file_.folder(), error.what()));
+      record_->Tell(NotSavedAsNotice(record_->Name(), error.what()));
       return false;
     }
   }
 
  private:
-  bool SaveSomewhere() {
+  bool SaveOrKeep() {
     StringWriter writer;
     document_.save(writer, "  ", pugi::format_indent, pugi::encoding_utf8);
-    switch (file_.Save(writer.text)) {
-      case RecordFile::Saved::kWhereItBelongs:
-        return true;
-      case RecordFile::Saved::kElsewhere:
-        Tell(SavedElsewhereNotice(file_.folder(), file_.refusal(), file_.path()));
-        return true;
-      case RecordFile::Saved::kNowhere:
-        break;
-    }
-    Tell(NotSavedNotice(file_.folder(), file_.refusal()));
+    record_->SetContent(std::move(writer.text));
+    if (record_->Save()) return true;
+    const bool is_kept_already = record_.use_count() > 1;
+    if (!is_kept_already && keep_) keep_(record_);
     return false;
   }
 
-  void Tell(const Notice& notice) const {
-    if (notify_) notify_(notice);
-  }
-
-  std::string fallback_folder_;
-  Notify notify_;
-  RecordFile file_{"", fallback_folder_};
+  std::shared_ptr<Record> record_;
+  KeepUnsaved keep_;
   pugi::xml_document document_;
   pugi::xml_node root_;
 };
 
 }  // namespace
 
-XmlDocumentFactory PugiDocumentFactory(std::string fallback_folder, Notify notify) {
-  return [folder = std::move(fallback_folder), notify = std::move(notify)] {
-    return std::make_unique<PugiDocument>(folder, notify);
+XmlDocumentFactory PugiDocumentFactory(std::string fallback_folder, Notify notify,
+                                       KeepUnsaved keep) {
+  return [folder = std::move(fallback_folder), notify = std::move(notify), keep = std::move(keep)] {
+    return std::make_unique<PugiDocument>(std::make_shared<Record>(folder, notify), keep);
   };
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/notice.h"
+#include "platform/unsaved_record.h"
 #include "platform/xml_document.h"
 
 namespace vmod17 {
@@ -21,7 +22,8 @@ namespace vmod17 {
 /// `Save` raises nothing, and replaces no file but the document's own: where its name is taken,
 /// "-2" and so on goes before the extension. When the named folder does not take the file, it goes
 /// under its own name to `fallback_folder` (UTF-8, made if it is missing, for its owner alone), and
-/// `notify` tells where it is. When that fails too, `notify` tells that there is no record.
-XmlDocumentFactory PugiDocumentFactory(std::string fallback_folder, Notify notify);
+/// `notify` tells where it is. When that fails too, what was to be written goes to `keep`.
+XmlDocumentFactory PugiDocumentFactory(std::string fallback_folder, Notify notify,
+                                       KeepUnsaved keep);
 
 }  // namespace vmod17

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <functional>
 
 #include "accessible_tree.h"
@@ -75,6 +76,36 @@ TEST(QtMessageBox, TellsYesFromNo) {
   EXPECT_EQ(messages.Ask("Speichern?", "Melvado", Answer::kYes), Answer::kYes);
   Then([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
   EXPECT_EQ(messages.Ask("Speichern?", "Melvado", Answer::kYes), Answer::kNo);
+}
+
+TEST(QtMessageBox, OffersAnswersInTheirOrderOfWhichEnterPressesTheFirst) {
+  QtMessageBox messages(nullptr);
+  const std::vector<std::string> answers = {"Noch einmal", "Anderer Ordner", "Aufgeben"};
+  Then([](QMessageBox& box) {
+    std::vector<std::pair<int, std::string>> found;
+    for (const QAbstractButton* button : box.buttons()) {
+      found.emplace_back(button->x(), button->text().toStdString());
+    }
+    std::ranges::sort(found);
+    ASSERT_EQ(found.size(), 3u);
+    EXPECT_EQ(found[0].second, "Noch einmal");
+    EXPECT_EQ(found[2].second, "Aufgeben");
+    QTest::keyClick(&box, Qt::Key_Escape);
+    box.close();
+    EXPECT_TRUE(box.isVisible());
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  EXPECT_EQ(messages.Choose("Nicht gespeichert.", "Melvado", answers), 0);
+  for (int i = 0; i < 3; ++i) {
+    Then([i, &answers](QMessageBox& box) {
+      for (QAbstractButton* button : box.buttons()) {
+        if (button->text().toStdString() == answers[static_cast<std::size_t>(i)]) button->click();
+      }
+    });
+    EXPECT_EQ(messages.Choose("Nicht gespeichert.", "Melvado", answers), i);
+  }
+  Then([&](QMessageBox&) { messages.Withdraw(); });
+  EXPECT_EQ(messages.Choose("Nicht gespeichert.", "Melvado", answers), std::nullopt);
 }
 
 TEST(QtMessageBox, TakesNeitherEscapeNorTheWindowsCrossForAnAnswer) {

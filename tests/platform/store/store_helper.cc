@@ -37,6 +37,7 @@ class Helper {
     if (command == "log") return Log(words);
     if (command == "logs") return LogMany(words);
     if (command == "notices") return Notices();
+    if (command == "run") return BeginRun();
     if (command == "add") return Add(words);
     if (command == "users") return Users();
     if (command == "nobody") return BecomeNobody();
@@ -105,6 +106,11 @@ class Helper {
     TaggedValue result;
     if (!store_->Service()->Action("READ", Array{"vmod17", key}, result)) return "false";
     return result[0].String() + ' ' + std::to_string(result.Elements().size());
+  }
+
+  std::string BeginRun() {
+    store_->TellAnew();
+    return "run";
   }
 
   // add NUMBER NAME

@@ -487,6 +487,41 @@ TEST_F(TroubledStore, LosesNothingOnAFullDiskAndStoresWhenThereIsRoomAgain) {
   EXPECT_TRUE(ReadValue(next, "E1") == TaggedValue(Array(100'000, TaggedValue("long"))));
 }
 
+TEST_F(TroubledStore, TellsOfAFullDiskOnceInEachRunAndAgainAfterThereWasRoom) {
+  MakeStoreWith(Array{"old"});
+  StoreProcess process;
+  process.Ask("open " + Path() + " 20");
+  process.Ask("read E1");
+  ASSERT_EQ(process.Ask("limit 150000"), "limited");
+  for (int i = 0; i < 10; ++i) {
+    process.Ask("pair long 100000 100000");
+    process.Ask("log line");
+  }
+  EXPECT_EQ(process.Ask("notices"), "9105");
+  process.Ask("run");
+  EXPECT_EQ(process.Ask("notices"), "9105");
+  process.Ask("pair long 100000 100000");
+  process.Ask("pair long 100000 100000");
+  EXPECT_EQ(process.Ask("notices"), "9105 9105");
+  ASSERT_EQ(process.Ask("limit 0"), "limited");
+  process.Ask("store E1 short 1");
+  ASSERT_EQ(process.Ask("limit 150000"), "limited");
+  process.Ask("pair longer 200000 200000");
+  EXPECT_EQ(process.Ask("notices"), "9105 9105 9105");
+}
+
+TEST_F(TroubledStore, TellsInEachRunThatNothingIsStored) {
+  StoreOptions options = Options();
+  options.address = (folder_ / ".").toStdString();
+  HostStore store(std::move(options));
+  for (std::size_t run = 1; run <= 3; ++run) {
+    StorePair(store, Array{"new E"}, Array{"new A"});
+    StorePair(store, Array{"newer E"}, Array{"newer A"});
+    EXPECT_EQ(Ids(notices_), std::vector<int>(run, 9102));
+    store.TellAnew();
+  }
+}
+
 TEST_F(TroubledStore, KeepsSettingsThatAreRefusedAndStoresThemWithTheNextRecord) {
   HostStore store(Options());
   store.SetUser({"1", "Tal", "Ida"});

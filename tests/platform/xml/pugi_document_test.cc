@@ -36,7 +36,7 @@ class PugiDocumentUnderTest : public DocumentUnderTest {
  private:
   ScratchFolder folder_;
   std::unique_ptr<XmlDocument> document_ =
-      PugiDocumentFactory(folder_ / "file/fallback", Notify())();
+      PugiDocumentFactory(folder_ / "file/fallback", Notify(), KeepUnsaved())();
 };
 
 INSTANTIATE_TEST_SUITE_P(PugiDocument, XmlContract, ::testing::Values([] {
@@ -46,8 +46,9 @@ INSTANTIATE_TEST_SUITE_P(PugiDocument, XmlContract, ::testing::Values([] {
 class PugiDocument : public ::testing::Test {
  protected:
   std::unique_ptr<XmlDocument> Make(const std::string& fallback) {
-    return PugiDocumentFactory(fallback,
-                               [this](const Notice& notice) { notices_.push_back(notice); })();
+    return PugiDocumentFactory(
+        fallback, [this](const Notice& notice) { notices_.push_back(notice); },
+        [this](std::shared_ptr<UnsavedRecord> record) { kept_.push_back(std::move(record)); })();
   }
 
   std::unique_ptr<XmlDocument> MakeLesson(const std::string& fallback) {
@@ -62,6 +63,7 @@ class PugiDocument : public ::testing::Test {
 
   ScratchFolder folder_;
   std::vector<Notice> notices_;
+  std::vector<std::shared_ptr<UnsavedRecord>> kept_;
 };
 
 TEST_F(PugiDocument, WritesAnIndentedUtf8FileWithADeclaration) {
@@ -187,14 +189,61 @@ TEST_F(PugiDocument, GoesToItsOwnFolderWhenNoneIsNamed) {
   EXPECT_EQ(notices_[0].text_id, 9201);
 }
 
-TEST_F(PugiDocument, TellsWhenItCanBeSavedNowhere) {
+TEST_F(PugiDocument, TellsOfEachRecordThatGoesToItsOwnFolder) {
+  for (std::size_t run = 1; run <= 3; ++run) {
+    const auto document = MakeLesson(folder_ / "data");
+    document->SetFileName((folder_ / "missing") + "\\a.xml");
+    EXPECT_TRUE(document->Save());
+    EXPECT_EQ(notices_.size(), run);
+  }
+}
+
+TEST_F(PugiDocument, IsKeptWhenItCanBeSavedNowhereAndOutlivesTheRun) {
+  std::ofstream(folder_ / "file") << "no folder";
+  const std::string temp = folder_ / "file/temp";
+  for (const char* base : {"a.xml", "b.xml"}) {
+    const auto document = MakeLesson(folder_ / "file/fallback");
+    document->SetFileName(temp + "\\" + base);
+    EXPECT_FALSE(document->Save());
+  }
+  EXPECT_TRUE(notices_.empty());
+  ASSERT_EQ(kept_.size(), 2u);
+  EXPECT_EQ(kept_[1]->Name(), "b.xml");
+  const Notice trouble = kept_[1]->Trouble();
+  EXPECT_EQ(trouble.text_id, 9202);
+  EXPECT_THAT(trouble.details, ::testing::ElementsAre(temp, "Not a directory"));
+  EXPECT_FALSE(kept_[1]->Save());
+
+  fs::remove(folder_ / "file");
+  fs::create_directories(temp);
+  EXPECT_TRUE(kept_[1]->Save());
+  EXPECT_THAT(Content(temp + "/b.xml"), HasSubstr("<programm>VMOD17</programm>"));
+  EXPECT_FALSE(fs::exists(temp + "/a.xml"));
+}
+
+TEST_F(PugiDocument, IsKeptOnceHoweverOftenItIsSavedInVainAndHoldsItsLatest) {
   std::ofstream(folder_ / "file") << "no folder";
   const auto document = MakeLesson(folder_ / "file/fallback");
   document->SetFileName((folder_ / "file/temp") + "\\a.xml");
   EXPECT_FALSE(document->Save());
-  ASSERT_EQ(notices_.size(), 1u);
-  EXPECT_EQ(notices_[0].text_id, 9202);
-  EXPECT_EQ(notices_[0].details[0], folder_ / "file/temp");
+  document->RootChildren()->Add("later", "more");
+  EXPECT_FALSE(document->Save());
+  ASSERT_EQ(kept_.size(), 1u);
+  EXPECT_EQ(kept_[0]->SaveAs(folder_ / "chosen.xml"), std::nullopt);
+  EXPECT_THAT(Content(folder_ / "chosen.xml"), HasSubstr("<more>later</more>"));
+}
+
+TEST_F(PugiDocument, SaysWhyAFolderThatTheUserChoseDoesNotTakeIt) {
+  std::ofstream(folder_ / "file") << "no folder";
+  const auto document = MakeLesson(folder_ / "file/fallback");
+  document->SetFileName((folder_ / "file/temp") + "\\a.xml");
+  EXPECT_FALSE(document->Save());
+  ASSERT_EQ(kept_.size(), 1u);
+  const std::string chosen = folder_ / "missing/a.xml";
+  const std::optional<Notice> trouble = kept_[0]->SaveAs(chosen);
+  ASSERT_TRUE(trouble);
+  EXPECT_EQ(trouble->text_id, 9207);
+  EXPECT_THAT(trouble->details, ::testing::ElementsAre(chosen, "No such file or directory"));
 }
 
 // What a child process found, as its exit code.
@@ -240,7 +289,7 @@ TEST_F(PugiDocument, LeavesTheEarlierFileWholeWhenTheDiskIsFull) {
     document->RootChildren()->Add(std::string(100'000, 'x'), "long");
     document->SetFileName((folder_ / "temp") + "\\a.xml");
     if (document->Save()) ::_exit(kOtherResult);
-    ::_exit(notices_.size() == 1 && notices_[0].text_id == 9202 ? kAsExpected : kOtherNotice);
+    ::_exit(notices_.empty() && kept_.size() == 1 ? kAsExpected : kOtherNotice);
   };
   EXPECT_EXIT(save(), ::testing::ExitedWithCode(kAsExpected), "");
   EXPECT_EQ(Content(folder_ / "temp/a.xml"), earlier);
