@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 
 option(VMOD17_CORE_ONLY "Build the core and its tests, without any window, sound or store" OFF)
+option(VMOD17_READERS "With the core alone, build also what reads files, for its fuzz targets" OFF)
 option(VMOD17_TESTS "Build the tests" ON)
 option(VMOD17_BENCH "Build the benchmarks" OFF)
 option(VMOD17_WERROR "Treat warnings as errors" OFF)

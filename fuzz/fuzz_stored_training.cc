@@ -3,70 +3,33 @@
 
 // Takes up damaged trainings: as records alone, and in the whole program on fakes.
 //
-//     fuzz_stored_training [SEED [COUNT [FIRST]]]
-//
-// Case FIRST and the COUNT - 1 after it, by default 100,000 from 0 on; a case depends on SEED and
-// its own number alone. Each damages what a run has really saved. It is taken up only if a run can
-// have left it, which is judged here a second time; else the student is told, stands before a new
-// training, and the store is as it was. A fault ends the program with the case and its records. The
-// bounds on draws, virtual time and real time are far above what any case needs.
-
-#include <unistd.h>
+// Each case damages what a run has really saved. It is taken up only if a run can have left it,
+// which is judged here a second time; else the student is told, stands before a new training, and
+// the store is as it was. A fault is told with its records. The bounds on draws and virtual time
+// are far above what any case needs.
 
 #include <algorithm>
 #include <array>
-#include <chrono>
-#include <csignal>
-#include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <map>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "fuzz_main.h"
 #include "record_mutator.h"
 #include "saved_trainings.h"
 #include "training_facts.h"
 #include "worksheet/worksheet_fixture.h"
 
-#ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/common_interface_defs.h>
-#endif
-
 namespace vmod17 {
 namespace {
 
-constexpr std::uint64_t kCasesOfALine = 10'000;
-constexpr int kSecondsForACase = 60;
 constexpr int kDrawsOfACase = 3'000'000;
 constexpr double kVirtualMs = 3.6e6;
 constexpr int kTasks = 3;
 constexpr int kFortsetzung = 2;
-
-/// The case at work, for what ends the program from below.
-std::uint64_t g_seed = 0;
-std::uint64_t g_case = 0;
-
-void SayCase() {
-  std::fprintf(stderr, "seed %llu, case %llu\n", static_cast<unsigned long long>(g_seed),
-               static_cast<unsigned long long>(g_case));
-}
-
-extern "C" void OnAlarm(int) {
-  constexpr char kHangs[] = "a case hangs\n";
-  static_cast<void>(!write(STDERR_FILENO, kHangs, sizeof kHangs - 1));
-  SayCase();
-  std::abort();
-}
-
-[[noreturn]] void Fault(const std::string& what) { throw std::logic_error(what); }
-
-void Demand(bool holds, const char* what) {
-  if (!holds) Fault(what);
-}
 
 void DemandNone(const std::string& fault) {
   if (!fault.empty()) Fault(fault);
@@ -322,10 +285,8 @@ class Tally {
       runs += outcome == Outcome::kRuns ? 1 : 0;
     }
   }
-  void Print(double seconds) const {
-    int cases = 0;
-    for (const int count : outcomes_) cases += count;
-    std::printf("%d cases in %.1f s\nrecords taken: %d\n", cases, seconds, records_taken_);
+  void Print() const {
+    std::printf("records taken: %d\n", records_taken_);
     for (std::size_t i = 0; i < outcomes_.size(); ++i) {
       std::printf("%-24s %7d\n", kOutcomes[i], outcomes_[i]);
     }
@@ -340,8 +301,7 @@ class Tally {
   std::map<std::string, std::pair<int, int>> by_mutation_;
 };
 
-void RunCase(const std::vector<SavedTraining>& trainings, Tally& tally) {
-  Dice dice(g_seed, g_case);
+void RunCase(const std::vector<SavedTraining>& trainings, Dice& dice, Tally& tally) {
   const MutatedTraining training = Mutate(trainings, dice);
   const SavedTraining& origin = trainings[static_cast<std::size_t>(training.origin)];
   try {
@@ -354,44 +314,24 @@ void RunCase(const std::vector<SavedTraining>& trainings, Tally& tally) {
       Demand(outcome == Outcome::kRuns, "a whole training that is not taken up");
     }
     tally.Add(training, taken, outcome);
-  } catch (const std::exception& fault) {
-    SayCase();
-    std::fprintf(stderr, "%s\nof: %s\n", fault.what(), origin.name.c_str());
+  } catch (const std::exception&) {
+    std::fprintf(stderr, "of: %s\n", origin.name.c_str());
     for (const char* mutation : training.mutations) std::fprintf(stderr, "  %s\n", mutation);
     std::fprintf(stderr, "E1 %s\nA1 %s\n", TextOf(training.e1).c_str(),
                  TextOf(training.a1).c_str());
-    std::exit(EXIT_FAILURE);
+    throw;
   }
-}
-
-std::uint64_t Argument(int argc, char* argv[], int i, std::uint64_t otherwise) {
-  return argc > i ? std::strtoull(argv[i], nullptr, 10) : otherwise;
-}
-
-int Fuzz(int argc, char* argv[]) {
-  g_seed = Argument(argc, argv, 1, 1);
-  const std::uint64_t count = Argument(argc, argv, 2, 100'000);
-  const std::uint64_t first = Argument(argc, argv, 3, 0);
-  std::signal(SIGALRM, OnAlarm);
-#ifdef __SANITIZE_ADDRESS__
-  __sanitizer_set_death_callback(SayCase);
-#endif
-  const auto start = std::chrono::steady_clock::now();
-  const std::vector<SavedTraining> trainings = SavedTrainings();
-  Tally tally;
-  for (g_case = first; g_case < first + count; ++g_case) {
-    alarm(kSecondsForACase);
-    RunCase(trainings, tally);
-    if ((g_case + 1 - first) % kCasesOfALine == 0) SayCase();
-  }
-  const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
-  std::printf("seed %llu, %zu saved trainings\n", static_cast<unsigned long long>(g_seed),
-              trainings.size());
-  tally.Print(passed.count());
-  return EXIT_SUCCESS;
 }
 
 }  // namespace
 }  // namespace vmod17
 
-int main(int argc, char* argv[]) { return vmod17::Fuzz(argc, argv); }
+int main(int argc, char* argv[]) {
+  using namespace vmod17;
+  const std::vector<SavedTraining> trainings = SavedTrainings();
+  std::printf("%zu saved trainings\n", trainings.size());
+  Tally tally;
+  return Fuzz(argc, argv,
+              {.run_case = [&](Dice& dice) { RunCase(trainings, dice, tally); },
+               .print = [&] { tally.Print(); }});
+}
