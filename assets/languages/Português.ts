@@ -651,7 +651,7 @@
     </message>
     <message id="9108s">
         <source></source>
-        <translation>O servidor dos treinos gravados, %1, não pode ser usado (%2). Pode praticar, mas o que gravar agora será perdido quando o programa terminar. Avise a pessoa que cuida dos computadores ou inicie o programa outra vez mais tarde.</translation>
+        <translation>O servidor dos treinos gravados, %1, não está acessível (%2). Pode praticar. O que gravar agora fica guardado neste computador e é levado para o servidor assim que este voltar, mesmo que inicie o programa noutro dia.</translation>
     </message>
     <message id="9109s">
         <source></source>
@@ -660,6 +660,14 @@
     <message id="9110s">
         <source></source>
         <translation>Não é possível ler o endereço do servidor com os treinos guardados (MELVADO_STORE). Nada foi criado nem alterado. Pode praticar, mas o que guardar agora perde-se no fim do programa. Escreva-o na forma postgresql://utilizador:senha@máquina/base e volte a iniciar o programa.</translation>
+    </message>
+    <message id="9111s">
+        <source></source>
+        <translation>O servidor dos treinos gravados, %1, não pode ser usado (%2). Pode praticar, mas o que gravar agora será perdido quando o programa terminar. Avise a pessoa que cuida dos computadores ou inicie o programa outra vez mais tarde.</translation>
+    </message>
+    <message id="9112s">
+        <source></source>
+        <translation>Um treino guardado neste computador enquanto o servidor não estava acessível foi agora levado para %1. Entretanto tinha sido gravado lá um mais recente, que é o que vale; o deste computador ficou guardado ao lado, com um nome que termina em %2.</translation>
     </message>
     <message id="9151s">
         <source></source>

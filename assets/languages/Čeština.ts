@@ -651,7 +651,7 @@
     </message>
     <message id="9108s">
         <source></source>
-        <translation>Server s uloženými tréninky, %1, nelze použít (%2). Můžete cvičit, ale co nyní uložíte, se po ukončení programu ztratí. Obraťte se prosím na osobu, která se stará o počítače, nebo program spusťte znovu později.</translation>
+        <translation>Server s uloženými tréninky, %1, není dostupný (%2). Můžete cvičit. Co nyní uložíte, zůstane v tomto počítači a na server se přenese, jakmile bude znovu dostupný, i když program spustíte jiný den.</translation>
     </message>
     <message id="9109s">
         <source></source>
@@ -660,6 +660,14 @@
     <message id="9110s">
         <source></source>
         <translation>Adresu serveru s uloženými tréninky (MELVADO_STORE) nelze přečíst. Nic nebylo vytvořeno ani změněno. Můžete cvičit, ale co nyní uložíte, se koncem programu ztratí. Napište ji ve tvaru postgresql://uživatel:heslo@počítač/databáze a spusťte program znovu.</translation>
+    </message>
+    <message id="9111s">
+        <source></source>
+        <translation>Server s uloženými tréninky, %1, nelze použít (%2). Můžete cvičit, ale co nyní uložíte, se po ukončení programu ztratí. Obraťte se prosím na osobu, která se stará o počítače, nebo program spusťte znovu později.</translation>
+    </message>
+    <message id="9112s">
+        <source></source>
+        <translation>Trénink, který zůstal v tomto počítači, dokud server nebyl dostupný, byl nyní přenesen na %1. Mezitím tam byl uložen novější, který platí; trénink z tohoto počítače je uložen vedle něj pod názvem, který končí na %2.</translation>
     </message>
     <message id="9151s">
         <source></source>

@@ -651,7 +651,7 @@
     </message>
     <message id="9108s">
         <source></source>
-        <translation>无法使用保存训练的服务器 %1（%2）。您可以练习，但现在保存的内容在程序退出后会丢失。请告知计算机管理人员，或稍后重新启动程序。</translation>
+        <translation>保存训练的服务器 %1 目前无法访问（%2）。您可以练习。现在保存的内容会留在这台计算机上，服务器恢复后立即传送过去，即使您改日再启动程序也一样。</translation>
     </message>
     <message id="9109s">
         <source></source>
@@ -660,6 +660,14 @@
     <message id="9110s">
         <source></source>
         <translation>无法读取保存训练的服务器地址（MELVADO_STORE）。没有创建或更改任何内容。您可以练习，但现在保存的内容会在程序结束时丢失。请按 postgresql://用户:密码@主机/数据库 的形式书写，然后重新启动程序。</translation>
+    </message>
+    <message id="9111s">
+        <source></source>
+        <translation>无法使用保存训练的服务器 %1（%2）。您可以练习，但现在保存的内容在程序退出后会丢失。请告知计算机管理人员，或稍后重新启动程序。</translation>
+    </message>
+    <message id="9112s">
+        <source></source>
+        <translation>服务器无法访问期间留在这台计算机上的一个训练现已传送到 %1。在此期间那里保存了更新的训练，以较新的为准；这台计算机上的训练保存在它旁边，名称以 %2 结尾。</translation>
     </message>
     <message id="9151s">
         <source></source>

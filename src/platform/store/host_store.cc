@@ -3,14 +3,19 @@
 
 #include "platform/store/host_store.h"
 
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSysInfo>
+#include <QTimer>
+#include <QUrlQuery>
+#include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdio>
 
+#include "platform/store/date_text.h"
+#include "platform/store/outbox.h"
+#include "platform/store/seat.h"
 #include "platform/store/sql_connection.h"
 #include "platform/store/store_address.h"
 #include "platform/store/store_file.h"
@@ -28,6 +33,9 @@ constexpr const char* kLanguage = "language";
 constexpr const char* kMidiDevice = "midi_device";
 constexpr const char* kSoundfont = "soundfont";
 
+// Between two glances at a connection that is being made.
+constexpr int kGlanceMs = 500;
+
 DateTime SystemTime() {
   const QDateTime now = QDateTime::currentDateTime();
   const QDate date = now.date();
@@ -35,21 +43,68 @@ DateTime SystemTime() {
   return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
 }
 
-std::string TextOf(const DateTime& time) {
-  std::array<char, 96> text;
-  std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", time.year, time.month,
-                time.day, time.hour, time.minute, time.second);
-  return text.data();
-}
-
 std::string TextOf(int number) {
   std::array<char, 16> text;
   return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr};
 }
 
-std::string SeatOfThisMachine() {
-  const QString login = qEnvironmentVariable("USER", qEnvironmentVariable("USERNAME"));
-  return (QSysInfo::machineHostName() + '/' + login).toStdString();
+// Kinds of what stands in an outbox.
+constexpr const char* kRecordKind = "record";       // user, program, key, value, what was seen
+constexpr const char* kSettingKind = "setting";     // name, value
+constexpr const char* kUserKind = "user";           // number, name, first name
+constexpr const char* kUserGoneKind = "user gone";  // number
+constexpr const char* kLogKind = "log";             // the members of a line
+
+/// The file of what waits for a server: one for each database, role and seat. The password is no
+/// part of it.
+QString OutboxPath(const QString& folder, const QUrl& server, const std::string& seat) {
+  QString place = server.toString(QUrl::RemovePassword | QUrl::RemoveQuery);
+  for (const char* name : {"host", "hostaddr", "port"}) {
+    place += '\n' + QUrlQuery(server).queryItemValue(name);
+  }
+  const QByteArray mark = QCryptographicHash::hash(
+      (place + '\n' + QString::fromStdString(seat)).toUtf8(), QCryptographicHash::Sha256);
+  return folder + "/outbox-" + QString::fromLatin1(mark.toHex().left(16)) + ".sqlite";
+}
+
+TaggedValue ContentOf(const LogEntry& line) {
+  return TaggedValue::Array{line.kind == LogEntry::Kind::kError ? 1 : 0,
+                            line.at,
+                            line.user,
+                            line.place,
+                            line.number,
+                            line.text,
+                            line.source};
+}
+
+LogEntry LineIn(const TaggedValue& content) {
+  LogEntry line;
+  line.kind = content[0].Integer() == 1 ? LogEntry::Kind::kError : LogEntry::Kind::kMessage;
+  line.at = content[1].String();
+  line.user = content[2].String();
+  line.place = content[3].String();
+  line.number = content[4].Integer();
+  line.text = content[5].String();
+  line.source = content[6].String();
+  return line;
+}
+
+StoreUser UserIn(const TaggedValue& content) {
+  return {content[0].String(), content[1].String(), content[2].String()};
+}
+
+RecordKey KeyIn(const TaggedValue& content) {
+  return {content[0].String(), content[1].String(), content[2].String()};
+}
+
+/// What is behind the key of a record that has to give way to another: ".kept-YYYYMMDD-hhmmss".
+std::string KeptSuffix(const std::string& at) {
+  std::string suffix = ".kept-";
+  for (const char sign : at) {
+    if (sign == ' ') suffix += '-';
+    if (sign >= '0' && sign <= '9') suffix += sign;
+  }
+  return suffix;
 }
 
 std::map<std::string, std::string> SettingsOf(const std::string& session) {
@@ -111,21 +166,50 @@ class HostStore::Front : public HostService {
   HostStore& store_;
 };
 
+/// A call from outside. All that it asks of a server has one deadline, that of the outermost call.
+class HostStore::OneCall {
+ public:
+  explicit OneCall(HostStore& store) : store_(store) {
+    if (store_.calls_++ > 0) return;
+    store_.deadline_ = std::chrono::steady_clock::now() +
+                       std::chrono::milliseconds(store_.options_.server_patience_ms);
+    store_.OpenOutbox();
+  }
+  ~OneCall() { --store_.calls_; }
+  OneCall(const OneCall&) = delete;
+  OneCall& operator=(const OneCall&) = delete;
+
+ private:
+  HostStore& store_;
+};
+
 HostStore::HostStore(StoreOptions options)
     : options_(std::move(options)),
       address_(std::make_unique<StoreAddress>(ParseStoreAddress(options_.address))),
       session_(SettingsOf(options_.session)),
-      settings_(session_) {
+      settings_(session_),
+      log_(options_.log_limit_bytes) {
   if (!options_.clock) options_.clock = SystemTime;
-  if (options_.seat.empty() && !IsFile()) options_.seat = SeatOfThisMachine();
+  if (options_.data_folder.empty()) options_.data_folder = UserDataFolder();
+  if (options_.seat.empty() && IsServer()) {
+    const Seat seat = SeatIn(QString::fromStdString(options_.data_folder));
+    options_.seat = seat.name;
+    former_seat_ = seat.former;
+  }
 }
 
 HostStore::~HostStore() {
+  const bool waits_for_server = IsServer() && !(connection_ && connection_->IsAtHand());
   try {
-    if (state_ != State::kMemoryOnly && !read_only_) WritePending();
+    if (state_ != State::kMemoryOnly && !read_only_ && !waits_for_server) WritePending();
   } catch (const SqlError&) {
     // The user was told when it could not be written the first time.
   }
+  if (log_.IsEmpty()) return;
+  BringLog();
+  std::vector<OutboxEntry> lines;
+  for (const LogEntry& line : log_.Take()) lines.push_back({kLogKind, ContentOf(line)});
+  if (!lines.empty()) Post(lines);
 }
 
 std::unique_ptr<HostService> HostStore::Service() { return std::make_unique<Front>(*this); }
@@ -133,6 +217,7 @@ std::unique_ptr<HostService> HostStore::Service() { return std::make_unique<Fron
 // ---- The commands
 
 bool HostStore::Action(std::string_view command, const TaggedValue& args, TaggedValue& result) {
+  const OneCall call(*this);
   if (command == "READ") return Read(args, result);
   if (command == "STORE") return Store(args);
   if (command == "LOGMESS") return AppendLog(MessageEntry(args));
@@ -160,6 +245,7 @@ void HostStore::Together(const std::function<void()>& stores) {
     throw;
   }
   const Records records = *std::exchange(together_, std::nullopt);
+  const OneCall call(*this);
   if (!records.empty()) Keep(records);
 }
 
@@ -197,7 +283,10 @@ bool HostStore::Read(const TaggedValue& args, TaggedValue& result) {
     key = KeyOf(args, Patience::kOnlyOnce);
     stored = Unwritten(key);
     if (!stored) {
-      WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { stored = tables.Read(key); });
+      WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
+        stored = tables.Read(key);
+        if (outbox_) seen_[key] = FingerprintOf(stored);
+      });
     }
   } catch (const SqlError& error) {
     TellUnreadable(error);
@@ -232,21 +321,31 @@ bool HostStore::Store(const TaggedValue& args) {
 bool HostStore::AppendLog(LogEntry entry) {
   entry.at = TextOf(options_.clock());
   entry.user = Setting(kUserId);
-  bool kept = false;
+  log_.Add(std::move(entry));
+  return BringLog();
+}
+
+/// Sends the lines that wait. Returns false when the store has not taken them.
+bool HostStore::BringLog() {
+  if (log_.IsEmpty()) return true;
+  MakeConnection();
+  bool sent = false;
   try {
+    // A line of the log is never worth the wait for a connection.
+    if (state_ == State::kClosed && !connection_->IsAtHand()) {
+      LookForServerLater();
+      return false;
+    }
     WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
-      if (read_only_) return;
-      log_bytes_to_trim_ -= tables.AppendLog(entry);
-      kept = true;
-      if (log_bytes_to_trim_ > 0) return;
-      tables.TrimLog(options_.log_limit_bytes);
-      log_bytes_to_trim_ = options_.log_limit_bytes / 50;
+      if (!read_only_) sent = log_.Send(tables);
     });
-  } catch (const SqlError&) {
-    // A log line is not worth a word to the user, and an error while an error is logged none
-    // either.
+    if (read_only_ || state_ == State::kMemoryOnly) log_.Take();
+  } catch (const SqlError& error) {
+    // Nor worth a word to the user, and an error while an error is logged none either.
+    if (error.failure() == SqlFailure::kReadOnly) log_.Take();
   }
-  return kept;
+  if (!sent) LookForServerLater();
+  return sent;
 }
 
 // ---- Settings and the log, for the host's window
@@ -271,7 +370,9 @@ std::string HostStore::Soundfont() { return Setting(kSoundfont); }
 void HostStore::SetSoundfont(const std::string& path) { ChangeSettings({{kSoundfont, path}}); }
 
 std::vector<LogEntry> HostStore::Log(int count) {
+  const OneCall call(*this);
   std::vector<LogEntry> entries;
+  BringLog();
   try {
     WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { entries = tables.Log(count); });
   } catch (const SqlError& error) {
@@ -290,6 +391,7 @@ std::string HostStore::Session() {
 }
 
 void HostStore::ChangeSettings(const Settings& changes) {
+  const OneCall call(*this);
   Settings all = changes;
   all.insert(pending_settings_.begin(), pending_settings_.end());
   bool written = false;
@@ -300,6 +402,18 @@ void HostStore::ChangeSettings(const Settings& changes) {
     });
   } catch (const SqlError& error) {
     WriteFailed(error);
+  }
+  std::vector<OutboxEntry> entries;
+  for (const auto& [name, value] : changes) {
+    entries.push_back({kSettingKind, TaggedValue::Array{name, value}});
+  }
+  if (written) {
+    DropKept([&](const OutboxEntry& entry) {
+      return entry.kind == kSettingKind && all.contains(entry.content[0].String());
+    });
+  } else if (Post(entries)) {
+    LookForServerLater();
+    all = pending_settings_;
   }
   pending_settings_ = written ? Settings() : all;
   if (written) TellAnew();
@@ -315,6 +429,7 @@ void HostStore::SetHere(const std::string& name, const std::string& value) {
 // ---- Users
 
 std::vector<StoreUser> HostStore::Users() {
+  const OneCall call(*this);
   std::map<std::string, StoreUser> users;
   try {
     WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
@@ -324,7 +439,12 @@ std::vector<StoreUser> HostStore::Users() {
   } catch (const SqlError& error) {
     TellUnreadable(error);
   }
-  for (const auto& [id, change] : pending_users_) {
+  std::map<std::string, UserChange> changes = pending_users_;
+  for (const auto& [kind, content, number] : Kept()) {
+    if (kind == kUserKind) changes[content[0].String()] = UserIn(content);
+    if (kind == kUserGoneKind) changes[content[0].String()] = std::nullopt;
+  }
+  for (const auto& [id, change] : changes) {
     if (change) {
       users[id] = *change;
     } else {
@@ -347,6 +467,7 @@ bool HostStore::SaveUser(const StoreUser& user, UserIs is) {
   if (user.id.empty()) {
     throw RunTimeError(ErrorNumber::kInvalidCall, "a user without a number", "vmod17.HostStore");
   }
+  const OneCall call(*this);
   const auto pending = pending_users_.find(user.id);
   if (is == UserIs::kNew && pending != pending_users_.end() && pending->second) return false;
   bool added = true;
@@ -361,8 +482,9 @@ bool HostStore::SaveUser(const StoreUser& user, UserIs is) {
   if (!added) return false;
   if (written) {
     pending_users_.erase(user.id);
+    DropKeptUser(user.id);
   } else {
-    pending_users_[user.id] = user;
+    KeepUser(user.id, user);
   }
   if (Setting(kUserId) == user.id) {
     SetHere(kUserName, user.name);
@@ -372,12 +494,23 @@ bool HostStore::SaveUser(const StoreUser& user, UserIs is) {
 }
 
 void HostStore::RemoveUser(const std::string& id) {
+  const OneCall call(*this);
   if (WriteUser([&](StoreTables& tables) { tables.RemoveUser(id); })) {
     pending_users_.erase(id);
+    DropKeptUser(id);
   } else {
-    pending_users_[id] = std::nullopt;
+    KeepUser(id, std::nullopt);
   }
   if (Setting(kUserId) == id) SetHere(kUserId, "");
+}
+
+/// A change that the store has not taken.
+void HostStore::KeepUser(const std::string& id, const UserChange& change) {
+  const OutboxEntry entry =
+      change ? OutboxEntry{kUserKind, TaggedValue::Array{id, change->name, change->first_name}}
+             : OutboxEntry{kUserGoneKind, TaggedValue::Array{id}};
+  if (Post({entry})) return LookForServerLater();
+  pending_users_[id] = change;
 }
 
 bool HostStore::WriteUser(const Work& work) {
@@ -417,7 +550,8 @@ void HostStore::WritePendingUsers() {
 // ---- Settings
 
 const HostStore::Settings& HostStore::CurrentSettings() {
-  if (was_open_) return settings_;
+  // What another process has handed on is all that this one needs to know.
+  if (was_open_ || !session_.empty()) return settings_;
   try {
     WithStore(Patience::kOnlyOnce, [](StoreTables&) {});
   } catch (const SqlError& error) {
@@ -436,7 +570,7 @@ std::string HostStore::Setting(const std::string& name) {
 
 RecordKey HostStore::KeyOf(const TaggedValue& args, Patience patience) {
   // Whose record it is, is known once the store is open.
-  if (!was_open_) WithStore(patience, [](StoreTables&) {});
+  if (!was_open_ && session_.empty()) WithStore(patience, [](StoreTables&) {});
   return {Setting(kUserId), args[0].String(), args[1].String()};
 }
 
@@ -445,16 +579,42 @@ std::optional<std::string> HostStore::Unwritten(const RecordKey& key) const {
     if (!records) continue;
     if (const auto found = records->find(key); found != records->end()) return found->second;
   }
-  return {};
+  std::optional<std::string> kept;
+  for (const OutboxEntry& entry : Kept()) {
+    if (entry.kind == kRecordKind && KeyIn(entry.content) == key) kept = entry.content[3].String();
+  }
+  return kept;
 }
 
 void HostStore::Keep(const Records& records) {
+  std::vector<OutboxEntry> entries;
+  for (const auto& [key, value] : records) {
+    entries.push_back({kRecordKind, TaggedValue::Array{key.user, key.program, key.key, value,
+                                                       outbox_ ? seen_[key] : std::string()}});
+    if (outbox_) seen_[key] = FingerprintOf(value);
+  }
+  // Before the server is asked: who is killed while it says nothing has lost nothing.
+  bool is_kept = Post(entries);
+  const auto take_back = [&] {
+    DropKept([&](const OutboxEntry& entry) {
+      return entry.kind == kRecordKind && records.contains(KeyIn(entry.content));
+    });
+  };
   try {
-    if (WriteRecords(records)) return;
+    if (WriteRecords(records)) {
+      take_back();
+      return WriteTheRest();
+    }
     if (in_memory_) Tell(*in_memory_);
   } catch (const SqlError& error) {
+    if (error.failure() == SqlFailure::kLocked || error.failure() == SqlFailure::kReadOnly) {
+      take_back();
+      is_kept = false;
+    }
     WriteFailed(error);
   }
+  LookForServerLater();
+  if (is_kept) return;
   for (const auto& [key, value] : records) pending_.insert_or_assign(key, value);
 }
 
@@ -466,15 +626,21 @@ bool HostStore::WriteRecords(const Records& records) {
   if (!written) return false;
   TellAnew();
   for (const auto& [key, value] : records) pending_.erase(key);
+  return true;
+}
+
+/// What else waits, after something was stored.
+void HostStore::WriteTheRest() {
   try {
     WritePending();
   } catch (const SqlError&) {
     // What was asked for is stored. The rest, which the user knows of, waits for the next time.
   }
-  return true;
+  BringLog();
 }
 
 void HostStore::WritePending() {
+  EmptyOutbox();
   // In one piece, for what was stored together is among them.
   if (!pending_.empty() &&
       WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { tables.Write(pending_); })) {
@@ -507,12 +673,143 @@ void HostStore::PutAside(const RecordKey& key, const std::string& value) {
   Tell(DamagedRecordNotice(key.key, renamed ? aside : key.key));
 }
 
+// ---- What waits for a server
+
+void HostStore::OpenOutbox() {
+  if (outbox_ || !IsServer()) return;
+  outbox_ = std::make_unique<Outbox>(
+      OutboxPath(QString::fromStdString(options_.data_folder), address_->server, options_.seat),
+      options_.clock);
+  Settings kept;
+  for (const auto& [kind, content, id] : Kept()) {
+    if (kind == kSettingKind) kept[content[0].String()] = content[1].String();
+  }
+  settings_.merge(kept);
+}
+
+/// Puts them into the outbox as one piece. False where there is none, or where the store would
+/// never take them.
+bool HostStore::Post(const std::vector<OutboxEntry>& entries) {
+  if (!outbox_ || read_only_ || state_ == State::kMemoryOnly) return false;
+  outbox_fails_ = !outbox_->Add(entries);
+  return !outbox_fails_;
+}
+
+std::vector<OutboxEntry> HostStore::Kept() const {
+  std::vector<OutboxEntry> all;
+  if (!outbox_) return all;
+  for (const OutboxPiece& piece : outbox_->Pieces()) {
+    all.insert(all.end(), piece.entries.begin(), piece.entries.end());
+  }
+  return all;
+}
+
+/// Takes out what the store has got by another way.
+void HostStore::DropKept(const std::function<bool(const OutboxEntry&)>& is_outdated) {
+  std::vector<OutboxEntry> entries = Kept();
+  std::erase_if(entries, std::not_fn(is_outdated));
+  if (outbox_) outbox_->Remove(entries);
+}
+
+void HostStore::DropKeptUser(const std::string& id) {
+  DropKept([&](const OutboxEntry& entry) {
+    return (entry.kind == kUserKind || entry.kind == kUserGoneKind) &&
+           entry.content[0].String() == id;
+  });
+}
+
+/// Brings the store what stands in the outbox, in its order. Errors: SqlError.
+void HostStore::EmptyOutbox() {
+  if (!outbox_ || outbox_->Pieces().empty()) return;
+  // What another process is bringing is its own to bring.
+  QLockFile lock(outbox_->Path() + ".lock");
+  if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) return;
+  for (const OutboxPiece& piece : outbox_->Pieces()) {
+    try {
+      const bool brought =
+          WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { Bring(tables, piece); });
+      if (!brought) return;
+    } catch (const SqlError& error) {
+      // One that the store will never take must not hold up the others.
+      if (error.failure() != SqlFailure::kOther) throw;
+      continue;
+    }
+    outbox_->Remove(piece.entries);
+  }
+}
+
+void HostStore::Bring(StoreTables& tables, const OutboxPiece& piece) {
+  if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
+  LateRecords records;
+  Settings settings;
+  for (const auto& [kind, content, id] : piece.entries) {
+    if (kind == kRecordKind) {
+      records[KeyIn(content)] = {content[3].String(), content[4].String()};
+    } else if (kind == kSettingKind) {
+      settings[content[0].String()] = content[1].String();
+    } else if (kind == kUserKind) {
+      NeedUserTable();
+      tables.SaveUser(UserIn(content));
+    } else if (kind == kUserGoneKind) {
+      NeedUserTable();
+      tables.RemoveUser(content[0].String());
+    } else if (kind == kLogKind) {
+      log_.Add(LineIn(content));
+    }
+  }
+  if (!settings.empty()) tables.SetSettings(options_.seat, settings);
+  if (!records.empty() && !tables.WriteLate(records, KeptSuffix(piece.at))) {
+    Tell(NewerRecordNotice(address_->Display(), KeptSuffix(piece.at)));
+  }
+}
+
+void HostStore::LookForServerLater() {
+  if (!IsServer()) return;
+  if (!retry_timer_) {
+    retry_timer_ = std::make_unique<QTimer>();
+    QObject::connect(retry_timer_.get(), &QTimer::timeout, [this] { LookForServer(); });
+  }
+  if (!retry_timer_->isActive()) retry_timer_->start(options_.retry_ms);
+}
+
+void HostStore::LookForServer() {
+  if (calls_ > 0 || together_ || !connection_) return;
+  if (!connection_->IsAtHand()) return retry_timer_->start(std::min(options_.retry_ms, kGlanceMs));
+  const OneCall call(*this);
+  retry_timer_->stop();
+  try {
+    WithStore(Patience::kOnlyOnce, [](StoreTables&) {});
+    WritePending();
+  } catch (const SqlError&) {
+    // The user knows, and it is looked for again.
+    LookForServerLater();
+  }
+  BringLog();
+}
+
+/// A room of many machines must not keep a connection each that nobody uses.
+void HostStore::RestSoon() {
+  if (!IsServer()) return;
+  if (!idle_timer_) {
+    idle_timer_ = std::make_unique<QTimer>();
+    idle_timer_->setSingleShot(true);
+    QObject::connect(idle_timer_.get(), &QTimer::timeout, [this] {
+      if (calls_ > 0 || state_ != State::kOpen) return RestSoon();
+      connection_->Close();
+      state_ = State::kClosed;
+    });
+  }
+  idle_timer_->start(options_.idle_ms);
+}
+
 // ---- Opening and mending
 
 bool HostStore::WithStore(Patience patience, const Work& work) {
+  const OneCall call(*this);
   for (bool again = false;; again = true) {
     try {
       if (!Open(patience)) return false;
+      RestSoon();
       work(*tables_);
       waited_in_vain_ = false;
       return true;
@@ -525,19 +822,26 @@ bool HostStore::WithStore(Patience patience, const Work& work) {
 
 bool HostStore::Open(Patience patience) {
   if (state_ == State::kMemoryOnly) return false;
-  const bool in_a_hurry = patience == Patience::kOnlyOnce && waited_in_vain_;
-  const int wait_ms = in_a_hurry ? 0 : options_.busy_timeout_ms;
+  const int wait_ms = WaitFor(patience);
+  MakeConnection();
+  connection_->SetDeadline(deadline_);
   if (state_ == State::kOpen && !WasReplaced()) {
-    if (wait_ms != wait_ms_) connection_->SetWait(wait_ms);
-    wait_ms_ = wait_ms;
+    connection_->SetWait(wait_ms);
     return true;
   }
   state_ = State::kClosed;
   try {
     state_ = OpenAnew(wait_ms) ? State::kOpen : State::kMemoryOnly;
   } catch (const SqlError& error) {
+    if (IsServer() && error.failure() == SqlFailure::kUnreachable) {
+      // It may be found while nobody waits.
+      LookForServerLater();
+      if (was_open_) throw;
+      TellUnreadable(error);
+      return false;
+    }
     connection_->Close();
-    // A store that was there comes back, perhaps. One that was never seen must not be written
+    // A store that was there comes back, perhaps. A file that was never seen must not be written
     // later: nobody knows what it holds.
     if (was_open_ || error.failure() == SqlFailure::kLocked ||
         error.failure() == SqlFailure::kBroken) {
@@ -546,19 +850,28 @@ bool HostStore::Open(Patience patience) {
     state_ = State::kMemoryOnly;
     const std::string place = address_->Display();
     TellInMemory(IsFile() ? UnusableStoreNotice(place, error.what())
-                          : UnreachableServerNotice(place, error.what()));
+                          : UnusableServerNotice(place, error.what()));
   }
   return state_ == State::kOpen;
+}
+
+int HostStore::WaitFor(Patience patience) const {
+  if (patience == Patience::kOnlyOnce && waited_in_vain_) return 0;
+  // A lock on a server must not be taken for its silence.
+  return IsServer() ? std::min(options_.busy_timeout_ms, options_.server_patience_ms * 3 / 4)
+                    : options_.busy_timeout_ms;
+}
+
+void HostStore::MakeConnection() {
+  if (connection_) return;
+  connection_ = MakeSqlConnection(*address_);
+  tables_ = std::make_unique<StoreTables>(*connection_);
 }
 
 bool HostStore::OpenAnew(int wait_ms) {
   if (address_->kind == StoreAddress::Kind::kUnreadable) {
     TellInMemory(UnreadableAddressNotice());
     return false;
-  }
-  if (!connection_) {
-    connection_ = MakeSqlConnection(*address_);
-    tables_ = std::make_unique<StoreTables>(*connection_);
   }
   if (IsFile()) {
     const QString refusal = PrepareStoreFile(
@@ -567,27 +880,40 @@ bool HostStore::OpenAnew(int wait_ms) {
     identity_ = IdentityOf(address_->path);
   }
   connection_->Open(wait_ms);
-  wait_ms_ = wait_ms;
-  const std::optional<std::int64_t> version = tables_->Version();
-  if (version.value_or(0) > kStoreVersion) {
+  std::optional<StoreTables::Facts> facts = tables_->LookInto(options_.seat);
+  if (facts && facts->version > kStoreVersion) {
     connection_->Close();
     TellInMemory(NewerStoreNotice(address_->Display()));
     return false;
   }
   connection_->Prepare();
-  if (!version) {
+  if (!facts) {
     tables_->Create();
     if (!settings_.empty()) tables_->SetSettings(options_.seat, settings_);
+    facts = {kStoreVersion, {}};
   }
   read_only_ = connection_->IsReadOnly();
-  has_user_table_ = version.value_or(kStoreVersion) >= kStoreVersion || TryToUpgrade();
+  has_user_table_ = facts->version >= kStoreVersion || TryToUpgrade();
   if (!was_open_) {
-    settings_ = session_;
-    settings_.merge(tables_->Settings(options_.seat));
+    if (facts->settings.empty()) TakeOverFormerSeat(facts->settings);
+    settings_.merge(facts->settings);
   }
   was_open_ = true;
+  if (!Kept().empty()) LookForServerLater();
   if (read_only_) Tell(ReadOnlyStoreNotice(address_->Display()));
   return true;
+}
+
+void HostStore::TakeOverFormerSeat(Settings& settings) {
+  if (former_seat_.empty() || former_seat_ == options_.seat) return;
+  settings = tables_->Settings(former_seat_);
+  if (settings.empty()) return;
+  try {
+    tables_->SetSettings(options_.seat, settings);
+  } catch (const SqlError& error) {
+    // They hold in this process, and the next one finds them again.
+    if (error.failure() != SqlFailure::kReadOnly) throw;
+  }
 }
 
 /// A store of an older version has all but the list of users, so it serves also where it cannot be
@@ -614,6 +940,7 @@ void HostStore::NeedUserTable() {
 bool HostStore::Recover(const SqlError& error) {
   if (error.failure() == SqlFailure::kBroken) return IsFile() && Repair();
   if (error.failure() != SqlFailure::kUnreachable || state_ != State::kOpen) return false;
+  connection_->Close();
   state_ = State::kClosed;
   return true;
 }
@@ -637,6 +964,8 @@ bool HostStore::Repair() {
 
 bool HostStore::IsFile() const { return address_->kind == StoreAddress::Kind::kFile; }
 
+bool HostStore::IsServer() const { return address_->kind == StoreAddress::Kind::kServer; }
+
 bool HostStore::WasReplaced() const {
   // A file that was deleted or replaced under its name would go on taking what is stored, and
   // nobody would find it again.
@@ -655,14 +984,19 @@ void HostStore::TellInMemory(const Notice& notice) {
   Tell(notice);
 }
 
+Notice HostStore::ServerNotice(const SqlError& error) const {
+  return outbox_fails_ || !outbox_ || !outbox_->IsReady()
+             ? UnusableServerNotice(address_->Display(), error.what())
+             : UnreachableServerNotice(address_->Display(), error.what());
+}
+
 void HostStore::TellUnreadable(const SqlError& error) {
   const std::string place = address_->Display();
   switch (error.failure()) {
     case SqlFailure::kLocked:
       return Tell(LockedStoreNotice(place));
     case SqlFailure::kUnreachable:
-      return Tell(IsFile() ? UnreadableStoreNotice(place, error.what())
-                           : UnreachableServerNotice(place, error.what()));
+      return Tell(IsFile() ? UnreadableStoreNotice(place, error.what()) : ServerNotice(error));
     case SqlFailure::kBroken:
       // `Repair` has told what became of a broken file.
       if (IsFile()) return;
@@ -685,8 +1019,7 @@ void HostStore::WriteFailed(const SqlError& error) {
       read_only_ = true;
       return Tell(ReadOnlyStoreNotice(place));
     case SqlFailure::kUnreachable:
-      return Tell(IsFile() ? FullStoreNotice(place, error.what())
-                           : UnreachableServerNotice(place, error.what()));
+      return Tell(IsFile() ? FullStoreNotice(place, error.what()) : ServerNotice(error));
     case SqlFailure::kBroken:
       if (IsFile()) return;
       [[fallthrough]];

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -18,13 +19,19 @@
 #include "platform/host_service.h"
 #include "platform/notice.h"
 #include "platform/store/log_entry.h"
+#include "platform/store/log_queue.h"
 #include "platform/store/store_user.h"
+
+class QTimer;
 
 namespace vmod17 {
 
+class Outbox;
 class SqlConnection;
 class SqlError;
 class StoreTables;
+struct OutboxEntry;
+struct OutboxPiece;
 struct RecordKey;
 struct StoreAddress;
 
@@ -51,6 +58,14 @@ struct StoreOptions {
   std::function<DateTime()> clock;
   /// How long a store that another process holds is waited for.
   int busy_timeout_ms = 5000;
+  /// How long a call may keep the program waiting for a server, all in all.
+  int server_patience_ms = 4000;
+  /// How often a server that is away is looked for, for what waits for it.
+  int retry_ms = 5000;
+  /// After how long without use a server gets its connection back.
+  int idle_ms = 30'000;
+  /// Folder for what this machine keeps of a user; "" for `UserDataFolder()`.
+  std::string data_folder;
   /// Size above which the oldest lines of the log go. The tables add a quarter to it at most.
   std::int64_t log_limit_bytes = 7'500'000;
 };
@@ -73,7 +88,9 @@ struct StoreOptions {
 /// | read-only                | works                     | in memory until the process ends     |
 /// | on a full disk           | works                     | in memory, and tried again with the  |
 /// |                          |                           | next "STORE" and at the end          |
-/// | cut off after the start  | false                     | the same                             |
+/// | a file cut off later     | false                     | the same                             |
+/// | a server that is away    | false; at first contact   | in the outbox, and brought as soon   |
+/// |                          | nothing stored            | as it is back                        |
 /// | broken                   | put aside, a new one made | in the new one                       |
 /// | of an older version      | made into one of this version, in one transaction                |
 /// | of a newer version       | nothing stored            | in memory; the store is left alone   |
@@ -83,7 +100,14 @@ struct StoreOptions {
 /// transaction: what was stored with `Together` waits, and is written, as a whole. After a lock was
 /// waited for in vain, only "STORE" and the setters wait again until it is gone, so that the
 /// program does not stand still with every call. A single record that is damaged is put aside under
-/// another key, its "READ" returns false. The log never raises.
+/// another key, its "READ" returns false. The log never raises; lines that the store does not take
+/// at once wait in memory, in their order.
+///
+/// A server is waited for `server_patience_ms` at the most, and after that not again until it has
+/// been found beside the program. What is stored is written into the `Outbox` of this machine
+/// before the server is asked, so that a process that is killed meanwhile loses nothing; it is read
+/// back, and brought in its order by this process or the next one, each piece in one transaction. A
+/// record that somebody else has stored meanwhile is not overwritten by an older one.
 class HostStore {
  public:
   explicit HostStore(StoreOptions options);
@@ -133,6 +157,7 @@ class HostStore {
 
  private:
   class Front;
+  class OneCall;
   enum class State { kClosed, kOpen, kMemoryOnly };
   enum class Patience { kWait, kOnlyOnce };
   using Settings = std::map<std::string, std::string>;
@@ -148,15 +173,20 @@ class HostStore {
   bool Login(TaggedValue& result);
   bool Lang(TaggedValue& result);
   bool AppendLog(LogEntry entry);
+  bool BringLog();
 
   /// Runs `work` on the open store, on a new one if it proves broken, and again if the connection
   /// was lost. Returns false, without running it, when there is none. Errors: SqlError.
   bool WithStore(Patience patience, const Work& work);
   bool Open(Patience patience);
   bool OpenAnew(int wait_ms);
+  int WaitFor(Patience patience) const;
+  void MakeConnection();
+  void TakeOverFormerSeat(Settings& settings);
   bool Recover(const SqlError& error);
   bool Repair();
   bool IsFile() const;
+  bool IsServer() const;
   bool WasReplaced() const;
   bool TryToUpgrade();
   void NeedUserTable();
@@ -165,10 +195,24 @@ class HostStore {
   std::optional<std::string> Unwritten(const RecordKey& key) const;
   void Keep(const Records& records);
   bool WriteRecords(const Records& records);
+  void WriteTheRest();
   void WritePending();
   bool WriteUser(const Work& work);
+  void KeepUser(const std::string& id, const UserChange& change);
   bool IsUser(const std::string& id);
   void WritePendingUsers();
+
+  void OpenOutbox();
+  bool Post(const std::vector<OutboxEntry>& entries);
+  std::vector<OutboxEntry> Kept() const;
+  void DropKept(const std::function<bool(const OutboxEntry&)>& is_outdated);
+  void DropKeptUser(const std::string& id);
+  void EmptyOutbox();
+  void Bring(StoreTables& tables, const OutboxPiece& piece);
+  void LookForServerLater();
+  void LookForServer();
+  void RestSoon();
+
   void PutAside(const RecordKey& key, const std::string& value);
   void ChangeSettings(const Settings& changes);
   void SetHere(const std::string& name, const std::string& value);
@@ -177,6 +221,7 @@ class HostStore {
 
   void Tell(const Notice& notice);
   void TellInMemory(const Notice& notice);
+  Notice ServerNotice(const SqlError& error) const;
   void TellUnreadable(const SqlError& error);
   void WriteFailed(const SqlError& error);
 
@@ -189,7 +234,6 @@ class HostStore {
   bool read_only_ = false;
   bool has_user_table_ = false;
   bool waited_in_vain_ = false;
-  int wait_ms_ = 0;                                   // as set in the connection
   std::pair<std::uint64_t, std::uint64_t> identity_;  // of the file that is open
   Settings session_;
   Settings settings_;
@@ -197,9 +241,17 @@ class HostStore {
   Records pending_;                  // what the database did not take
   std::map<std::string, UserChange> pending_users_;
   Settings pending_settings_;
-  std::int64_t log_bytes_to_trim_ = 0;  // 0: before the next line
-  std::set<int> told_;                  // since something was stored or a run began
-  std::optional<Notice> in_memory_;     // why nothing is stored at all
+  LogQueue log_;
+  std::unique_ptr<Outbox> outbox_;  // of a server
+  bool outbox_fails_ = false;
+  std::map<RecordKey, std::string> seen_;  // fingerprints of what a server holds
+  std::string former_seat_;
+  int calls_ = 0;                                   // that are under way, one within the other
+  std::chrono::steady_clock::time_point deadline_;  // of the outermost
+  std::unique_ptr<QTimer> retry_timer_;
+  std::unique_ptr<QTimer> idle_timer_;
+  std::set<int> told_;               // since something was stored or a run began
+  std::optional<Notice> in_memory_;  // why nothing is stored at all
 };
 
 }  // namespace vmod17

@@ -3,68 +3,34 @@
 
 #include "platform/store/sql_connection.h"
 
+#include <utility>
+
 #include "platform/store/postgres_connection.h"
 #include "platform/store/sqlite_connection.h"
 
 namespace vmod17 {
 
-SqlConnection::SqlConnection(const QString& driver)
-    : database_(QSqlDatabase::addDatabase(
-          driver, "melvado-" + QString::number(reinterpret_cast<quintptr>(this), 16))) {}
-
-SqlConnection::~SqlConnection() {
-  const QString name = database_.connectionName();
-  database_.close();
-  database_ = QSqlDatabase();
-  QSqlDatabase::removeDatabase(name);
-}
-
-QSqlQuery SqlConnection::Run(const QString& statement, const QVariantList& values) {
-  QSqlQuery query(database_);
-  query.setForwardOnly(true);
-  if (values.isEmpty()) {
-    if (!query.exec(statement)) Fail(query.lastError());
-    return query;
-  }
-  if (!query.prepare(statement)) Fail(query.lastError());
-  for (const QVariant& value : values) query.addBindValue(value);
-  if (!query.exec()) Fail(query.lastError());
-  return query;
+void SqlConnection::RunTogether(SqlStatements statements) {
+  Execute(InOneTransaction(std::move(statements)));
 }
 
 void SqlConnection::InTransaction(const std::function<void()>& work) {
   Run(BeginStatement());
-  in_transaction_ = true;
   try {
     work();
     Run(QStringLiteral("COMMIT"));
-    in_transaction_ = false;
+  } catch (const SqlError&) {
+    throw;  // and `Execute` has ended the transaction
   } catch (...) {
-    RollBack();
+    Run(QStringLiteral("ROLLBACK"));
     throw;
   }
 }
 
-void SqlConnection::RollBack() {
-  if (!in_transaction_) return;
-  in_transaction_ = false;
-  // Its own failure would hide the first one. A database that is gone has undone it already.
-  QSqlQuery(database_).exec(QStringLiteral("ROLLBACK"));
-}
-
-void SqlConnection::Fail(const QSqlError& error) {
-  // While the statement that failed still lives: in a broken transaction a server would refuse to
-  // forget it, and the driver complains of that.
-  RollBack();
-  Throw(error);
-}
-
-void SqlConnection::Throw(const QSqlError& error) const {
-  const SqlFailure failure = Classify(error);
-  const QString code = error.nativeErrorCode();
-  QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
-  if (!code.isEmpty()) text += " [" + code + ']';
-  throw SqlError(failure, text.simplified().toStdString());
+SqlStatements SqlConnection::InOneTransaction(SqlStatements statements) const {
+  statements.insert(statements.begin(), {BeginStatement(), {}});
+  statements.push_back({QStringLiteral("COMMIT"), {}});
+  return statements;
 }
 
 std::unique_ptr<SqlConnection> MakeSqlConnection(const StoreAddress& address) {

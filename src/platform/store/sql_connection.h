@@ -3,14 +3,17 @@
 
 #pragma once
 
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
+#include <QList>
+#include <QString>
 #include <QVariantList>
+#include <chrono>
+#include <cstdint>
 #include <functional>
+#include <future>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "platform/store/store_address.h"
 
@@ -37,34 +40,64 @@ class SqlError : public std::runtime_error {
   SqlFailure failure_;
 };
 
-/// A connection to one database, and what differs between the kinds of databases. All members but
-/// the destructor throw SqlError.
+/// A statement with a value for each of its question marks: text, bytes or a whole number.
+struct SqlStatement {
+  QString text;
+  QVariantList values;
+};
+using SqlStatements = std::vector<SqlStatement>;
+
+struct SqlResult {
+  QList<QVariantList> rows;   ///< of a query; a column is a text or bytes
+  std::int64_t affected = 0;  ///< rows that a writing statement has changed
+};
+
+/// What was sent for: its result or SqlError, once it is there.
+using SqlErrand = std::shared_future<SqlResult>;
+
+/// A connection to one database, and what differs between the kinds of databases. What goes in and
+/// comes out are plain values, so that it may do its work on a thread of its own. All members but
+/// the destructor and those that say so throw SqlError.
 class SqlConnection {
  public:
   /// kToDisk: a commit returns when its data would outlast a loss of power. kToSystem: it may
   /// return when they would outlast the end of the process.
   enum class Sync { kToDisk, kToSystem };
+  using Deadline = std::chrono::steady_clock::time_point;
 
-  virtual ~SqlConnection();
+  SqlConnection() = default;
+  virtual ~SqlConnection() = default;
   SqlConnection(const SqlConnection&) = delete;
   SqlConnection& operator=(const SqlConnection&) = delete;
 
   /// Opens the database, or opens it again. A lock is waited for up to `wait_ms` milliseconds.
   virtual void Open(int wait_ms) = 0;
-  void Close() { database_.close(); }
+  /// Lets the database go. Never throws.
+  virtual void Close() = 0;
+  /// Until when the calls that follow may wait for a database that says nothing: then they raise
+  /// kUnreachable. One that is a file of this machine always answers. Never throws.
+  virtual void SetDeadline(Deadline) {}
+  /// Whether `Open` would be done without a wait; begins to see to it where it would not. Never
+  /// throws.
+  virtual bool IsAtHand() { return true; }
 
-  /// Runs one statement with a value for each of its question marks.
-  QSqlQuery Run(const QString& statement, const QVariantList& values = {});
+  SqlResult Run(const QString& statement, const QVariantList& values = {}) {
+    return Execute({{statement, values}});
+  }
+  /// Runs all of them or none, in one transaction.
+  void RunTogether(SqlStatements statements);
   /// Runs `work` between the begin of a writing transaction and its commit. An exception of
   /// `work` undoes what it did and passes on.
   void InTransaction(const std::function<void()>& work);
+  /// The same as `RunTogether` for statements that add rows which build on the last one of their
+  /// table, such that no other process adds one between the two. What keeps it from that is waited
+  /// for up to `wait_ms`. A far database may still be at it on return. Never throws, the future
+  /// does.
+  virtual SqlErrand Append(const SqlStatements& statements, int wait_ms) = 0;
 
   virtual bool HasTable(const QString& name) = 0;
   /// Within a transaction, keeps other processes from making the tables at the same time.
   virtual void LockSchema() = 0;
-  /// Runs `append`, which adds a row that builds on the last one of its table, such that no other
-  /// process adds one between the two. A transaction of its own.
-  virtual void Append(const std::function<void()>& append) = 0;
   virtual void SetWait(int wait_ms) = 0;
   virtual void SetSync(Sync sync) = 0;
   /// Makes the database fit for two processes at a time. Called once the version is known.
@@ -77,19 +110,11 @@ class SqlConnection {
   virtual QString RowNumberType() const = 0;
 
  protected:
-  explicit SqlConnection(const QString& driver);
-
-  virtual SqlFailure Classify(const QSqlError& error) const = 0;
+  /// Runs them in their order up to the first that fails, which ends the transaction that it stands
+  /// in. Returns the result of the last.
+  virtual SqlResult Execute(const SqlStatements& statements) = 0;
   virtual QString BeginStatement() const = 0;
-  [[noreturn]] void Throw(const QSqlError& error) const;
-
-  QSqlDatabase database_;
-
- private:
-  [[noreturn]] void Fail(const QSqlError& error);
-  void RollBack();
-
-  bool in_transaction_ = false;
+  SqlStatements InOneTransaction(SqlStatements statements) const;
 };
 
 std::unique_ptr<SqlConnection> MakeSqlConnection(const StoreAddress& address);

@@ -4,7 +4,11 @@
 #include "platform/store/sqlite_connection.h"
 
 #include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
 #include <QUrl>
+#include <utility>
 
 #include "platform/store/store_file.h"
 
@@ -32,10 +36,93 @@ bool IsWriteError(int extended) {
   return false;
 }
 
+SqlFailure Classify(const QSqlError& error) {
+  const int extended = error.nativeErrorCode().toInt();
+  switch (extended & 0xFF) {
+    case kBusy:
+    case kLockedTable:
+      return SqlFailure::kLocked;
+    case kCorrupt:
+    case kNotADatabase:
+      return SqlFailure::kBroken;
+    case kPerm:
+    case kReadOnlyCode:
+      return SqlFailure::kReadOnly;
+    case kFullCode:
+      return SqlFailure::kFull;
+    case kIoError:
+      return IsWriteError(extended) ? SqlFailure::kFull : SqlFailure::kOther;
+    case kCannotOpen:
+      return SqlFailure::kUnreachable;
+    default:
+      return SqlFailure::kOther;
+  }
+}
+
+[[noreturn]] void Throw(const QSqlError& error) {
+  const QString code = error.nativeErrorCode();
+  QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
+  if (!code.isEmpty()) text += " [" + code + ']';
+  throw SqlError(Classify(error), text.simplified().toStdString());
+}
+
+SqlResult RunOne(const QSqlDatabase& database, const SqlStatement& statement) {
+  QSqlQuery query(database);
+  query.setForwardOnly(true);
+  if (!query.prepare(statement.text)) Throw(query.lastError());
+  for (const QVariant& value : statement.values) query.addBindValue(value);
+  if (!query.exec()) Throw(query.lastError());
+  SqlResult result;
+  result.affected = query.numRowsAffected();
+  const int columns = query.record().count();
+  while (query.next()) {
+    QVariantList row;
+    for (int column = 0; column < columns; ++column) row.push_back(query.value(column));
+    result.rows.push_back(row);
+  }
+  // A row that cannot be read looks like the last one.
+  if (query.lastError().isValid()) Throw(query.lastError());
+  return result;
+}
+
 }  // namespace
 
 SqliteConnection::SqliteConnection(const QString& path)
-    : SqlConnection(QStringLiteral("QSQLITE")), path_(path) {}
+    : path_(path),
+      database_(QSqlDatabase::addDatabase(
+          QStringLiteral("QSQLITE"),
+          "melvado-" + QString::number(reinterpret_cast<quintptr>(this), 16))) {}
+
+SqliteConnection::~SqliteConnection() {
+  const QString name = database_.connectionName();
+  database_.close();
+  database_ = QSqlDatabase();
+  QSqlDatabase::removeDatabase(name);
+}
+
+SqlResult SqliteConnection::Execute(const SqlStatements& statements) {
+  SqlResult result;
+  try {
+    for (const SqlStatement& statement : statements) result = RunOne(database_, statement);
+  } catch (const SqlError&) {
+    // Its own failure would hide the first one; outside a transaction there is nothing to undo.
+    QSqlQuery(database_).exec(QStringLiteral("ROLLBACK"));
+    throw;
+  }
+  return result;
+}
+
+SqlErrand SqliteConnection::Append(const SqlStatements& statements, int wait_ms) {
+  std::promise<SqlResult> done;
+  try {
+    SetWait(wait_ms);
+    RunTogether(statements);
+    done.set_value({});
+  } catch (const SqlError&) {
+    done.set_exception(std::current_exception());
+  }
+  return done.get_future();
+}
 
 void SqliteConnection::Open(int wait_ms) {
   Close();
@@ -74,16 +161,19 @@ void SqliteConnection::OpenAs(const QString& name, const QString& options, int w
   database_.setDatabaseName(name);
   database_.setConnectOptions(all);
   if (!database_.open()) Throw(database_.lastError());
+  wait_ms_ = wait_ms;
 }
 
 bool SqliteConnection::HasTable(const QString& name) {
-  return Run(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?"),
-             {name})
-      .next();
+  return !Run(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?"),
+              {name})
+              .rows.isEmpty();
 }
 
 void SqliteConnection::SetWait(int wait_ms) {
+  if (wait_ms == wait_ms_) return;
   Run("PRAGMA busy_timeout = " + QString::number(wait_ms));
+  wait_ms_ = wait_ms;
 }
 
 void SqliteConnection::SetSync(Sync sync) {
@@ -100,29 +190,6 @@ void SqliteConnection::Prepare() {
     // The change of the mode does not wait for a lock. Whoever holds it is making the same change,
     // and until it is made both are served by the rollback journal.
     if (error.failure() != SqlFailure::kLocked) throw;
-  }
-}
-
-SqlFailure SqliteConnection::Classify(const QSqlError& error) const {
-  const int extended = error.nativeErrorCode().toInt();
-  switch (extended & 0xFF) {
-    case kBusy:
-    case kLockedTable:
-      return SqlFailure::kLocked;
-    case kCorrupt:
-    case kNotADatabase:
-      return SqlFailure::kBroken;
-    case kPerm:
-    case kReadOnlyCode:
-      return SqlFailure::kReadOnly;
-    case kFullCode:
-      return SqlFailure::kFull;
-    case kIoError:
-      return IsWriteError(extended) ? SqlFailure::kFull : SqlFailure::kOther;
-    case kCannotOpen:
-      return SqlFailure::kUnreachable;
-    default:
-      return SqlFailure::kOther;
   }
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QSqlDatabase>
 #include <QString>
 
 #include "platform/store/sql_connection.h"
@@ -18,13 +19,14 @@ namespace vmod17 {
 class SqliteConnection : public SqlConnection {
  public:
   explicit SqliteConnection(const QString& path);
+  ~SqliteConnection() override;
 
   void Open(int wait_ms) override;
+  void Close() override { database_.close(); }
   bool HasTable(const QString& name) override;
   /// A writing transaction holds the whole file already.
   void LockSchema() override {}
-  /// One statement holds off all other writers.
-  void Append(const std::function<void()>& append) override { append(); }
+  SqlErrand Append(const SqlStatements& statements, int wait_ms) override;
   void SetWait(int wait_ms) override;
   void SetSync(Sync sync) override;
   void Prepare() override;
@@ -35,7 +37,7 @@ class SqliteConnection : public SqlConnection {
   }
 
  protected:
-  SqlFailure Classify(const QSqlError& error) const override;
+  SqlResult Execute(const SqlStatements& statements) override;
   QString BeginStatement() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
 
  private:
@@ -43,6 +45,8 @@ class SqliteConnection : public SqlConnection {
   void OpenReadOnly(int wait_ms);
 
   QString path_;
+  QSqlDatabase database_;
+  int wait_ms_ = 0;
   bool read_only_ = false;
 };
 

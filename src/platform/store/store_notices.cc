@@ -71,10 +71,26 @@ Notice UnreadableAddressNotice() {
 
 Notice UnreachableServerNotice(const std::string& place, const std::string& reason) {
   return {9108,
+          "The server with the stored trainings, %1, is away (%2). You can practise. What you "
+          "store now is kept on this computer and brought to the server as soon as it is back, "
+          "also when you start the program on another day.",
+          {place, reason}};
+}
+
+Notice UnusableServerNotice(const std::string& place, const std::string& reason) {
+  return {9111,
           "The server with the stored trainings, %1, cannot be used (%2). You can practise, but "
           "what you store now is lost when the program ends. Please tell the person who looks "
           "after the computers, or start the program again later.",
           {place, reason}};
+}
+
+Notice NewerRecordNotice(const std::string& place, const std::string& suffix) {
+  return {9112,
+          "A training that was kept on this computer while the server was away has now been "
+          "brought to %1. A newer one had been stored there meanwhile, which holds; the one from "
+          "this computer was kept beside it, under a name that ends in %2.",
+          {place, suffix}};
 }
 
 Notice UnreadableStoreNotice(const std::string& place, const std::string& reason) {

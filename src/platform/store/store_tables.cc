@@ -4,7 +4,9 @@
 #include "platform/store/store_tables.h"
 
 #include <QByteArray>
+#include <QCryptographicHash>
 #include <algorithm>
+#include <utility>
 
 namespace vmod17 {
 namespace {
@@ -20,17 +22,20 @@ QString Text(const std::string& bytes) {
       .replace(QChar(u'\0'), QChar(QChar::ReplacementCharacter));
 }
 
-// Binds without a copy: the string outlives the statement.
 QByteArray Bytes(const std::string& bytes) {
-  return QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  return {bytes.data(), static_cast<qsizetype>(bytes.size())};
 }
 
 QVariantList KeyValues(const RecordKey& key) {
   return {Text(key.user), Text(key.program), Text(key.key)};
 }
 
-LogEntry EntryOf(const QSqlQuery& row) {
-  const auto text = [&row](int column) { return row.value(column).toString().toStdString(); };
+std::string TextIn(const QVariantList& row, int column) {
+  return row.value(column).toString().toStdString();
+}
+
+LogEntry EntryOf(const QVariantList& row) {
+  const auto text = [&row](int column) { return TextIn(row, column); };
   LogEntry entry;
   entry.at = text(0);
   entry.user = text(1);
@@ -42,23 +47,64 @@ LogEntry EntryOf(const QSqlQuery& row) {
   return entry;
 }
 
+SqlStatement WriteStatement(const RecordKey& key, const std::string& value) {
+  return {QStringLiteral("INSERT INTO melvado_record (user_id, program, record_key, value) "
+                         "VALUES (?, ?, ?, ?) ON CONFLICT (user_id, program, record_key) "
+                         "DO UPDATE SET value = excluded.value"),
+          KeyValues(key) << Bytes(value)};
+}
+
 QString MakeUserTable() {
   return QStringLiteral(
       "CREATE TABLE melvado_user (user_id TEXT PRIMARY KEY, name TEXT NOT NULL, "
       "first_name TEXT NOT NULL)");
 }
 
+// Tables of ours without a version that we can read were not written by any version up to ours.
+constexpr std::int64_t kUnknownVersion = kStoreVersion + 1;
+
+std::int64_t VersionIn(const QVariantList& row) {
+  bool is_number = false;
+  const std::int64_t version = row[0].toString().toLongLong(&is_number);
+  return is_number ? version : kUnknownVersion;
+}
+
 }  // namespace
+
+std::string FingerprintOf(const std::optional<std::string>& value) {
+  if (!value) return "none";
+  return QCryptographicHash::hash(Bytes(*value), QCryptographicHash::Sha256).toHex().toStdString();
+}
 
 std::optional<std::int64_t> StoreTables::Version() {
   if (!connection_.HasTable(QStringLiteral("melvado_meta"))) return {};
-  QSqlQuery row = connection_.Run(
+  const SqlResult found = connection_.Run(
       QStringLiteral("SELECT value FROM melvado_meta WHERE name = 'schema_version'"));
-  bool is_number = false;
-  std::int64_t version = 0;
-  if (row.next()) version = row.value(0).toString().toLongLong(&is_number);
-  // Tables of ours without a version that we can read were not written by any version up to ours.
-  return is_number ? version : kStoreVersion + 1;
+  return found.rows.isEmpty() ? kUnknownVersion : VersionIn(found.rows[0]);
+}
+
+std::optional<StoreTables::Facts> StoreTables::LookInto(const std::string& seat) {
+  Facts facts;
+  try {
+    const SqlResult found = connection_.Run(
+        QStringLiteral("SELECT meta.value, setting.name, setting.value FROM melvado_meta meta "
+                       "LEFT JOIN melvado_setting setting ON setting.seat = ? "
+                       "WHERE meta.name = 'schema_version'"),
+        {Text(seat)});
+    facts.version = found.rows.isEmpty() ? kUnknownVersion : VersionIn(found.rows[0]);
+    for (const QVariantList& row : found.rows) {
+      if (!row[1].isNull()) facts.settings[TextIn(row, 1)] = TextIn(row, 2);
+    }
+    return facts;
+  } catch (const SqlError& error) {
+    if (error.failure() != SqlFailure::kOther) throw;
+  }
+  // There are none of the tables yet, or not all of them any more.
+  const std::optional<std::int64_t> version = Version();
+  if (!version) return {};
+  facts.version = *version;
+  if (*version <= kStoreVersion) facts.settings = Settings(seat);
+  return facts;
 }
 
 void StoreTables::Create() {
@@ -107,25 +153,50 @@ void StoreTables::Upgrade() {
 }
 
 std::optional<std::string> StoreTables::Read(const RecordKey& key) {
-  QSqlQuery row =
+  const SqlResult found =
       connection_.Run(QStringLiteral("SELECT value FROM melvado_record "
                                      "WHERE user_id = ? AND program = ? AND record_key = ?"),
                       KeyValues(key));
-  if (!row.next()) return {};
-  return row.value(0).toByteArray().toStdString();
+  if (found.rows.isEmpty()) return {};
+  return found.rows[0][0].toByteArray().toStdString();
 }
 
 void StoreTables::Write(const Records& records) {
   connection_.SetSync(SqlConnection::Sync::kToDisk);
+  SqlStatements statements;
+  for (const auto& [key, value] : records) statements.push_back(WriteStatement(key, value));
+  connection_.RunTogether(std::move(statements));
+}
+
+bool StoreTables::WriteLate(const LateRecords& records, const std::string& suffix) {
+  bool is_newest = true;
+  const auto beside = [&](RecordKey key) {
+    key.key += suffix;
+    return key;
+  };
+  const auto write = [&](const RecordKey& key, const std::string& value) {
+    const SqlStatement statement = WriteStatement(key, value);
+    connection_.Run(statement.text, statement.values);
+  };
+  connection_.SetSync(SqlConnection::Sync::kToDisk);
   connection_.InTransaction([&] {
-    for (const auto& [key, value] : records) {
-      connection_.Run(
-          QStringLiteral("INSERT INTO melvado_record (user_id, program, record_key, value) "
-                         "VALUES (?, ?, ?, ?) ON CONFLICT (user_id, program, record_key) "
-                         "DO UPDATE SET value = excluded.value"),
-          KeyValues(key) << Bytes(value));
+    Records unseen;
+    is_newest = true;
+    for (const auto& [key, record] : records) {
+      const std::optional<std::string> held = Read(key);
+      if (held == record.value) continue;
+      if (record.seen.empty()) {
+        if (held) unseen[key] = *held;
+      } else if (record.seen != FingerprintOf(held)) {
+        is_newest = false;
+      }
     }
+    if (is_newest) {
+      for (const auto& [key, value] : unseen) write(beside(key), value);
+    }
+    for (const auto& [key, record] : records) write(is_newest ? key : beside(key), record.value);
   });
+  return is_newest;
 }
 
 void StoreTables::Rename(const RecordKey& key, const std::string& value,
@@ -138,33 +209,32 @@ void StoreTables::Rename(const RecordKey& key, const std::string& value,
 
 std::map<std::string, std::string> StoreTables::Settings(const std::string& seat) {
   std::map<std::string, std::string> settings;
-  QSqlQuery row = connection_.Run(
+  const SqlResult found = connection_.Run(
       QStringLiteral("SELECT name, value FROM melvado_setting WHERE seat = ?"), {Text(seat)});
-  while (row.next()) {
-    settings[row.value(0).toString().toStdString()] = row.value(1).toString().toStdString();
-  }
+  for (const QVariantList& row : found.rows) settings[TextIn(row, 0)] = TextIn(row, 1);
   return settings;
 }
 
 void StoreTables::SetSettings(const std::string& seat,
                               const std::map<std::string, std::string>& settings) {
   connection_.SetSync(SqlConnection::Sync::kToDisk);
-  connection_.InTransaction([&] {
-    for (const auto& [name, value] : settings) {
-      connection_.Run(QStringLiteral("INSERT INTO melvado_setting (seat, name, value) "
-                                     "VALUES (?, ?, ?) ON CONFLICT (seat, name) "
-                                     "DO UPDATE SET value = excluded.value"),
-                      {Text(seat), Text(name), Text(value)});
-    }
-  });
+  SqlStatements statements;
+  for (const auto& [name, value] : settings) {
+    statements.push_back({QStringLiteral("INSERT INTO melvado_setting (seat, name, value) "
+                                         "VALUES (?, ?, ?) ON CONFLICT (seat, name) "
+                                         "DO UPDATE SET value = excluded.value"),
+                          {Text(seat), Text(name), Text(value)}});
+  }
+  connection_.RunTogether(std::move(statements));
 }
 
 std::vector<StoreUser> StoreTables::Users() {
   std::vector<StoreUser> users;
-  QSqlQuery row =
+  const SqlResult found =
       connection_.Run(QStringLiteral("SELECT user_id, name, first_name FROM melvado_user"));
-  const auto text = [&row](int column) { return row.value(column).toString().toStdString(); };
-  while (row.next()) users.push_back({text(0), text(1), text(2)});
+  for (const QVariantList& row : found.rows) {
+    users.push_back({TextIn(row, 0), TextIn(row, 1), TextIn(row, 2)});
+  }
   return users;
 }
 
@@ -174,72 +244,76 @@ bool StoreTables::AddUser(const StoreUser& user) {
              .Run(QStringLiteral("INSERT INTO melvado_user (user_id, name, first_name) "
                                  "VALUES (?, ?, ?) ON CONFLICT (user_id) DO NOTHING"),
                   {Text(user.id), Text(user.name), Text(user.first_name)})
-             .numRowsAffected() == 1;
+             .affected == 1;
 }
 
 void StoreTables::SaveUser(const StoreUser& user) {
   const auto in_seats = [&](const char* setting, const std::string& value) {
-    connection_.Run(QStringLiteral("UPDATE melvado_setting SET value = ? WHERE name = ? "
-                                   "AND seat IN (SELECT seat FROM melvado_setting "
-                                   "WHERE name = 'user.id' AND value = ?)"),
-                    {Text(value), QString::fromLatin1(setting), Text(user.id)});
+    return SqlStatement{QStringLiteral("UPDATE melvado_setting SET value = ? WHERE name = ? "
+                                       "AND seat IN (SELECT seat FROM melvado_setting "
+                                       "WHERE name = 'user.id' AND value = ?)"),
+                        {Text(value), QString::fromLatin1(setting), Text(user.id)}};
   };
   connection_.SetSync(SqlConnection::Sync::kToDisk);
-  connection_.InTransaction([&] {
-    connection_.Run(QStringLiteral("INSERT INTO melvado_user (user_id, name, first_name) "
-                                   "VALUES (?, ?, ?) ON CONFLICT (user_id) DO UPDATE SET "
-                                   "name = excluded.name, first_name = excluded.first_name"),
-                    {Text(user.id), Text(user.name), Text(user.first_name)});
-    in_seats("user.name", user.name);
-    in_seats("user.first_name", user.first_name);
-  });
+  connection_.RunTogether(
+      {{QStringLiteral("INSERT INTO melvado_user (user_id, name, first_name) "
+                       "VALUES (?, ?, ?) ON CONFLICT (user_id) DO UPDATE SET "
+                       "name = excluded.name, first_name = excluded.first_name"),
+        {Text(user.id), Text(user.name), Text(user.first_name)}},
+       in_seats("user.name", user.name),
+       in_seats("user.first_name", user.first_name)});
 }
 
 void StoreTables::RemoveUser(const std::string& id) {
   connection_.SetSync(SqlConnection::Sync::kToDisk);
-  connection_.InTransaction([&] {
-    connection_.Run(QStringLiteral("DELETE FROM melvado_user WHERE user_id = ?"), {Text(id)});
-    connection_.Run(QStringLiteral("UPDATE melvado_setting SET value = '' "
-                                   "WHERE name = 'user.id' AND value = ?"),
-                    {Text(id)});
-  });
+  connection_.RunTogether(
+      {{QStringLiteral("DELETE FROM melvado_user WHERE user_id = ?"), {Text(id)}},
+       {QStringLiteral("UPDATE melvado_setting SET value = '' "
+                       "WHERE name = 'user.id' AND value = ?"),
+        {Text(id)}}});
 }
 
-std::int64_t StoreTables::AppendLog(const LogEntry& entry) {
-  const QString text = Text(entry.text.substr(0, kLongestLine));
-  const QString place = Text(entry.place.substr(0, kLongestLine));
-  const QString source = Text(entry.source.substr(0, kLongestLine));
-  const std::int64_t size = text.toUtf8().size() + place.toUtf8().size() + source.toUtf8().size() +
-                            static_cast<std::int64_t>(entry.user.size()) + kRowOverhead;
-  // A log line may be lost with the power, so it does not wait for the disk.
-  connection_.SetSync(SqlConnection::Sync::kToSystem);
-  connection_.Append([&] {
-    connection_.Run(
-        QStringLiteral("INSERT INTO melvado_log (at, user_id, kind, place, number, text, source, "
-                       "total) VALUES (?, ?, ?, ?, ?, ?, ?, COALESCE("
-                       "(SELECT total FROM melvado_log ORDER BY id DESC LIMIT 1), 0) + ?)"),
-        {Text(entry.at), Text(entry.user),
-         entry.kind == LogEntry::Kind::kError ? QStringLiteral("ERR") : QStringLiteral("MESS"),
-         place, QVariant::fromValue<qlonglong>(entry.number), text, source,
-         QVariant::fromValue<qlonglong>(size)});
-  });
+std::int64_t StoreTables::SizeOf(const LogEntry& entry) {
+  const std::string* const texts[] = {&entry.text, &entry.place, &entry.source};
+  std::int64_t size = static_cast<std::int64_t>(entry.user.size()) + kRowOverhead;
+  for (const std::string* text : texts) {
+    size += Text(text->substr(0, kLongestLine)).toUtf8().size();
+  }
   return size;
 }
 
-void StoreTables::TrimLog(std::int64_t limit) {
+SqlErrand StoreTables::AppendLog(const std::vector<LogEntry>& lines,
+                                 std::optional<std::int64_t> limit, int wait_ms) {
+  SqlStatements statements;
+  for (const LogEntry& line : lines) {
+    statements.push_back(
+        {QStringLiteral("INSERT INTO melvado_log (at, user_id, kind, place, number, text, source, "
+                        "total) VALUES (?, ?, ?, ?, ?, ?, ?, COALESCE("
+                        "(SELECT total FROM melvado_log ORDER BY id DESC LIMIT 1), 0) + ?)"),
+         {Text(line.at), Text(line.user),
+          line.kind == LogEntry::Kind::kError ? QStringLiteral("ERR") : QStringLiteral("MESS"),
+          Text(line.place.substr(0, kLongestLine)), QVariant::fromValue<qlonglong>(line.number),
+          Text(line.text.substr(0, kLongestLine)), Text(line.source.substr(0, kLongestLine)),
+          QVariant::fromValue<qlonglong>(SizeOf(line))}});
+  }
+  if (limit) {
+    statements.push_back(
+        {QStringLiteral("DELETE FROM melvado_log WHERE total <= "
+                        "(SELECT total FROM melvado_log ORDER BY id DESC LIMIT 1) - ?"),
+         {QVariant::fromValue<qlonglong>(*limit)}});
+  }
+  // A log line may be lost with the power, so it does not wait for the disk.
   connection_.SetSync(SqlConnection::Sync::kToSystem);
-  connection_.Run(QStringLiteral("DELETE FROM melvado_log WHERE total <= "
-                                 "(SELECT total FROM melvado_log ORDER BY id DESC LIMIT 1) - ?"),
-                  {QVariant::fromValue<qlonglong>(limit)});
+  return connection_.Append(statements, wait_ms);
 }
 
 std::vector<LogEntry> StoreTables::Log(int count) {
   std::vector<LogEntry> entries;
-  QSqlQuery row = connection_.Run(
+  const SqlResult found = connection_.Run(
       QStringLiteral("SELECT at, user_id, kind, place, number, text, source FROM melvado_log "
                      "ORDER BY id DESC LIMIT ?"),
       {count});
-  while (row.next()) entries.push_back(EntryOf(row));
+  for (const QVariantList& row : found.rows) entries.push_back(EntryOf(row));
   std::reverse(entries.begin(), entries.end());
   return entries;
 }

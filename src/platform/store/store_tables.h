@@ -30,6 +30,17 @@ struct RecordKey {
 
 using Records = std::map<RecordKey, std::string>;
 
+/// What stands for a record, or for none: two that are alike are the same record.
+std::string FingerprintOf(const std::optional<std::string>& value);
+
+/// A record that comes to the store some time after it was stored.
+struct LateRecord {
+  std::string value;
+  /// `FingerprintOf` what the store held when the record was made; "" when nobody knew.
+  std::string seen;
+};
+using LateRecords = std::map<RecordKey, LateRecord>;
+
 /// The five tables of a store and the statements on them:
 ///
 /// | table           | one row for                                                       |
@@ -46,8 +57,13 @@ class StoreTables {
  public:
   explicit StoreTables(SqlConnection& connection) : connection_(connection) {}
 
-  /// The version of the store, or no value when it has no tables yet.
-  std::optional<std::int64_t> Version();
+  /// What has to be known of a store before it is used.
+  struct Facts {
+    std::int64_t version = 0;
+    std::map<std::string, std::string> settings;  ///< of the seat
+  };
+  /// No value when the store has no tables yet. One statement, for a server far away.
+  std::optional<Facts> LookInto(const std::string& seat);
   /// Makes the tables, if nobody else has made them meanwhile.
   void Create();
   /// Makes a store of an older version into one of this version, if nobody else has done it
@@ -57,6 +73,11 @@ class StoreTables {
   std::optional<std::string> Read(const RecordKey& key);
   /// Writes all of them or none.
   void Write(const Records& records);
+  /// Writes late records, all or none. Where the store holds another one than was seen, somebody
+  /// has stored a newer one meanwhile: that one stays, and all of these are written under their
+  /// keys with `suffix`. Where nobody knew, the late one holds and the other gets the suffix.
+  /// Returns false when a newer one stays.
+  bool WriteLate(const LateRecords& records, const std::string& suffix);
   /// Gives a record another key, unless its value is another one by now.
   void Rename(const RecordKey& key, const std::string& value, const std::string& new_key);
 
@@ -72,14 +93,18 @@ class StoreTables {
   /// Takes the user off the list and from the seats that have chosen him. His records stay.
   void RemoveUser(const std::string& id);
 
-  /// Returns how many bytes the line counts for.
-  std::int64_t AppendLog(const LogEntry& entry);
-  /// Deletes the oldest lines until those that are left take no more than `limit` bytes.
-  void TrimLog(std::int64_t limit);
+  /// How many bytes a line counts for.
+  static std::int64_t SizeOf(const LogEntry& entry);
+  /// Adds lines, and with a `limit` deletes the oldest ones until those that are left take no more
+  /// bytes. See `SqlConnection::Append` for `wait_ms` and what is returned.
+  SqlErrand AppendLog(const std::vector<LogEntry>& lines, std::optional<std::int64_t> limit,
+                      int wait_ms);
   /// The newest `count` lines, oldest first.
   std::vector<LogEntry> Log(int count);
 
  private:
+  std::optional<std::int64_t> Version();
+
   SqlConnection& connection_;
 };
 

@@ -43,6 +43,9 @@ const passwd* ServerAccount() {
 
 }  // namespace
 
+PostgresServer* const kServer =
+    static_cast<PostgresServer*>(::testing::AddGlobalTestEnvironment(new PostgresServer));
+
 void PostgresServer::SetUp() {
   programs_ = FindPrograms();
   if (programs_.isEmpty()) {
@@ -88,13 +91,14 @@ void PostgresServer::RunTool(const QString& tool, const QStringList& arguments) 
   }
 }
 
-void PostgresServer::Start() {
+void PostgresServer::Start(const QStringList& settings) {
   server_ = std::make_unique<QProcess>();
   Prepare(*server_);
   // Nothing here has to outlast the test, so it need not wait for the disk.
-  server_->start(programs_ + "/postgres",
-                 {"-D", *folder_ / "data", "-k", *folder_ / "", "-c", "listen_addresses=", "-c",
-                  "fsync=off", "-c", "lc_messages=C"});
+  QStringList arguments = {"-D", *folder_ / "data", "-k", *folder_ / "",  "-c", "listen_addresses=",
+                           "-c", "fsync=off",       "-c", "lc_messages=C"};
+  for (const QString& setting : settings) arguments << "-c" << setting;
+  server_->start(programs_ + "/postgres", arguments);
   QByteArray said;
   while (!said.contains("ready to accept connections")) {
     if (!server_->waitForReadyRead(60'000)) throw std::runtime_error(said.toStdString());
@@ -110,6 +114,24 @@ void PostgresServer::Stop() {
   ::kill(static_cast<pid_t>(server_->processId()), SIGINT);
   server_->waitForFinished(60'000);
   server_.reset();
+}
+
+void PostgresServer::Kill() {
+  // Without their parent the others end by themselves.
+  server_->kill();
+  server_->waitForFinished(60'000);
+  server_.reset();
+}
+
+void PostgresServer::SignalAll(int signal) const {
+  const QString process = QString::number(server_->processId());
+  QFile children("/proc/" + process + "/task/" + process + "/children");
+  if (!children.open(QIODevice::ReadOnly)) throw std::runtime_error("the server has gone");
+  // First its parent, which would answer for them.
+  ::kill(static_cast<pid_t>(server_->processId()), signal);
+  for (const QByteArray& child : children.readAll().split(' ')) {
+    if (child.trimmed().toInt() > 0) ::kill(child.trimmed().toInt(), signal);
+  }
 }
 
 std::string PostgresServer::NewDatabase() {

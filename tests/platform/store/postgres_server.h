@@ -7,6 +7,7 @@
 
 #include <QProcess>
 #include <QString>
+#include <csignal>
 #include <memory>
 
 #include "store_testing.h"
@@ -21,8 +22,15 @@ class PostgresServer : public ::testing::Environment {
   void SetUp() override;
   void TearDown() override;
 
-  void Start();
+  /// With more of the server's own options, such as "max_connections=5".
+  void Start(const QStringList& settings = {});
   void Stop();
+  /// Stops all of its processes where they are, as a machine does that has run out of memory, and
+  /// lets them go on.
+  void Freeze() { SignalAll(SIGSTOP); }
+  void Thaw() { SignalAll(SIGCONT); }
+  /// Ends all of its processes at once.
+  void Kill();
 
   /// Address of an empty database.
   std::string NewDatabase();
@@ -30,9 +38,12 @@ class PostgresServer : public ::testing::Environment {
   std::string Address(const QString& database, const QString& user = "melvado") const;
   /// Runs one statement as the server's owner.
   void Run(const QString& database, const QString& statement);
+  /// The socket on which it listens.
+  std::string Socket() const { return (*folder_ / ".s.PGSQL.5432").toStdString(); }
   QString LatestDatabase() const { return "test" + QString::number(databases_); }
 
  private:
+  void SignalAll(int signal) const;
   void RunTool(const QString& tool, const QStringList& arguments);
   void Prepare(QProcess& process) const;
 
@@ -41,5 +52,8 @@ class PostgresServer : public ::testing::Environment {
   std::unique_ptr<QProcess> server_;
   int databases_ = 0;
 };
+
+/// That of the test program.
+extern PostgresServer* const kServer;
 
 }  // namespace vmod17

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "platform/store/host_store.h"
+#include "platform/store/seat.h"
 
 namespace vmod17 {
 namespace {
@@ -40,6 +41,7 @@ class Helper {
     if (command == "run") return BeginRun();
     if (command == "add") return Add(words);
     if (command == "users") return Users();
+    if (command == "seat") return SeatHere(words);
     if (command == "nobody") return BecomeNobody();
     if (command == "limit") return LimitFiles(words);
     if (command == "loop") StoreForEver(words);
@@ -47,10 +49,11 @@ class Helper {
   }
 
  private:
-  // open ADDRESS MILLISECONDS
+  // open ADDRESS MILLISECONDS [MILLISECONDS]: patience for a lock, and for a server
   std::string Open(std::istringstream& words) {
     StoreOptions options;
     words >> options.address >> options.busy_timeout_ms;
+    if (int patience = 0; words >> patience) options.server_patience_ms = patience;
     options.notify = [this](const Notice& notice) { notices_.push_back(notice.text_id); };
     options.clock = [] { return DateTime{2026, 3, 9, 8, 5, 1}; };
     store_.reset();
@@ -155,6 +158,13 @@ class Helper {
     std::string all;
     for (const int notice : notices_) all += std::to_string(notice) + ' ';
     return all;
+  }
+
+  // seat FOLDER
+  static std::string SeatHere(std::istringstream& words) {
+    std::string folder;
+    words >> folder;
+    return SeatIn(QString::fromStdString(folder)).name;
   }
 
   static std::string BecomeNobody() {

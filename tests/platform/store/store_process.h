@@ -19,10 +19,7 @@ class StoreProcess {
     process_.start(program, arguments);
     if (!process_.waitForStarted()) throw std::runtime_error("the helper program does not start");
   }
-  ~StoreProcess() {
-    process_.closeWriteChannel();
-    process_.waitForFinished();
-  }
+  ~StoreProcess() { End(); }
 
   void Say(const QString& command) {
     process_.write(command.toUtf8() + '\n');
@@ -49,6 +46,12 @@ class StoreProcess {
   QString Kill() {
     process_.kill();
     return HearTheRest();
+  }
+
+  /// Lets it end by itself.
+  void End() {
+    process_.closeWriteChannel();
+    process_.waitForFinished();
   }
 
   /// What it says until it ends.

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -166,6 +167,24 @@ TEST_F(TroubledStore, AnswersNothingWhileItIsLockedFromTheStartAndWorksAfterward
   hand.reset();
   EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"Anna's"}));
   EXPECT_EQ(NumberRaisedByStore(store, "E1", Array{"new"}), 0);
+}
+
+TEST_F(TroubledStore, GivesUpALockForTheLogButNoneOfItsLines) {
+  StoreOptions options = Options();
+  options.busy_timeout_ms = 20'000;
+  HostStore store(std::move(options));
+  EXPECT_TRUE(LogLine(store, "first"));
+  OtherHand hand(Path());
+  hand.Run("BEGIN IMMEDIATE");
+  QElapsedTimer clock;
+  clock.start();
+  for (const char* line : {"second", "third", "fourth"}) EXPECT_FALSE(LogLine(store, line));
+  EXPECT_LT(clock.elapsed(), 5000);
+  hand.Run("COMMIT");
+  EXPECT_TRUE(LogLine(store, "fifth"));
+  std::string lines;
+  for (const LogEntry& entry : store.Log(10)) lines += entry.text + ' ';
+  EXPECT_EQ(lines, "first second third fourth fifth ");
 }
 
 TEST_F(TroubledStore, WaitsForAnotherProcessToLetGo) {

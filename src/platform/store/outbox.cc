@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/store/outbox.h"
+
+#include <QFileInfo>
+#include <utility>
+
+#include "platform/run_time_error.h"
+#include "platform/store/date_text.h"
+#include "platform/store/sqlite_connection.h"
+#include "platform/store/store_file.h"
+#include "platform/store/tagged_value_codec.h"
+
+namespace vmod17 {
+namespace {
+
+// For another process that adds a piece.
+constexpr int kPatienceMs = 1000;
+
+}  // namespace
+
+Outbox::Outbox(QString path, std::function<DateTime()> clock)
+    : path_(std::move(path)), clock_(std::move(clock)) {}
+Outbox::~Outbox() = default;
+
+bool Outbox::Open() {
+  if (connection_) return true;
+  try {
+    OpenAnew();
+  } catch (const SqlError& error) {
+    if (error.failure() != SqlFailure::kBroken || MoveStoreAside(path_, clock_()).isEmpty()) {
+      return false;
+    }
+    try {
+      OpenAnew();
+    } catch (const SqlError&) {
+      return false;
+    }
+  }
+  return true;
+}
+
+void Outbox::OpenAnew() {
+  if (const QString refusal = PrepareStoreFile(path_, Privacy::kEnforced); !refusal.isEmpty()) {
+    throw SqlError(SqlFailure::kUnreachable, refusal.toStdString());
+  }
+  auto connection = std::make_unique<SqliteConnection>(path_);
+  connection->Open(kPatienceMs);
+  connection->SetSync(SqlConnection::Sync::kToDisk);
+  connection->Run(
+      "CREATE TABLE IF NOT EXISTS piece (number INTEGER PRIMARY KEY AUTOINCREMENT, "
+      "at TEXT NOT NULL)");
+  connection->Run(
+      "CREATE TABLE IF NOT EXISTS entry (id INTEGER PRIMARY KEY AUTOINCREMENT, "
+      "piece INTEGER NOT NULL, kind TEXT NOT NULL, content BLOB NOT NULL)");
+  connection_ = std::move(connection);
+}
+
+bool Outbox::Add(const std::vector<OutboxEntry>& entries) {
+  if (!Open()) return false;
+  SqlStatements statements = {
+      {"INSERT INTO piece (at) VALUES (?)", {QString::fromStdString(TextOf(clock_()))}}};
+  for (const OutboxEntry& entry : entries) {
+    statements.push_back(
+        {"INSERT INTO entry (piece, kind, content) "
+         "SELECT MAX(number), ?, ? FROM piece",
+         {QString::fromStdString(entry.kind),
+          QByteArray::fromStdString(EncodeTaggedValue(entry.content))}});
+  }
+  try {
+    connection_->RunTogether(std::move(statements));
+  } catch (const SqlError&) {
+    return false;
+  }
+  return true;
+}
+
+std::vector<OutboxPiece> Outbox::Pieces() {
+  std::vector<OutboxPiece> pieces;
+  if (!QFileInfo::exists(path_) || !Open()) return pieces;
+  SqlResult found;
+  try {
+    found = connection_->Run(
+        "SELECT number, at, kind, content, id FROM piece JOIN entry ON piece = number ORDER BY id");
+  } catch (const SqlError&) {
+    return pieces;
+  }
+  for (const QVariantList& row : found.rows) {
+    const std::int64_t number = row[0].toLongLong();
+    if (pieces.empty() || pieces.back().number != number) {
+      pieces.push_back({number, row[1].toString().toStdString(), {}});
+    }
+    try {
+      pieces.back().entries.push_back({row[2].toString().toStdString(),
+                                       DecodeTaggedValue(row[3].toByteArray().toStdString()),
+                                       row[4].toLongLong()});
+    } catch (const RunTimeError&) {
+      // Of no use to anybody.
+    }
+  }
+  return pieces;
+}
+
+void Outbox::Remove(const std::vector<OutboxEntry>& entries) {
+  if (entries.empty() || !Open()) return;
+  SqlStatements statements;
+  for (const OutboxEntry& entry : entries) {
+    statements.push_back(
+        {"DELETE FROM entry WHERE id = ?", {QVariant::fromValue<qlonglong>(entry.id)}});
+  }
+  statements.push_back({"DELETE FROM piece WHERE number NOT IN (SELECT piece FROM entry)", {}});
+  try {
+    connection_->RunTogether(std::move(statements));
+  } catch (const SqlError&) {
+    // They are brought once more, to a store that has them already.
+  }
+}
+
+}  // namespace vmod17
