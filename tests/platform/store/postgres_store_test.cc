@@ -350,7 +350,7 @@ TEST_F(PostgresStore, KeepsTheNewestLinesOfALogThatHasReachedItsSize) {
 }
 
 TEST_F(PostgresStore, KeepsALogBelowItsSizeThatTwoProcessesFillAtOnce) {
-  ExpectALogOfTwoProcessesThatStaysSmall(address_, 4000, 16'000);
+  ExpectALogOfTwoProcessesThatStaysSmall(address_, 1000, 16'000);
 }
 
 TEST_F(PostgresStore, KeepsToTheContractInTwoProcessesAtOnce) {

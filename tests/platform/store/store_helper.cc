@@ -137,15 +137,16 @@ class Helper {
     return store_->Service()->Action("LOGMESS", text, result) ? "kept" : "lost";
   }
 
-  // logs NAME COUNT LENGTH: so many lines "NAME number ....", counted from 0, of at least so many
-  // bytes
+  // logs NAME FIRST COUNT LENGTH: so many lines "NAME number ....", counted from the first, of at
+  // least so many bytes
   std::string LogMany(std::istringstream& words) {
     std::string name;
+    int first = 0;
     int count = 0;
     std::size_t length = 0;
-    words >> name >> count >> length;
+    words >> name >> first >> count >> length;
     int kept = 0;
-    for (int number = 0; number < count; ++number) {
+    for (int number = first; number < first + count; ++number) {
       std::string line = name + ' ' + std::to_string(number) + ' ';
       if (line.size() < length) line.resize(length, '.');
       TaggedValue result;
