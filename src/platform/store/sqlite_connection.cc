@@ -116,7 +116,8 @@ SqlErrand SqliteConnection::Append(const SqlStatements& statements, int wait_ms)
   std::promise<SqlResult> done;
   try {
     SetWait(wait_ms);
-    RunTogether(statements);
+    // One statement is a transaction of its own.
+    Execute(statements.size() == 1 ? statements : InOneTransaction(statements));
     done.set_value({});
   } catch (const SqlError&) {
     done.set_exception(std::current_exception());

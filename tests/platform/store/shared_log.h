@@ -50,7 +50,7 @@ inline void ExpectALogOfTwoProcessesThatStaysSmall(const std::string& address, i
     process->Ask("open " + QString::fromStdString(address) + " 60000");
     ASSERT_EQ(process->Ask("read E1"), "NIL 1");
   }
-  const int round = lines / 20;
+  const int round = lines / 200;
   for (int first = 0; first < lines; first += round) {
     const QString order = QString(" %1 %2 %3").arg(first).arg(round).arg(length);
     anna.Say("logs Anna" + order);
