@@ -38,6 +38,12 @@ extern "C" void OnAlarm(int) {
   std::abort();
 }
 
+extern "C" void OnCrash(int signal) {
+  std::fprintf(stderr, "ended by signal %d\n", signal);
+  SayCase();
+  _exit(EXIT_FAILURE);
+}
+
 std::uint64_t Argument(int argc, char* argv[], int i, std::uint64_t otherwise) {
   return argc > i ? std::strtoull(argv[i], nullptr, 10) : otherwise;
 }
@@ -57,6 +63,8 @@ int Fuzz(int argc, char* argv[], const FuzzProgram& program) {
   std::signal(SIGALRM, OnAlarm);
 #ifdef __SANITIZE_ADDRESS__
   __sanitizer_set_death_callback(SayCase);
+#else
+  for (const int signal : {SIGSEGV, SIGBUS, SIGFPE}) std::signal(signal, OnCrash);
 #endif
   const auto start = std::chrono::steady_clock::now();
   for (g_case = first; g_case < first + count; ++g_case) {

@@ -733,6 +733,22 @@
         <source></source>
         <translation>Für die Sprache dieses Programms wurden keine Wörter gefunden; deshalb steht an Stelle der Texte „VOID“. Installieren Sie das Programm bitte neu, oder starten Sie es in einer anderen Sprache.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>Die Sprachdatei %1 ist größer, als eine Sprache sein kann (höchstens %2 KB), und wird ausgelassen.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>Die Sprachdatei %1 verlangt weitere Dateien und wird ausgelassen. Alle Wörter einer Sprache müssen in einer Datei stehen.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>Die Sprachdatei %1 ist beschädigt und wird ausgelassen. Erzeugen Sie sie neu aus ihrer Quelle, oder nehmen Sie sie aus ihrem Ordner.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Weitere Sprachdateien haben Fehler und werden ebenfalls ausgelassen: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Das Training konnte nicht gespeichert werden. Noch einmal versuchen?</translation>

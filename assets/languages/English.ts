@@ -733,6 +733,22 @@
         <source></source>
         <translation>No words were found for the language of this program, which is why its texts read "VOID". Install the program again, or start it in another language.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>The language file %1 is larger than any language is (%2 KB at the most) and is left out.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>The language file %1 asks for further files and is left out. All words of a language must be in one file.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>The language file %1 is damaged and is left out. Make it again from its source, or take it out of its folder.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Further language files have faults and are left out too: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>The training could not be saved. Try again?</translation>

@@ -733,6 +733,22 @@
         <source></source>
         <translation>No se han encontrado los textos del idioma de este programa; por eso aparece «VOID» en su lugar. Vuelva a instalar el programa o inícielo en otro idioma.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>El archivo de idioma %1 es mayor de lo que puede ser un idioma (%2 KB como máximo) y se omite.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>El archivo de idioma %1 pide otros archivos y se omite. Todas las palabras de un idioma deben estar en un solo archivo.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>El archivo de idioma %1 está dañado y se omite. Vuelva a crearlo a partir de su fuente o retírelo de su carpeta.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Otros archivos de idioma tienen errores y también se omiten: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>No se ha podido guardar el entrenamiento. ¿Intentarlo de nuevo?</translation>

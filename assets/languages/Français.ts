@@ -733,6 +733,22 @@
         <source></source>
         <translation>Les textes de ce programme n’ont pas été trouvés dans la langue choisie&#xa0;; c’est pourquoi «&#xa0;VOID&#xa0;» s’affiche à leur place. Réinstallez le programme ou lancez-le dans une autre langue.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>Le fichier de langue %1 est plus grand qu’une langue ne peut l’être (%2 Ko au plus) et n’est pas pris en compte.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>Le fichier de langue %1 demande d’autres fichiers et n’est pas pris en compte. Tous les mots d’une langue doivent être dans un seul fichier.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>Le fichier de langue %1 est endommagé et n’est pas pris en compte. Recréez-le à partir de sa source ou retirez-le de son dossier.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>D’autres fichiers de langue ont des défauts et ne sont pas pris en compte non plus : %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>L’entraînement n’a pas pu être enregistré. Réessayer ?</translation>

@@ -733,6 +733,22 @@
         <source></source>
         <translation>Non sono stati trovati i testi nella lingua di questo programma; per questo al loro posto compare «VOID». Reinstalla il programma oppure avvialo in un’altra lingua.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>Il file della lingua %1 è più grande di quanto una lingua possa essere (al massimo %2 KB) e viene tralasciato.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>Il file della lingua %1 richiede altri file e viene tralasciato. Tutte le parole di una lingua devono stare in un solo file.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>Il file della lingua %1 è danneggiato e viene tralasciato. Ricrealo dalla sua fonte oppure toglilo dalla sua cartella.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Altri file di lingue hanno difetti e vengono anch'essi tralasciati: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Impossibile salvare l’allenamento. Riprovare?</translation>

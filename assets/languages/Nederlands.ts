@@ -733,6 +733,22 @@
         <source></source>
         <translation>Er zijn geen teksten gevonden in de taal van dit programma; daarom staat er ‘VOID’ op hun plaats. Installeer het programma opnieuw of start het in een andere taal.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>Het taalbestand %1 is groter dan een taal kan zijn (hoogstens %2 KB) en wordt overgeslagen.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>Het taalbestand %1 vraagt om andere bestanden en wordt overgeslagen. Alle woorden van een taal moeten in één bestand staan.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>Het taalbestand %1 is beschadigd en wordt overgeslagen. Maak het opnieuw uit de bron, of haal het uit de map.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Nog meer taalbestanden hebben fouten en worden ook overgeslagen: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>De training kon niet worden opgeslagen. Nog een keer proberen?</translation>

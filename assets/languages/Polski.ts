@@ -733,6 +733,22 @@
         <source></source>
         <translation>Nie znaleziono tekstów w języku tego programu; dlatego zamiast nich widać „VOID”. Zainstaluj program ponownie albo uruchom go w innym języku.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>Plik językowy %1 jest większy, niż język może być (najwyżej %2 KB), i zostanie pominięty.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>Plik językowy %1 wymaga dalszych plików i zostanie pominięty. Wszystkie słowa języka muszą być w jednym pliku.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>Plik językowy %1 jest uszkodzony i zostanie pominięty. Utwórz go ponownie ze źródła albo usuń go z folderu.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Kolejne pliki językowe mają błędy i również zostają pominięte: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Nie udało się zapisać treningu. Spróbować ponownie?</translation>

@@ -733,6 +733,22 @@
         <source></source>
         <translation>Não foram encontrados os textos no idioma deste programa; por isso aparece “VOID” no seu lugar. Instale o programa outra vez ou inicie-o em outro idioma.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>O ficheiro de idioma %1 é maior do que um idioma pode ser (no máximo %2 KB) e será ignorado.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>O ficheiro de idioma %1 pede outros ficheiros e será ignorado. Todas as palavras de um idioma têm de estar num só ficheiro.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>O ficheiro de idioma %1 está danificado e será ignorado. Crie-o de novo a partir da sua fonte ou retire-o da sua pasta.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Outros ficheiros de idioma têm erros e também serão ignorados: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Não foi possível gravar o treino. Tentar outra vez?</translation>

@@ -733,6 +733,22 @@
         <source></source>
         <translation>Pro jazyk tohoto programu nebyly nalezeny žádné texty; proto místo nich vidíte „VOID“. Nainstalujte prosím program znovu nebo ho spusťte v jiném jazyce.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>Soubor jazyka %1 je větší, než jazyk může být (nejvýše %2 KB), a vynechává se.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>Soubor jazyka %1 požaduje další soubory a vynechává se. Všechna slova jazyka musí být v jednom souboru.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>Soubor jazyka %1 je poškozený a vynechává se. Vytvořte jej znovu ze zdroje, nebo jej odstraňte ze složky.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Další soubory jazyků mají chyby a také se vynechávají: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Trénink se nepodařilo uložit. Zkusit to znovu?</translation>

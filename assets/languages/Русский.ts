@@ -733,6 +733,22 @@
         <source></source>
         <translation>Для языка этой программы не найдены тексты, поэтому вместо них стоит «VOID». Установите программу заново или запустите её на другом языке.</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>Языковой файл %1 больше, чем может быть язык (не более %2 КБ), он пропущен.</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>Языковой файл %1 требует других файлов, он пропущен. Все слова языка должны быть в одном файле.</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>Языковой файл %1 повреждён, он пропущен. Создайте его заново из исходного файла или уберите его из папки.</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>Другие языковые файлы содержат ошибки и тоже пропущены: %1.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Не удалось сохранить тренировку. Попробовать ещё раз?</translation>

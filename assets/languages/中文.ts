@@ -733,6 +733,22 @@
         <source></source>
         <translation>未找到本程序所用语言的文字，因此文字处显示为“VOID”。请重新安装程序，或以其他语言启动。</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>语言文件 %1 过大（最多 %2 KB），已忽略。</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>语言文件 %1 需要其他文件，已忽略。一种语言的所有文字必须在同一个文件中。</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>语言文件 %1 已损坏，已忽略。请由其源文件重新生成，或将其从文件夹中移走。</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>另有语言文件存在错误，也已忽略：%1。</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>无法保存训练。要重试吗？</translation>

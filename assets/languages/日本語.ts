@@ -733,6 +733,22 @@
         <source></source>
         <translation>このプログラムの言語の文字列が見つからないため、代わりに「VOID」と表示されています。プログラムを再インストールするか、別の言語で起動してください。</translation>
     </message>
+    <message id="9253s">
+        <source></source>
+        <translation>言語ファイル %1 は大きすぎるため（最大 %2 KB）、使用しません。</translation>
+    </message>
+    <message id="9254s">
+        <source></source>
+        <translation>言語ファイル %1 は別のファイルを必要とするため、使用しません。1 つの言語のすべての語は 1 つのファイルに入れてください。</translation>
+    </message>
+    <message id="9255s">
+        <source></source>
+        <translation>言語ファイル %1 は壊れているため、使用しません。元のファイルから作り直すか、フォルダーから取り除いてください。</translation>
+    </message>
+    <message id="9256s">
+        <source></source>
+        <translation>ほかの言語ファイルにも誤りがあり、同じく使用しません：%1。</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>トレーニングを保存できませんでした。もう一度試しますか？</translation>

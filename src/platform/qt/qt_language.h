@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QString>
+#include <QByteArray>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -11,6 +11,7 @@
 
 #include "platform/language.h"
 #include "platform/notice.h"
+#include "platform/qt/language_file.h"
 
 namespace vmod17 {
 
@@ -20,16 +21,21 @@ class QtLanguageList : public LanguageList {
  public:
   /// Reads the folders in their order; one that does not exist is passed over. Within a folder the
   /// files stand by name. A file of a later folder takes the place of one with the same name, so
-  /// that a user can improve on a language that came with the program. Errors: none; see
+  /// that a user can improve on a language that came with the program; one with a fault is left
+  /// out. A language stays as it was read, whatever becomes of its file. Errors: none; see
   /// `problems`.
   explicit QtLanguageList(const std::vector<std::filesystem::path>& folders);
 
   std::vector<LanguageColumn> Table() const override;
   std::unique_ptr<Language> Create(const std::string& class_name) const override;
 
-  /// Files that are no readable translation and therefore not listed: their paths, UTF-8.
-  const std::vector<std::string>& problems() const { return problems_; }
-  /// What the user should be told of them.
+  struct Problem {
+    std::string path;  ///< UTF-8
+    LanguageFault fault;
+  };
+  /// Files that are not listed because of a fault.
+  const std::vector<Problem>& problems() const { return problems_; }
+  /// What the user should be told of them: of the first ones by name, and how many more there are.
   std::vector<Notice> Notices() const;
 
   /// The name of the installed language that the desktop's user would want first; English if he
@@ -42,14 +48,15 @@ class QtLanguageList : public LanguageList {
   struct File {
     std::string name;
     std::string locale;
-    QString path;
+    QByteArray bytes;
   };
 
   void ReadFolder(const std::filesystem::path& folder);
+  void ReadFile(const std::filesystem::path& path);
   void Enter(File file);
 
   std::vector<File> files_;
-  std::vector<std::string> problems_;
+  std::vector<Problem> problems_;
 };
 
 }  // namespace vmod17

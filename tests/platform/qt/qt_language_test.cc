@@ -18,7 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::EndsWith;
 using testing::IsEmpty;
 
 class QtLanguageListTest : public testing::Test {
@@ -33,6 +32,13 @@ class QtLanguageListTest : public testing::Test {
 
   QTemporaryDir folder_;
 };
+
+/// Names of the files that are left out.
+std::vector<std::string> Problems(const QtLanguageList& list) {
+  std::vector<std::string> names;
+  for (const auto& problem : list.problems()) names.push_back(fs::path(problem.path).filename());
+  return names;
+}
 
 int NumberOf(const std::function<void()>& call) {
   try {
@@ -81,7 +87,7 @@ TEST_F(QtLanguageListTest, ReportsFilesThatCannotBeReadInsteadOfListingThem) {
   Write("Garbage.qm", "This is no translation, although it is called one.");
   const QtLanguageList list({Folder()});
   EXPECT_THAT(list.Table(), ElementsAre(LanguageColumn{"de_AT", "Deutsch"}));
-  EXPECT_THAT(list.problems(), ElementsAre(EndsWith("Empty.qm"), EndsWith("Garbage.qm")));
+  EXPECT_THAT(Problems(list), ElementsAre("Empty.qm", "Garbage.qm"));
 }
 
 TEST_F(QtLanguageListTest, CannotMakeALanguageThatIsNotListed) {
