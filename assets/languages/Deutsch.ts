@@ -749,6 +749,22 @@
         <source></source>
         <translation>Weitere Sprachdateien haben Fehler und werden ebenfalls ausgelassen: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado ist schon geöffnet, antwortet aber nicht. Wenn es nur beschäftigt ist, warten Sie bitte. Möchten Sie es beenden und neu starten? Was dort noch nicht gespeichert ist, kann verloren gehen.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>Die Übung ist schon geöffnet, antwortet aber nicht. Wenn sie nur beschäftigt ist, warten Sie bitte. Möchten Sie sie beenden und neu starten? Was dort noch nicht gespeichert ist, kann verloren gehen.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>Das ließ sich nicht beenden. Melden Sie sich an diesem Rechner ab und wieder an, und starten Sie das Programm dann noch einmal.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>Die Übung antwortet nicht. Wenn sie nur beschäftigt ist, warten Sie bitte. Möchten Sie sie beenden? Was dort noch nicht gespeichert ist, kann verloren gehen.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Das Training konnte nicht gespeichert werden. Noch einmal versuchen?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Diese Seite der Hilfe gibt es nur auf Englisch.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… und %1 weitere</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Diese Seite der Hilfe kann nicht gezeigt werden: Sie ist zu groß oder zu tief verschachtelt.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>Der Name des Ordners für die gespeicherten Trainings, %1, ist nicht in UTF-8, und dort lässt sich nichts speichern. Sie können üben, aber was Sie jetzt speichern, ist am Ende des Programms verloren. Nennen Sie bitte in MELVADO_STORE einen anderen Ort.</translation>
     </message>
     <message id="9681s">
         <source></source>

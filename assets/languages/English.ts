@@ -749,6 +749,22 @@
         <source></source>
         <translation>Further language files have faults and are left out too: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado is open already, but does not answer. If it is only busy, wait for it. Do you want to end it and start it again? What has not been stored there may be lost.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>The exercise is open already, but does not answer. If it is only busy, wait for it. Do you want to end it and start it again? What has not been stored there may be lost.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>It could not be ended. Sign out of this computer and in again, then start the program once more.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>The exercise does not answer. If it is only busy, wait for it. Do you want to end it? What has not been stored there may be lost.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>The training could not be saved. Try again?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>This page of the help is in English.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… and %1 more</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>This page of the help cannot be shown: it is too large, or too deeply nested.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>The name of the folder for the stored trainings, %1, is not in UTF-8, and nothing can be stored there. You can practise, but what you store now is lost when the program ends. Please name another place in MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

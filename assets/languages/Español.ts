@@ -749,6 +749,22 @@
         <source></source>
         <translation>Otros archivos de idioma tienen errores y también se omiten: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado ya está abierto, pero no responde. Si solo está ocupado, espere. ¿Quiere cerrarlo e iniciarlo de nuevo? Lo que aún no se haya guardado allí puede perderse.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>El ejercicio ya está abierto, pero no responde. Si solo está ocupado, espere. ¿Quiere cerrarlo e iniciarlo de nuevo? Lo que aún no se haya guardado allí puede perderse.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>No se pudo cerrar. Cierre la sesión de este equipo, vuelva a iniciarla y arranque el programa otra vez.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>El ejercicio no responde. Si solo está ocupado, espere. ¿Quiere cerrarlo? Lo que aún no se haya guardado allí puede perderse.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>No se ha podido guardar el entrenamiento. ¿Intentarlo de nuevo?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Esta página de la ayuda está en inglés.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… y %1 más</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Esta página de la ayuda no se puede mostrar: es demasiado grande o está demasiado anidada.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>El nombre de la carpeta de los entrenamientos guardados, %1, no está en UTF-8 y allí no se puede guardar nada. Puede practicar, pero lo que guarde ahora se perderá al terminar el programa. Indique otro lugar en MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

@@ -749,6 +749,22 @@
         <source></source>
         <translation>D’autres fichiers de langue ont des défauts et ne sont pas pris en compte non plus : %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado est déjà ouvert, mais ne répond pas. S’il est seulement occupé, attendez. Voulez-vous l’arrêter et le relancer ? Ce qui n’y est pas encore enregistré peut être perdu.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>L’exercice est déjà ouvert, mais ne répond pas. S’il est seulement occupé, attendez. Voulez-vous l’arrêter et le relancer ? Ce qui n’y est pas encore enregistré peut être perdu.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>Il n’a pas pu être arrêté. Fermez votre session sur cet ordinateur, ouvrez-la de nouveau, puis relancez le programme.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>L’exercice ne répond pas. S’il est seulement occupé, attendez. Voulez-vous l’arrêter ? Ce qui n’y est pas encore enregistré peut être perdu.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>L’entraînement n’a pas pu être enregistré. Réessayer ?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Cette page de l’aide est en anglais.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… et %1 autres</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Cette page de l’aide ne peut pas être affichée : elle est trop grande ou trop imbriquée.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>Le nom du dossier des entraînements enregistrés, %1, n’est pas en UTF-8 ; rien ne peut y être enregistré. Vous pouvez vous exercer, mais ce que vous enregistrez maintenant sera perdu à la fin du programme. Indiquez un autre emplacement dans MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

@@ -749,6 +749,22 @@
         <source></source>
         <translation>Altri file di lingue hanno difetti e vengono anch'essi tralasciati: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado è già aperto, ma non risponde. Se è solo occupato, aspetta. Vuoi chiuderlo e avviarlo di nuovo? Ciò che lì non è ancora salvato può andare perso.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>L’esercizio è già aperto, ma non risponde. Se è solo occupato, aspetta. Vuoi chiuderlo e avviarlo di nuovo? Ciò che lì non è ancora salvato può andare perso.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>Non è stato possibile chiuderlo. Esci dalla sessione di questo computer e rientra, poi avvia di nuovo il programma.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>L’esercizio non risponde. Se è solo occupato, aspetta. Vuoi chiuderlo? Ciò che lì non è ancora salvato può andare perso.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Impossibile salvare l’allenamento. Riprovare?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Questa pagina della guida è in inglese.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… e altri %1</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Questa pagina della guida non può essere mostrata: è troppo grande o troppo annidata.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>Il nome della cartella degli allenamenti salvati, %1, non è in UTF-8 e lì non si può salvare nulla. Puoi esercitarti, ma ciò che salvi ora andrà perso alla fine del programma. Indica un altro posto in MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

@@ -749,6 +749,22 @@
         <source></source>
         <translation>Nog meer taalbestanden hebben fouten en worden ook overgeslagen: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado is al geopend, maar antwoordt niet. Als het alleen bezig is, wacht dan even. Wilt u het beëindigen en opnieuw starten? Wat daar nog niet is opgeslagen, kan verloren gaan.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>De oefening is al geopend, maar antwoordt niet. Als ze alleen bezig is, wacht dan even. Wilt u ze beëindigen en opnieuw starten? Wat daar nog niet is opgeslagen, kan verloren gaan.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>Het kon niet worden beëindigd. Meld u af op deze computer en weer aan, en start het programma dan nog een keer.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>De oefening antwoordt niet. Als ze alleen bezig is, wacht dan even. Wilt u ze beëindigen? Wat daar nog niet is opgeslagen, kan verloren gaan.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>De training kon niet worden opgeslagen. Nog een keer proberen?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Deze pagina van de help is in het Engels.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… en nog %1</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Deze pagina van de hulp kan niet worden getoond: ze is te groot of te diep genest.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>De naam van de map voor de opgeslagen trainingen, %1, is niet in UTF-8, en daar kan niets worden opgeslagen. U kunt oefenen, maar wat u nu opslaat, gaat verloren als het programma eindigt. Noem een andere plaats in MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

@@ -749,6 +749,22 @@
         <source></source>
         <translation>Kolejne pliki językowe mają błędy i również zostają pominięte: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado jest już otwarte, ale nie odpowiada. Jeśli jest tylko zajęte, zaczekaj. Czy zakończyć je i uruchomić ponownie? To, co nie zostało tam jeszcze zapisane, może zostać utracone.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>Ćwiczenie jest już otwarte, ale nie odpowiada. Jeśli jest tylko zajęte, zaczekaj. Czy zakończyć je i uruchomić ponownie? To, co nie zostało tam jeszcze zapisane, może zostać utracone.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>Nie udało się go zakończyć. Wyloguj się z tego komputera i zaloguj ponownie, a potem uruchom program jeszcze raz.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>Ćwiczenie nie odpowiada. Jeśli jest tylko zajęte, zaczekaj. Czy je zakończyć? To, co nie zostało tam jeszcze zapisane, może zostać utracone.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Nie udało się zapisać treningu. Spróbować ponownie?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Ta strona pomocy jest po angielsku.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… i jeszcze %1</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Nie można pokazać tej strony pomocy: jest zbyt duża lub zbyt głęboko zagnieżdżona.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>Nazwa folderu zapisanych treningów, %1, nie jest w UTF-8 i nie można tam niczego zapisać. Możesz ćwiczyć, ale to, co teraz zapiszesz, przepadnie po zakończeniu programu. Podaj inne miejsce w MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

@@ -749,6 +749,22 @@
         <source></source>
         <translation>Outros ficheiros de idioma têm erros e também serão ignorados: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>O Melvado já está aberto, mas não responde. Se estiver apenas ocupado, espere. Quer encerrá-lo e iniciá-lo de novo? O que ali ainda não foi guardado pode perder-se.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>O exercício já está aberto, mas não responde. Se estiver apenas ocupado, espere. Quer encerrá-lo e iniciá-lo de novo? O que ali ainda não foi guardado pode perder-se.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>Não foi possível encerrá-lo. Termine a sessão neste computador, inicie-a de novo e volte a abrir o programa.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>O exercício não responde. Se estiver apenas ocupado, espere. Quer encerrá-lo? O que ali ainda não foi guardado pode perder-se.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Não foi possível gravar o treino. Tentar outra vez?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Esta página da ajuda está em inglês.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… e mais %1</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Esta página da ajuda não pode ser mostrada: é demasiado grande ou tem demasiados níveis.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>O nome da pasta dos treinos guardados, %1, não está em UTF-8 e nada se pode guardar ali. Pode praticar, mas o que guardar agora perde-se quando o programa terminar. Indique outro lugar em MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

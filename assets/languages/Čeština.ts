@@ -749,6 +749,22 @@
         <source></source>
         <translation>Další soubory jazyků mají chyby a také se vynechávají: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado je už otevřené, ale neodpovídá. Pokud je jen zaneprázdněné, počkejte. Chcete je ukončit a spustit znovu? Co tam ještě není uloženo, se může ztratit.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>Cvičení je už otevřené, ale neodpovídá. Pokud je jen zaneprázdněné, počkejte. Chcete je ukončit a spustit znovu? Co tam ještě není uloženo, se může ztratit.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>Nepodařilo se je ukončit. Odhlaste se z tohoto počítače a znovu se přihlaste, pak spusťte program ještě jednou.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>Cvičení neodpovídá. Pokud je jen zaneprázdněné, počkejte. Chcete je ukončit? Co tam ještě není uloženo, se může ztratit.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Trénink se nepodařilo uložit. Zkusit to znovu?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Tato stránka nápovědy je v angličtině.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… a ještě %1</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Tuto stránku nápovědy nelze zobrazit: je příliš velká nebo příliš hluboko vnořená.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>Název složky pro uložené tréninky, %1, není v UTF-8 a nelze tam nic uložit. Můžete cvičit, ale co teď uložíte, se po skončení programu ztratí. Uveďte prosím jiné místo v MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

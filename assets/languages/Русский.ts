@@ -749,6 +749,22 @@
         <source></source>
         <translation>Другие языковые файлы содержат ошибки и тоже пропущены: %1.</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado уже открыта, но не отвечает. Если она просто занята, подождите. Завершить её и запустить заново? То, что там ещё не сохранено, может быть потеряно.</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>Упражнение уже открыто, но не отвечает. Если оно просто занято, подождите. Завершить его и запустить заново? То, что там ещё не сохранено, может быть потеряно.</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>Завершить не удалось. Выйдите из системы на этом компьютере, войдите снова и запустите программу ещё раз.</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>Упражнение не отвечает. Если оно просто занято, подождите. Завершить его? То, что там ещё не сохранено, может быть потеряно.</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>Не удалось сохранить тренировку. Попробовать ещё раз?</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>Эта страница справки на английском языке.</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… и ещё %1</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>Эту страницу справки нельзя показать: она слишком велика или имеет слишком глубокую вложенность.</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>Имя папки для сохранённых тренировок, %1, не в UTF-8, и сохранить там ничего нельзя. Вы можете заниматься, но то, что вы сохраните сейчас, пропадёт по окончании программы. Укажите другое место в MELVADO_STORE.</translation>
     </message>
     <message id="9681s">
         <source></source>

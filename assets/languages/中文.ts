@@ -749,6 +749,22 @@
         <source></source>
         <translation>另有语言文件存在错误，也已忽略：%1。</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado 已经打开，但没有响应。如果它只是在忙，请稍候。要结束它并重新启动吗？其中尚未保存的内容可能会丢失。</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>练习已经打开，但没有响应。如果它只是在忙，请稍候。要结束它并重新启动吗？其中尚未保存的内容可能会丢失。</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>无法结束它。请注销这台计算机后重新登录，再启动程序。</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>练习没有响应。如果它只是在忙，请稍候。要结束它吗？其中尚未保存的内容可能会丢失。</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>无法保存训练。要重试吗？</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>本帮助页面为英文。</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>……另有 %1 项</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>无法显示此帮助页面：它太大或嵌套过深。</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>存放已保存训练的文件夹名称 %1 不是 UTF-8，无法在那里保存。您可以练习，但现在保存的内容会在程序结束时丢失。请在 MELVADO_STORE 中指定其他位置。</translation>
     </message>
     <message id="9681s">
         <source></source>

@@ -749,6 +749,22 @@
         <source></source>
         <translation>ほかの言語ファイルにも誤りがあり、同じく使用しません：%1。</translation>
     </message>
+    <message id="9257s">
+        <source></source>
+        <translation>Melvado はすでに開いていますが、応答しません。処理中なだけの場合は、しばらくお待ちください。終了して再起動しますか？ そこでまだ保存されていない内容は失われることがあります。</translation>
+    </message>
+    <message id="9258s">
+        <source></source>
+        <translation>練習はすでに開いていますが、応答しません。処理中なだけの場合は、しばらくお待ちください。終了して再起動しますか？ そこでまだ保存されていない内容は失われることがあります。</translation>
+    </message>
+    <message id="9259s">
+        <source></source>
+        <translation>終了できませんでした。このコンピューターからいったんサインアウトし、サインインし直してから、もう一度プログラムを起動してください。</translation>
+    </message>
+    <message id="9260s">
+        <source></source>
+        <translation>練習が応答しません。処理中なだけの場合は、しばらくお待ちください。終了しますか？ そこでまだ保存されていない内容は失われることがあります。</translation>
+    </message>
     <message id="9301s">
         <source></source>
         <translation>トレーニングを保存できませんでした。もう一度試しますか？</translation>
@@ -1180,6 +1196,18 @@
     <message id="9631s">
         <source></source>
         <translation>このヘルプページは英語です。</translation>
+    </message>
+    <message id="9633s">
+        <source></source>
+        <translation>… ほか %1 件</translation>
+    </message>
+    <message id="9634s">
+        <source></source>
+        <translation>このヘルプのページは表示できません。大きすぎるか、入れ子が深すぎます。</translation>
+    </message>
+    <message id="9635s">
+        <source></source>
+        <translation>保存したトレーニングのフォルダー名 %1 が UTF-8 ではないため、そこには何も保存できません。練習はできますが、いま保存したものはプログラムの終了時に失われます。MELVADO_STORE で別の場所を指定してください。</translation>
     </message>
     <message id="9681s">
         <source></source>

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QRegularExpression>
@@ -35,10 +34,13 @@ std::string QtSystem::ComputerName() const { return QSysInfo::machineHostName().
 std::optional<std::string> QtSystem::Environment(const std::string& name) const {
   const QByteArray key = QByteArray::fromStdString(name);
   if (!qEnvironmentVariableIsSet(key.constData())) return std::nullopt;
-  return qEnvironmentVariable(key.constData()).toStdString();
+  return qgetenv(key.constData()).toStdString();
 }
 
-std::string QtSystem::TemporaryFolder() const { return QDir::tempPath().toStdString(); }
+std::string QtSystem::TemporaryFolder() const {
+  const QByteArray named = qgetenv("TMPDIR");
+  return named.isEmpty() ? "/tmp" : named.toStdString();
+}
 
 std::string QtSystem::DecimalPoint() const { return QLocale().decimalPoint().toStdString(); }
 

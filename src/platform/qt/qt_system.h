@@ -8,6 +8,7 @@
 namespace vmod17 {
 
 /// The operating system, asked through Qt. Numbers and dates have the form of the default QLocale.
+/// Variables and folders are the bytes that the system has, UTF-8 or not.
 class QtSystem : public System {
  public:
   std::string ComputerName() const override;

@@ -873,6 +873,10 @@ bool HostStore::OpenAnew(int wait_ms) {
     TellInMemory(UnreadableAddressNotice());
     return false;
   }
+  if (address_->kind == StoreAddress::Kind::kNotUtf8) {
+    TellInMemory(NotUtf8StoreNotice(address_->Display()));
+    return false;
+  }
   if (IsFile()) {
     const QString refusal = PrepareStoreFile(
         address_->path, address_->is_default ? Privacy::kEnforced : Privacy::kOfNewFiles);

@@ -3,10 +3,10 @@
 
 #include "platform/store/store_address.h"
 
+#include <QByteArrayView>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QStandardPaths>
 
 namespace vmod17 {
 
@@ -60,14 +60,16 @@ QUrl ServerOf(const QString& text) {
 }  // namespace
 
 std::string UserDataFolder() {
-  QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  // A relative XDG_DATA_HOME would put the store wherever the program happens to be started.
-  if (QDir::isRelativePath(data)) data = QDir::homePath() + "/.local/share";
-  return (data + "/melvado").toStdString();
+  const QByteArray data = qgetenv("XDG_DATA_HOME");
+  // A relative one would put the store wherever the program happens to be started.
+  if (data.startsWith('/')) return data.toStdString() + "/melvado";
+  const QByteArray home = qgetenv("HOME");
+  return (home.isEmpty() ? QDir::rootPath().toUtf8() : home).toStdString() +
+         "/.local/share/melvado";
 }
 
 std::string StoreAddress::Display() const {
-  if (kind == Kind::kFile) return path.toStdString();
+  if (kind == Kind::kFile || kind == Kind::kNotUtf8) return path.toStdString();
   if (kind == Kind::kUnreadable) return {};
   return server.toDisplayString(QUrl::RemovePassword | QUrl::RemoveQuery).toStdString();
 }
@@ -92,6 +94,10 @@ StoreAddress ParseStoreAddress(const std::string& address) {
         parsed.server.isValid() ? StoreAddress::Kind::kServer : StoreAddress::Kind::kUnreadable;
   } else {
     parsed.path = text;
+  }
+  const std::string bytes = parsed.is_default ? UserDataFolder() : address;
+  if (parsed.kind == StoreAddress::Kind::kFile && !QByteArrayView(bytes).isValidUtf8()) {
+    parsed.kind = StoreAddress::Kind::kNotUtf8;
   }
   return parsed;
 }

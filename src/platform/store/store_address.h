@@ -9,8 +9,9 @@
 
 namespace vmod17 {
 
-/// The folder for what the program keeps of a user, UTF-8: `$XDG_DATA_HOME/melvado`, where an unset
-/// or relative XDG_DATA_HOME stands for `~/.local/share`. The folder need not exist.
+/// The folder for what the program keeps of a user, in the system's own bytes:
+/// `$XDG_DATA_HOME/melvado`, where an unset or relative XDG_DATA_HOME stands for `~/.local/share`.
+/// The folder need not exist.
 std::string UserDataFolder();
 
 /// Where a store is.
@@ -19,11 +20,12 @@ struct StoreAddress {
     kFile,
     kServer,
     kUnreadable,  ///< meant for a server, but not to be read as one
+    kNotUtf8,     ///< a file whose path is not UTF-8, which the database library does not take
   };
 
   Kind kind = Kind::kFile;
   bool is_default = false;  ///< the file that is taken when nothing else is said
-  QString path;             ///< kFile: path of the SQLite file
+  QString path;             ///< kFile: path of the SQLite file; kNotUtf8: what can be shown of it
   QUrl server;              ///< kServer: postgresql://user@host:port/database?option=value
 
   /// Name of the place for the user's eyes: the path, or the address without its password; nothing

@@ -69,6 +69,15 @@ Notice UnreadableAddressNotice() {
           {}};
 }
 
+Notice NotUtf8StoreNotice(const std::string& place) {
+  return {
+      9635,
+      "The name of the folder for the stored trainings, %1, is not in UTF-8, and nothing can be "
+      "stored there. You can practise, but what you store now is lost when the program ends. "
+      "Please name another place in MELVADO_STORE.",
+      {place}};
+}
+
 Notice UnreachableServerNotice(const std::string& place, const std::string& reason) {
   return {9108,
           "The server with the stored trainings, %1, is away (%2). You can practise. What you "

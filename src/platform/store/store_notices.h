@@ -22,6 +22,7 @@ Notice BrokenStoreNotice(const std::string& place, const std::string& aside);
 Notice DamagedRecordNotice(const std::string& key, const std::string& aside);
 /// Of an address no part is told, for nobody knows which of it is a secret.
 Notice UnreadableAddressNotice();
+Notice NotUtf8StoreNotice(const std::string& place);
 /// A server that is away: what is stored waits on this machine.
 Notice UnreachableServerNotice(const std::string& place, const std::string& reason);
 /// A server that will not do, or one that is away while this machine cannot keep anything for it.

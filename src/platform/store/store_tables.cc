@@ -15,6 +15,10 @@ namespace {
 constexpr std::int64_t kRowOverhead = 80;
 // One line alone must not fill the log.
 constexpr std::size_t kLongestLine = 16 * 1024;
+// Others may write into the store as well. What is longer than this was not entered by anybody.
+constexpr int kLongestNumber = 1000;
+constexpr int kLongestName = 200;
+constexpr int kLongestSetting = 8192;
 
 // A server refuses NUL in a text, and both kinds would cut it there.
 QString Text(const std::string& bytes) {
@@ -34,8 +38,14 @@ std::string TextIn(const QVariantList& row, int column) {
   return row.value(column).toString().toStdString();
 }
 
+/// The same, with "…" in the place of what is too long.
+std::string ShortText(const QVariantList& row, int column, qsizetype longest) {
+  const QString text = row.value(column).toString();
+  return (text.size() > longest ? text.left(longest) + QChar(0x2026) : text).toStdString();
+}
+
 LogEntry EntryOf(const QVariantList& row) {
-  const auto text = [&row](int column) { return TextIn(row, column); };
+  const auto text = [&row](int column) { return ShortText(row, column, kLongestLine); };
   LogEntry entry;
   entry.at = text(0);
   entry.user = text(1);
@@ -89,8 +99,9 @@ std::optional<StoreTables::Facts> StoreTables::LookInto(const std::string& seat)
     const SqlResult found = connection_.Run(
         QStringLiteral("SELECT meta.value, setting.name, setting.value FROM melvado_meta meta "
                        "LEFT JOIN melvado_setting setting ON setting.seat = ? "
+                       "AND length(setting.value) <= ? "
                        "WHERE meta.name = 'schema_version'"),
-        {Text(seat)});
+        {Text(seat), kLongestSetting});
     facts.version = found.rows.isEmpty() ? kUnknownVersion : VersionIn(found.rows[0]);
     for (const QVariantList& row : found.rows) {
       if (!row[1].isNull()) facts.settings[TextIn(row, 1)] = TextIn(row, 2);
@@ -209,8 +220,10 @@ void StoreTables::Rename(const RecordKey& key, const std::string& value,
 
 std::map<std::string, std::string> StoreTables::Settings(const std::string& seat) {
   std::map<std::string, std::string> settings;
-  const SqlResult found = connection_.Run(
-      QStringLiteral("SELECT name, value FROM melvado_setting WHERE seat = ?"), {Text(seat)});
+  const SqlResult found =
+      connection_.Run(QStringLiteral("SELECT name, value FROM melvado_setting WHERE seat = ? "
+                                     "AND length(value) <= ?"),
+                      {Text(seat), kLongestSetting});
   for (const QVariantList& row : found.rows) settings[TextIn(row, 0)] = TextIn(row, 1);
   return settings;
 }
@@ -231,9 +244,12 @@ void StoreTables::SetSettings(const std::string& seat,
 std::vector<StoreUser> StoreTables::Users() {
   std::vector<StoreUser> users;
   const SqlResult found =
-      connection_.Run(QStringLiteral("SELECT user_id, name, first_name FROM melvado_user"));
+      connection_.Run(QStringLiteral("SELECT user_id, name, first_name FROM melvado_user "
+                                     "WHERE length(user_id) <= ?"),
+                      {kLongestNumber});
   for (const QVariantList& row : found.rows) {
-    users.push_back({TextIn(row, 0), TextIn(row, 1), TextIn(row, 2)});
+    users.push_back(
+        {TextIn(row, 0), ShortText(row, 1, kLongestName), ShortText(row, 2, kLongestName)});
   }
   return users;
 }

@@ -37,6 +37,16 @@ TEST(QtSystem, KnowsTheComputerAndAFolderForTemporaryFiles) {
   EXPECT_NE(QtSystem().TemporaryFolder(), "");
 }
 
+TEST(QtSystem, TakesNamesForTheBytesThatTheyAre) {
+  const QByteArray before = qgetenv("TMPDIR");
+  qputenv("TMPDIR", "/tmp/Sch\xfcler");
+  EXPECT_EQ(QtSystem().Environment("TMPDIR"), "/tmp/Sch\xfcler");
+  EXPECT_EQ(QtSystem().TemporaryFolder(), "/tmp/Sch\xfcler");
+  qputenv("TMPDIR", "");
+  EXPECT_EQ(QtSystem().TemporaryFolder(), "/tmp");
+  qputenv("TMPDIR", before);
+}
+
 TEST(QtSystem, SendsAKeystrokeToTheWindowInFront) {
   KeyTaker window;
   window.show();

@@ -87,5 +87,27 @@ TEST(StoreAddress, RefusesWhatLooksLikeAServerAndCannotBeReadWhole) {
   }
 }
 
+TEST(StoreAddress, OfAFileWhoseNameIsNotUtf8IsNeverAnotherFile) {
+  for (const char* text : {"/home/Sch\xfcler/store.sqlite", "\xff", "/tmp/\xc3"}) {
+    const StoreAddress address = ParseStoreAddress(text);
+    EXPECT_EQ(address.kind, Kind::kNotUtf8) << text;
+    EXPECT_NE(address.Display(), "");
+  }
+  EXPECT_EQ(ParseStoreAddress("/home/Schüler/store.sqlite").kind, Kind::kFile);
+}
+
+TEST(UserDataFolder, HasTheBytesOfTheHomeFolder) {
+  const QByteArray data = qgetenv("XDG_DATA_HOME");
+  const QByteArray home = qgetenv("HOME");
+  qputenv("HOME", "/home/Sch\xfcler");
+  qunsetenv("XDG_DATA_HOME");
+  EXPECT_EQ(UserDataFolder(), "/home/Sch\xfcler/.local/share/melvado");
+  EXPECT_EQ(ParseStoreAddress("").kind, Kind::kNotUtf8);
+  qputenv("XDG_DATA_HOME", "/data/\xfc");
+  EXPECT_EQ(UserDataFolder(), "/data/\xfc/melvado");
+  qputenv("XDG_DATA_HOME", data);
+  qputenv("HOME", home);
+}
+
 }  // namespace
 }  // namespace vmod17

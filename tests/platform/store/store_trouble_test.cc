@@ -131,6 +131,45 @@ TEST_F(TroubledStore, MakesNoFileOfAnAddressThatIsMeantForAServer) {
   QDir::setCurrent(before);
 }
 
+TEST_F(TroubledStore, SaysThatAFolderWhoseNameIsNotUtf8CannotHoldIt) {
+  const std::string folder = (folder_ / "Sch").toStdString() + "\xfcler";
+  HostStore store(TestOptions(folder + "/store.sqlite", &notices_));
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"kept"}));
+  EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"kept"}));
+  EXPECT_EQ(Ids(notices_), std::vector{9635});
+  EXPECT_EQ(folder_.Names(), QStringList());
+}
+
+TEST_F(TroubledStore, ReadsNoMoreOfARowThanAnybodyWouldEnter) {
+  MakeStoreWith(Array{"old"});
+  const std::string name(300'000, 'x');
+  {
+    HostStore store(Options());
+    store.SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew);
+    store.SetUser({"4711", "Berg", "Anna"});
+    EXPECT_TRUE(LogLine(store, "line"));
+  }
+  {
+    OtherHand hand(Path());
+    const QString text = QString::fromStdString(name);
+    hand.Run("INSERT INTO melvado_user VALUES ('" + text + "', 'Tal', 'Ida')");
+    hand.Run("UPDATE melvado_user SET name = '" + text + "' WHERE user_id = '4711'");
+    hand.Run("UPDATE melvado_setting SET value = '" + text + "' WHERE name = 'user.name'");
+    hand.Run("UPDATE melvado_log SET text = '" + text + "', source = '" + text + "'");
+  }
+  HostStore store(Options());
+  ASSERT_EQ(store.Users().size(), 1u);
+  EXPECT_EQ(store.Users()[0].id, "4711");
+  EXPECT_EQ(store.Users()[0].name, std::string(200, 'x') + "…");
+  EXPECT_EQ(store.User()->id, "4711");
+  EXPECT_EQ(store.User()->name, "");
+  EXPECT_LT(store.Session().size(), 1000u);
+  const std::vector<LogEntry> log = store.Log(1);
+  ASSERT_EQ(log.size(), 1u);
+  EXPECT_EQ(log[0].text, std::string(16 * 1024, 'x') + "…");
+  EXPECT_LT(log[0].source.size(), 17u * 1024);
+}
+
 TEST_F(TroubledStore, RaisesWhenALockIsNotReleasedInTimeAndLosesNothing) {
   MakeStoreWith(Array{"old"});
   HostStore store(Options());
