@@ -43,9 +43,9 @@ UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& use
 
   auto* const form = new QFormLayout;
   form->setVerticalSpacing(qRound(10 * factor));
-  form->addRow(words.Say(9425, "Name"), name_);
-  form->addRow(words.Say(9426, "First name"), first_name_);
-  form->addRow(words.Say(9427, "Matriculation number"), number_);
+  form->addRow(MakeLabel(words.Say(9425, "Name"), *name_), name_);
+  form->addRow(MakeLabel(words.Say(9426, "First name"), *first_name_), first_name_);
+  form->addRow(MakeLabel(words.Say(9427, "Matriculation number"), *number_), number_);
   auto* const ok = new QPushButton(words.Say(432, "OK"));
   ok->setObjectName("ok");
   ok->setDefault(true);
@@ -74,6 +74,15 @@ QLineEdit* UserDialog::MakeField(const char* name, const std::string& text) {
   auto* const field = new QLineEdit(QString::fromStdString(text), this);
   field->setObjectName(name);
   return field;
+}
+
+/// The form's own labels would take the words of a language for markup.
+QLabel* UserDialog::MakeLabel(const QString& text, QLineEdit& field) {
+  auto* const label = new QLabel(this);
+  label->setTextFormat(Qt::PlainText);
+  label->setText(text);
+  label->setBuddy(&field);
+  return label;
 }
 
 QLabel* UserDialog::MakeLine(const char* name) {

@@ -29,6 +29,7 @@ class UserDialog : public QDialog {
 
  private:
   QLineEdit* MakeField(const char* name, const std::string& text);
+  QLabel* MakeLabel(const QString& text, QLineEdit& field);
   QLabel* MakeLine(const char* name);
   StoreUser Typed() const;
   void Try();

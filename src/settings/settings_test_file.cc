@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 #include <utility>
+#include <vector>
 
 #include "platform/caption.h"
 #include "settings/settings_screen.h"
@@ -17,11 +18,34 @@ namespace vmod17 {
 namespace {
 
 constexpr Color kVomTestGesperrt = Rgb(255, 128, 128);
+constexpr std::size_t kLaengsteListe = 10;
+constexpr int kLaengsteZeile = 80;
 
 std::string Klein(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(),
                  [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   return text;
+}
+
+/// The first characters of a line in UTF-8, with "…" in the place of the others.
+std::string Gekuerzt(const std::string& zeile) {
+  int zeichen = 0;
+  for (std::size_t i = 0; i < zeile.size(); ++i) {
+    const bool beginnt = (static_cast<unsigned char>(zeile[i]) & 0xC0) != 0x80;
+    if (beginnt && ++zeichen > kLaengsteZeile) return zeile.substr(0, i) + "…";
+  }
+  return zeile;
+}
+
+/// Lines below a heading. A file may bring more than a message has room for.
+std::string Aufgelistet(const std::vector<std::string>& zeilen, const TextLookup& texts) {
+  const bool ganz = zeilen.size() <= kLaengsteListe + 1;
+  const std::size_t anzahl = ganz ? zeilen.size() : kLaengsteListe;
+  std::string text;
+  for (std::size_t i = 0; i < anzahl; ++i) text += "\n" + Gekuerzt(zeilen[i]);
+  if (ganz) return text;
+  return text + "\n" +
+         texts.Words({9633, "… and %1 more", {std::to_string(zeilen.size() - anzahl)}});
 }
 
 /// The values that are applied where no file is chosen, by the tags of their controls in lower
@@ -144,7 +168,7 @@ void Einstellung1::EinlesenTest() {
 /// file.
 void Einstellung1::WendeAn(const TestDocument& dokument) {
   std::string gehalten;
-  std::string uebergangen;
+  std::vector<std::string> uebergangen;
   std::vector<Control*> gesetzt;
   for (const TestControl& eintrag : dokument.controls) {
     Control* control = SucheTagged(eintrag);
@@ -156,8 +180,8 @@ void Einstellung1::WendeAn(const TestDocument& dokument) {
         gehalten += "\n" + InWorten(*control);
         break;
       case Angewandt::kNein:
-        uebergangen += "\n" + (eintrag.title.empty() ? eintrag.cname : eintrag.title) +
-                       (eintrag.words.empty() ? "" : ": " + eintrag.words);
+        uebergangen.push_back((eintrag.title.empty() ? eintrag.cname : eintrag.title) +
+                              (eintrag.words.empty() ? "" : ": " + eintrag.words));
     }
   }
   for (Control* control : gesetzt) SperreVomTest(*control);
@@ -170,7 +194,7 @@ void Einstellung1::WendeAn(const TestDocument& dokument) {
            gehalten;
   }
   if (!uebergangen.empty()) {
-    text += (text.empty() ? "" : "\n\n") + texts.Sprachtext(9016) + uebergangen;
+    text += (text.empty() ? "" : "\n\n") + texts.Sprachtext(9016) + Aufgelistet(uebergangen, texts);
   }
   if (!text.empty()) shell_.messages.Warn(text, cmdOptionRead.caption);
 }

@@ -3,9 +3,13 @@
 
 // Language files as somebody may put them into his language folder.
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QLineEdit>
 #include <QProcess>
+#include <QPushButton>
 
 #include "melvado_testing.h"
 
@@ -52,6 +56,46 @@ TEST_F(LanguageFiles, MayHaveAThousandForeignKeys) {
   EXPECT_EQ(Caption("test"), "Provu la sonon");
   EXPECT_EQ(Caption("language_heading"), "Language");
   EXPECT_THAT(told_, IsEmpty());
+}
+
+/// No label and no tool tip that stands takes its words for markup.
+void ExpectPlainTexts(const char* where) {
+  int labels = 0;
+  for (const QWidget* widget : QApplication::allWidgets()) {
+    const QString tip = widget->toolTip();
+    EXPECT_TRUE(!Qt::mightBeRichText(tip) || tip.startsWith("<qt>&lt;")) << tip.toStdString();
+    const auto* const label = qobject_cast<const QLabel*>(widget);
+    if (label == nullptr) continue;
+    ++labels;
+    EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()))
+        << where << ": " << label->text().toStdString();
+  }
+  EXPECT_GT(labels, 0) << where;
+}
+
+TEST_F(LanguageFiles, AreShownAsTheyAreWhateverTheyLookLike) {
+  QString messages;
+  for (int id = 1; id < 10'000; id += id == 999 ? 8002 : 1) {
+    messages += Message(id, "&lt;b&gt;fett&lt;/b&gt;&lt;img src='x.png'/&gt;%1");
+  }
+  OpenWith("Esperanto", messages);
+  host_->AddUser({"4711", "<b>Berg</b>", "<img src='x.png'/>"});
+  Press("help");
+  ExpectPlainTexts("the window");
+  for (const char* button : {"add_user", "change_user"}) {
+    QTimer::singleShot(0, [&] {
+      auto* const dialog = QApplication::activeModalWidget();
+      ASSERT_NE(dialog, nullptr);
+      dialog->findChild<QWidget*>("ok")->setFocus();
+      dialog->findChild<QLineEdit*>("name")->setText(QString(500, 'x'));
+      dialog->findChild<QPushButton*>("ok")->click();
+      ExpectPlainTexts(button);
+      dialog->close();
+    });
+    Press(button);
+  }
+  Press("log");
+  ExpectPlainTexts("the log");
 }
 
 TEST_F(LanguageFiles, MayHaveNoKeyOfTheProgramAtAll) {

@@ -19,6 +19,7 @@ namespace {
 
 using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -265,6 +266,30 @@ TEST_F(TestFile, ListsWhatTheScreenDoesNotHaveAndAppliesTheRest) {
   EXPECT_THAT(messages.warnings[0].text,
               AllOf(StartsWith("[9016s]"), HasSubstr("breit"), HasSubstr("250"), HasSubstr("third"),
                     HasSubstr("neun"), HasSubstr("minus"), Not(HasSubstr("automatisch"))));
+}
+
+TEST_F(TestFile, ListsTheFirstOfManyThatTheScreenDoesNotHave) {
+  TestDocument document;
+  for (int i = 1; i <= 60; ++i) {
+    document.controls.push_back({"Frage " + std::to_string(i), "Nie", "nie_cmb", 0, {}, ""});
+  }
+  Read(document);
+  ASSERT_THAT(messages.warnings, SizeIs(1));
+  EXPECT_THAT(messages.warnings[0].text,
+              AllOf(StartsWith("[9016s]\nFrage 1\n"), EndsWith("\nFrage 10\n[9633s]")));
+  document.controls.resize(11);
+  Read(document);
+  EXPECT_THAT(messages.warnings[1].text, EndsWith("\nFrage 10\nFrage 11"));
+}
+
+TEST_F(TestFile, ListsTheBeginningOfALongName) {
+  TestDocument document;
+  std::string name;
+  for (int i = 0; i < 100; ++i) name += "ü";
+  document.controls = {{name, "Nie", "nie_cmb", 0, {}, ""}};
+  Read(document);
+  ASSERT_THAT(messages.warnings, SizeIs(1));
+  EXPECT_EQ(messages.warnings[0].text, "[9016s]\n" + name.substr(0, 160) + "…");
 }
 
 TEST_F(TestFile, DoesNotReachControlsThatArePartOfNoTest) {

@@ -14,6 +14,11 @@ namespace {
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
+/// A tool tip has no format that it could be given: what looks like markup is written as such.
+QString AsToolTip(const QString& text) {
+  return Qt::mightBeRichText(text) ? "<qt>" + text.toHtmlEscaped() + "</qt>" : text;
+}
+
 class PressBinding : public Binding {
  public:
   PressBinding(Pressable& control, PressWidget& widget, const BindingSite& site)
@@ -349,7 +354,7 @@ void Binding::WriteName(const std::string& name) {
   const QString said = Text(ShownCaption(name)).simplified();
   widget_.setAccessibleName(said);
   if (key_.isEmpty()) return;
-  widget_.setToolTip(said.isEmpty() ? QString() : QString("%1 (%2)").arg(said, key_));
+  widget_.setToolTip(said.isEmpty() ? QString() : AsToolTip(QString("%1 (%2)").arg(said, key_)));
 }
 
 bool Binding::RefreshPlace() {

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QKeyEvent>
 #include <QPainter>
@@ -14,6 +13,7 @@
 #include <QTextBrowser>
 #include <QWindow>
 #include <algorithm>
+#include <fstream>
 #include <iterator>
 #include <utility>
 
@@ -32,6 +32,10 @@ constexpr double kLeastZoom = 0.7;
 constexpr double kMostZoom = 2.5;
 constexpr QSize kUsualSize{760, 680};
 constexpr QSize kLeastSize{420, 300};
+constexpr qint64 kLargestFile = 16 << 20;
+// The largest page of the program has 15 KB and nests eight elements.
+constexpr qsizetype kLargestPage = 128 << 10;
+constexpr int kDeepest = 40;
 constexpr char kScheme[] = "help";
 constexpr char kEnglish[] = "en";
 constexpr char kContentsPage[] = "index";
@@ -58,7 +62,7 @@ QUrl AddressOf(const QString& file) {
 QString FileOf(const QUrl& address) {
   if (address.scheme() != kScheme) return {};
   const QString file = QDir::cleanPath(address.path().mid(1));
-  return file.startsWith("..") ? QString() : file;
+  return file.startsWith("..") || QDir::isAbsolutePath(file) ? QString() : file;
 }
 
 /// A page whose pictures have their words beneath them: the text of a page is all that a reader of
@@ -68,11 +72,45 @@ QString WithWordsOfPictures(QString page) {
   return page.replace(kPicture, "\\1<br/><span class=\"quiet\">\\2</span>");
 }
 
-/// Empty for a file that cannot be read, as for none.
+/// How deeply the elements of a page are nested, but for those that many leave open.
+int DepthOf(const QString& page) {
+  static const QRegularExpression kTag("<(/?)([a-zA-Z][a-zA-Z0-9]*)([^>]*)>");
+  static const QStringList kOften = {"p",  "br", "hr", "img",  "meta", "link", "li",
+                                     "td", "th", "tr", "html", "body", "dt",   "dd"};
+  int depth = 0;
+  int deepest = 0;
+  for (auto tag = kTag.globalMatch(page); tag.hasNext();) {
+    const QRegularExpressionMatch match = tag.next();
+    if (kOften.contains(match.captured(2).toLower())) continue;
+    if (match.capturedView(3).endsWith('/')) continue;
+    depth += match.capturedView(1).isEmpty() ? 1 : -1;
+    deepest = std::max(deepest, depth);
+  }
+  return deepest;
+}
+
+/// Whether the toolkit lays a page out in no time. It takes seconds for tables in tables, and room
+/// for each cell that one spans.
+bool CanBeLaidOut(const QString& page) {
+  static const QRegularExpression kWideCell("(row|col)span\\s*=\\s*[\"']?\\s*\\d{4}",
+                                            QRegularExpression::CaseInsensitiveOption);
+  return page.size() <= kLargestPage && DepthOf(page) <= kDeepest && !page.contains(kWideCell);
+}
+
+bool IsWithin(const std::filesystem::path& path, const std::filesystem::path& folder) {
+  const auto [ended, differs] =
+      std::mismatch(folder.begin(), folder.end(), path.begin(), path.end());
+  return ended == folder.end();
+}
+
+/// Empty for a file that cannot be read or is too large, as for none.
 QByteArray Read(const std::filesystem::path& path) {
   if (path.empty()) return {};
-  QFile file(QString::fromStdString(path.string()));
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  std::ifstream file(path, std::ios::binary);
+  QByteArray bytes(kLargestFile + 1, Qt::Uninitialized);
+  file.read(bytes.data(), bytes.size());
+  bytes.truncate(file.gcount());
+  return bytes.size() > kLargestFile ? QByteArray() : bytes;
 }
 
 /// A style sheet, which names the light colours, with others in their places.
@@ -106,7 +144,9 @@ class HelpWindow::Browser : public QTextBrowser {
     if (type == QTextDocument::StyleSheetResource) return InColors(held, help_.style_.colors());
     if (type != QTextDocument::HtmlResource) return QString::fromUtf8(held);
     if (held.isEmpty()) return help_.Missing();
-    return help_.WithNote(file, WithWordsOfPictures(QString::fromUtf8(held)));
+    const QString page = QString::fromUtf8(held);
+    if (!CanBeLaidOut(page)) return help_.TooLarge();
+    return help_.WithNote(file, WithWordsOfPictures(page));
   }
 
  private:
@@ -172,7 +212,11 @@ std::filesystem::path HelpWindow::Find(const QString& file) const {
   for (const std::filesystem::path& folder : folders_) {
     const std::filesystem::path path = folder / file.toStdString();
     std::error_code unreadable;
-    if (std::filesystem::is_regular_file(path, unreadable)) return path;
+    if (!std::filesystem::is_regular_file(path, unreadable)) continue;
+    // A link in the folder may lead out of it.
+    const auto true_path = std::filesystem::canonical(path, unreadable);
+    const auto true_folder = std::filesystem::canonical(folder, unreadable);
+    if (!unreadable && IsWithin(true_path, true_folder)) return path;
   }
   return {};
 }
@@ -192,6 +236,10 @@ QString HelpWindow::Missing() const {
   const QString text = QString::fromStdString(words_.missing);
   return "<p>" + text.arg(QString::fromStdString(page_), places.join("; ")).toHtmlEscaped() +
          "</p>";
+}
+
+QString HelpWindow::TooLarge() const {
+  return "<p>" + QString::fromStdString(words_.too_large).toHtmlEscaped() + "</p>";
 }
 
 /// A page as it is, or with a line above it when it is not in the language that was asked for.

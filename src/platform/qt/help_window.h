@@ -22,7 +22,8 @@ namespace vmod17 {
 /// A page is a plain HTML file, `<folder>/<language code>/<page>.html`, such as
 /// "help/de/arbeitsblatt1.html"; links, pictures and style sheets in it are named relative to it.
 /// Each file is taken from the first folder that has it, so that a teacher needs to keep only those
-/// that he has changed. A link that leads out of the folders is not followed.
+/// that he has changed. Nothing that lies outside the folders is shown, by whatever link or name,
+/// and no page that the toolkit would take seconds to lay out.
 ///
 /// Over a dialog that waits for an answer it belongs to that dialog, which would block it
 /// otherwise; with the end of the dialog it is a window of its own again.
@@ -41,6 +42,9 @@ class HelpWindow : public QWidget {
         "The page “%1” of the help was not found. Help pages are looked for in: %2";
     /// Above a page that is there in English only, in the language that the reader would have.
     std::string english_only = "This page of the help is in English.";
+    /// In the place of a page that is too large, or nested too deeply, to be laid out.
+    std::string too_large =
+        "This page of the help cannot be shown: it is too large, or too deeply nested.";
   };
 
   /// `folders`  where the pages are looked for, the first of them first; need not exist
@@ -79,6 +83,7 @@ class HelpWindow : public QWidget {
   std::filesystem::path Find(const QString& file) const;
   std::string LanguageOf(const std::string& page) const;
   QString Missing() const;
+  QString TooLarge() const;
   QString WithNote(const QString& file, const QString& page) const;
   void Open(const std::string& page);
   void TakeType();

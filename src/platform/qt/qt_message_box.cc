@@ -5,9 +5,11 @@
 
 #include <QAbstractButton>
 #include <QCloseEvent>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <algorithm>
 #include <utility>
 
@@ -26,6 +28,47 @@ class QuestionBox : public QMessageBox {
   }
 };
 
+constexpr int kNarrowest = 360;       // width of the words, in pixels, in the narrowest box
+constexpr int kAroundTheWords = 200;  // height of title, buttons and edges
+constexpr qsizetype kLongestWord = 50;
+constexpr QChar kMayBreak(0x200B);
+
+/// Whether a line may break at a character by itself: at a blank, and between signs of the east.
+bool Breaks(QChar c) { return c.isSpace() || c >= QChar(0x2E80); }
+
+/// A text whose words can be broken into lines, however long they are: a path has no blanks.
+QString Breakable(const QString& text) {
+  QString broken;
+  qsizetype length = 0;
+  for (const QChar c : text) {
+    length = Breaks(c) ? 0 : length + 1;
+    if (length > kLongestWord) {
+      broken += kMayBreak;
+      length = 1;
+    }
+    broken += c;
+  }
+  return broken;
+}
+
+/// As much of a text as a box on the screen has room for, with "…" in the place of the rest.
+QString Fitting(const QString& text, const QMessageBox& box) {
+  const QScreen* const screen = box.screen();
+  const int room = std::max(screen->availableGeometry().height() - kAroundTheWords, 200);
+  const QFontMetrics type(box.font());
+  const auto fits = [&](const QString& part) {
+    constexpr int kAnyHeight = 1 << 20;
+    const QRect all(0, 0, kNarrowest, kAnyHeight);
+    return type.boundingRect(all, Qt::TextWordWrap, part).height() <= room;
+  };
+  // No screen shows more, and measuring takes its time.
+  constexpr qsizetype kMostOfAll = 20'000;
+  QString fitting = Breakable(text.left(kMostOfAll));
+  if (text.size() <= kMostOfAll && fits(fitting)) return fitting;
+  while (!fitting.isEmpty() && !fits(fitting + "…")) fitting.truncate(fitting.size() * 9 / 10);
+  return fitting + "…";
+}
+
 void Label(QMessageBox& box, QMessageBox::StandardButton button, const std::string& word) {
   if (!word.empty()) box.button(button)->setText(QString::fromStdString(word));
 }
@@ -36,6 +79,7 @@ void Label(QMessageBox& box, QMessageBox::StandardButton button, const std::stri
 int QtMessageBox::Show(QMessageBox& box) const {
   if (before) before();
   if (box.parentWidget() != nullptr) box.setFont(box.parentWidget()->font());
+  box.setText(Fitting(box.text(), box));
   const int answer = box.exec();
   if (QWidget* window = box.parentWidget(); window != nullptr && window->isVisible()) {
     window->activateWindow();

@@ -15,7 +15,8 @@ class QMessageBox;
 
 namespace vmod17 {
 
-/// Modal boxes in front of the program's window.
+/// Modal boxes in front of the program's window. A text that is too long for the screen ends in
+/// "…".
 class QtMessageBox : public MessageBox {
  public:
   /// What the buttons say, UTF-8. An empty word leaves the toolkit's own.

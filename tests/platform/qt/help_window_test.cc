@@ -284,15 +284,50 @@ TEST(HelpWindow, FollowsNoLinkThatLeadsOut) {
   Folder folder;
   folder.Write("help/en/a.html", "<p>hier</p>");
   folder.Write("secret.html", "<p>draussen</p>");
+  std::filesystem::create_symlink(folder.path() / "secret.html",
+                                  folder.path() / "help/en/linked.html");
   HelpWindow help({folder.path() / "help"});
   help.Show("a", "en");
   for (const QString& link :
        {QString("https://example.org/en/a.html"), QString("../../secret.html"),
         "file://" + QString::fromStdString((folder.path() / "secret.html").string()),
-        QString("help:/../secret.html"), QString("missing.html")}) {
+        QString("help:/../secret.html"), QString("missing.html"), QString("help:////etc/passwd"),
+        "help:///" + QString::fromStdString((folder.path() / "secret.html").string()),
+        QString("linked.html")}) {
     emit BrowserOf(help).anchorClicked(QUrl(link));
     EXPECT_EQ(TextOf(help), "hier") << link.toStdString();
   }
+}
+
+TEST(HelpWindow, ShowsNoPictureFromOutside) {
+  Folder folder;
+  QImage(3, 3, QImage::Format_RGB32).save(QString::fromStdString(folder.path() / "secret.png"));
+  const std::string secret = (folder.path() / "secret.png").string();
+  folder.Write("help/en/a.html", "<p>hier</p>");
+  std::filesystem::create_symlink(secret, folder.path() / "help/en/linked.png");
+  HelpWindow help({folder.path() / "help"});
+  help.Show("a", "en");
+  for (const std::string& name : {"help:///" + secret, "file://" + secret, secret,
+                                  std::string("../../secret.png"), std::string("linked.png")}) {
+    const QVariant picture = BrowserOf(help).loadResource(QTextDocument::ImageResource,
+                                                          QUrl(QString::fromStdString(name)));
+    EXPECT_TRUE(picture.value<QImage>().isNull()) << name;
+  }
+}
+
+TEST(HelpWindow, RefusesInWordsAPageThatCannotBeLaidOut) {
+  Folder folder;
+  folder.Write("en/deep.html", QByteArray("<table><tr><td>").repeated(20'000) + "x");
+  folder.Write("en/large.html", QByteArray("<p>words and words</p>").repeated(10'000));
+  folder.Write("en/wide.html", "<table><tr><td colspan=\"99999999\">x</td></tr></table>");
+  folder.Write("en/good.html", QByteArray("<div>").repeated(30) + "good");
+  HelpWindow help({folder.path()});
+  for (const char* page : {"deep", "large", "wide"}) {
+    help.Show(page, "en");
+    EXPECT_EQ(TextOf(help), HelpWindow::Words().too_large) << page;
+  }
+  help.Show("good", "en");
+  EXPECT_EQ(TextOf(help), "good");
 }
 
 TEST(HelpWindow, GoesBackForwardAndToTheContents) {

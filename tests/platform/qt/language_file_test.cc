@@ -186,6 +186,7 @@ TEST_F(LanguageFolder, MayHaveANameThatIsNotUtf8) {
   const QtLanguageList list({folder});
   EXPECT_THAT(list.problems(), IsEmpty());
   EXPECT_EQ(list.Create("melvadolang.Deutsch")->Wort("432s"), "OK");
+  std::filesystem::remove_all(folder);
 }
 
 }  // namespace

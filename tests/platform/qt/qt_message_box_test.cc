@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -63,6 +64,27 @@ TEST(QtMessageBox, IsReadWholeByAReaderOfTheScreen) {
   EXPECT_EQ(role, QAccessible::AlertMessage);
   EXPECT_EQ(read.filter("Speichern?\nEin Stand geht verloren.").size(), 1);
   for (const char* word : {"Melvado", "Ja", "Nein"}) EXPECT_TRUE(read.contains(word)) << word;
+}
+
+TEST(QtMessageBox, FitsIntoTheScreenWhateverItSays) {
+  QString lines;
+  for (int i = 0; i < 200; ++i) lines += "\nSetting " + QString::number(i);
+  for (const QString& text : {lines, QString(3000, 'x'), QString(300'000, 'x'),
+                              QString("word ").repeated(100'000), QString(3000, QChar(0x8A00))}) {
+    QtMessageBox messages(nullptr);
+    QSize size, room;
+    QString said;
+    Then([&](QMessageBox& box) {
+      size = box.frameGeometry().size();
+      room = box.screen()->availableGeometry().size();
+      said = box.text();
+      box.button(QMessageBox::Ok)->click();
+    });
+    messages.Warn(text.toStdString(), "Melvado");
+    EXPECT_LE(size.height(), room.height()) << text.left(20).toStdString();
+    EXPECT_LE(size.width(), room.width()) << text.left(20).toStdString();
+    EXPECT_TRUE(said.endsWith("…"));
+  }
 }
 
 TEST(QtMessageBox, TellsYesFromNo) {

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QTest>
 #include <QWidget>
 #include <set>
@@ -92,6 +93,42 @@ TEST_F(QtViewTest, ShowsTheScreenThatIsVisible) {
   attached_.pop_back();
   view_.Refresh();
   EXPECT_EQ(view_.page()->objectName(), "grd_einst");
+}
+
+TEST_F(QtViewTest, ShowsWordsAsTheyAreWhateverTheyLookLike) {
+  FakeLanguages::Words words;
+  for (int id = 1; id < 10'000; ++id) {
+    words.words[std::to_string(id) + "s"] = "<b>x</b><img src='y.png'/>";
+  }
+  p_.languages.languages = {{"Deutsch", words}};
+  int labels = 0;
+  int tips = 0;
+  const auto look = [&] {
+    view_.Refresh();
+    for (const QWidget* widget : QApplication::allWidgets()) {
+      const QString tip = widget->toolTip();
+      tips += tip.isEmpty() ? 0 : 1;
+      EXPECT_TRUE(!Qt::mightBeRichText(tip) || tip.startsWith("<qt>&lt;")) << tip.toStdString();
+      const auto* const label = qobject_cast<const QLabel*>(widget);
+      if (label == nullptr) continue;
+      ++labels;
+      EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()))
+          << label->objectName().toStdString();
+    }
+  };
+  p_.ToFirstScreen();
+  Attach(p_.first());
+  look();
+  p_.first().cmdOK.Press();
+  p_.loop.Advance(200);
+  Attach(p_.settings_screen());
+  look();
+  p_.StartRun();
+  Attach(p_.worksheet());
+  Play();
+  look();
+  EXPECT_GT(labels, 20);
+  EXPECT_GT(tips, 0);
 }
 
 TEST_F(QtViewTest, HidesTheWindowWhenNoScreenIsLeft) {
