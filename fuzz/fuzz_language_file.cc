@@ -57,8 +57,10 @@ QByteArray LanguageFile() {
   for (int id = 1; id <= kWords; ++id) {
     places.emplace(HashOf(Key(id)), static_cast<quint32>(messages.size()));
     QByteArray word;
-    for (const QChar c : WordOf(id))
-      word += {static_cast<char>(c.row()), static_cast<char>(c.cell())};
+    for (const QChar c : WordOf(id)) {
+      word += static_cast<char>(c.row());
+      word += static_cast<char>(c.cell());
+    }
     messages += Part(3, word) + Part(8, "") + Part(6, Key(id)) + Part(7, "") + '\1';
   }
   QByteArray table;

@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "app/places.h"
+#include "platform/qt/application_setup.h"
 #include "platform/store/store_address.h"
 #include "platform/xml/pugi_document.h"
 #include "version.h"
@@ -66,9 +67,10 @@ Desktop::Desktop()
   help_.words = [this] {
     const HelpWindow::Words english;
     return HelpWindow::Words{
-        Word(9421, english.title.c_str()),   Word(9391, english.contents.c_str()),
-        Word(9392, english.back.c_str()),    Word(9393, english.forward.c_str()),
-        Word(9394, english.missing.c_str()), Word(9631, english.english_only.c_str())};
+        Word(9421, english.title.c_str()),    Word(9391, english.contents.c_str()),
+        Word(9392, english.back.c_str()),     Word(9393, english.forward.c_str()),
+        Word(9394, english.missing.c_str()),  Word(9631, english.english_only.c_str()),
+        Word(9634, english.too_large.c_str())};
   };
   view_.on_help = [this](const std::string& form_name) { ShowHelp(form_name); };
   messages_.before = [this] { view_.Refresh(); };
@@ -93,7 +95,7 @@ void Desktop::Tell(const Notice& notice) {
 }
 
 int Desktop::Run() {
-  if (!IsFirst()) return 0;
+  if (const auto status = StatusWithoutStart()) return *status;
   loop_.Deliver([this] {
     TakeOutputFromEnvironment();
     TakeSoundfont();
@@ -111,14 +113,48 @@ void Desktop::Leave() {
 }
 
 /// Two at once would write over each other's training.
-bool Desktop::IsFirst() {
+std::optional<int> Desktop::StatusWithoutStart() {
   const std::string address = system_.Environment("MELVADO_STORE").value_or("");
   const std::optional<StoreUser> user = store_.User();
   instance_ = std::make_unique<SingleInstance>(ModuleKey(address, user ? user->id : ""));
   instance_->come_to_front = [this] { ComeToFront(); };
-  if (instance_->Claim()) return true;
-  if (system_.Environment(kHostVariable)) SayToHost(ModuleLine::kOpen);
-  return false;
+  const Notice question{
+      9258,
+      "The exercise is open already, but does not answer. If it is only busy, wait for it. Do you "
+      "want to end it and start it again? What has not been stored there may be lost.",
+      {}};
+  const auto claimed = ClaimOrAsk(*instance_, messages_, question, [this](const Notice& notice) {
+    return EarlyTexts().Words(notice);
+  });
+  early_texts_.reset();
+  const bool has_host = system_.Environment(kHostVariable).has_value();
+  switch (claimed) {
+    case SingleInstance::Claimed::kFirst:
+      return std::nullopt;
+    case SingleInstance::Claimed::kAnswered:
+      if (has_host) SayToHost(ModuleLine::kOpen);
+      return 0;
+    case SingleInstance::Claimed::kSilent:
+      if (has_host) SayToHost(ModuleLine::kMenu);
+      break;
+  }
+  return kStatusNotShown;
+}
+
+/// In the language that the first screen will take.
+const TextLookup& Desktop::EarlyTexts() {
+  if (early_texts_) return *early_texts_;
+  early_texts_ = std::make_unique<TextLookup>(
+      [this] { return std::make_unique<SharedLanguages>(languages_); }, system_);
+  TaggedValue name;
+  try {
+    store_.Service()->Action("LANG", "", name);
+    early_texts_->SprachenLaden();
+    early_texts_->SpracheWaehlen(name.String());
+  } catch (const RunTimeError&) {
+    // Its own words are English.
+  }
+  return *early_texts_;
 }
 
 void Desktop::ComeToFront() {
@@ -257,7 +293,8 @@ void Desktop::RunTimeReport(const std::exception_ptr& error) {
 }
 
 std::string Desktop::Word(int id, const char* english) const {
-  const std::string word = program_->texts().Sprachtext(id);
+  const TextLookup& texts = early_texts_ ? *early_texts_ : program_->texts();
+  const std::string word = texts.Sprachtext(id);
   return word == TextLookup::kOhneWort ? english : word;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/notices.h"
@@ -37,7 +38,8 @@ class Desktop {
 
   /// Starts the program and serves it until it ends. Returns the exit status of the process: 0, or
   /// 1 after an error that nothing in the program could deal with. Where the user is at work with
-  /// it already, brings that process to the front and returns 0 at once.
+  /// it already, brings that process to the front and returns 0 at once; `kStatusNotShown` where
+  /// that process does not answer, and the user does not want it ended.
   int Run();
   /// Gives back what the program holds, after `Run`. False where the sound hangs: then a thread
   /// stands in a driver, and the process must end without the end handlers of the libraries.
@@ -53,7 +55,8 @@ class Desktop {
   StoreOptions HostOptions();
   Platform MakePlatform();
   XmlDocumentFactory MakeDocuments();
-  bool IsFirst();
+  std::optional<int> StatusWithoutStart();
+  const TextLookup& EarlyTexts();
   bool ReturnToHost();
   void ComeToFront();
   void TakeOutputFromEnvironment();
@@ -81,6 +84,7 @@ class Desktop {
   HostStore store_;
   std::unique_ptr<Program> program_;
   std::unique_ptr<SingleInstance> instance_;
+  std::unique_ptr<TextLookup> early_texts_;  // of a message that stands before the first screen
   bool screen_was_shown_ = false;
   bool failed_ = false;
 };

@@ -25,7 +25,7 @@ void OnSignal(int) {
 }  // namespace
 
 EndOnSignal::EndOnSignal(std::function<void()> leave) {
-  if (socketpair(AF_UNIX, SOCK_STREAM, 0, g_signal_pipe.data()) != 0) return;
+  if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, g_signal_pipe.data()) != 0) return;
   notifier_ = std::make_unique<QSocketNotifier>(g_signal_pipe[1], QSocketNotifier::Read);
   QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this, leave = std::move(leave)] {
     notifier_->setEnabled(false);

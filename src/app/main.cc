@@ -4,8 +4,6 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <QApplication>
-
 #include "app/desktop.h"
 #include "app/end_on_signal.h"
 #include "platform/qt/application_setup.h"
@@ -13,8 +11,7 @@
 int main(int argc, char* argv[]) {
   // A host that has gone takes nothing any more, which is no reason to go as well.
   signal(SIGPIPE, SIG_IGN);
-  QApplication application(argc, argv);
-  vmod17::SetUpApplication();
+  const auto application = vmod17::MakeApplication(argc, argv);
   vmod17::Desktop desktop;
   const vmod17::EndOnSignal end_on_signal([&desktop] { desktop.Leave(); });
   const int status = desktop.Run();

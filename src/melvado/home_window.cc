@@ -410,13 +410,26 @@ void HomeWindow::Open() {
 }
 
 void HomeWindow::ComeToFront() {
-  if (host_.ModuleRuns() && !isVisible() && host_.BringModuleToFront()) return;
+  const bool module_is_in_front = host_.ModuleRuns() && !isVisible();
+  if (module_is_in_front && host_.BringModuleToFront()) return;
   for (QWidget* window : {static_cast<QWidget*>(this), QApplication::activeModalWidget()}) {
     if (window == nullptr) continue;
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();
     window->activateWindow();
+  }
+  if (module_is_in_front) QTimer::singleShot(0, this, [this] { AskToEndModule(); });
+}
+
+void HomeWindow::AskToEndModule() {
+  const QString question = host_.words().Say(
+      9260,
+      "The exercise does not answer. If it is only busy, wait for it. Do you want to end it? What "
+      "has not been stored there may be lost.");
+  if (messages_.Ask(question.toStdString(), "Melvado", MessageBox::Answer::kNo) ==
+      MessageBox::Answer::kYes) {
+    host_.EndModule();
   }
 }
 
@@ -498,6 +511,8 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
     case ModuleEnd::Kind::kMenu:
     case ModuleEnd::Kind::kHung:
       return;  // the user has been here since the module gave control back
+    case ModuleEnd::Kind::kEnded:
+      return Return();
     case ModuleEnd::Kind::kOpenBefore:
       Return();
       messages_.Warn(

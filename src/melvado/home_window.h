@@ -102,6 +102,7 @@ class HomeWindow : public QWidget {
   void Test();
   void Start();
   void Return();
+  void AskToEndModule();
   void ModuleEnded(const ModuleEnd& end);
   void ShowLog();
   bool AskHelp(const QWidget& asked, const QKeyEvent& key);

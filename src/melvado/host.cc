@@ -250,6 +250,8 @@ void Host::ModuleEnded(const ModuleEnd& end) {
     what = setup_.module + " could not be started: " + end.reason.toStdString();
   } else if (end.crashed) {
     what = "vmod17 was ended by signal " + std::to_string(end.code);
+  } else if (end.kind == ModuleEnd::Kind::kEnded) {
+    what = "vmod17 did not answer, and its user had it ended";
   } else if (end.kind == ModuleEnd::Kind::kHung) {
     what = "vmod17 had given control back, but its process stayed and was killed";
   } else if (end.kind == ModuleEnd::Kind::kBroken) {

@@ -104,6 +104,8 @@ class Host {
   qint64 module_process() const { return module_.process_id(); }
   /// See `ModuleProcess::leaving`.
   int ModulesThatLeave() const { return module_.leaving(); }
+  /// Ends the module that does not answer.
+  void EndModule() { module_.EndSilent(); }
   /// False when there is none to be brought, or it does not answer in some seconds.
   bool BringModuleToFront();
 

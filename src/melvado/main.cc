@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QTimer>
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "app/end_on_signal.h"
 #include "app/places.h"
@@ -48,12 +50,62 @@ void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& ho
       const auto word = [&host](int id, const std::string& text) {
         return host.words().Say(id, text.c_str()).toStdString();
       };
-      return HelpWindow::Words{word(9421, english.title),   word(9391, english.contents),
-                               word(9392, english.back),    word(9393, english.forward),
-                               word(9394, english.missing), word(9631, english.english_only)};
+      return HelpWindow::Words{word(9421, english.title),    word(9391, english.contents),
+                               word(9392, english.back),     word(9393, english.forward),
+                               word(9394, english.missing),  word(9631, english.english_only),
+                               word(9634, english.too_large)};
     };
   }
   help->Show(page, host.words().locale().name().toStdString());
+}
+
+/// The words in which the host would speak, had it started.
+class EarlyWords {
+ public:
+  explicit EarlyWords(const HostSetup& setup) : languages_(setup.language_folders) {
+    StoreOptions options;
+    options.address = setup.store;
+    options.busy_timeout_ms = kEarlyPatienceMs;
+    options.desktop_language = [this, &setup] { return languages_.BestFor(setup.locales); };
+    TaggedValue name;
+    try {
+      HostStore(std::move(options)).Service()->Action("LANG", "", name);
+      words_.Speak(name.String());
+    } catch (const RunTimeError&) {
+      // English, then.
+    }
+  }
+  const Words& words() const { return words_; }
+
+ private:
+  // The process that is silent may hold the store.
+  static constexpr int kEarlyPatienceMs = 500;
+
+  const QtLanguageList languages_;
+  Words words_{languages_};
+};
+
+QtMessageBox::Words ButtonsIn(const Words& words) {
+  return {words.Say(432, "OK").toStdString(), words.Say(9001, "Yes").toStdString(),
+          words.Say(9002, "No").toStdString()};
+}
+
+/// Two hosts of a store would hide what the other has chosen.
+SingleInstance::Claimed ClaimFor(const HostSetup& setup, SingleInstance& instance) {
+  std::optional<EarlyWords> early;
+  const auto words = [&]() -> const Words& {
+    if (!early) early.emplace(setup);
+    return early->words();
+  };
+  QtMessageBox messages(nullptr);
+  messages.words = [&] { return ButtonsIn(words()); };
+  const Notice question{
+      9257,
+      "Melvado is open already, but does not answer. If it is only busy, wait for it. Do you want "
+      "to end it and start it again? What has not been stored there may be lost.",
+      {}};
+  return ClaimOrAsk(instance, messages, question,
+                    [&](const Notice& notice) { return words().Say(notice).toStdString(); });
 }
 
 int Run() {
@@ -62,18 +114,20 @@ int Run() {
   const EndOnSignal end_on_signal([&loop] { loop.Quit(); });
   HostSetup setup = SetupOfThisMachine();
   SingleInstance instance(HostKey(setup.store));
-  if (!instance.Claim()) return 0;
+  switch (ClaimFor(setup, instance)) {
+    case SingleInstance::Claimed::kFirst:
+      break;
+    case SingleInstance::Claimed::kAnswered:
+      return 0;
+    case SingleInstance::Claimed::kSilent:
+      return kStatusNotShown;
+  }
 
   QWidget* front = nullptr;
   QtMessageBox messages([&front] { return front; });
   QtFileDialog dialog([&front] { return front; });
   Host host(std::move(setup), loop);
-  messages.words = [&host] {
-    const Words& words = host.words();
-    return QtMessageBox::Words{words.Say(432, "OK").toStdString(),
-                               words.Say(9001, "Yes").toStdString(),
-                               words.Say(9002, "No").toStdString()};
-  };
+  messages.words = [&host] { return ButtonsIn(host.words()); };
   loop.on_error = [&](const std::exception_ptr& error) {
     const RunTimeError what = AsRunTimeError(error);
     host.LogError("run_time", what.number(), what.what(), what.source());
@@ -111,7 +165,6 @@ int Run() {
 }  // namespace vmod17
 
 int main(int argc, char* argv[]) {
-  QApplication application(argc, argv);
-  vmod17::SetUpApplication();
+  const auto application = vmod17::MakeApplication(argc, argv);
   return vmod17::Run();
 }

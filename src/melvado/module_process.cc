@@ -3,6 +3,8 @@
 
 #include "melvado/module_process.h"
 
+#include <signal.h>
+
 #include <QTimer>
 #include <algorithm>
 #include <utility>
@@ -31,8 +33,14 @@ void ModuleProcess::Start(const QString& program, const QString& store, const QS
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
   surroundings.insert(kHostVariable, "1");
-  if (!store.isEmpty()) surroundings.insert("MELVADO_STORE", store);
-  surroundings.insert(kSessionVariable, session);
+  // Setting what is set would lose a name that is not UTF-8.
+  if (!store.isEmpty() && surroundings.value("MELVADO_STORE") != store) {
+    surroundings.insert("MELVADO_STORE", store);
+  }
+  // The system starts no program with a longer one. The module reads the store, then.
+  constexpr qsizetype kLongestVariable = 100'000;
+  surroundings.remove(kSessionVariable);
+  if (session.toUtf8().size() <= kLongestVariable) surroundings.insert(kSessionVariable, session);
   // Taken over by the host, where it may have been changed since.
   surroundings.remove("MELVADO_MIDI");
   process.setProcessEnvironment(surroundings);
@@ -50,6 +58,16 @@ void ModuleProcess::Start(const QString& program, const QString& store, const QS
                      Finish(module, code, status);
                    });
   process.start(program, QStringList());
+}
+
+void ModuleProcess::EndSilent(int time_to_save_ms) {
+  if (!at_work_) return;
+  Module& module = *at_work_;
+  module.unwanted = true;
+  module.process.terminate();
+  // One that was stopped takes its leave as others do.
+  kill(static_cast<pid_t>(module.process.processId()), SIGCONT);
+  QTimer::singleShot(time_to_save_ms, &module, [&module] { module.process.kill(); });
 }
 
 void ModuleProcess::Hear(Module& module) {
@@ -79,6 +97,7 @@ void ModuleProcess::Finish(Module& module, int code, QProcess::ExitStatus status
   // What a module writes at its end may be lost when it crashes there.
   if (module.menu && !end.crashed) end.kind = ModuleEnd::Kind::kMenu;
   if (module.killed) end.kind = ModuleEnd::Kind::kHung;
+  if (module.unwanted && !module.menu) end.kind = ModuleEnd::Kind::kEnded;
   if (module.open_before && !end.crashed) end.kind = ModuleEnd::Kind::kOpenBefore;
   End(module, end);
 }

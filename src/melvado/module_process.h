@@ -17,6 +17,7 @@ namespace vmod17 {
 struct ModuleEnd {
   enum class Kind {
     kMenu,        ///< by its own way out, back to the host, and whole to its end
+    kEnded,       ///< on the user's wish, since it did not answer
     kHung,        ///< it had found its way out, but its process stayed and was killed
     kOpenBefore,  ///< at once: another process is at work, which it has brought to the front
     kBroken,      ///< in any other way
@@ -31,6 +32,9 @@ struct ModuleEnd {
 /// How long a module is given to save its record when the host goes. The store may keep it waiting
 /// for another program, see `StoreOptions::busy_timeout_ms`, more than once.
 inline constexpr int kTimeToEndMs = 15'000;
+
+/// The same for one that does not answer, and which its user does not want to wait for.
+inline constexpr int kTimeToSaveMs = 3000;
 
 /// The module as a process of its own, one at a time. What it says is in app/places.h.
 ///
@@ -58,6 +62,9 @@ class ModuleProcess {
   /// `store`    handed on, see `ParseStoreAddress`
   /// `session`  handed on, see `HostStore::Session`
   void Start(const QString& program, const QString& store, const QString& session);
+  /// Ends the module at work, which does not answer: by its own way out, or after some time by
+  /// force.
+  void EndSilent(int time_to_save_ms = kTimeToSaveMs);
   /// A module is at work: it was started and has not given control back.
   bool runs() const { return at_work_ != nullptr; }
   /// How many processes have given control back and have not ended.
@@ -71,6 +78,7 @@ class ModuleProcess {
     QDeadlineTimer patience{QDeadlineTimer::Forever};  // with it, once it is leaving
     bool menu = false;
     bool open_before = false;
+    bool unwanted = false;
     bool killed = false;
   };
 

@@ -3,14 +3,19 @@
 
 #include "app/desktop.h"
 
+#include <signal.h>
+
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
 #include <QMessageBox>
+#include <QProcess>
 #include <QTest>
 #include <utility>
 
 #include "melvado_testing.h"
+#include "platform/qt/application_setup.h"
 #include "platform/run_time_error.h"
 #include "platform/store/host_store.h"
 
@@ -77,6 +82,63 @@ class MessageReader {
   std::function<void()> otherwise_;
   QStringList said_;
 };
+
+/// Presses a button of each question as soon as it stands.
+class Answerer {
+ public:
+  explicit Answerer(QMessageBox::StandardButton button) {
+    QObject::connect(&look_, &QTimer::timeout, &look_, [this, button] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr) return;
+      said_ << box->text();
+      box->button(button)->click();
+    });
+    look_.start(5);
+  }
+  const QStringList& said() const { return said_; }
+
+ private:
+  QTimer look_;
+  QStringList said_;
+};
+
+TEST(Desktop, AsksBeforeItEndsAnExerciseThatHangs) {
+  const QTemporaryDir folder;
+  const Surrounding runtime("XDG_RUNTIME_DIR", folder.path().toUtf8());
+  const Surrounding data("XDG_DATA_HOME", folder.path().toUtf8());
+  const Surrounding address("MELVADO_STORE", folder.filePath("store.sqlite").toUtf8());
+  StoreOptions options;
+  options.address = folder.filePath("store.sqlite").toStdString();
+  HostStore(options).SetLanguage("Deutsch");
+  const QLocale before;
+  QProcess hangs;
+  {
+    const Surrounding host("MELVADO_HOST", "1");
+    hangs.start(MODULE_PROGRAM, QStringList());
+  }
+  ASSERT_TRUE(ServeUntil([&] { return hangs.canReadLine(); }));
+  kill(static_cast<pid_t>(hangs.processId()), SIGSTOP);
+  {
+    const Answerer no(QMessageBox::No);
+    EXPECT_EQ(Desktop().Run(), kStatusNotShown);
+    ASSERT_EQ(no.said().size(), 1);
+    EXPECT_TRUE(no.said()[0].startsWith("Die Übung ist schon geöffnet"));
+    EXPECT_EQ(hangs.state(), QProcess::Running);
+  }
+  const Answerer yes(QMessageBox::Yes);
+  QApplication::setWindowIcon(QIcon());
+  Desktop desktop;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &look, [&] {
+    if (!QApplication::windowIcon().isNull()) desktop.Leave();
+  });
+  look.start(5);
+  EXPECT_EQ(desktop.Run(), 0);
+  EXPECT_EQ(yes.said().size(), 1);
+  hangs.waitForFinished();
+  EXPECT_TRUE(hangs.readAll().endsWith("MENUE\n"));
+  QLocale::setDefault(before);
+}
 
 TEST(Desktop, LogsAndTellsAnErrorThatNothingDealtWithAndEndsWithStatusOne) {
   const QTemporaryDir folder;

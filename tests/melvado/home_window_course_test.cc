@@ -46,7 +46,7 @@ class Another {
       : thread_(QThread::create([this, key] {
           SingleInstance instance(key);
           instance.come_to_front = [this] { ++asked_; };
-          EXPECT_TRUE(instance.Claim());
+          EXPECT_EQ(instance.Claim(), SingleInstance::Claimed::kFirst);
           claimed_.release();
           QEventLoop().exec();
         })) {
@@ -176,21 +176,39 @@ TEST_F(HomeWindowCourse, BringsTheModuleToTheFrontForASecondStart) {
   EndModule();
 }
 
-TEST_F(HomeWindowCourse, ComesToTheFrontItselfWhenTheModuleDoesNotAnswer) {
+TEST_F(HomeWindowCourse, ComesToTheFrontItselfWhenTheModuleDoesNotAnswerAndAsksToEndIt) {
   Open();
   ShowModule();
+  messages_.answer = MessageBox::Answer::kNo;
   window_->ComeToFront();
   EXPECT_TRUE(window_->isVisible());
+  Serve();
+  ASSERT_THAT(messages_.questions, SizeIs(1));
+  EXPECT_EQ(messages_.preselected, MessageBox::Answer::kNo);
+  window_->ComeToFront();
+  Serve();
+  EXPECT_THAT(messages_.questions, SizeIs(1));
   EXPECT_TRUE(host_->ModuleRuns());
   EndModule();
   EXPECT_TRUE(window_->isVisible());
-  EXPECT_THAT(messages_.questions, IsEmpty());
+}
+
+TEST_F(HomeWindowCourse, EndsAModuleThatDoesNotAnswerOnTheUsersYes) {
+  Open();
+  ShowModule();
+  messages_.answer = MessageBox::Answer::kYes;
+  window_->ComeToFront();
+  ASSERT_TRUE(ServeUntil([this] { return !host_->ModuleRuns(); }));
+  Serve();
+  EXPECT_THAT(messages_.questions, SizeIs(1));
+  EXPECT_TRUE(window_->isVisible());
+  EXPECT_TRUE(Find<QWidget>("language")->isEnabled());
 }
 
 TEST_F(HomeWindowCourse, TellsAModuleThatHangsFromOneThatAnswers) {
   // It listens, but nothing serves its events while this waits.
   SingleInstance hanging(KeyOfModule());
-  ASSERT_TRUE(hanging.Claim());
+  ASSERT_EQ(hanging.Claim(), SingleInstance::Claimed::kFirst);
   EXPECT_FALSE(SingleInstance::BringToFront(KeyOfModule()));
 }
 

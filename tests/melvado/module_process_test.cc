@@ -90,6 +90,26 @@ TEST_F(ModuleProcessTest, TellsWhyAModuleDoesNotStart) {
   EXPECT_FALSE(process_.runs());
 }
 
+TEST_F(ModuleProcessTest, EndsASilentModuleByItsOwnWayOut) {
+  const Surrounding fake("FAKE_MODULE", "SHOWN wait MENUE 0");
+  process_.Start(FAKE_MODULE, "", "");
+  ASSERT_TRUE(ServeUntil([this] { return shown_ == 1; }));
+  kill(static_cast<pid_t>(process_.process_id()), SIGSTOP);
+  process_.EndSilent(30'000);
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(ends_[0].kind, Kind::kMenu);
+}
+
+TEST_F(ModuleProcessTest, EndsASilentModuleThatPaysNoHeedByForce) {
+  const Surrounding fake("FAKE_MODULE", "SHOWN wait wait wait");
+  process_.Start(FAKE_MODULE, "", "");
+  ASSERT_TRUE(ServeUntil([this] { return shown_ == 1; }));
+  process_.EndSilent(50);
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(ends_[0].kind, Kind::kEnded);
+  EXPECT_FALSE(process_.runs());
+}
+
 TEST_F(ModuleProcessTest, RunsOneModuleAtATime) {
   const Surrounding fake("FAKE_MODULE", "SHOWN wait MENUE 0");
   process_.Start(FAKE_MODULE, "", "");
@@ -192,6 +212,19 @@ TEST_F(LeavingModule, IsKilledWhenTheHostGoesAndItStays) {
   }
   EXPECT_FALSE(IsAlive());
   EXPECT_TRUE(ends_.empty());
+}
+
+TEST_F(ModuleProcessTest, StartsTheModuleWithoutASessionThatNoProgramCanBeGiven) {
+  const QTemporaryDir folder;
+  const QString notes = folder.filePath("notes");
+  const Surrounding file("FAKE_MODULE_NOTES", notes.toUtf8());
+  const Surrounding fake("FAKE_MODULE", "MENUE 0");
+  process_.Start(FAKE_MODULE, "", QString(300'000, 'x'));
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(ends_[0].kind, Kind::kMenu);
+  QFile written(notes);
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(written.readAll().contains("MELVADO_SESSION=none\n"));
 }
 
 TEST(ModuleProcess, EndsItsModuleByTheModulesOwnWayWhenTheHostGoes) {

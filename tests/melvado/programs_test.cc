@@ -3,14 +3,19 @@
 
 // The two programs as processes: the second start, the kill, and what the module says to its host.
 
+#include <fcntl.h>
 #include <signal.h>
 
 #include <QDir>
 #include <QLocalServer>
 #include <QProcess>
+#include <array>
+#include <set>
 
+#include "app/end_on_signal.h"
 #include "app/places.h"
 #include "melvado_testing.h"
+#include "platform/qt/application_setup.h"
 #include "platform/qt/single_instance.h"
 
 namespace vmod17 {
@@ -138,39 +143,48 @@ TEST_F(Programs, ASecondHostEndsAtOnceWithStatus0) {
   End(*first);
 }
 
+TEST_F(Programs, SayInOneLineThatThereIsNoDisplay) {
+  const std::vector<std::array<QString, 3>> places = {
+      {"", "", ""}, {"", ":4711", ""}, {"", "", "nowhere"}, {"nonsense", "", ""}};
+  for (const char* program : {MELVADO_PROGRAM, MODULE_PROGRAM}) {
+    for (const auto& [platform, display, wayland] : places) {
+      QProcessEnvironment surroundings = Surroundings();
+      surroundings.insert("QT_QPA_PLATFORM", platform);
+      surroundings.insert("DISPLAY", display);
+      surroundings.insert("WAYLAND_DISPLAY", wayland);
+      QProcess process;
+      process.setProcessEnvironment(surroundings);
+      process.start(program, QStringList());
+      EXPECT_EQ(Status(process), kStatusNotShown);
+      const QByteArray said = process.readAllStandardError();
+      EXPECT_TRUE(said.startsWith("There is no display here")) << said.toStdString();
+      EXPECT_TRUE(said.contains((platform + display + wayland).toUtf8())) << said.toStdString();
+      EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
+    }
+  }
+}
+
+/// The descriptors of this process that a program which it starts would have too.
+std::set<int> Inherited() {
+  std::set<int> inherited;
+  for (int number = 3; number < 1024; ++number) {
+    const int flags = fcntl(number, F_GETFD);
+    if (flags >= 0 && (flags & FD_CLOEXEC) == 0) inherited.insert(number);
+  }
+  return inherited;
+}
+
+TEST(EndOnSignal, LeavesNothingOpenForProgramsThatAreStarted) {
+  const std::set<int> before = Inherited();
+  const EndOnSignal end_on_signal([] {});
+  EXPECT_EQ(Inherited(), before);
+}
+
 TEST_F(Programs, OneStoreHasOneKeyHoweverItIsNamed) {
   const QString twisted =
       folder_.path() + "/./../" + QDir(folder_.path()).dirName() + "/store.sqlite";
   EXPECT_EQ(HostKey(twisted.toStdString()), HostKey(Store()));
   EXPECT_NE(ModuleKey(Store(), ""), ModuleKey(Store(), "4711"));
-}
-
-TEST(SingleInstance, AsksTheFirstToComeToTheFront) {
-  const QTemporaryDir folder;
-  const Surrounding runtime("XDG_RUNTIME_DIR", folder.path().toUtf8());
-  EXPECT_FALSE(SingleInstance::BringToFront("key"));
-  SingleInstance first("key");
-  int asked = 0;
-  first.come_to_front = [&] { ++asked; };
-  EXPECT_TRUE(first.Claim());
-  SingleInstance second("key");
-  EXPECT_FALSE(second.Claim());
-  EXPECT_TRUE(ServeUntil([&] { return asked == 1; }));
-  SingleInstance other("another key");
-  EXPECT_TRUE(other.Claim());
-  first.Release();
-  EXPECT_TRUE(second.Claim());
-}
-
-TEST(SingleInstance, LetsEveryProcessBeTheFirstWhereThereIsNoFolder) {
-  const QTemporaryDir folder;
-  QFile(folder.filePath("file")).open(QIODevice::WriteOnly);
-  const Surrounding runtime("XDG_RUNTIME_DIR", "/nowhere/at/all");
-  const Surrounding temporary("TMPDIR", folder.filePath("file").toUtf8());
-  SingleInstance first("key");
-  EXPECT_TRUE(first.Claim());
-  SingleInstance second("key");
-  EXPECT_TRUE(second.Claim());
 }
 
 }  // namespace

@@ -3,10 +3,13 @@
 
 #pragma once
 
-#include <QLocalServer>
-#include <QString>
+#include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
+
+#include "platform/message_box.h"
+#include "platform/notice.h"
 
 namespace vmod17 {
 
@@ -17,26 +20,52 @@ namespace vmod17 {
 /// that ends. Where there is no such folder, every process takes itself for the first.
 class SingleInstance {
  public:
-  /// `key`  what may be done once at a time, any text
-  explicit SingleInstance(const std::string& key);
+  enum class Claimed {
+    kFirst,     ///< there is no other process
+    kAnswered,  ///< there is one, which has been asked to come to the front and has answered
+    kSilent,    ///< there is one, which has not answered: it hangs, or is busy
+  };
+  static constexpr std::chrono::milliseconds kPatience{3000};
+
+  /// `key`       what may be done once at a time, any text
+  /// `patience`  how long an answer is waited for
+  explicit SingleInstance(const std::string& key, std::chrono::milliseconds patience = kPatience);
+  ~SingleInstance();
   SingleInstance(const SingleInstance&) = delete;
   SingleInstance& operator=(const SingleInstance&) = delete;
 
   /// Called in the first process when another one was started.
   std::function<void()> come_to_front;
 
-  /// False when there is another process, which has been asked to come to the front.
-  bool Claim();
+  /// Makes this process the first, or asks the one that is.
+  Claimed Claim();
+  /// After `kSilent`: ends the other process and claims again. It is given some time for its own
+  /// way out. One that has answered meanwhile is not ended. Still `kSilent` when it could not be
+  /// ended.
+  Claimed EndOther(std::chrono::milliseconds time = kPatience);
   /// From now on another process may be the first.
-  void Release() { server_.close(); }
+  void Release();
 
   /// Asks the process that works under `key` to come to the front; false when there is none, or it
-  /// does not answer within 3 s.
+  /// does not answer within `kPatience`.
   static bool BringToFront(const std::string& key);
 
  private:
-  const QString path_;  // of the socket; "" where there is no place for it
-  QLocalServer server_;
+  class Call;
+  class Listener;
+
+  const std::string path_;  // of the socket; "" where there is no place for it
+  const std::chrono::milliseconds patience_;
+  std::unique_ptr<Listener> listener_;  // of the first process
+  std::unique_ptr<Call> call_;          // to the one that is
 };
+
+/// Claims; where another process is silent, asks the user whether it is to be ended, and ends it.
+///
+/// `question`  says that the other does not answer, and what its end means
+/// `say`       a notice in the user's language
+SingleInstance::Claimed ClaimOrAsk(SingleInstance& instance, MessageBox& messages,
+                                   const Notice& question,
+                                   const std::function<std::string(const Notice&)>& say);
 
 }  // namespace vmod17
