@@ -47,6 +47,10 @@ FileIdentity IdentityOf(const QString& path) {
 }
 
 QString PrepareStoreFile(const QString& path, Privacy privacy) {
+  // What stands for the bytes that are not UTF-8 would name another folder.
+  if (path.contains(QChar::ReplacementCharacter)) {
+    return QStringLiteral("the name of the folder is not in UTF-8");
+  }
   const QString folder = QFileInfo(path).absolutePath();
   if (!MakeFolder(folder)) return QStringLiteral("the folder cannot be made");
   QFile file(path);

@@ -45,6 +45,14 @@ TEST(Seat, CanBeReadByItsOwnerAlone) {
             0);
 }
 
+TEST(Seat, MakesNoOtherFolderOfOneWhoseNameIsNotUtf8) {
+  const ScratchFolder folder;
+  const QString name = QString::fromUtf8("Sch\xfcler");
+  const Seat seat = SeatIn(folder / name, kMachine);
+  EXPECT_EQ(seat.name, seat.former);
+  EXPECT_TRUE(folder.Names().isEmpty());
+}
+
 TEST(Seat, IsMachineAndUserWhereNothingCanBeWritten) {
   const ScratchFolder folder;
   QFile file(folder / "file");
