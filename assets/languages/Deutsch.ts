@@ -785,6 +785,10 @@
         <source></source>
         <translation>Es ist kein Drucker eingerichtet, und die Seite konnte auch nicht als Datei im Ordner %1 gespeichert werden (%2). Prüfen Sie, ob Sie darin schreiben dürfen und ob die Festplatte nicht voll ist.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>Es ist kein Klang mehr da. Die Uhr steht, und gewertet wird nichts. Sobald wieder Klang da ist, geht es von selbst weiter, und eine offene Aufgabe erklingt noch einmal. Prüfen Sie Lautsprecher, Kopfhörer oder MIDI-Gerät.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Inhalt</translation>

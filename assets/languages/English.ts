@@ -785,6 +785,10 @@
         <source></source>
         <translation>There is no printer, and the page could not be saved as a file in the folder %1 either (%2). Check that you may write there and that the disk is not full.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>There is no sound any more. The clock stands, and nothing is counted. As soon as there is sound again, the exercise goes on by itself and plays an open task once more. Check the loudspeakers, the headphones or the MIDI device.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Contents</translation>

@@ -785,6 +785,10 @@
         <source></source>
         <translation>No hay ninguna impresora configurada y tampoco se ha podido guardar la página como archivo en la carpeta %1 (%2). Compruebe que tiene permiso para escribir en ella y que el disco no está lleno.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>Ya no hay sonido. El reloj está parado y no se cuenta nada. En cuanto vuelva el sonido, el ejercicio continúa por sí solo y la tarea abierta suena otra vez. Compruebe los altavoces, los auriculares o el dispositivo MIDI.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Contenido</translation>

@@ -785,6 +785,10 @@
         <source></source>
         <translation>Aucune imprimante n’est installée, et la page n’a pas pu non plus être enregistrée dans le dossier %1 (%2). Vérifiez que vous avez le droit d’y écrire et que le disque n’est pas plein.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>Il n’y a plus de son. L’horloge est arrêtée et rien n’est compté. Dès que le son revient, l’exercice reprend de lui-même et rejoue la tâche en cours. Vérifiez les haut-parleurs, le casque ou le périphérique MIDI.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Sommaire</translation>

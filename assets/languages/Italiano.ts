@@ -785,6 +785,10 @@
         <source></source>
         <translation>Non c’è alcuna stampante configurata e non si è potuto nemmeno salvare la pagina come file nella cartella %1 (%2). Verifica che tu possa scriverci e che il disco non sia pieno.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>Non c’è più suono. L’orologio è fermo e non si conteggia nulla. Appena il suono ritorna, l’esercizio riprende da solo e il compito aperto viene suonato ancora una volta. Controlla gli altoparlanti, le cuffie o il dispositivo MIDI.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Indice</translation>

@@ -785,6 +785,10 @@
         <source></source>
         <translation>Er is geen printer ingesteld en de pagina kon ook niet als bestand worden opgeslagen in de map %1 (%2). Controleer of je erin mag schrijven en of de schijf niet vol is.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>Er is geen geluid meer. De klok staat stil en er telt niets mee. Zodra er weer geluid is, gaat de oefening vanzelf verder en klinkt een open opgave nog een keer. Controleer de luidsprekers, de koptelefoon of het MIDI-apparaat.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Inhoud</translation>

@@ -785,6 +785,10 @@
         <source></source>
         <translation>Nie skonfigurowano żadnej drukarki, a strony nie udało się też zapisać jako pliku w folderze %1 (%2). Sprawdź, czy masz prawo w nim zapisywać i czy dysk nie jest pełny.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>Nie ma już dźwięku. Zegar stoi i nic się nie liczy. Gdy dźwięk powróci, ćwiczenie samo pójdzie dalej, a otwarte zadanie zabrzmi jeszcze raz. Sprawdź głośniki, słuchawki lub urządzenie MIDI.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Spis treści</translation>

@@ -785,6 +785,10 @@
         <source></source>
         <translation>Não há nenhuma impressora configurada e também não foi possível gravar a página como ficheiro na pasta %1 (%2). Verifique se tem permissão para escrever nela e se o disco não está cheio.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>Já não há som. O relógio está parado e nada é contado. Assim que o som voltar, o exercício continua sozinho e a tarefa aberta é tocada outra vez. Verifique os altifalantes, os auscultadores ou o dispositivo MIDI.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Conteúdo</translation>

@@ -785,6 +785,10 @@
         <source></source>
         <translation>Není nastavena žádná tiskárna a stránku se nepodařilo uložit ani jako soubor do složky %1 (%2). Zkontrolujte, zda do ní smíte zapisovat a zda disk není plný.</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>Zvuk se ztratil. Hodiny stojí a nic se nezapočítává. Jakmile se zvuk vrátí, cvičení bude samo pokračovat a otevřená úloha zazní ještě jednou. Zkontrolujte reproduktory, sluchátka nebo zařízení MIDI.</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>Obsah</translation>

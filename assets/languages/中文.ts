@@ -785,6 +785,10 @@
         <source></source>
         <translation>未设置打印机，页面也无法作为文件保存到文件夹 %1（%2）。请检查您是否有写入权限，以及磁盘是否已满。</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>声音中断了。计时已停止，期间不计成绩。声音恢复后，练习会自动继续，未完成的题目会再播放一次。请检查扬声器、耳机或 MIDI 设备。</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>目录</translation>

@@ -785,6 +785,10 @@
         <source></source>
         <translation>プリンターが設定されておらず、ページをフォルダー %1 にファイルとして保存することもできませんでした（%2）。書き込みが許可されているか、ディスクがいっぱいでないかを確認してください。</translation>
     </message>
+    <message id="9306s">
+        <source></source>
+        <translation>音が出なくなりました。時計は止まっており、何も数えられません。音が戻ると練習は自動的に続き、途中の課題がもう一度鳴ります。スピーカー、ヘッドホン、または MIDI 機器を確認してください。</translation>
+    </message>
     <message id="9391s">
         <source></source>
         <translation>目次</translation>

@@ -24,6 +24,7 @@ enum class MidiMember {
   OffenStand = 21,    ///< read: 1 or more while the device is open
   Marke = 22,         ///< write: a number that travels with a queued message
   QueueStand = 23,    ///< read: a `MidiQueueStand`
+  KlangStand = 24,    ///< read: a `MidiKlangStand`
 };
 
 /// How the queue that was started last fares.
@@ -32,6 +33,13 @@ enum class MidiQueueStand {
   kWartet = 1,  ///< for the device, which is not ready yet; nothing has left and no time is lost
   kLaeuft = 2,  ///< its first messages have left
   kStumm = 3,   ///< it keeps time, but its device cannot be heard
+};
+
+/// Whether what is played can be heard, as far as the system tells.
+enum class MidiKlangStand {
+  kUnbekannt = 0,  ///< nothing was opened yet, or it is being found out
+  kDa = 1,
+  kWeg = 2,  ///< the device is gone, has died or was not to be had; kOeffnen tries again
 };
 
 /// What a write to `MidiMember::Befehl` does.
@@ -65,6 +73,9 @@ class MidiOutput {
   /// Raised on the program's thread after the last message of a queue has left; never for a queue
   /// that was dropped.
   std::function<void()> QueueEmpty;
+  /// Raised on the program's thread when KlangStand has changed. A device that is open is watched
+  /// whether or not it plays. A loss is told to whoever listens here, else by a notice.
+  std::function<void()> KlangWechsel;
 };
 
 }  // namespace vmod17

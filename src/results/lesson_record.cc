@@ -75,6 +75,17 @@ void LessonRecord::LessonAufgabe(int count, std::span<const int> aufg_akk_ar,
   }
 }
 
+void LessonRecord::LessonOhneKlang() {
+  try {
+    const int lessons = RootChild("lessons")->Children()->ByName("lesson")->Count();
+    const auto mark =
+        Append(*RootChild("properties"), "sound_lost", StampForRecord(shell_.loop.Now()));
+    mark->Attributes()->Add(DecimalText(lessons), "lesson");
+  } catch (const std::exception&) {
+    // See `LessonAufgabe`.
+  }
+}
+
 std::unique_ptr<XmlElement> LessonRecord::LessonAntwort(int lfd) {
   NeedLesson();
   auto answer = Append(*Child(*xml_lesson, "answers"), "answer");

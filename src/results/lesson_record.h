@@ -31,6 +31,9 @@ class LessonRecord {
   /// Enters a task: its chords, slots 1 to `count` with their board entries, and its first answer.
   /// An error ends it silently; the run goes on.
   void LessonAufgabe(int count, std::span<const int> aufg_akk_ar, const ChordBoard& akk_tab);
+  /// Marks, each time, that the sound was lost: with the present time, and the number of the lesson
+  /// that was begun last, 0 before the first. An error ends it silently; the run goes on.
+  void LessonOhneKlang();
   /// Appends an answer to the present lesson; the caller adds the attribute that tells the slot.
   std::unique_ptr<XmlElement> LessonAntwort(int lfd);
   /// Enters answer time (tenths of a second) and repeats in the last answer, and gives it.

@@ -186,12 +186,14 @@ void Einstellung1::Verdrahte() {
 void Einstellung1::Form_Load() {
   visible = false;
   parts_.output.QueueEmpty = [this] { MIDI_QueueEmpty(); };
+  parts_.output.KlangWechsel = [this] { MIDI_KlangWechsel(); };
   start.Enable();
 }
 
 void Einstellung1::Form_Unload() {
   delay_abbruch = true;
   parts_.output.QueueEmpty = nullptr;
+  parts_.output.KlangWechsel = nullptr;
   parts_.output.Set(MidiMember::Befehl, static_cast<int>(MidiBefehl::kSchliessen));
 }
 

@@ -100,6 +100,7 @@ class Einstellung1 : public Form {
   void cmb_arpTmp_Click();
   void oktav_cmb_Click();
   void MIDI_QueueEmpty();
+  void MIDI_KlangWechsel();
 
   // settings_selection.cc
   void klanglst_Click(int index);

@@ -77,11 +77,11 @@ void Einstellung1::SpieleProbe() {
   Delay(kRuheVorDemStart);
   if (!ProbeGilt()) return;
   parts_.midi.MidiStart();
-  const Beginn beginn =
+  const Spielstand beginn =
       parts_.midi.WarteAufBeginn([this] { return !ProbeGilt(); }, [this] { ZeigeWarten(); });
   if (!ProbeGilt()) return;
   BeendeWarten();
-  if (beginn == Beginn::kStumm) {
+  if (beginn == Spielstand::kStumm) {
     BeendeProbe();
     shell_.messages.Warn(shell_.texts.Words(kKlangFehlt), caption);
     return;
@@ -137,6 +137,16 @@ void Einstellung1::BeendeProbe() {
   cmdOK.enabled = auswahl_vollstaendig_;
   klang_contr.enabled = probe_erlaubt_;
   ZeigeAusblick();
+}
+
+/// The screen holds the output. What it tells is for the one that plays.
+void Einstellung1::MIDI_KlangWechsel() {
+  if (parts_.midi.KlangWechsel) parts_.midi.KlangWechsel();
+  // A sample that has yet to begin learns it from its queue.
+  if (!klangprobe.enabled || parts_.midi.KlangStand() != MidiKlangStand::kWeg) return;
+  parts_.midi.MidiReset();
+  BeendeProbe();
+  shell_.messages.Warn(shell_.texts.Words(kKlangFehlt), caption);
 }
 
 void Einstellung1::MIDI_QueueEmpty() {

@@ -29,11 +29,11 @@ ChordPlayback::ChordPlayback(EventLoop& loop, ModMIDI& midi, const AppState& sta
       board_(board),
       queue_(midi, state, settings, kAkzent) {}
 
-Beginn ChordPlayback::SpieleAufgabe(PlaybackTask& task, const bool& abbruch,
-                                    const std::function<void()>& dauert) {
+Spielstand ChordPlayback::SpieleAufgabe(PlaybackTask& task, const bool& abbruch,
+                                        const std::function<void()>& dauert) {
   midi_.MidiReset();
   Delay(loop_, kRuheVorDemEinreihen, abbruch);
-  if (abbruch) return Beginn::kAbgebrochen;
+  if (abbruch) return Spielstand::kAbgebrochen;
   if (settings_.frequenz_art == 1) {
     for (int kanal = 0; kanal < ModMIDI::kKanaele; ++kanal) {
       midi_.MidiTonhoehe(task.ton_stimmung + ModMIDI::kTonhoeheMitte, kanal);
@@ -46,7 +46,7 @@ Beginn ChordPlayback::SpieleAufgabe(PlaybackTask& task, const bool& abbruch,
                     task.kanal);
   }
   Delay(loop_, kRuheVorDemStart, abbruch);
-  if (abbruch) return Beginn::kAbgebrochen;
+  if (abbruch) return Spielstand::kAbgebrochen;
   midi_.MidiStart();
   return midi_.WarteAufBeginn([&] { return abbruch; }, dauert);
 }

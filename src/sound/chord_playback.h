@@ -39,8 +39,8 @@ class ChordPlayback {
   /// Queues and starts the task, and returns when it has begun to sound; returns early, with
   /// nothing started, when `abbruch` is set meanwhile. `dauert` is called when the output keeps it
   /// waiting.
-  Beginn SpieleAufgabe(PlaybackTask& task, const bool& abbruch,
-                       const std::function<void()>& dauert);
+  Spielstand SpieleAufgabe(PlaybackTask& task, const bool& abbruch,
+                           const std::function<void()>& dauert);
 
   /// Draws the detuning of a task.
   static void TonhoeheWuerfeln(PlaybackTask& task, Random& random);

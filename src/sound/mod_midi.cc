@@ -83,21 +83,33 @@ void ModMIDI::MidiStart() {
   SetzeLautstaerken(midiVolumeLeft, midiVolumeRight);
 }
 
-Beginn ModMIDI::WarteAufBeginn(const std::function<bool()>& verlassen,
-                               const std::function<void()>& dauert) {
+Spielstand ModMIDI::WarteAufBeginn(const std::function<bool()>& verlassen,
+                                   const std::function<void()>& dauert) {
+  return WarteSolange(MidiQueueStand::kWartet, verlassen, dauert);
+}
+
+Spielstand ModMIDI::WarteAufEnde(const std::function<bool()>& verlassen) {
+  return WarteSolange(MidiQueueStand::kLaeuft, verlassen, [] {});
+}
+
+Spielstand ModMIDI::WarteSolange(MidiQueueStand stand, const std::function<bool()>& verlassen,
+                                 const std::function<void()>& dauert) {
   const float start = loop_.Clock();
   bool gezeigt = false;
-  while (!verlassen() && QueueStand() == MidiQueueStand::kWartet) {
+  while (!verlassen() && QueueStand() == stand) {
     const float gewartet = ClockDifference(start, loop_.Clock()) * 1000;
     if (gewartet >= kGeduld) break;
     if (gewartet >= kUnbemerkt && !std::exchange(gezeigt, true)) dauert();
     loop_.WaitForEvent((gezeigt ? kGeduld : kUnbemerkt) - gewartet);
   }
-  if (verlassen()) return Beginn::kAbgebrochen;
-  const MidiQueueStand stand = QueueStand();
-  if (stand == MidiQueueStand::kLaeuft || stand == MidiQueueStand::kRuht) return Beginn::kKlingt;
+  if (verlassen()) return Spielstand::kAbgebrochen;
+  if (QueueStand() != stand && QueueStand() != MidiQueueStand::kStumm) return Spielstand::kKlingt;
   MidiReset();
-  return Beginn::kStumm;
+  return Spielstand::kStumm;
+}
+
+MidiKlangStand ModMIDI::KlangStand() {
+  return static_cast<MidiKlangStand>(static_cast<int>(Port().Get(MidiMember::KlangStand)));
 }
 
 void ModMIDI::MidiAusblenden() {

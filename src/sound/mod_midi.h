@@ -20,9 +20,9 @@ struct MidiGeraet {
   std::string name;
 };
 
-/// How a queue that was started began.
-enum class Beginn {
-  kKlingt,       ///< it sounds
+/// How a queue that was started fares.
+enum class Spielstand {
+  kKlingt,       ///< it sounds, or has sounded to its end
   kStumm,        ///< its output cannot be heard; the queue was dropped
   kAbgebrochen,  ///< the screen was left before
 };
@@ -59,8 +59,12 @@ class ModMIDI {
   /// waited for its output so long that this is as good as the same. Not at all where the output
   /// was ready. `verlassen` tells that nobody waits any more; `dauert` is called once, when it
   /// takes so long that the user should see why.
-  Beginn WarteAufBeginn(const std::function<bool()>& verlassen,
-                        const std::function<void()>& dauert);
+  Spielstand WarteAufBeginn(const std::function<bool()>& verlassen,
+                            const std::function<void()>& dauert);
+  /// The same until the queue that has begun is at its end, where it is late.
+  Spielstand WarteAufEnde(const std::function<bool()>& verlassen);
+  /// Whether what is played can be heard.
+  MidiKlangStand KlangStand();
   /// Stops the queue and lets the volume fall, serving events meanwhile.
   void MidiAusblenden();
 
@@ -70,11 +74,17 @@ class ModMIDI {
   int midiVolumeLeft = 0;
   int midiVolumeRight = 0;
 
+  /// Raised when `KlangStand` has changed, for the screen that plays.
+  std::function<void()> KlangWechsel;
+
  private:
   /// The output in use. Errors: kInvalidCall before `MidiOeffnen`.
   MidiOutput& Port();
   void Befehl(MidiBefehl befehl);
   MidiQueueStand QueueStand();
+  /// Serves events while the queue is at `stand`.
+  Spielstand WarteSolange(MidiQueueStand stand, const std::function<bool()>& verlassen,
+                          const std::function<void()>& dauert);
   void SetzeLautstaerken(int links, int rechts);
   void Sende(int status, int daten1, int daten2);
 

@@ -16,4 +16,12 @@ inline const Notice kKlangFehlt{
     "headphones or the MIDI device, then try again. Nothing has been counted.",
     {}};
 
+/// Stands where the sound was lost in the middle of a run.
+inline const Notice kKlangVerloren{
+    9306,
+    "There is no sound any more. The clock stands, and nothing is counted. As soon as there is "
+    "sound again, the exercise goes on by itself and plays an open task once more. Check the "
+    "loudspeakers, the headphones or the MIDI device.",
+    {}};
+
 }  // namespace vmod17

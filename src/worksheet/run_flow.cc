@@ -28,6 +28,7 @@ void Arbeitsblatt1::Bewache(const std::string& tag, const std::function<void()>&
       Uhrzeit.Disable();
       spieltimer.Disable();
       WahlAutomat.Disable();
+      klangsuche.Disable();
       listening = false;
       throw;
     }
@@ -135,8 +136,10 @@ void Arbeitsblatt1::SpieleUngehoerte() {
   });
 }
 
-/// By the button in every sequence: what the student has to mend takes its time.
+/// By the button in every sequence: what the student has to mend takes its time. Where it is known
+/// that the sound is gone, its return is waited for.
 void Arbeitsblatt1::BieteUngehoerteAn() {
+  if (KlangIstWeg()) return VerliereKlang(KlangVerlust::kSpiel);
   run_.ungehoert = true;
   CmdNextAufg.visible = true;
   CmdNextAufg.enabled = true;
@@ -172,23 +175,31 @@ void Arbeitsblatt1::LegeLoesungBereit(int slot) {
 
 bool Arbeitsblatt1::Spiele(SpielArt art) {
   run_.spiel_art = art;
-  listening = true;
   const float seit = shell_.loop.Clock();
-  const Beginn beginn = playback_.SpieleAufgabe(run_.task, run_.abbruch, [&] {
+  const Spielstand beginn = BeginneSpiel([&] {
     HalteTestzeitAn(seit);
     ZeigeWarten();
   });
-  if (beginn == Beginn::kAbgebrochen) return true;
-  BeendeWarten();
-  listening = beginn == Beginn::kKlingt;
-  if (beginn == Beginn::kStumm) {
+  if (beginn == Spielstand::kStumm) {
+    BeendeWarten();
     HalteTestzeitAn(seit);
-    MeldeStumm();
+    if (!KlangIstWeg()) MeldeStumm();
     return run_.abbruch;
   }
-  SetzeTestzeitFort();
-  spieltimer.Enable();
+  if (beginn == Spielstand::kKlingt) SetzeTestzeitFort();
   return true;
+}
+
+Spielstand Arbeitsblatt1::BeginneSpiel(const std::function<void()>& dauert) {
+  listening = true;
+  const Spielstand beginn = playback_.SpieleAufgabe(run_.task, run_.abbruch, dauert);
+  if (beginn == Spielstand::kAbgebrochen) return beginn;
+  listening = beginn == Spielstand::kKlingt;
+  if (!listening) return beginn;
+  BeendeWarten();
+  run_.spiel_start = shell_.loop.Clock();
+  spieltimer.Enable();
+  return beginn;
 }
 
 /// The output is not ready yet: the student learns what the task waits for, and can leave.
@@ -211,19 +222,34 @@ void Arbeitsblatt1::MeldeStumm() { shell_.messages.Warn(shell_.texts.Words(kKlan
 void Arbeitsblatt1::spieltimer_Timer() {
   Bewache("spieltimer_timer.", [this] {
     spieltimer.Disable();
-    if (!run_.abbruch) BeendeSpiel();
+    if (run_.abbruch) return;
+    // What has not sounded to its end by now is late, or was cut off.
+    switch (parts_.midi.WarteAufEnde([this] { return run_.abbruch; })) {
+      case Spielstand::kKlingt:
+        return BeendeSpiel();
+      case Spielstand::kStumm:
+        return VerliereKlang(KlangVerlust::kSpiel);
+      case Spielstand::kAbgebrochen:
+        return;
+    }
   });
 }
 
 void Arbeitsblatt1::BeendeSpiel() {
   listening = false;
-  if (run_.spiel_art != SpielArt::kKontrolle) {
-    AntwortenFreigeben();
-    wieder.enabled = true;
-    SageAntwortbereit();
-    run_.clock.antw_start = shell_.loop.Clock();
-    return;
+  const bool kontrolle = run_.spiel_art == SpielArt::kKontrolle;
+  if (!kontrolle) run_.clock.antw_start = shell_.loop.Clock();
+  if (KlangIstWeg()) {
+    return VerliereKlang(kontrolle ? KlangVerlust::kAngebot : KlangVerlust::kAntwort);
   }
+  SetzeTestzeitFort();
+  if (kontrolle) return BieteWiederAn();
+  AntwortenFreigeben();
+  wieder.enabled = true;
+  SageAntwortbereit();
+}
+
+void Arbeitsblatt1::BieteWiederAn() {
   wieder2.enabled = true;
   if (run_.lauf_status != LaufStatus::kTrainingZuEnde &&
       run_.lauf_status != LaufStatus::kTestZuEnde) {
@@ -256,7 +282,6 @@ void Arbeitsblatt1::wieder_Click() {
   ZeigeZaehler();
   --run_.answers.whlg_ar.at(run_.akk_nr);
   --run_.clock.anz_whlg;
-  SetzeTestzeitFort();
   BeendeSpiel();
 }
 
@@ -270,7 +295,6 @@ void Arbeitsblatt1::wieder2_Click() {
   Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
   if (run_.abbruch) return;
   if (Spiele(SpielArt::kKontrolle)) return;
-  SetzeTestzeitFort();
   BeendeSpiel();
 }
 
@@ -311,6 +335,8 @@ void Arbeitsblatt1::HalteAn() {
   Uhrzeit.Disable();
   spieltimer.Disable();
   WahlAutomat.Disable();
+  klangsuche.Disable();
+  run_.ohne_klang.reset();
   listening = false;
   parts_.midi.MidiReset();
   if (ende_gefragt_) shell_.messages.Withdraw();

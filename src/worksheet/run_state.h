@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include "settings/test_length.h"
 #include "sound/chord_playback.h"
@@ -23,6 +24,13 @@ enum class LaufStatus {
 
 /// What a playing is.
 enum class SpielArt { kAufgabe = 0, kWiederholung = 1, kKontrolle = 2 };
+
+/// What went on when the sound was lost.
+enum class KlangVerlust {
+  kSpiel,    ///< a playing
+  kAntwort,  ///< the student answered
+  kAngebot,  ///< neither: the next task was offered
+};
 
 /// The answers of the present task, by slot from 1.
 struct TaskAnswers {
@@ -76,9 +84,11 @@ struct RunState {
   int akk_nr = 0;  ///< the open slot; one more than `akk_anzahl` when the task is finished
   LaufStatus lauf_status = LaufStatus::kNochKeine;
   SpielArt spiel_art = SpielArt::kAufgabe;
-  bool ungehoert = false;    ///< the task could not be played, and waits to be asked for again
-  bool abbruch = false;      ///< the worksheet is being left
-  int schalter_zaehler = 0;  ///< 1 from the first finished task on
+  bool ungehoert = false;  ///< the task could not be played, and waits to be asked for again
+  float spiel_start = 0;   ///< seconds since midnight at which the last playing began to sound
+  std::optional<KlangVerlust> ohne_klang;  ///< the run stands since the sound was lost
+  bool abbruch = false;                    ///< the worksheet is being left
+  int schalter_zaehler = 0;                ///< 1 from the first finished task on
 };
 
 }  // namespace vmod17

@@ -16,6 +16,7 @@ constexpr int kStartIntervall = 200;
 constexpr int kSpielIntervall = 3000;  // until a run sets its own
 constexpr int kUhrIntervall = 10000;
 constexpr int kTestIntervall = 2000;
+constexpr int kSuchIntervall = 2000;
 
 constexpr int kKachelnJeZeile = 6;
 constexpr int kSymbolHoehe = 40;
@@ -55,6 +56,7 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
       Uhrzeit(*this, shell.loop, "Uhrzeit", kUhrIntervall),
       testtimer(*this, shell.loop, "testtimer", kTestIntervall),
       tonart_Timer(*this, shell.loop, "tonart_Timer", 0),
+      klangsuche(*this, shell.loop, "klangsuche", kSuchIntervall),
       shell_(shell),
       parts_(parts),
       selection_(parts.settings, parts.board, parts.random),
@@ -115,6 +117,7 @@ void Arbeitsblatt1::Verdrahte() {
   WahlAutomat.Fire = [this] { WahlAutomat_Timer(); };
   Uhrzeit.Fire = [this] { Uhrzeit_Timer(); };
   testtimer.Fire = [this] { testtimer_Timer(); };
+  klangsuche.Fire = [this] { klangsuche_Timer(); };
   for (int e = 1; e <= kBrettGroesse; ++e) jz_kl[e].Click = [this, e] { akk_antw(e); };
   for (int g = 1; g <= kGruppen; ++g) akk_group[g].Click = [this, g] { akk_antw(g); };
   CmdNextAufg.Click = [this] { CmdNextAufg_Click(); };
@@ -133,6 +136,7 @@ void Arbeitsblatt1::Form_Load() {
 
 void Arbeitsblatt1::Form_Unload() {
   run_.abbruch = true;
+  parts_.midi.KlangWechsel = nullptr;
   parts_.midi.MidiReset();
   const int letzter = parts_.settings.klangfarb_art == 0 ? 0 : ModMIDI::kKanaele - 1;
   for (int kanal = 0; kanal <= letzter; ++kanal) {
@@ -166,6 +170,7 @@ void Arbeitsblatt1::BaueAuf() {
   const ExerciseSettings& settings = parts_.settings;
   midi_ereignis = std::make_unique<MidiEvent>();
   midi_ereignis->QueueEmpty = [this] { midi_QueueEmpty(); };
+  parts_.midi.KlangWechsel = [this] { KlangWechsel(); };
   run_ = RunState();
   caption = shell_.texts.ueb_typ_name_ar.at(shell_.state.uebTyp);
   TexteSetzen();

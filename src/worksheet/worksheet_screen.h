@@ -6,6 +6,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "catalogue/chord_board.h"
@@ -26,8 +27,8 @@ namespace vmod17 {
 
 /// `arbeitsblatt1`, the worksheet: the screen of a run, and the run itself. Its routines stand in
 /// several files: worksheet_screen.cc builds it, run_flow.cc leads from task to task and out,
-/// answers.cc judges the clicks, spoken.cc tells of them to whom does not see, training.cc and
-/// test_run.cc hold what is theirs alone.
+/// lost_sound.cc stops it while nothing can be heard, answers.cc judges the clicks, spoken.cc tells
+/// of them to whom does not see, training.cc and test_run.cc hold what is theirs alone.
 class Arbeitsblatt1 : public Form {
  public:
   /// What the screen works on.
@@ -82,6 +83,7 @@ class Arbeitsblatt1 : public Form {
   Timer Uhrzeit;
   Timer testtimer;
   Timer tonart_Timer;
+  Timer klangsuche;  ///< looks for the sound that was lost
 
   const RunState& run() const { return run_; }
   /// True between two tasks: none is being played or answered.
@@ -96,6 +98,7 @@ class Arbeitsblatt1 : public Form {
   void WahlAutomat_Timer();
   void Uhrzeit_Timer();
   void testtimer_Timer();
+  void klangsuche_Timer();
   void CmdNextAufg_Click();
   void wieder_Click();
   void wieder2_Click();
@@ -134,8 +137,11 @@ class Arbeitsblatt1 : public Form {
   // run_flow.cc
   void BereiteAufgabeVor();
   void LegeLoesungBereit(int slot);
-  /// Plays the task. False when it cannot be heard, which the student has been told then.
+  /// Plays the task. False when it cannot be heard. The student has been told then, unless
+  /// `KlangIstWeg`.
   bool Spiele(SpielArt art);
+  /// Starts the playing of `spiel_art`. `dauert` is called when the output keeps it waiting.
+  Spielstand BeginneSpiel(const std::function<void()>& dauert);
   void BeendeSpiel();
   void ZeigeWarten();
   void BeendeWarten();
@@ -145,6 +151,8 @@ class Arbeitsblatt1 : public Form {
   void BieteErsteAufgabeAn();
   void NaechsteAufgabeAnbieten();
   void BieteWeiterAn();
+  /// After a control repeat: it can be asked for again, and the next task too.
+  void BieteWiederAn();
   void NimmAngebotZurueck();
   void HalteAn();
   void OeffneErgebnisse(RunEnd end);
@@ -158,6 +166,18 @@ class Arbeitsblatt1 : public Form {
   void BieteKontrolleAn();
   /// Runs a routine of weight; an error in it ends the run.
   void Bewache(const std::string& tag, const std::function<void()>& body);
+
+  // lost_sound.cc
+  /// The output has fallen silent, or can be heard again.
+  void KlangWechsel();
+  bool KlangIstWeg() const { return parts_.midi.KlangStand() == MidiKlangStand::kWeg; }
+  /// What a loss would cut off now; none where that is dealt with otherwise, or nothing goes on.
+  std::optional<KlangVerlust> WasLaeuft() const;
+  /// Stops the clock and closes the answers until there is sound again.
+  void VerliereKlang(KlangVerlust bei);
+  void SucheKlang(KlangVerlust bei);
+  void NimmWiederAuf();
+  void SpieleNach(KlangVerlust bei);
 
   // answers.cc
   void AntwortenFreigeben();

@@ -318,6 +318,24 @@ TEST_F(LessonRecordTest, PassesSilentlyOverAnErrorInATask) {
   EXPECT_TRUE(host.errors.empty());
 }
 
+TEST_F(LessonRecordTest, MarksEachLossOfTheSoundWithItsTimeAndTheTaskBeforeIt) {
+  record.LessonNeu();
+  record.LessonOhneKlang();
+  Task(1, {0, 2, 0, 0, 0});
+  loop.date = {2026, 11, 21, 14, 5, 7};
+  record.LessonOhneKlang();
+  EXPECT_EQ(root().Find("properties")->Outline(),
+            "properties\n"
+            "  programm: VMOD17\n"
+            "  ukey: 4711\n"
+            "  sound_lost lesson=\"0\": 21.11.2026 14:03:22\n"
+            "  sound_lost lesson=\"1\": 21.11.2026 14:05:07\n");
+}
+
+TEST_F(LessonRecordTest, LeavesTheRunAloneWhenALossCannotBeMarked) {
+  EXPECT_NO_THROW(record.LessonOhneKlang());
+}
+
 TEST_F(LessonRecordTest, LeavesTheFirstRecordAsItIsWhenASecondBegins) {
   record.LessonNeu();
   Task(1, {0, 1, 0, 0, 0});

@@ -384,6 +384,33 @@ TEST_F(SoundCheck, SaysThatItCannotBeHeardAndMayBeAskedForAgain) {
   EXPECT_TRUE(output.IsRunning());
 }
 
+TEST_F(SoundCheck, ThatLosesItsSoundSaysSoEachTimeAndMayBeAskedForAgain) {
+  for (std::size_t death = 1; death <= 2; ++death) {
+    ASSERT_TRUE(screen().klang_contr.Press());
+    loop.Advance(500);
+    EXPECT_THAT(messages.warnings, SizeIs(death - 1));
+    output.LoseSound();
+    loop.Advance(1);
+    ASSERT_THAT(messages.warnings, SizeIs(death));
+    EXPECT_EQ(messages.warnings.back().text, "[9532s]");
+    EXPECT_FALSE(output.IsRunning());
+    EXPECT_FALSE(screen().listening);
+    ExpectButtons(true);
+    output.ReturnSound();
+  }
+  EXPECT_TRUE(screen().klang_contr.Press());
+  EXPECT_TRUE(output.IsRunning());
+}
+
+TEST_F(SoundCheck, SaysNothingOfSoundThatIsLostWhileNothingPlays) {
+  output.LoseSound();
+  loop.Advance(60'000);
+  EXPECT_THAT(messages.warnings, IsEmpty());
+  output.ReturnSound();
+  EXPECT_TRUE(screen().klang_contr.Press());
+  EXPECT_TRUE(output.IsRunning());
+}
+
 TEST_F(SoundCheck, CanBeLeftWhileItWaitsForItsOutput) {
   output.SetDevice(RecordingMidiOutput::Device::kLoads);
   Einstellung1& s = screen();

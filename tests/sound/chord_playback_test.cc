@@ -118,7 +118,7 @@ class Playback : public ::testing::Test {
   ChordBoard board_{table_};
   PlaybackTask task_;
   bool abbruch_ = false;
-  Beginn beginn_ = Beginn::kKlingt;
+  Spielstand beginn_ = Spielstand::kKlingt;
   ChordPlayback playback_{loop_, midi_, state_, settings_, board_};
 };
 
@@ -397,13 +397,13 @@ TEST_F(Playback, Rests50MillisecondsBeforeTheQueueAnd100AfterIt) {
 TEST_F(Playback, SaysWhetherTheTaskSounds) {
   FourNotes();
   Play();
-  EXPECT_EQ(beginn_, Beginn::kKlingt);
+  EXPECT_EQ(beginn_, Spielstand::kKlingt);
   output_.SetDevice(RecordingMidiOutput::Device::kMute);
   Play();
-  EXPECT_EQ(beginn_, Beginn::kStumm);
+  EXPECT_EQ(beginn_, Spielstand::kStumm);
   abbruch_ = true;
   Play();
-  EXPECT_EQ(beginn_, Beginn::kAbgebrochen);
+  EXPECT_EQ(beginn_, Spielstand::kAbgebrochen);
 }
 
 TEST_F(Playback, StartsNothingWhenTheScreenIsLeftInTheFirstDelay) {

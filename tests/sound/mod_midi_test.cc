@@ -389,7 +389,7 @@ class Beginning : public ModMIDITest {
     midi_.MidiNote(60, 0, 100, 0, 0);
     midi_.MidiStart();
   }
-  Beginn Wait() {
+  Spielstand Wait() {
     return midi_.WarteAufBeginn([this] { return left_; }, [this] { shown_ = loop_.Elapsed(); });
   }
 
@@ -399,7 +399,7 @@ class Beginning : public ModMIDITest {
 
 TEST_F(Beginning, IsThereAtOnceWhereTheOutputIsReady) {
   Start(Device::kReady);
-  EXPECT_EQ(Wait(), Beginn::kKlingt);
+  EXPECT_EQ(Wait(), Spielstand::kKlingt);
   EXPECT_EQ(loop_.Elapsed(), 0);
   EXPECT_EQ(shown_, -1);
 }
@@ -407,7 +407,7 @@ TEST_F(Beginning, IsThereAtOnceWhereTheOutputIsReady) {
 TEST_F(Beginning, ComesInTheMomentInWhichTheOutputIsReady) {
   Start(Device::kLoads);
   loop_.StartTimer(2400, EventLoop::Repeat::kOnce, [&] { output_.SetDevice(Device::kReady); });
-  EXPECT_EQ(Wait(), Beginn::kKlingt);
+  EXPECT_EQ(Wait(), Spielstand::kKlingt);
   EXPECT_NEAR(loop_.Elapsed(), 2400, 0.1);
   EXPECT_NEAR(shown_, 300, 1);
   EXPECT_TRUE(output_.IsRunning());
@@ -416,13 +416,13 @@ TEST_F(Beginning, ComesInTheMomentInWhichTheOutputIsReady) {
 TEST_F(Beginning, IsNotShownAsLateBeforeItIs) {
   Start(Device::kLoads);
   loop_.StartTimer(290, EventLoop::Repeat::kOnce, [&] { output_.SetDevice(Device::kReady); });
-  EXPECT_EQ(Wait(), Beginn::kKlingt);
+  EXPECT_EQ(Wait(), Spielstand::kKlingt);
   EXPECT_EQ(shown_, -1);
 }
 
 TEST_F(Beginning, NeverComesWhereTheOutputCannotBeHeard) {
   Start(Device::kMute);
-  EXPECT_EQ(Wait(), Beginn::kStumm);
+  EXPECT_EQ(Wait(), Spielstand::kStumm);
   EXPECT_FALSE(output_.IsRunning()) << "what cannot be heard is dropped";
   EXPECT_TRUE(output_.IsOpen());
 }
@@ -430,13 +430,13 @@ TEST_F(Beginning, NeverComesWhereTheOutputCannotBeHeard) {
 TEST_F(Beginning, NeverComesWhereLoadingFails) {
   Start(Device::kLoads);
   loop_.StartTimer(5000, EventLoop::Repeat::kOnce, [&] { output_.SetDevice(Device::kMute); });
-  EXPECT_EQ(Wait(), Beginn::kStumm);
+  EXPECT_EQ(Wait(), Spielstand::kStumm);
   EXPECT_NEAR(loop_.Elapsed(), 5000, 0.1);
 }
 
 TEST_F(Beginning, IsGivenUpAfterTwentySecondsAndThenNothingSoundsAnyMore) {
   Start(Device::kLoads);
-  EXPECT_EQ(Wait(), Beginn::kStumm);
+  EXPECT_EQ(Wait(), Spielstand::kStumm);
   EXPECT_NEAR(loop_.Elapsed(), 20000, 5);
   output_.SetDevice(Device::kReady);
   EXPECT_FALSE(output_.IsRunning());
@@ -445,14 +445,51 @@ TEST_F(Beginning, IsGivenUpAfterTwentySecondsAndThenNothingSoundsAnyMore) {
 TEST_F(Beginning, IsNotWaitedForWhenTheScreenIsLeft) {
   Start(Device::kLoads);
   loop_.StartTimer(1000, EventLoop::Repeat::kOnce, [&] { left_ = true; });
-  EXPECT_EQ(Wait(), Beginn::kAbgebrochen);
+  EXPECT_EQ(Wait(), Spielstand::kAbgebrochen);
   EXPECT_NEAR(loop_.Elapsed(), 1000, 0.1);
 }
 
 TEST_F(Beginning, OfAQueueThatIsOverAlreadyWasHeard) {
   Start(Device::kReady);
   output_.FinishQueue();
-  EXPECT_EQ(Wait(), Beginn::kKlingt);
+  EXPECT_EQ(Wait(), Spielstand::kKlingt);
+}
+
+/// The end of a queue that has begun.
+class Ending : public Beginning {
+ protected:
+  Spielstand WaitForTheEnd() {
+    return midi_.WarteAufEnde([this] { return left_; });
+  }
+};
+
+TEST_F(Ending, IsNotWaitedForWhereTheQueueHasRunOut) {
+  Start(Device::kReady);
+  output_.FinishQueue();
+  EXPECT_EQ(WaitForTheEnd(), Spielstand::kKlingt);
+  EXPECT_EQ(loop_.Elapsed(), 0);
+}
+
+TEST_F(Ending, OfALateQueueIsWaitedFor) {
+  Start(Device::kReady);
+  loop_.StartTimer(400, EventLoop::Repeat::kOnce, [&] { output_.FinishQueue(); });
+  EXPECT_EQ(WaitForTheEnd(), Spielstand::kKlingt);
+  EXPECT_NEAR(loop_.Elapsed(), 400, 0.1);
+}
+
+TEST_F(Ending, OfAQueueThatLosesItsOutputIsSilence) {
+  Start(Device::kReady);
+  loop_.StartTimer(1500, EventLoop::Repeat::kOnce, [&] { output_.LoseSound(); });
+  EXPECT_EQ(WaitForTheEnd(), Spielstand::kStumm);
+  EXPECT_NEAR(loop_.Elapsed(), 1500, 0.1);
+  EXPECT_FALSE(output_.IsRunning());
+  EXPECT_EQ(midi_.KlangStand(), MidiKlangStand::kWeg);
+}
+
+TEST_F(Ending, IsNotWaitedForWhenTheScreenIsLeft) {
+  Start(Device::kReady);
+  loop_.StartTimer(100, EventLoop::Repeat::kOnce, [&] { left_ = true; });
+  EXPECT_EQ(WaitForTheEnd(), Spielstand::kAbgebrochen);
 }
 
 TEST(MidiEvent, RaisesQueueEmptyForWhoeverListens) {

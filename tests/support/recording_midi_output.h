@@ -60,6 +60,22 @@ class RecordingMidiOutput : public MidiOutput {
     if (stand_ == MidiQueueStand::kWartet) BeginQueue();
   }
 
+  /// The device falls silent for good: a sound card that dies, a port that is pulled out.
+  void LoseSound() {
+    there_ = false;
+    device_ = Device::kMute;
+    if (stand_ == MidiQueueStand::kWartet) BeginQueue();
+    if (stand_ == MidiQueueStand::kLaeuft) stand_ = MidiQueueStand::kStumm;
+    TakeSound(MidiKlangStand::kWeg);
+  }
+  /// The queue that runs comes no further, which nobody has noticed yet.
+  void Stall() {
+    if (timer_ > 0) loop_->StopTimer(timer_);
+    timer_ = 0;
+  }
+  /// Whoever opens it from now on can be heard again.
+  void ReturnSound() { there_ = true; }
+
   /// The devices, to be set by the test; empty for a machine without any.
   std::vector<std::string> geraete = {"Synthesizer"};
 
@@ -136,6 +152,7 @@ class RecordingMidiOutput : public MidiOutput {
       case MidiMember::GeraeteZahl:
       case MidiMember::OffenStand:
       case MidiMember::QueueStand:
+      case MidiMember::KlangStand:
         break;
     }
   }
@@ -156,6 +173,8 @@ class RecordingMidiOutput : public MidiOutput {
         return open_ ? 1 : 0;
       case MidiMember::QueueStand:
         return static_cast<int>(stand_);
+      case MidiMember::KlangStand:
+        return static_cast<int>(klang_);
       case MidiMember::Befehl:
       case MidiMember::GeraetName:
       case MidiMember::Status:
@@ -182,6 +201,7 @@ class RecordingMidiOutput : public MidiOutput {
       case MidiBefehl::kOeffnen:
         open_ = true;
         opened_device_ = geraet_nr_;
+        FindSound();
         break;
       case MidiBefehl::kSchliessen:
         DropRunning();
@@ -205,6 +225,21 @@ class RecordingMidiOutput : public MidiOutput {
         sent.push_back(next_);
         break;
     }
+  }
+
+  void FindSound() {
+    if (!there_) return;
+    if (klang_ == MidiKlangStand::kWeg) device_ = Device::kReady;
+    TakeSound(MidiKlangStand::kDa);
+  }
+
+  void TakeSound(MidiKlangStand klang) {
+    if (std::exchange(klang_, klang) == klang || !KlangWechsel) return;
+    if (!loop_) return KlangWechsel();
+    // As from another thread. Who is told may have gone by then.
+    loop_->Post([this] {
+      if (KlangWechsel) KlangWechsel();
+    });
   }
 
   void Start() {
@@ -249,6 +284,8 @@ class RecordingMidiOutput : public MidiOutput {
   double rechts_ = 65535;
   bool open_ = false;
   Device device_ = Device::kReady;
+  bool there_ = true;
+  MidiKlangStand klang_ = MidiKlangStand::kUnbekannt;
   MidiQueueStand stand_ = MidiQueueStand::kRuht;
   std::vector<MidiMessage> waiting_;
   int timer_ = 0;

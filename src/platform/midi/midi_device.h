@@ -29,7 +29,7 @@ class MidiDevice {
   virtual void Send(std::span<const MidiBytes> messages) = 0;
   /// Whether what is sent now can be heard.
   virtual bool IsAudible() const = 0;
-  /// Called twice a second or so while a queue runs.
+  /// Called twice a second or so while the device is open.
   virtual void CheckPresence() {}
 };
 

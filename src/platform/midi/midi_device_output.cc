@@ -97,6 +97,17 @@ MidiDeviceOutput::MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify 
       if (notify_) notify_(notice);
     });
   };
+  hooks.lost = [this](const Notice& notice) {
+    program_->Post([this, notice] {
+      if (!KlangWechsel && notify_) notify_(notice);
+    });
+  };
+  hooks.klang = [this](MidiKlangStand stand) {
+    program_->Post([this, stand] {
+      klang_stand_ = stand;
+      if (KlangWechsel) KlangWechsel();
+    });
+  };
   player_ = std::make_unique<Player>(SetupOf(options), *ports_, *volume_, std::move(hooks));
   if (audio_ == SynthAudio::kDriver) {
     thread_ = std::make_unique<SoundThread>([this] { return player_->RunDue(); });
@@ -169,6 +180,7 @@ void MidiDeviceOutput::Set(MidiMember member, double value) {
     case MidiMember::GeraeteZahl:
     case MidiMember::OffenStand:
     case MidiMember::QueueStand:
+    case MidiMember::KlangStand:
       break;  // to be read only
   }
 }
@@ -189,6 +201,8 @@ double MidiDeviceOutput::Get(MidiMember member) const {
       return open_ ? 1 : 0;
     case MidiMember::QueueStand:
       return static_cast<int>(queue_stand_);
+    case MidiMember::KlangStand:
+      return static_cast<int>(klang_stand_);
     case MidiMember::Befehl:
     case MidiMember::GeraetName:
     case MidiMember::Status:

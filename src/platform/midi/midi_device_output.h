@@ -100,6 +100,7 @@ class MidiDeviceOutput : public MidiOutput {
   mutable std::vector<std::string> names_;                          // as last listed
   mutable std::optional<std::pair<int, std::string>> number_told_;  // by `NumberOf`
 
+  MidiKlangStand klang_stand_ = MidiKlangStand::kUnbekannt;
   MidiQueueStand queue_stand_ = MidiQueueStand::kRuht;
   // Tells what the queue that runs says from what one said that was dropped while the word was
   // under way.

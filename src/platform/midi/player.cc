@@ -14,10 +14,15 @@ namespace {
 
 constexpr double kNever = std::numeric_limits<double>::infinity();
 constexpr double kVolumeStep = 20;      // between two volumes of a port
-constexpr double kPresenceCheck = 500;  // how often a port that plays is looked for
+constexpr double kPresenceCheck = 500;  // how often a port is looked for
 constexpr double kAudioCheck = 250;     // how often the audio thread is looked after
-// How long it may stand still: sound servers buffer up to 2 s, and a busy machine adds to that.
-constexpr double kAudioDead = 4000;
+// How long it may stand still. Drivers ask for some 20 ms at a time; the rest is for a busy
+// machine.
+constexpr double kAudioDead = 1500;
+// The same until it has flowed for a second: a sound server that was idle fills its buffer of 2 s
+// before it comes back for more, and a card that slept takes a while to wake.
+constexpr double kAudioBegins = 4000;
+constexpr std::uint64_t kFlowing = 48000 / kSynthBlock;  // blocks
 
 }  // namespace
 
@@ -35,7 +40,9 @@ void Player::Open(const DeviceChoice& choice, const Programs& programs) {
   Choose(choice);
   open_ = true;
   GivePortItsVolume();
+  looked_ = hooks_.now();
   device_->Open(programs);
+  TellKlang();
 }
 
 void Player::Choose(const DeviceChoice& choice) {
@@ -98,7 +105,7 @@ void Player::Start(std::shared_ptr<SequencerQueue> queue) {
 }
 
 void Player::RunInStep(std::shared_ptr<SequencerQueue> queue) {
-  start_ = checked_ = hooks_.now();
+  start_ = hooks_.now();
   if (!open_ || !device_->IsAudible()) queue->Mute();
   paced_ = std::move(queue);
 }
@@ -110,8 +117,8 @@ void Player::RunOnSynth(std::shared_ptr<SequencerQueue> queue) {
   }
   on_synth_ = std::move(queue);
   synth_.Run(on_synth_);
-  start_ = checked_ = hooks_.now();
-  blocks_ = synth_.blocks();
+  start_ = looked_ = hooks_.now();
+  still_ = 0;
 }
 
 void Player::Stop() {
@@ -122,23 +129,34 @@ void Player::Stop() {
 }
 
 void Player::OnSynthLoaded() {
+  looked_ = hooks_.now();
+  still_ = 0;
+  blocks_ = 0;
+  TellKlang();
   if (waiting_) RunOnSynth(std::exchange(waiting_, nullptr));
 }
 
 void Player::OnPortVanished() {
+  const bool was_heard = klang_ == MidiKlangStand::kDa;
+  TellKlang();
   if (paced_) paced_->Mute();
-  hooks_.notify(PortVanishedNotice(choice_.port));
+  (was_heard ? hooks_.lost : hooks_.notify)(PortVanishedNotice(choice_.port));
 }
 
 double Player::RunDue() {
   const double now = hooks_.now();
   double next = kNever;
-  if (paced_) next = Pace(now);
-  if (on_synth_) next = Watch(now);
+  if (on_synth_ && on_synth_->IsOver()) on_synth_.reset();
+  next = std::min(next, Watch(now));
+  if (paced_) next = std::min(next, Pace(now));
   if (now >= volume_due_) GivePortItsVolume();
   next = std::min(next, volume_due_ - now);
+  TellKlang();
   // Not while a queue runs: what is sent to the synthesiser waits until a timbre is loaded.
-  return !on_synth_ && synth_.LoadOneTimbre() ? 0 : next;
+  if (on_synth_ || !synth_.LoadOneTimbre()) return next;
+  // The audio thread waits for it too.
+  still_ = 0;
+  return 0;
 }
 
 double Player::Pace(double now) {
@@ -147,32 +165,57 @@ double Player::Pace(double now) {
     paced_.reset();
     return kNever;
   }
-  const double next = start_ + paced_->NextTime() - now;
-  if (!port_) return next;
-  if (now - checked_ >= kPresenceCheck) {
-    checked_ = now;
-    port_->CheckPresence();
-  }
-  return std::min(next, checked_ + kPresenceCheck - now);
+  return start_ + paced_->NextTime() - now;
 }
 
 double Player::Watch(double now) {
-  if (on_synth_->IsOver()) {
-    on_synth_.reset();
-    return kNever;
+  if (!open_ || !device_->IsAudible()) return kNever;
+  return device_ == &synth_ ? WatchAudio(now) : WatchPort(now);
+}
+
+double Player::WatchPort(double now) {
+  if (now - looked_ >= kPresenceCheck) {
+    looked_ = now;
+    device_->CheckPresence();
   }
+  return looked_ + kPresenceCheck - now;
+}
+
+double Player::WatchAudio(double now) {
+  // A process that is stopped, or a thread that reads a timbre from the disk, looks late. Only what
+  // it has seen counts.
+  still_ += std::min(now - looked_, kAudioCheck);
+  looked_ = now;
   if (const std::uint64_t blocks = synth_.blocks(); blocks != blocks_) {
     blocks_ = blocks;
-    checked_ = now;
-  } else if (now - checked_ >= kAudioDead) {
-    // The audio thread has let go of the queue when `Stop` returns.
-    synth_.Stop();
-    synth_.Lose();
-    on_synth_->Mute();
-    paced_ = std::exchange(on_synth_, nullptr);
-    return Pace(now);
+    still_ = 0;
   }
+  if (still_ >= (blocks_ < kFlowing ? kAudioBegins : kAudioDead)) LoseAudio();
   return kAudioCheck;
+}
+
+void Player::LoseAudio() {
+  // The audio thread has let go of the queue when `Stop` returns.
+  synth_.Stop();
+  synth_.Lose();
+  hooks_.lost(AudioLostNotice());
+  TellKlang();
+  if (!on_synth_) return;
+  on_synth_->Mute();
+  paced_ = std::exchange(on_synth_, nullptr);
+}
+
+/// Before a queue tells that it is mute, so that who hears that knows whether the device is gone.
+/// While the device is closed, which is for a moment only, what was told last holds.
+void Player::TellKlang() {
+  if (!open_) return;
+  MidiKlangStand klang = MidiKlangStand::kWeg;
+  if (device_->IsAudible()) {
+    klang = MidiKlangStand::kDa;
+  } else if (device_ == &synth_ && synth_.state() == SynthDevice::State::kLoading) {
+    klang = MidiKlangStand::kUnbekannt;
+  }
+  if (std::exchange(klang_, klang) != klang) hooks_.klang(klang);
 }
 
 }  // namespace vmod17

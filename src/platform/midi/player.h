@@ -13,6 +13,7 @@
 #include "platform/midi/port_device.h"
 #include "platform/midi/sound_facts.h"
 #include "platform/midi/synth_device.h"
+#include "platform/midi_output.h"
 #include "platform/notice.h"
 
 namespace vmod17 {
@@ -38,6 +39,10 @@ class Player {
     std::function<double()> now;                      ///< milliseconds, evenly
     std::function<void(std::function<void()>)> post;  ///< to the sound thread; any thread
     std::function<void(const Notice&)> notify;
+    /// A device that could be heard has gone.
+    std::function<void(const Notice&)> lost = [](const Notice&) {};
+    /// Whether what is played can be heard; told when it changes.
+    std::function<void(MidiKlangStand)> klang = [](MidiKlangStand) {};
   };
 
   /// `ports` and `volume` outlive the player.
@@ -73,7 +78,12 @@ class Player {
   void RunOnSynth(std::shared_ptr<SequencerQueue> queue);
   void RunInStep(std::shared_ptr<SequencerQueue> queue);
   double Pace(double now);
+  /// Looks after the device that is open, whether or not it plays.
   double Watch(double now);
+  double WatchPort(double now);
+  double WatchAudio(double now);
+  void LoseAudio();
+  void TellKlang();
 
   const Hooks hooks_;
   MidiPorts& ports_;
@@ -86,13 +96,15 @@ class Player {
   bool open_ = false;
   const SequencerQueue::Sink sink_;
 
-  double start_ = 0;                         // of the queue that runs
+  double start_ = 0;                         // of the queue that is paced
   std::shared_ptr<SequencerQueue> waiting_;  // for the synthesiser to be loaded
   std::shared_ptr<SequencerQueue> paced_;    // by the clock of the system
   std::shared_ptr<SequencerQueue> on_synth_;
-  double volume_due_;   // when a port gets its volume; never while it has the newest
-  double checked_ = 0;  // when the port was last seen, or the synthesiser last played
+  double volume_due_;  // when a port gets its volume; never while it has the newest
+  double looked_ = 0;  // when `Watch` last looked
+  double still_ = 0;   // ms that the audio thread has been seen to stand still
   std::uint64_t blocks_ = 0;
+  MidiKlangStand klang_ = MidiKlangStand::kUnbekannt;  // as told
 };
 
 }  // namespace vmod17

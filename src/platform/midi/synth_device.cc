@@ -8,8 +8,6 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/midi/midi_notices.h"
-
 namespace vmod17 {
 
 SynthDevice::SynthDevice(SynthSetup setup, const SynthVolume& volume, Hooks hooks)
@@ -128,7 +126,6 @@ void SynthDevice::Stop() {
 void SynthDevice::Lose() {
   state_ = State::kSilent;
   trouble_told_ = true;
-  hooks_.notify(AudioLostNotice());
 }
 
 void SynthDevice::Tell(SoundFacts& facts) const {

@@ -66,7 +66,7 @@ class SynthDevice : public MidiDevice {
   void Stop();
   /// Counts the blocks that were played.
   std::uint64_t blocks() const { return engine_ ? engine_->renderer().blocks() : 0; }
-  /// The audio system has died.
+  /// The audio system has died, and whoever calls tells so.
   void Lose();
 
   /// Enters what is known of the synthesiser.

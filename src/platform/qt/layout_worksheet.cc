@@ -282,10 +282,11 @@ Layout LayoutWorksheet(const Form& form, const QSizeF& page) {
   FillCounters(layout, action, middle);
   FillButtons(layout, action, middle);
   const QPointF centre(page.width() / 2, page.height() / 2);
-  layout.places["WaitMeldung"] = {.rect = QRectF(centre.x() - 200, centre.y() - 60, 400, 120),
+  // Room for what is said of lost sound in the longest language.
+  layout.places["WaitMeldung"] = {.rect = QRectF(centre.x() - 270, centre.y() - 110, 540, 220),
                                   .look = Look::kNotice,
                                   .named_by = "WaitMeld"};
-  layout.places["WaitMeld"] = {.rect = QRectF(centre.x() - 176, centre.y() - 40, 352, 80),
+  layout.places["WaitMeld"] = {.rect = QRectF(centre.x() - 246, centre.y() - 94, 492, 188),
                                .text = 20,
                                .align = Qt::AlignCenter};
   FillKeys(layout);

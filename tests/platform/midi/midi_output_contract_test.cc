@@ -34,8 +34,9 @@ class Subject {
   /// From now on the device that is opened is not ready, until `BecomeReady`.
   virtual void LoadSlowly() = 0;
   virtual void BecomeReady() = 0;
-  /// The device that is opened next cannot be heard.
+  /// The device that is opened next cannot be heard, until `Mend`.
   virtual void Break() = 0;
+  virtual void Mend() = 0;
 };
 
 class RecordingSubject : public Subject {
@@ -47,7 +48,8 @@ class RecordingSubject : public Subject {
   void LetPlay() override { output_.FinishQueue(); }
   void LoadSlowly() override { output_.SetDevice(RecordingMidiOutput::Device::kLoads); }
   void BecomeReady() override { output_.SetDevice(RecordingMidiOutput::Device::kReady); }
-  void Break() override { output_.SetDevice(RecordingMidiOutput::Device::kMute); }
+  void Break() override { output_.LoseSound(); }
+  void Mend() override { output_.ReturnSound(); }
 
  private:
   RecordingMidiOutput output_;
@@ -60,7 +62,7 @@ class RenderedSubject : public Subject {
                     ("melvado-contract-" + std::to_string(std::random_device()()) + ".sf2"))
                        .string()),
         rendered_(Options()) {
-    fs::create_symlink(ExistingSoundfonts(UsualSoundfonts()).at(0), soundfont_);
+    Mend();
     rendered_.output.Set(MidiMember::GeraetNr, device);
   }
   ~RenderedSubject() override { fs::remove(soundfont_); }
@@ -77,10 +79,13 @@ class RenderedSubject : public Subject {
     fs::remove(soundfont_);
     ports_->names.clear();
   }
+  void Mend() override {
+    fs::create_symlink(ExistingSoundfonts(UsualSoundfonts()).at(0), soundfont_);
+    ports_->names = {"Port"};
+  }
 
  private:
   MidiOptions Options() {
-    ports_->names = {"Port"};
     MidiOptions options = RenderedOptions(ports_);
     options.usual_soundfonts = {soundfont_};
     options.beside = [this](std::function<void()> work) {
@@ -293,6 +298,34 @@ TEST_P(MidiOutputContract, SaysThatADeviceCannotBeHeardAndKeepsTime) {
   subject_->LetPlay();
   EXPECT_EQ(Stand(), MidiQueueStand::kRuht);
   EXPECT_EQ(queue_empty_, 1);
+}
+
+TEST_P(MidiOutputContract, TellsWhetherItCanBeHeard) {
+  std::vector<MidiKlangStand> told;
+  const auto stand = [this] {
+    return static_cast<MidiKlangStand>(output_.Get(MidiMember::KlangStand));
+  };
+  EXPECT_EQ(stand(), MidiKlangStand::kUnbekannt);
+  output_.KlangWechsel = [&] {
+    if (stand() != MidiKlangStand::kUnbekannt) told.push_back(stand());
+  };
+  const auto open_anew = [this] {
+    for (const auto befehl : {MidiBefehl::kStopp, MidiBefehl::kSchliessen, MidiBefehl::kOeffnen}) {
+      Do(befehl);
+    }
+    subject_->Deliver();
+  };
+  using enum MidiKlangStand;
+  open_anew();
+  open_anew();
+  EXPECT_THAT(told, testing::ElementsAre(kDa));
+  subject_->Break();
+  open_anew();
+  open_anew();
+  EXPECT_THAT(told, testing::ElementsAre(kDa, kWeg));
+  subject_->Mend();
+  open_anew();
+  EXPECT_THAT(told, testing::ElementsAre(kDa, kWeg, kDa));
 }
 
 const Maker kRecording{"Recording", [] { return std::make_unique<RecordingSubject>(); }};

@@ -152,6 +152,24 @@ TEST_F(PortOutput, ThatVanishesInALongNoteIsNoticedBeforeTheNextMessage) {
   EXPECT_THAT(rendered_.notices, SizeIs(1));
 }
 
+TEST_F(PortOutput, ThatIsPulledOutWhileNothingPlaysIsMissedWithinASecond) {
+  std::vector<MidiKlangStand> told;
+  rendered_.output.KlangWechsel = [&] {
+    told.push_back(static_cast<MidiKlangStand>(rendered_.output.Get(MidiMember::KlangStand)));
+  };
+  rendered_.Open(0);
+  rendered_.Render(5000);
+  EXPECT_THAT(told, ElementsAre(MidiKlangStand::kDa));
+  ports_->names = {"Organ"};
+  rendered_.Render(1000);
+  EXPECT_THAT(told, ElementsAre(MidiKlangStand::kDa, MidiKlangStand::kWeg));
+  EXPECT_THAT(rendered_.notices, IsEmpty()) << "who listens is not told twice";
+  ports_->names = {"Expander"};
+  rendered_.Reset();
+  rendered_.Render(1000);
+  EXPECT_EQ(told.back(), MidiKlangStand::kDa);
+}
+
 TEST_F(PortOutput, ThatComesBackSoundsAgainAfterAResetWithItsPrograms) {
   rendered_.Open(0);
   rendered_.Program(1, 68);

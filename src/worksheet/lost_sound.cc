@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// A run whose sound is lost: what stands still meanwhile, and how it goes on.
+
+#include <utility>
+
+#include "sound/sound_words.h"
+#include "worksheet/worksheet_screen.h"
+
+namespace vmod17 {
+
+void Arbeitsblatt1::KlangWechsel() {
+  if (!loaded() || run_.abbruch) return;
+  Bewache("spieltimer_timer.", [this] {
+    if (KlangIstWeg()) {
+      if (const auto bei = WasLaeuft()) VerliereKlang(*bei);
+    } else if (parts_.midi.KlangStand() == MidiKlangStand::kDa && run_.ohne_klang) {
+      NimmWiederAuf();
+    }
+  });
+}
+
+std::optional<KlangVerlust> Arbeitsblatt1::WasLaeuft() const {
+  if (spieltimer.enabled) return KlangVerlust::kSpiel;
+  if (wieder.enabled) return KlangVerlust::kAntwort;
+  const bool schalter = CmdNextAufg.visible && CmdNextAufg.enabled && !run_.ungehoert;
+  if (WahlAutomat.enabled || schalter) return KlangVerlust::kAngebot;
+  return std::nullopt;
+}
+
+void Arbeitsblatt1::VerliereKlang(KlangVerlust bei) {
+  // What has to be done once more costs no time of a test.
+  switch (bei) {
+    case KlangVerlust::kSpiel:
+      HalteTestzeitAn(run_.spiel_start);
+      break;
+    case KlangVerlust::kAntwort:
+      HalteTestzeitAn(run_.clock.antw_start);
+      break;
+    case KlangVerlust::kAngebot:
+      HalteTestzeitAn(shell_.loop.Clock());
+      break;
+  }
+  spieltimer.Disable();
+  listening = false;
+  SperreAntworten();
+  wieder.enabled = false;
+  wieder2.enabled = false;
+  NimmAngebotZurueck();
+  parts_.record.LessonOhneKlang();
+  WaitMeld.caption = shell_.texts.Words(kKlangVerloren);
+  WaitMeldung.visible = true;
+  Say(WaitMeld.caption);
+  SucheKlang(bei);
+}
+
+void Arbeitsblatt1::SucheKlang(KlangVerlust bei) {
+  run_.ohne_klang = bei;
+  klangsuche.Enable();
+}
+
+void Arbeitsblatt1::klangsuche_Timer() {
+  // What is being found out is told by itself.
+  if (KlangIstWeg()) parts_.midi.MidiReset();
+}
+
+void Arbeitsblatt1::NimmWiederAuf() {
+  const KlangVerlust bei = *std::exchange(run_.ohne_klang, std::nullopt);
+  klangsuche.Disable();
+  if (bei != KlangVerlust::kAngebot) return SpieleNach(bei);
+  BeendeWarten();
+  SetzeTestzeitFort();
+  BieteWiederAn();
+}
+
+/// The task from its beginning, with the answers that it has already. As after every playing the
+/// clock of the open answer starts at its end, so that what it had gathered since the last one does
+/// not count.
+void Arbeitsblatt1::SpieleNach(KlangVerlust bei) {
+  // What was told holds until it sounds.
+  switch (BeginneSpiel([] {})) {
+    case Spielstand::kKlingt:
+      // It is heard for the first time, or once more than the time of a test reckons with.
+      if (bei == KlangVerlust::kSpiel) SetzeTestzeitFort();
+      return;
+    case Spielstand::kStumm:
+      return SucheKlang(bei);
+    case Spielstand::kAbgebrochen:
+      return;
+  }
+}
+
+}  // namespace vmod17
