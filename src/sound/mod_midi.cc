@@ -17,8 +17,9 @@ constexpr int kTonhoehe = 224;
 constexpr int kMarkeNoteAus = 1000000;
 constexpr int kStandardStaerke = 100;
 
-constexpr float kUnbemerkt = 300;  // ms that a wait may last before it is shown
-constexpr float kGeduld = 20000;   // ms until an output that only loads counts as none
+constexpr float kUnbemerkt = 300;    // ms that a wait may last before it is shown
+constexpr float kGeduld = 20000;     // ms until an output that only loads counts as none
+constexpr float kVerspaetet = 5000;  // ms until a queue that does not end counts as cut off
 
 }  // namespace
 
@@ -85,22 +86,23 @@ void ModMIDI::MidiStart() {
 
 Spielstand ModMIDI::WarteAufBeginn(const std::function<bool()>& verlassen,
                                    const std::function<void()>& dauert) {
-  return WarteSolange(MidiQueueStand::kWartet, verlassen, dauert);
+  return WarteSolange(MidiQueueStand::kWartet, kGeduld, verlassen, dauert);
 }
 
 Spielstand ModMIDI::WarteAufEnde(const std::function<bool()>& verlassen) {
-  return WarteSolange(MidiQueueStand::kLaeuft, verlassen, [] {});
+  return WarteSolange(MidiQueueStand::kLaeuft, kVerspaetet, verlassen, [] {});
 }
 
-Spielstand ModMIDI::WarteSolange(MidiQueueStand stand, const std::function<bool()>& verlassen,
+Spielstand ModMIDI::WarteSolange(MidiQueueStand stand, float geduld,
+                                 const std::function<bool()>& verlassen,
                                  const std::function<void()>& dauert) {
   const float start = loop_.Clock();
   bool gezeigt = false;
   while (!verlassen() && QueueStand() == stand) {
     const float gewartet = ClockDifference(start, loop_.Clock()) * 1000;
-    if (gewartet >= kGeduld) break;
+    if (gewartet >= geduld) break;
     if (gewartet >= kUnbemerkt && !std::exchange(gezeigt, true)) dauert();
-    loop_.WaitForEvent((gezeigt ? kGeduld : kUnbemerkt) - gewartet);
+    loop_.WaitForEvent((gezeigt ? geduld : kUnbemerkt) - gewartet);
   }
   if (verlassen()) return Spielstand::kAbgebrochen;
   if (QueueStand() != stand && QueueStand() != MidiQueueStand::kStumm) return Spielstand::kKlingt;

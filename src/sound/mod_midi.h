@@ -82,8 +82,9 @@ class ModMIDI {
   MidiOutput& Port();
   void Befehl(MidiBefehl befehl);
   MidiQueueStand QueueStand();
-  /// Serves events while the queue is at `stand`.
-  Spielstand WarteSolange(MidiQueueStand stand, const std::function<bool()>& verlassen,
+  /// Serves events while the queue is at `stand`, for `geduld` milliseconds at the most.
+  Spielstand WarteSolange(MidiQueueStand stand, float geduld,
+                          const std::function<bool()>& verlassen,
                           const std::function<void()>& dauert);
   void SetzeLautstaerken(int links, int rechts);
   void Sende(int status, int daten1, int daten2);

@@ -61,8 +61,15 @@ void Arbeitsblatt1::SucheKlang(KlangVerlust bei) {
 }
 
 void Arbeitsblatt1::klangsuche_Timer() {
-  // What is being found out is told by itself.
-  if (KlangIstWeg()) parts_.midi.MidiReset();
+  switch (parts_.midi.KlangStand()) {
+    case MidiKlangStand::kUnbekannt:
+      return;  // what is found out is told by itself
+    case MidiKlangStand::kWeg:
+      return parts_.midi.MidiReset();
+    case MidiKlangStand::kDa:
+      // Nothing is known against an output that has let a playing down.
+      return KlangWechsel();
+  }
 }
 
 void Arbeitsblatt1::NimmWiederAuf() {

@@ -486,6 +486,13 @@ TEST_F(Ending, OfAQueueThatLosesItsOutputIsSilence) {
   EXPECT_EQ(midi_.KlangStand(), MidiKlangStand::kWeg);
 }
 
+TEST_F(Ending, ThatNeverComesIsGivenUpAfterFiveSeconds) {
+  Start(Device::kReady);
+  EXPECT_EQ(WaitForTheEnd(), Spielstand::kStumm);
+  EXPECT_NEAR(loop_.Elapsed(), 5000, 5);
+  EXPECT_FALSE(output_.IsRunning());
+}
+
 TEST_F(Ending, IsNotWaitedForWhenTheScreenIsLeft) {
   Start(Device::kReady);
   loop_.StartTimer(100, EventLoop::Repeat::kOnce, [&] { left_ = true; });

@@ -389,6 +389,20 @@ TEST(LostSoundOnTheWay, IsOneLossUntilTheTaskIsHeard) {
   EXPECT_EQ(p.OpenChoices().size(), 10u);
 }
 
+TEST(LostSoundOnTheWay, IsTriedAgainWhereNothingIsKnownAgainstTheOutput) {
+  LostRun p;
+  p.Begin();
+  p.worksheet().CmdNextAufg.Press();
+  p.output.Stall();
+  p.loop.Advance(p.PlayingTime());
+  EXPECT_EQ(p.Told(), "[9306s]") << "after five seconds of grace";
+  EXPECT_TRUE(p.Stands());
+  p.loop.Advance(kLook + p.kPauses + p.PlayingTime());
+  EXPECT_EQ(p.Told(), "");
+  EXPECT_EQ(p.OpenChoices().size(), 10u);
+  EXPECT_EQ(p.Marks(), Marks{"1"});
+}
+
 TEST(LostSoundOnTheWay, IsLookedForEveryTwoSeconds) {
   LostRun p;
   p.Begin();
