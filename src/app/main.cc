@@ -12,11 +12,16 @@ int main(int argc, char* argv[]) {
   // A host that has gone takes nothing any more, which is no reason to go as well.
   signal(SIGPIPE, SIG_IGN);
   const auto application = vmod17::MakeApplication(argc, argv);
-  vmod17::Desktop desktop;
-  const vmod17::EndOnSignal end_on_signal([&desktop] { desktop.Leave(); });
-  const int status = desktop.Run();
+  int status = 0;
+  bool sound_hangs = false;
+  {
+    vmod17::Desktop desktop;
+    const vmod17::EndOnSignal end_on_signal([&desktop] { desktop.Leave(); });
+    status = desktop.Run();
+    sound_hangs = !desktop.End();
+  }
   // All is saved, and the host has its word. What a library does when a process ends in order may
   // wait for the thread that hangs in it, or pull away what it stands on.
-  if (!desktop.End()) _exit(status);
+  if (sound_hangs) _exit(status);
   return status;
 }
