@@ -21,7 +21,10 @@ ModuleProcess::~ModuleProcess() {
   }
   for (const auto& module : leaving_) {
     module->process.disconnect();
-    module->process.waitForFinished(static_cast<int>(module->patience.remainingTime()));
+    if (module->process.waitForFinished(static_cast<int>(module->patience.remainingTime())))
+      continue;
+    module->process.kill();
+    module->process.waitForFinished();
   }
 }
 
