@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>Die Datei mit Ihren gespeicherten Trainings, %1, ist beschädigt und konnte nicht gelesen werden. Sie ist unter dem Namen %2 aufgehoben, und eine neue, leere Datei wurde angelegt. Wenn Sie eine Sicherungskopie der Datei haben, können Sie sie wieder an ihre Stelle legen.</translation>
+        <translation>Die Datei mit Ihren gespeicherten Trainings, %1, ist beschädigt und konnte nicht gelesen werden. Sie ist unter dem Namen %2 aufgehoben, und eine neue, leere Datei wurde angelegt. Wenn Sie eine Sicherungskopie der Datei haben, spielen Sie sie im Fenster von Melvado mit „Sicherung einspielen …“ ein.</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>Ein Training, das auf diesem Computer aufgehoben war, solange der Server nicht zu erreichen war, ist jetzt zu %1 gebracht worden. Dort war inzwischen ein neueres gespeichert worden, das gilt; das von diesem Computer steht daneben, unter einem Namen, der auf %2 endet.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>Die Datei %1 ist keine Sicherungskopie gespeicherter Trainings. Nichts wurde verändert.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>Die Sicherungskopie %1 ist beschädigt (%2). Nichts wurde verändert.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>Die Sicherungskopie %1 stammt von einer neueren Fassung dieses Programms. Nichts wurde verändert. Bitte installieren Sie die neuere Fassung.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Die gespeicherten Trainings in %1 werden gerade von einem anderen Programm benutzt. Nichts wurde verändert. Bitte schließen Sie die Übung und jedes andere Programm, das sie benutzt, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>Die Sicherungskopie %1 konnte nicht eingespielt werden (%2). Was gespeichert war, ist noch da, wie es war.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>Die Datei %1 ist die, in der jetzt gespeichert wird. Bitte wählen Sie eine Sicherungskopie von ihr.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>Das Protokoll konnte nicht als %1 gespeichert werden (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Sicherung einspielen …</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Sicherungskopie wählen</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>Die Sicherungskopie %1 (zuletzt geändert: %2) an die Stelle von %3 setzen? Benutzer, Einstellungen, Trainings und Protokoll sind dann die der Sicherungskopie. Was jetzt gespeichert ist, wird unter einem anderen Namen aufgehoben.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>Die Sicherungskopie %1 ist eingespielt. Was vorher gespeichert war, ist unter dem Namen %2 aufgehoben.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>The file with your stored trainings, %1, is damaged and could not be read. It has been kept under the name %2, and a new, empty file has been started. If you have a backup copy of the file, you can put it back in its place.</translation>
+        <translation>The file with your stored trainings, %1, is damaged and could not be read. It has been kept under the name %2, and a new, empty file has been started. If you have a backup copy of the file, put it back with “Restore a backup…” in the window of Melvado.</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>A training that was kept on this computer while the server was away has now been brought to %1. A newer one had been stored there meanwhile, which holds; the one from this computer was kept beside it, under a name that ends in %2.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>The file %1 is no backup of stored trainings. Nothing has been changed.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>The backup %1 is damaged (%2). Nothing has been changed.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>The backup %1 was written by a newer version of this program. Nothing has been changed. Please install the newer version.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Another program is using the stored trainings in %1. Nothing has been changed. Please close the exercise and every other program that uses them, and try again.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>The backup %1 could not be restored (%2). What was stored is still there as it was.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>The file %1 is the one that is in use now. Please choose a backup of it.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>The record could not be saved as %1 (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Restore a backup…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Choose a backup</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>Put the backup %1 (last changed: %2) in the place of %3? Users, settings, trainings and the log are those of the backup then. What is stored now is kept under another name.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>The backup %1 has been restored. What was stored before has been kept under the name %2.</translation>
     </message>
     <message id="9251s">
         <source></source>

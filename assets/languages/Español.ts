@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>El archivo con sus entrenamientos guardados, %1, está dañado y no se ha podido leer. Se ha conservado con el nombre %2 y se ha creado un archivo nuevo, vacío. Si tiene una copia de seguridad del archivo, puede volver a ponerla en su lugar.</translation>
+        <translation>El archivo con sus entrenamientos guardados, %1, está dañado y no se ha podido leer. Se ha conservado con el nombre %2 y se ha creado un archivo nuevo, vacío. Si tiene una copia de seguridad del archivo, restáurela en la ventana de Melvado con «Restaurar una copia…».</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>Un entrenamiento que se conservaba en este ordenador mientras el servidor no estaba disponible se ha llevado ahora a %1. Entretanto se había guardado allí uno más reciente, que es el válido; el de este ordenador se ha conservado a su lado, con un nombre que termina en %2.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>El archivo %1 no es una copia de seguridad de entrenamientos guardados. No se ha cambiado nada.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>La copia de seguridad %1 está dañada (%2). No se ha cambiado nada.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>La copia de seguridad %1 procede de una versión más reciente de este programa. No se ha cambiado nada. Instale la versión más reciente.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Otro programa está usando los entrenamientos guardados en %1. No se ha cambiado nada. Cierre el ejercicio y cualquier otro programa que los use e inténtelo de nuevo.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>La copia de seguridad %1 no se ha podido restaurar (%2). Lo que estaba guardado sigue ahí, tal como estaba.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>El archivo %1 es el que está en uso ahora. Elija una copia de seguridad de él.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>El informe no se ha podido guardar como %1 (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Restaurar una copia…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Elegir una copia de seguridad</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>¿Poner la copia de seguridad %1 (última modificación: %2) en el lugar de %3? Los usuarios, los ajustes, los entrenamientos y el registro serán entonces los de la copia. Lo que está guardado ahora se conserva con otro nombre.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>Se ha restaurado la copia de seguridad %1. Lo que estaba guardado antes se ha conservado con el nombre %2.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>Le fichier de vos entraînements enregistrés, %1, est endommagé et n’a pas pu être lu. Il a été conservé sous le nom %2, et un nouveau fichier vide a été créé. Si vous avez une copie de sauvegarde du fichier, vous pouvez la remettre à sa place.</translation>
+        <translation>Le fichier de vos entraînements enregistrés, %1, est endommagé et n’a pas pu être lu. Il a été conservé sous le nom %2, et un nouveau fichier vide a été créé. Si vous avez une copie de sauvegarde du fichier, restaurez-la dans la fenêtre de Melvado avec « Restaurer une copie… ».</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>Un entraînement gardé sur cet ordinateur pendant que le serveur était injoignable vient d’être transmis à %1. Un entraînement plus récent y avait été enregistré entre-temps et reste valable ; celui de cet ordinateur a été gardé à côté, sous un nom qui se termine par %2.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>Le fichier %1 n’est pas une copie de sauvegarde d’entraînements enregistrés. Rien n’a été modifié.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>La copie de sauvegarde %1 est endommagée (%2). Rien n’a été modifié.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>La copie de sauvegarde %1 provient d’une version plus récente de ce programme. Rien n’a été modifié. Installez la version plus récente.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Un autre programme utilise les entraînements enregistrés dans %1. Rien n’a été modifié. Fermez l’exercice et tout autre programme qui les utilise, puis réessayez.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>La copie de sauvegarde %1 n’a pas pu être restaurée (%2). Ce qui était enregistré est toujours là, tel quel.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>Le fichier %1 est celui qui est utilisé actuellement. Choisissez une copie de sauvegarde de ce fichier.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>Le compte rendu n’a pas pu être enregistré sous %1 (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Restaurer une copie…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Choisir une copie de sauvegarde</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>Mettre la copie de sauvegarde %1 (dernière modification : %2) à la place de %3 ? Les utilisateurs, les réglages, les entraînements et le journal seront alors ceux de la copie. Ce qui est enregistré maintenant est conservé sous un autre nom.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>La copie de sauvegarde %1 a été restaurée. Ce qui était enregistré avant a été conservé sous le nom %2.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>Il file dei tuoi allenamenti salvati, %1, è danneggiato e non si è potuto leggere. È stato conservato con il nome %2 ed è stato creato un nuovo file vuoto. Se hai una copia di sicurezza del file, puoi rimetterla al suo posto.</translation>
+        <translation>Il file dei tuoi allenamenti salvati, %1, è danneggiato e non si è potuto leggere. È stato conservato con il nome %2 ed è stato creato un nuovo file vuoto. Se hai una copia di sicurezza del file, ripristinala nella finestra di Melvado con «Ripristina una copia…».</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>Un allenamento conservato su questo computer mentre il server non era raggiungibile è stato ora portato a %1. Nel frattempo là ne era stato salvato uno più recente, che resta valido; quello di questo computer è stato conservato accanto, con un nome che termina con %2.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>Il file %1 non è una copia di sicurezza di allenamenti salvati. Non è stato cambiato nulla.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>La copia di sicurezza %1 è danneggiata (%2). Non è stato cambiato nulla.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>La copia di sicurezza %1 proviene da una versione più recente di questo programma. Non è stato cambiato nulla. Installa la versione più recente.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Un altro programma sta usando gli allenamenti salvati in %1. Non è stato cambiato nulla. Chiudi l’esercizio e ogni altro programma che li usa, e riprova.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>Non si è potuta ripristinare la copia di sicurezza %1 (%2). Ciò che era salvato è ancora lì, com’era.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>Il file %1 è quello in uso adesso. Scegli una sua copia di sicurezza.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>Il resoconto non si è potuto salvare come %1 (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Ripristina una copia…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Scegli una copia di sicurezza</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>Mettere la copia di sicurezza %1 (ultima modifica: %2) al posto di %3? Utenti, impostazioni, allenamenti e registro saranno allora quelli della copia. Ciò che è salvato ora viene conservato con un altro nome.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>La copia di sicurezza %1 è stata ripristinata. Ciò che era salvato prima è stato conservato con il nome %2.</translation>
     </message>
     <message id="9251s">
         <source></source>

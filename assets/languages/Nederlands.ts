@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>Het bestand met je opgeslagen trainingen, %1, is beschadigd en kon niet worden gelezen. Het is bewaard onder de naam %2 en er is een nieuw, leeg bestand aangemaakt. Als je een reservekopie van het bestand hebt, kun je die weer op zijn plaats zetten.</translation>
+        <translation>Het bestand met je opgeslagen trainingen, %1, is beschadigd en kon niet worden gelezen. Het is bewaard onder de naam %2 en er is een nieuw, leeg bestand aangemaakt. Als je een reservekopie van het bestand hebt, zet die dan in het venster van Melvado terug met ‘Reservekopie terugzetten…’.</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>Een training die op deze computer was bewaard zolang de server niet bereikbaar was, is nu naar %1 gebracht. Daar was intussen een nieuwere opgeslagen, die geldt; die van deze computer is ernaast bewaard, onder een naam die eindigt op %2.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>Het bestand %1 is geen reservekopie van opgeslagen trainingen. Er is niets gewijzigd.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>De reservekopie %1 is beschadigd (%2). Er is niets gewijzigd.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>De reservekopie %1 is geschreven door een nieuwere versie van dit programma. Er is niets gewijzigd. Installeer de nieuwere versie.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Een ander programma gebruikt de opgeslagen trainingen in %1. Er is niets gewijzigd. Sluit de oefening en elk ander programma dat ze gebruikt, en probeer het opnieuw.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>De reservekopie %1 kon niet worden teruggezet (%2). Wat was opgeslagen, is er nog zoals het was.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>Het bestand %1 is het bestand dat nu in gebruik is. Kies een reservekopie ervan.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>Het verslag kon niet worden opgeslagen als %1 (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Reservekopie terugzetten…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Een reservekopie kiezen</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>De reservekopie %1 (laatst gewijzigd: %2) in de plaats van %3 zetten? Gebruikers, instellingen, trainingen en logboek zijn dan die van de reservekopie. Wat nu is opgeslagen, wordt onder een andere naam bewaard.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>De reservekopie %1 is teruggezet. Wat eerder was opgeslagen, is bewaard onder de naam %2.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>Plik z zapisanymi treningami, %1, jest uszkodzony i nie udało się go odczytać. Zachowano go pod nazwą %2 i utworzono nowy, pusty plik. Jeśli masz kopię zapasową tego pliku, możesz ją przywrócić na jego miejsce.</translation>
+        <translation>Plik z zapisanymi treningami, %1, jest uszkodzony i nie udało się go odczytać. Zachowano go pod nazwą %2 i utworzono nowy, pusty plik. Jeśli masz kopię zapasową tego pliku, przywróć ją w oknie Melvado poleceniem „Przywróć kopię…”.</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>Trening zachowany na tym komputerze w czasie, gdy serwer był niedostępny, został teraz przekazany do %1. W międzyczasie zapisano tam nowszy i to on obowiązuje; trening z tego komputera zachowano obok, pod nazwą, która kończy się na %2.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>Plik %1 nie jest kopią zapasową zapisanych treningów. Niczego nie zmieniono.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>Kopia zapasowa %1 jest uszkodzona (%2). Niczego nie zmieniono.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>Kopię zapasową %1 zapisała nowsza wersja tego programu. Niczego nie zmieniono. Zainstaluj nowszą wersję.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Inny program używa zapisanych treningów w %1. Niczego nie zmieniono. Zamknij ćwiczenie i każdy inny program, który ich używa, i spróbuj ponownie.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>Nie udało się przywrócić kopii zapasowej %1 (%2). To, co było zapisane, jest nadal na miejscu bez zmian.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>Plik %1 jest tym, który jest teraz używany. Wybierz jego kopię zapasową.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>Nie udało się zapisać raportu jako %1 (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Przywróć kopię…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Wybierz kopię zapasową</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>Umieścić kopię zapasową %1 (ostatnia zmiana: %2) w miejscu %3? Użytkownicy, ustawienia, treningi i dziennik będą wtedy pochodzić z kopii. To, co jest zapisane teraz, zostanie zachowane pod inną nazwą.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>Przywrócono kopię zapasową %1. To, co było zapisane wcześniej, zachowano pod nazwą %2.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>O ficheiro com os seus treinos gravados, %1, está danificado e não pôde ser lido. Foi conservado com o nome %2 e foi criado um ficheiro novo, vazio. Se tiver uma cópia de segurança do ficheiro, pode colocá-la de novo no seu lugar.</translation>
+        <translation>O ficheiro com os seus treinos gravados, %1, está danificado e não pôde ser lido. Foi conservado com o nome %2 e foi criado um ficheiro novo, vazio. Se tiver uma cópia de segurança do ficheiro, reponha-a na janela do Melvado com «Repor uma cópia…».</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>Um treino guardado neste computador enquanto o servidor não estava acessível foi agora levado para %1. Entretanto tinha sido gravado lá um mais recente, que é o que vale; o deste computador ficou guardado ao lado, com um nome que termina em %2.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>O ficheiro %1 não é uma cópia de segurança de treinos gravados. Nada foi alterado.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>A cópia de segurança %1 está danificada (%2). Nada foi alterado.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>A cópia de segurança %1 foi gravada por uma versão mais recente deste programa. Nada foi alterado. Instale a versão mais recente.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Outro programa está a usar os treinos gravados em %1. Nada foi alterado. Feche o exercício e qualquer outro programa que os use e tente outra vez.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>Não foi possível repor a cópia de segurança %1 (%2). O que estava gravado continua lá, tal como estava.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>O ficheiro %1 é o que está agora em uso. Escolha uma cópia de segurança dele.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>Não foi possível gravar o relatório como %1 (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Repor uma cópia…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Escolher uma cópia de segurança</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>Pôr a cópia de segurança %1 (última alteração: %2) no lugar de %3? Os utilizadores, as definições, os treinos e o histórico passam então a ser os da cópia. O que está gravado agora é conservado com outro nome.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>A cópia de segurança %1 foi reposta. O que estava gravado antes foi conservado com o nome %2.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>Soubor s uloženými tréninky, %1, je poškozený a nepodařilo se ho přečíst. Je uschován pod názvem %2 a byl založen nový, prázdný soubor. Máte-li záložní kopii souboru, můžete ji vrátit na jeho místo.</translation>
+        <translation>Soubor s uloženými tréninky, %1, je poškozený a nepodařilo se ho přečíst. Je uschován pod názvem %2 a byl založen nový, prázdný soubor. Máte-li záložní kopii souboru, vraťte ji v okně Melvado příkazem „Obnovit zálohu…“.</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>Trénink, který zůstal v tomto počítači, dokud server nebyl dostupný, byl nyní přenesen na %1. Mezitím tam byl uložen novější, který platí; trénink z tohoto počítače je uložen vedle něj pod názvem, který končí na %2.</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>Soubor %1 není zálohou uložených tréninků. Nic nebylo změněno.</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>Záloha %1 je poškozená (%2). Nic nebylo změněno.</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>Zálohu %1 zapsala novější verze tohoto programu. Nic nebylo změněno. Nainstalujte prosím novější verzi.</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>Uložené tréninky v %1 právě používá jiný program. Nic nebylo změněno. Zavřete prosím cvičení a každý jiný program, který je používá, a zkuste to znovu.</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>Zálohu %1 se nepodařilo obnovit (%2). Co bylo uloženo, je tam stále tak, jak to bylo.</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>Soubor %1 je ten, který se právě používá. Zvolte prosím jeho zálohu.</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>Záznam se nepodařilo uložit jako %1 (%2).</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>Obnovit zálohu…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>Zvolit zálohu</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>Dát zálohu %1 (naposledy změněna: %2) na místo %3? Uživatelé, nastavení, tréninky a protokol pak budou ze zálohy. Co je uloženo teď, zůstane uschováno pod jiným názvem.</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>Záloha %1 byla obnovena. Co bylo uloženo předtím, je uschováno pod názvem %2.</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>保存训练的文件 %1 已损坏，无法读取。该文件已改名为 %2 保留，并新建了一个空文件。如果您有该文件的备份，可以将其放回原处。</translation>
+        <translation>保存训练的文件 %1 已损坏，无法读取。该文件已改名为 %2 保留，并新建了一个空文件。如果您有该文件的备份，请在 Melvado 窗口中用“恢复备份…”将其恢复。</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>服务器无法访问期间留在这台计算机上的一个训练现已传送到 %1。在此期间那里保存了更新的训练，以较新的为准；这台计算机上的训练保存在它旁边，名称以 %2 结尾。</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>文件 %1 不是已保存训练的备份。未作任何更改。</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>备份 %1 已损坏（%2）。未作任何更改。</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>备份 %1 由本程序的更新版本写入。未作任何更改。请安装更新的版本。</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>另一个程序正在使用 %1 中保存的训练。未作任何更改。请关闭练习和其他使用它的程序，然后重试。</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>无法恢复备份 %1（%2）。之前保存的内容仍保持原样。</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>文件 %1 是当前正在使用的文件。请选择它的备份。</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>无法将记录保存为 %1（%2）。</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>恢复备份…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>选择备份</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>要用备份 %1（最后修改：%2）替换 %3 吗？之后用户、设置、训练和日志都是备份中的内容。当前保存的内容会以其他名称保留。</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>已恢复备份 %1。之前保存的内容以名称 %2 保留。</translation>
     </message>
     <message id="9251s">
         <source></source>

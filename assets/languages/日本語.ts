@@ -643,7 +643,7 @@
     </message>
     <message id="9106s">
         <source></source>
-        <translation>トレーニングを保存したファイル %1 が破損しており、読み込めませんでした。このファイルは %2 という名前で残し、新しい空のファイルを作成しました。バックアップがあれば、元の場所に戻すことができます。</translation>
+        <translation>トレーニングを保存したファイル %1 が破損しており、読み込めませんでした。このファイルは %2 という名前で残し、新しい空のファイルを作成しました。バックアップがあれば、Melvado のウィンドウの「バックアップから復元…」で元に戻せます。</translation>
     </message>
     <message id="9107s">
         <source></source>
@@ -668,6 +668,30 @@
     <message id="9112s">
         <source></source>
         <translation>サーバーに接続できない間このコンピューターに保管されていたトレーニングを、%1 に送りました。その間にサーバーにはより新しいトレーニングが保存されており、そちらが有効です。このコンピューターのものは、末尾が %2 の名前でその横に保管されています。</translation>
+    </message>
+    <message id="9120s">
+        <source></source>
+        <translation>ファイル %1 は保存されたトレーニングのバックアップではありません。何も変更していません。</translation>
+    </message>
+    <message id="9121s">
+        <source></source>
+        <translation>バックアップ %1 は破損しています（%2）。何も変更していません。</translation>
+    </message>
+    <message id="9122s">
+        <source></source>
+        <translation>バックアップ %1 は、このプログラムの新しいバージョンで書かれたものです。何も変更していません。新しいバージョンをインストールしてください。</translation>
+    </message>
+    <message id="9123s">
+        <source></source>
+        <translation>別のプログラムが %1 に保存されたトレーニングを使用しています。何も変更していません。練習とそれを使用しているほかのプログラムを閉じて、もう一度試してください。</translation>
+    </message>
+    <message id="9124s">
+        <source></source>
+        <translation>バックアップ %1 を復元できませんでした（%2）。保存されていた内容は元のまま残っています。</translation>
+    </message>
+    <message id="9125s">
+        <source></source>
+        <translation>ファイル %1 は現在使用中のファイルです。そのバックアップを選んでください。</translation>
     </message>
     <message id="9151s">
         <source></source>
@@ -724,6 +748,22 @@
     <message id="9207s">
         <source></source>
         <translation>記録を %1 として保存できませんでした（%2）。</translation>
+    </message>
+    <message id="9208s">
+        <source></source>
+        <translation>バックアップから復元…</translation>
+    </message>
+    <message id="9209s">
+        <source></source>
+        <translation>バックアップを選択</translation>
+    </message>
+    <message id="9210s">
+        <source></source>
+        <translation>バックアップ %1（最終更新：%2）を %3 の代わりに置きますか？ユーザー、設定、トレーニング、ログはバックアップのものになります。現在保存されている内容は別の名前で残します。</translation>
+    </message>
+    <message id="9211s">
+        <source></source>
+        <translation>バックアップ %1 を復元しました。以前に保存されていた内容は %2 という名前で残しました。</translation>
     </message>
     <message id="9251s">
         <source></source>

@@ -183,8 +183,11 @@ void HomeWindow::BuildFooter() {
     if (on_help) on_help("melvado");
   });
   log_button_ = MakeButton("log", quiet(kLeft + 162, 150), [this] { ShowLog(); });
+  restore_ = MakeButton("restore", quiet(kLeft + 324, 240), [this] { RestoreBackup(); });
+  // The person who looks after a server restores it there.
+  restore_->setVisible(host_.KeepsAFile());
   quit_ = MakeButton("quit", quiet(kLeft + kWidth - 150, 150), [this] { close(); });
-  version_ = Make<TextWidget>("version", {.rect = {kLeft + 324, kFooter + 4, 394, 32},
+  version_ = Make<TextWidget>("version", {.rect = {kLeft + 576, kFooter + 4, 142, 32},
                                           .look = Look::kQuiet,
                                           .text = 13,
                                           .align = Qt::AlignCenter});
@@ -196,7 +199,7 @@ void HomeWindow::BuildFooter() {
 void HomeWindow::OrderTabs() {
   const QList<QWidget*> order = {start_,    user_,       add_user_, change_user_, remove_user_,
                                  language_, output_,     test_,     soundfont_,   usual_soundfont_,
-                                 help_,     log_button_, quit_};
+                                 help_,     log_button_, restore_,  quit_};
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -262,6 +265,7 @@ void HomeWindow::ShowWords() {
   SetWords(*soundfont_, *soundfont_, words.Say(9412, "Choose a soundfont…"));
   SetWords(*usual_soundfont_, *usual_soundfont_, words.Say(9413, "Soundfont of the system"));
   SetWords(*log_button_, *log_button_, words.Say(9419, "Log"));
+  SetWords(*restore_, *restore_, words.Say(9208, "Restore a backup…"));
   SetWords(*quit_, *quit_, words.Say(9420, "Quit"));
   SetWords(*help_, *help_, words.Say(9421, "Help"));
   Name(*user_, user_heading_->caption());
@@ -379,7 +383,8 @@ void HomeWindow::ShowStart() {
            runs ? host_.words().Say(9422, "Starting…")
                 : host_.words().Say(347, "Jazz-Akkorde bestimmen"));
   start_->setDown(runs);
-  for (QWidget* widget : std::initializer_list<QWidget*>{user_, add_user_, language_, output_}) {
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{user_, add_user_, language_, output_, restore_}) {
     widget->setEnabled(!runs);
   }
   if (!runs) return;
@@ -473,7 +478,7 @@ void HomeWindow::ChooseSoundfont() {
   // The kinds of soundfonts, as the name filter writes several.
   constexpr const char* kEndings = "sf2 *.sf3 *.SF2 *.SF3";
   const QString title = host_.words().Say(9437, "Choose a soundfont");
-  const std::optional<std::string> path = dialog_.AskToOpen(title.toStdString(), kEndings);
+  const std::optional<std::string> path = dialog_.AskToOpen(title.toStdString(), kEndings, "");
   if (path) TakeSoundfont(*path);
 }
 
@@ -548,6 +553,22 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
 void HomeWindow::ShowLog() {
   if (!log_) log_ = std::make_unique<LogWindow>(host_, loop_, this);
   log_->Open(style_.factor);
+}
+
+void HomeWindow::RestoreBackup() {
+  const Words& words = host_.words();
+  // Whoever made a backup named it; what was put aside has its date for an extension.
+  constexpr const char* kAnyExtension = "*";
+  const std::optional<std::string> path = dialog_.AskToOpen(
+      words.Say(9209, "Choose a backup").toStdString(), kAnyExtension, host_.StoreFolder());
+  if (!path) return;
+  const std::optional<Notice> outcome = host_.RestoreBackup(*path, [&](const Notice& question) {
+    return messages_.Ask(words.Say(question).toStdString(), "Melvado", MessageBox::Answer::kNo) ==
+           MessageBox::Answer::kYes;
+  });
+  if (!outcome) return;
+  Refresh();  // behind the message stands already what was restored
+  messages_.Warn(words.Say(*outcome).toStdString(), "Melvado");
 }
 
 // --- Events and painting

@@ -28,7 +28,7 @@ class LogWindow;
 /// exercise. It shows what the host says and hands on what the user does.
 ///
 /// Its widgets have names: user, add_user, change_user, remove_user, language, output, test,
-/// soundfont, usual_soundfont, verdict, start, help, log, quit.
+/// soundfont, usual_soundfont, verdict, start, help, log, restore, quit.
 class HomeWindow : public QWidget {
  public:
   /// All outlive the window.
@@ -105,6 +105,7 @@ class HomeWindow : public QWidget {
   void AskToEndModule();
   void ModuleEnded(const ModuleEnd& end);
   void ShowLog();
+  void RestoreBackup();
   bool AskHelp(const QWidget& asked, const QKeyEvent& key);
 
   Host& host_;
@@ -142,6 +143,7 @@ class HomeWindow : public QWidget {
   PressWidget* start_ = nullptr;
   PressWidget* help_ = nullptr;
   PressWidget* log_button_ = nullptr;
+  PressWidget* restore_ = nullptr;
   PressWidget* quit_ = nullptr;
   TextWidget* version_ = nullptr;
 };

@@ -3,6 +3,7 @@
 
 #include "melvado/host.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -16,6 +17,7 @@
 #include "platform/midi/soundfonts.h"
 #include "platform/qt/single_instance.h"
 #include "platform/store/store_address.h"
+#include "platform/store/store_backup.h"
 #include "platform/store/store_notices.h"
 #include "version.h"
 
@@ -260,6 +262,46 @@ void Host::ModuleEnded(const ModuleEnd& end) {
   if (!what.empty()) LogError("Host.ModuleEnded", end.code, what, "melvado");
   RefreshOutputs();
   if (on_module_end) on_module_end(end);
+}
+
+// --- Backups
+
+bool Host::KeepsAFile() const {
+  return ParseStoreAddress(setup_.store).kind == StoreAddress::Kind::kFile;
+}
+
+std::string Host::StoreFolder() const {
+  return QFileInfo(ParseStoreAddress(setup_.store).path).absolutePath().toStdString();
+}
+
+std::optional<Notice> Host::RestoreBackup(const std::string& path,
+                                          const std::function<bool(const Notice&)>& agree) {
+  const StoreAddress address = ParseStoreAddress(setup_.store);
+  if (module_.runs()) return StoreInUseNotice(address.Display());
+  StoreBackup backup(QString::fromStdString(path), address.path);
+  if (auto refusal = backup.Prepare()) return refusal;
+  const std::string changed_on =
+      words_.locale()
+          .toString(QFileInfo(QString::fromStdString(path)).lastModified(), QLocale::ShortFormat)
+          .toStdString();
+  const Notice question{
+      9210,
+      "Put the backup %1 (last changed: %2) in the place of %3? Users, settings, trainings and the "
+      "log are those of the backup then. What is stored now is kept under another name.",
+      {path, changed_on, address.Display()}};
+  if (!agree(question)) return std::nullopt;
+  if (auto refusal = store_.Restore(backup)) return refusal;
+  const std::string aside = backup.aside().toStdString();
+  TaggedValue slot;
+  store_.Service()->Action("LOGMESS", "restored " + path + ", before: " + aside, slot);
+  test_.Stop();
+  verdict_.reset();
+  SpeakLanguage();
+  RefreshOutputs();
+  return Notice{9211,
+                "The backup %1 has been restored. What was stored before has been kept under the "
+                "name %2.",
+                {path, aside}};
 }
 
 // --- The log

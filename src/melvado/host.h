@@ -109,6 +109,16 @@ class Host {
   /// False when there is none to be brought, or it does not answer in some seconds.
   bool BringModuleToFront();
 
+  // --- Backups
+  /// Whether what is stored lies in a file of this machine, which alone can be restored here.
+  bool KeepsAFile() const;
+  /// The folder of that file.
+  std::string StoreFolder() const;
+  /// Puts a backup in the place of what is stored, if it is fit for that and `agree` says so to the
+  /// question of it. Returns what is to be said of it; nothing when it was not agreed to.
+  std::optional<Notice> RestoreBackup(const std::string& path,
+                                      const std::function<bool(const Notice&)>& agree);
+
   // --- The log
   /// Logs an error of the host itself.
   void LogError(const std::string& place, int number, const std::string& text,

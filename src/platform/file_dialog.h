@@ -17,9 +17,11 @@ class FileDialog {
   /// extension too, and the user has agreed to overwrite what is there.
   virtual std::optional<std::string> AskToSave(const std::string& title,
                                                const std::string& proposal) = 0;
-  /// Asks what to read, an existing file of the extension, which comes without the full stop.
+  /// Asks what to read, an existing file of the extension, which comes without the full stop. The
+  /// dialog begins in `folder`, or with "" in the usual one.
   virtual std::optional<std::string> AskToOpen(const std::string& title,
-                                               const std::string& extension) = 0;
+                                               const std::string& extension,
+                                               const std::string& folder) = 0;
 };
 
 }  // namespace vmod17

@@ -129,7 +129,7 @@ void Einstellung1::cmdOptionSave_Click() {
 }
 
 void Einstellung1::cmdOptionRead_Click() {
-  const auto file = parts_.dialog.AskToOpen(cmdOptionRead.caption, "xml");
+  const auto file = parts_.dialog.AskToOpen(cmdOptionRead.caption, "xml", "");
   if (!file) {
     EinlesenTest();
     return;

@@ -73,14 +73,17 @@ class ScriptedFileDialog : public FileDialog {
   std::optional<std::string> to_save;
   std::optional<std::string> to_open;
   std::vector<std::string> proposals;
+  std::string folder;  ///< in which the dialog for opening began last
   int opened = 0;
 
   std::optional<std::string> AskToSave(const std::string&, const std::string& proposal) override {
     proposals.push_back(proposal);
     return to_save;
   }
-  std::optional<std::string> AskToOpen(const std::string&, const std::string&) override {
+  std::optional<std::string> AskToOpen(const std::string&, const std::string&,
+                                       const std::string& begin) override {
     ++opened;
+    folder = begin;
     return to_open;
   }
 };

@@ -24,11 +24,13 @@ std::optional<std::string> QtFileDialog::AskToSave(const std::string& title,
 }
 
 std::optional<std::string> QtFileDialog::AskToOpen(const std::string& title,
-                                                   const std::string& extension) {
+                                                   const std::string& extension,
+                                                   const std::string& folder) {
   QFileDialog dialog(Window(), QString::fromStdString(title));
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
   Prepare(dialog, QString::fromStdString(extension));
+  if (!folder.empty()) dialog.setDirectory(QString::fromStdString(folder));
   return Show(dialog);
 }
 

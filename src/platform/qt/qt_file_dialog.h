@@ -29,8 +29,8 @@ class QtFileDialog : public FileDialog {
 
   std::optional<std::string> AskToSave(const std::string& title,
                                        const std::string& proposal) override;
-  std::optional<std::string> AskToOpen(const std::string& title,
-                                       const std::string& extension) override;
+  std::optional<std::string> AskToOpen(const std::string& title, const std::string& extension,
+                                       const std::string& folder) override;
 
  private:
   QWidget* Window() const { return window_ ? window_() : nullptr; }

@@ -18,6 +18,7 @@
 #include "platform/store/seat.h"
 #include "platform/store/sql_connection.h"
 #include "platform/store/store_address.h"
+#include "platform/store/store_backup.h"
 #include "platform/store/store_file.h"
 #include "platform/store/store_notices.h"
 #include "platform/store/store_tables.h"
@@ -885,6 +886,8 @@ bool HostStore::OpenAnew(int wait_ms) {
   }
   connection_->Open(wait_ms);
   std::optional<StoreTables::Facts> facts = tables_->LookInto(options_.seat);
+  // Its lock may have been waited for while another file took its place.
+  if (WasReplaced()) return OpenAnew(wait_ms);
   if (facts && facts->version > kStoreVersion) {
     connection_->Close();
     TellInMemory(NewerStoreNotice(address_->Display()));
@@ -964,6 +967,21 @@ bool HostStore::Repair() {
   }
   Tell(BrokenStoreNotice(address_->Display(), aside.toStdString()));
   return true;
+}
+
+std::optional<Notice> HostStore::Restore(StoreBackup& backup) {
+  if (connection_) connection_->Close();
+  if (state_ == State::kOpen) state_ = State::kClosed;
+  if (auto refusal = backup.PutInPlace(options_.clock())) return refusal;
+  state_ = State::kClosed;
+  was_open_ = false;
+  settings_.clear();
+  pending_.clear();
+  pending_users_.clear();
+  pending_settings_.clear();
+  in_memory_.reset();
+  TellAnew();
+  return std::nullopt;
 }
 
 bool HostStore::IsFile() const { return address_->kind == StoreAddress::Kind::kFile; }

@@ -29,6 +29,7 @@ namespace vmod17 {
 class Outbox;
 class SqlConnection;
 class SqlError;
+class StoreBackup;
 class StoreTables;
 struct OutboxEntry;
 struct OutboxPiece;
@@ -144,6 +145,11 @@ class HostStore {
   /// and is his again when he is added again. Errors: RunTimeError kStore while the store is
   /// locked.
   void RemoveUser(const std::string& id);
+
+  /// Has a backup that is prepared take the place of the store, a file. What was not stored yet is
+  /// dropped, and users, settings and records are read anew. Returns why it cannot be done; then
+  /// the store is as it was.
+  std::optional<Notice> Restore(StoreBackup& backup);
 
   /// The settings as they hold in this process, for one that it starts: the store may not have
   /// taken them all, and another process may have changed them in it.

@@ -194,4 +194,17 @@ void SqliteConnection::Prepare() {
   }
 }
 
+void SqliteConnection::KeepToOneFile() {
+  const SqlResult mode = Run(QStringLiteral("PRAGMA journal_mode = DELETE"));
+  if (mode.rows.isEmpty() || mode.rows[0][0].toString() != "delete") {
+    throw SqlError(SqlFailure::kLocked, "the write-ahead log is in use");
+  }
+}
+
+void SqliteConnection::Alone(const std::function<void()>& work) {
+  Run(QStringLiteral("BEGIN EXCLUSIVE"));
+  work();
+  QSqlQuery(database_).exec(QStringLiteral("ROLLBACK"));
+}
+
 }  // namespace vmod17

@@ -31,6 +31,11 @@ class SqliteConnection : public SqlConnection {
   void SetSync(Sync sync) override;
   void Prepare() override;
   bool IsReadOnly() const override { return read_only_; }
+  /// Brings all of the database into its file, and leaves nothing beside it. Errors: SqlError,
+  /// kLocked also while anyone else has it open.
+  void KeepToOneFile();
+  /// Runs `work`, which raises nothing, while nobody else can read or write. After `KeepToOneFile`.
+  void Alone(const std::function<void()>& work);
   QString BytesType() const override { return QStringLiteral("BLOB"); }
   QString RowNumberType() const override {
     return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");

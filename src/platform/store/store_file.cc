@@ -7,9 +7,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <array>
+#include <filesystem>
+#include <system_error>
 
 #ifdef Q_OS_UNIX
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 namespace vmod17 {
@@ -32,6 +36,14 @@ void Narrow(const QString& path, QFileDevice::Permissions allowed) {
                                                QFileDevice::ExeGroup | QFileDevice::ReadOther |
                                                QFileDevice::WriteOther | QFileDevice::ExeOther;
   if ((QFile::permissions(path) & kOthers) != 0) QFile::setPermissions(path, allowed);
+}
+
+QString Stamp(const DateTime& now) {
+  const auto digits = [](int number, int count) {
+    return QString::number(number).rightJustified(count, '0');
+  };
+  return digits(now.year, 4) + digits(now.month, 2) + digits(now.day, 2) + '-' +
+         digits(now.hour, 2) + digits(now.minute, 2) + digits(now.second, 2);
 }
 
 }  // namespace
@@ -72,12 +84,38 @@ bool IsWritableStore(const QString& path) {
   return QFileInfo(path).isWritable() && QFileInfo(QFileInfo(path).absolutePath()).isWritable();
 }
 
-QString BrokenSuffix(const DateTime& now) {
-  const auto digits = [](int number, int count) {
-    return QString::number(number).rightJustified(count, '0');
-  };
-  return ".broken-" + digits(now.year, 4) + digits(now.month, 2) + digits(now.day, 2) + '-' +
-         digits(now.hour, 2) + digits(now.minute, 2) + digits(now.second, 2);
+QString BrokenSuffix(const DateTime& now) { return ".broken-" + Stamp(now); }
+
+QString KeepAlsoAside(const QString& path, const DateTime& now) {
+  QString aside;
+  for (int i = 1; aside.isEmpty(); ++i) {
+    const QString name =
+        path + ".replaced-" + Stamp(now) + (i == 1 ? "" : '-' + QString::number(i));
+    std::error_code error;
+    std::filesystem::create_hard_link(QFile::encodeName(path).toStdString(),
+                                      QFile::encodeName(name).toStdString(), error);
+    if (error == std::errc::file_exists) continue;
+    if (error && !QFile::copy(path, name)) return {};
+    aside = name;
+  }
+  for (const char* side : kSideFiles) {
+    if (!QFileInfo::exists(path + side) || QFile::rename(path + side, aside + side)) continue;
+    QFile::remove(aside);
+    return {};
+  }
+  return SyncToDisk(aside) ? aside : QString();
+}
+
+bool SyncToDisk(const QString& path) {
+#ifdef Q_OS_UNIX
+  const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+  if (handle < 0) return false;
+  const bool done = ::fsync(handle) == 0;
+  ::close(handle);
+  return done;
+#else
+  return true;
+#endif
 }
 
 QString MoveStoreAside(const QString& path, const DateTime& now) {

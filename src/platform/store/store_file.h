@@ -30,6 +30,14 @@ bool IsWritableStore(const QString& path);
 /// The ending of what is put aside: `.broken-YYYYMMDD-hhmmss`.
 QString BrokenSuffix(const DateTime& now);
 
+/// Gives a file a second name, its path with `.replaced-YYYYMMDD-hhmmss` behind it, and "-2" and so
+/// on when that name is taken; where the file system knows no second names, to a copy of it. Side
+/// files go to the second name. Returns it, or "" when it cannot be done.
+QString KeepAlsoAside(const QString& path, const DateTime& now);
+
+/// Waits until a file, or the names in a folder, are on the disk. False when that fails.
+bool SyncToDisk(const QString& path);
+
 /// Renames the file and its side files to its path with `BrokenSuffix` behind it, and "-2" and so
 /// on when that name is taken. Returns the new path, or "" when it cannot be done.
 QString MoveStoreAside(const QString& path, const DateTime& now);

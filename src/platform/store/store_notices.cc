@@ -48,7 +48,7 @@ Notice BrokenStoreNotice(const std::string& place, const std::string& aside) {
   return {9106,
           "The file with your stored trainings, %1, is damaged and could not be read. It has been "
           "kept under the name %2, and a new, empty file has been started. If you have a backup "
-          "copy of the file, you can put it back in its place.",
+          "copy of the file, put it back with “Restore a backup…” in the window of Melvado.",
           {place, aside}};
 }
 
@@ -100,6 +100,38 @@ Notice NewerRecordNotice(const std::string& place, const std::string& suffix) {
           "brought to %1. A newer one had been stored there meanwhile, which holds; the one from "
           "this computer was kept beside it, under a name that ends in %2.",
           {place, suffix}};
+}
+
+Notice NoBackupNotice(const std::string& file) {
+  return {9120, "The file %1 is no backup of stored trainings. Nothing has been changed.", {file}};
+}
+
+Notice DamagedBackupNotice(const std::string& file, const std::string& reason) {
+  return {9121, "The backup %1 is damaged (%2). Nothing has been changed.", {file, reason}};
+}
+
+Notice NewerBackupNotice(const std::string& file) {
+  return {9122,
+          "The backup %1 was written by a newer version of this program. Nothing has been changed. "
+          "Please install the newer version.",
+          {file}};
+}
+
+Notice StoreInUseNotice(const std::string& place) {
+  return {9123,
+          "Another program is using the stored trainings in %1. Nothing has been changed. Please "
+          "close the exercise and every other program that uses them, and try again.",
+          {place}};
+}
+
+Notice BackupNotRestoredNotice(const std::string& file, const std::string& reason) {
+  return {9124,
+          "The backup %1 could not be restored (%2). What was stored is still there as it was.",
+          {file, reason}};
+}
+
+Notice PresentStoreNotice(const std::string& file) {
+  return {9125, "The file %1 is the one that is in use now. Please choose a backup of it.", {file}};
 }
 
 Notice UnreadableStoreNotice(const std::string& place, const std::string& reason) {

@@ -29,6 +29,13 @@ Notice UnreachableServerNotice(const std::string& place, const std::string& reas
 Notice UnusableServerNotice(const std::string& place, const std::string& reason);
 /// `suffix` is what the key of the older record, which came late, has behind it now.
 Notice NewerRecordNotice(const std::string& place, const std::string& suffix);
+/// Why a backup was not restored. `file` is the backup.
+Notice NoBackupNotice(const std::string& file);
+Notice DamagedBackupNotice(const std::string& file, const std::string& reason);
+Notice NewerBackupNotice(const std::string& file);
+Notice PresentStoreNotice(const std::string& file);
+Notice BackupNotRestoredNotice(const std::string& file, const std::string& reason);
+Notice StoreInUseNotice(const std::string& place);
 Notice UnreadableStoreNotice(const std::string& place, const std::string& reason);
 
 }  // namespace vmod17

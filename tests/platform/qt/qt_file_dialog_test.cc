@@ -81,13 +81,13 @@ TEST_F(QtFileDialogTest, OpensAnExistingFileOfTheExtension) {
     TypeName(dialog, "a.xml");
     Accept(dialog);
   });
-  EXPECT_EQ(dialog_.AskToOpen("Einlesen", "xml"), At("a.xml").toStdString());
+  EXPECT_EQ(dialog_.AskToOpen("Einlesen", "xml", ""), At("a.xml").toStdString());
   EXPECT_EQ(filters, QStringList{"*.xml"});
 }
 
 TEST_F(QtFileDialogTest, AnswersWithNothingWhenTheUserGivesUp) {
   Then([](QFileDialog& dialog) { dialog.reject(); });
-  EXPECT_EQ(dialog_.AskToOpen("Einlesen", "xml"), std::nullopt);
+  EXPECT_EQ(dialog_.AskToOpen("Einlesen", "xml", ""), std::nullopt);
   Then([](QFileDialog& dialog) { dialog.close(); });
   EXPECT_EQ(dialog_.AskToSave("Speichern", "Test.xml"), std::nullopt);
 }
@@ -104,7 +104,7 @@ TEST_F(QtFileDialogTest, BeginsWhereTheLastFileWasChosen) {
     begun = dialog.directory().absolutePath();
     dialog.reject();
   });
-  dialog_.AskToOpen("Einlesen", "xml");
+  dialog_.AskToOpen("Einlesen", "xml", "");
   EXPECT_EQ(begun, QDir(folder_.path()).absolutePath());
 }
 
