@@ -18,6 +18,6 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "libqt6sql6-sqlite, libqt6svg6, fluid-soundfont-gm | timgm6mb-soundfont, fonts-noto-core, fonts-noto-cjk")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libqt6sql6-psql")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libpq5")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "jackd")
 include(CPack)
