@@ -63,7 +63,8 @@ int main(int argc, char* argv[]) {
   const QTemporaryDir data;
   vmod17::ServerProxy proxy(argv[1]);
   vmod17::StoreOptions options;
-  options.address = "postgresql://melvado@127.0.0.1:" + std::to_string(proxy.port()) + '/' + argv[2];
+  options.address =
+      "postgresql://melvado@127.0.0.1:" + std::to_string(proxy.port()) + '/' + argv[2];
   options.data_folder = data.path().toStdString();
   {
     // The tables are there, as they are at every start but the first.

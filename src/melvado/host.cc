@@ -69,6 +69,7 @@ StoreOptions Host::HostStoreOptions() {
   StoreOptions options;
   options.address = setup_.store;
   options.busy_timeout_ms = setup_.store_patience_ms;
+  options.users_at_start = true;
   options.desktop_language = [this] { return languages_.BestFor(setup_.locales); };
   options.language_installed = [this](const std::string& name) {
     const std::vector<std::string> names = Languages();

@@ -36,6 +36,7 @@ constexpr const char* kSoundfont = "soundfont";
 
 // Between two glances at a connection that is being made.
 constexpr int kGlanceMs = 500;
+constexpr int kSoonMs = 1000;
 
 DateTime SystemTime() {
   const QDateTime now = QDateTime::currentDateTime();
@@ -192,6 +193,8 @@ HostStore::HostStore(StoreOptions options)
       log_(options_.log_limit_bytes) {
   if (!options_.clock) options_.clock = SystemTime;
   if (options_.data_folder.empty()) options_.data_folder = UserDataFolder();
+  // As of a file, see `StoreAddress::Kind::kNotUtf8`.
+  if (!QByteArrayView(options_.data_folder).isValidUtf8()) options_.data_folder.clear();
   if (options_.seat.empty() && IsServer()) {
     const Seat seat = SeatIn(QString::fromStdString(options_.data_folder));
     options_.seat = seat.name;
@@ -323,6 +326,11 @@ bool HostStore::AppendLog(LogEntry entry) {
   entry.at = TextOf(options_.clock());
   entry.user = Setting(kUserId);
   log_.Add(std::move(entry));
+  if (connection_ && connection_->IsFar()) {
+    // What the user waits for goes first.
+    LookForServerLater(kSoonMs);
+    return true;
+  }
   return BringLog();
 }
 
@@ -435,7 +443,8 @@ std::vector<StoreUser> HostStore::Users() {
   try {
     WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
       if (!has_user_table_) return;
-      for (StoreUser& user : tables.Users()) users[user.id] = std::move(user);
+      std::vector<StoreUser> all = users_ ? *std::exchange(users_, std::nullopt) : tables.Users();
+      for (StoreUser& user : all) users[user.id] = std::move(user);
     });
   } catch (const SqlError& error) {
     TellUnreadable(error);
@@ -519,6 +528,7 @@ bool HostStore::WriteUser(const Work& work) {
     return WithStore(Patience::kWait, [&](StoreTables& tables) {
       if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
       NeedUserTable();
+      users_.reset();
       work(tables);
     });
   } catch (const SqlError& error) {
@@ -677,7 +687,7 @@ void HostStore::PutAside(const RecordKey& key, const std::string& value) {
 // ---- What waits for a server
 
 void HostStore::OpenOutbox() {
-  if (outbox_ || !IsServer()) return;
+  if (outbox_ || !IsServer() || options_.data_folder.empty()) return;
   outbox_ = std::make_unique<Outbox>(
       OutboxPath(QString::fromStdString(options_.data_folder), address_->server, options_.seat),
       options_.clock);
@@ -764,13 +774,13 @@ void HostStore::Bring(StoreTables& tables, const OutboxPiece& piece) {
   }
 }
 
-void HostStore::LookForServerLater() {
+void HostStore::LookForServerLater(std::optional<int> ms) {
   if (!IsServer()) return;
   if (!retry_timer_) {
     retry_timer_ = std::make_unique<QTimer>();
     QObject::connect(retry_timer_.get(), &QTimer::timeout, [this] { LookForServer(); });
   }
-  if (!retry_timer_->isActive()) retry_timer_->start(options_.retry_ms);
+  if (!retry_timer_->isActive()) retry_timer_->start(ms.value_or(options_.retry_ms));
 }
 
 void HostStore::LookForServer() {
@@ -798,6 +808,7 @@ void HostStore::RestSoon() {
       if (calls_ > 0 || state_ != State::kOpen) return RestSoon();
       connection_->Close();
       state_ = State::kClosed;
+      users_.reset();
     });
   }
   idle_timer_->start(options_.idle_ms);
@@ -885,7 +896,10 @@ bool HostStore::OpenAnew(int wait_ms) {
     identity_ = IdentityOf(address_->path);
   }
   connection_->Open(wait_ms);
-  std::optional<StoreTables::Facts> facts = tables_->LookInto(options_.seat);
+  const bool also_users = options_.users_at_start && IsServer() && !was_open_;
+  std::optional<StoreTables::Facts> facts =
+      tables_->LookInto(options_.seat, former_seat_,
+                        also_users ? StoreTables::AlsoUsers::kYes : StoreTables::AlsoUsers::kNo);
   // Its lock may have been waited for while another file took its place.
   if (WasReplaced()) return OpenAnew(wait_ms);
   if (facts && facts->version > kStoreVersion) {
@@ -897,13 +911,17 @@ bool HostStore::OpenAnew(int wait_ms) {
   if (!facts) {
     tables_->Create();
     if (!settings_.empty()) tables_->SetSettings(options_.seat, settings_);
-    facts = {kStoreVersion, {}};
+    facts = {kStoreVersion, {}, {}, std::nullopt};
   }
   read_only_ = connection_->IsReadOnly();
   has_user_table_ = facts->version >= kStoreVersion || TryToUpgrade();
   if (!was_open_) {
-    if (facts->settings.empty()) TakeOverFormerSeat(facts->settings);
+    if (facts->settings.empty() && !facts->former.empty() && !former_seat_.empty()) {
+      TakeOver(facts->former);
+      facts->settings = facts->former;
+    }
     settings_.merge(facts->settings);
+    users_ = std::move(facts->users);
   }
   was_open_ = true;
   if (!Kept().empty()) LookForServerLater();
@@ -911,12 +929,9 @@ bool HostStore::OpenAnew(int wait_ms) {
   return true;
 }
 
-void HostStore::TakeOverFormerSeat(Settings& settings) {
-  if (former_seat_.empty() || former_seat_ == options_.seat) return;
-  settings = tables_->Settings(former_seat_);
-  if (settings.empty()) return;
+void HostStore::TakeOver(const Settings& settings_of_former_seat) {
   try {
-    tables_->SetSettings(options_.seat, settings);
+    tables_->SetSettings(options_.seat, settings_of_former_seat);
   } catch (const SqlError& error) {
     // They hold in this process, and the next one finds them again.
     if (error.failure() != SqlFailure::kReadOnly) throw;

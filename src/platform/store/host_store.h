@@ -67,6 +67,8 @@ struct StoreOptions {
   int idle_ms = 30'000;
   /// Folder for what this machine keeps of a user; "" for `UserDataFolder()`.
   std::string data_folder;
+  /// Whether the users will be asked for at once: they come with the settings then.
+  bool users_at_start = false;
   /// Size above which the oldest lines of the log go. The tables add a quarter to it at most.
   std::int64_t log_limit_bytes = 7'500'000;
 };
@@ -188,7 +190,7 @@ class HostStore {
   bool OpenAnew(int wait_ms);
   int WaitFor(Patience patience) const;
   void MakeConnection();
-  void TakeOverFormerSeat(Settings& settings);
+  void TakeOver(const Settings& settings_of_former_seat);
   bool Recover(const SqlError& error);
   bool Repair();
   bool IsFile() const;
@@ -215,7 +217,7 @@ class HostStore {
   void DropKeptUser(const std::string& id);
   void EmptyOutbox();
   void Bring(StoreTables& tables, const OutboxPiece& piece);
-  void LookForServerLater();
+  void LookForServerLater(std::optional<int> ms = {});
   void LookForServer();
   void RestSoon();
 
@@ -252,6 +254,7 @@ class HostStore {
   bool outbox_fails_ = false;
   std::map<RecordKey, std::string> seen_;  // fingerprints of what a server holds
   std::string former_seat_;
+  std::optional<std::vector<StoreUser>> users_;     // that came with the settings, until asked for
   int calls_ = 0;                                   // that are under way, one within the other
   std::chrono::steady_clock::time_point deadline_;  // of the outermost
   std::unique_ptr<QTimer> retry_timer_;

@@ -29,6 +29,7 @@ class PostgresConnection : public SqlConnection {
   void Close() override;
   void SetDeadline(Deadline deadline) override { deadline_ = deadline; }
   bool IsAtHand() override;
+  bool IsFar() const override { return is_far_; }
   bool HasTable(const QString& name) override;
   void LockSchema() override;
   SqlErrand Append(const SqlStatements& statements, int wait_ms) override;

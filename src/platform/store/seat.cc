@@ -52,7 +52,7 @@ Seat SeatIn(const QString& folder, const std::string& machine) {
       QCryptographicHash::hash(QByteArray::fromStdString(machine), QCryptographicHash::Sha256);
   const QString path = folder + "/seat-" + QString::fromLatin1(mark.toHex().left(16));
   QString name = ReadName(path);
-  if (name.isEmpty()) {
+  if (name.isEmpty() && !folder.isEmpty()) {
     MakeName(path);
     name = ReadName(path);
   }

@@ -19,8 +19,8 @@ std::string ThisMachine();
 
 /// The seat of the present user, from a file in `folder` that is made at the first call and holds a
 /// name drawn at random. The file is one for each `machine`: neither a folder that several machines
-/// share nor a copy of a whole machine makes two seats one. Where it cannot be written, the seat is
-/// `machine` and user.
+/// share nor a copy of a whole machine makes two seats one. Where it cannot be written, or
+/// `folder` is "", the seat is `machine` and user.
 Seat SeatIn(const QString& folder, const std::string& machine = ThisMachine());
 
 }  // namespace vmod17

@@ -81,6 +81,9 @@ class SqlConnection {
   /// throws.
   virtual bool IsAtHand() { return true; }
 
+  /// Whether each call takes so long that what nobody waits for had better come last. Never throws.
+  virtual bool IsFar() const { return false; }
+
   SqlResult Run(const QString& statement, const QVariantList& values = {}) {
     return Execute({{statement, values}});
   }

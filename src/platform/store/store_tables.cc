@@ -44,6 +44,12 @@ std::string ShortText(const QVariantList& row, int column, qsizetype longest) {
   return (text.size() > longest ? text.left(longest) + QChar(0x2026) : text).toStdString();
 }
 
+/// From this column on.
+StoreUser UserIn(const QVariantList& row, int column) {
+  return {TextIn(row, column), ShortText(row, column + 1, kLongestName),
+          ShortText(row, column + 2, kLongestName)};
+}
+
 LogEntry EntryOf(const QVariantList& row) {
   const auto text = [&row](int column) { return ShortText(row, column, kLongestLine); };
   LogEntry entry;
@@ -73,9 +79,9 @@ QString MakeUserTable() {
 // Tables of ours without a version that we can read were not written by any version up to ours.
 constexpr std::int64_t kUnknownVersion = kStoreVersion + 1;
 
-std::int64_t VersionIn(const QVariantList& row) {
+std::int64_t VersionIn(const QVariant& value) {
   bool is_number = false;
-  const std::int64_t version = row[0].toString().toLongLong(&is_number);
+  const std::int64_t version = value.toString().toLongLong(&is_number);
   return is_number ? version : kUnknownVersion;
 }
 
@@ -90,31 +96,48 @@ std::optional<std::int64_t> StoreTables::Version() {
   if (!connection_.HasTable(QStringLiteral("melvado_meta"))) return {};
   const SqlResult found = connection_.Run(
       QStringLiteral("SELECT value FROM melvado_meta WHERE name = 'schema_version'"));
-  return found.rows.isEmpty() ? kUnknownVersion : VersionIn(found.rows[0]);
+  return found.rows.isEmpty() ? kUnknownVersion : VersionIn(found.rows[0][0]);
 }
 
-std::optional<StoreTables::Facts> StoreTables::LookInto(const std::string& seat) {
+std::optional<StoreTables::Facts> StoreTables::LookInto(const std::string& seat,
+                                                        const std::string& former_seat,
+                                                        AlsoUsers also_users) {
+  QString statement = QStringLiteral(
+      "SELECT 'version', value, '', '' FROM melvado_meta WHERE name = 'schema_version' "
+      "UNION ALL SELECT 'seat', name, value, '' FROM melvado_setting WHERE seat = ? "
+      "AND length(value) <= ? "
+      "UNION ALL SELECT 'former', name, value, '' FROM melvado_setting WHERE seat = ? "
+      "AND length(value) <= ?");
+  QVariantList values = {Text(seat), kLongestSetting, Text(former_seat), kLongestSetting};
+  if (also_users == AlsoUsers::kYes) {
+    statement +=
+        " UNION ALL SELECT 'user', user_id, name, first_name FROM melvado_user "
+        "WHERE length(user_id) <= ?";
+    values << kLongestNumber;
+  }
   Facts facts;
   try {
-    const SqlResult found = connection_.Run(
-        QStringLiteral("SELECT meta.value, setting.name, setting.value FROM melvado_meta meta "
-                       "LEFT JOIN melvado_setting setting ON setting.seat = ? "
-                       "AND length(setting.value) <= ? "
-                       "WHERE meta.name = 'schema_version'"),
-        {Text(seat), kLongestSetting});
-    facts.version = found.rows.isEmpty() ? kUnknownVersion : VersionIn(found.rows[0]);
-    for (const QVariantList& row : found.rows) {
-      if (!row[1].isNull()) facts.settings[TextIn(row, 1)] = TextIn(row, 2);
+    facts.version = kUnknownVersion;
+    std::vector<StoreUser> users;
+    for (const QVariantList& row : connection_.Run(statement, values).rows) {
+      const QString kind = row[0].toString();
+      if (kind == "version") facts.version = VersionIn(row[1]);
+      if (kind == "seat") facts.settings[TextIn(row, 1)] = TextIn(row, 2);
+      if (kind == "former") facts.former[TextIn(row, 1)] = TextIn(row, 2);
+      if (kind == "user") users.push_back(UserIn(row, 1));
     }
+    if (also_users == AlsoUsers::kYes) facts.users = std::move(users);
     return facts;
   } catch (const SqlError& error) {
     if (error.failure() != SqlFailure::kOther) throw;
   }
-  // There are none of the tables yet, or not all of them any more.
+  // There are none of the tables yet, or not all of them.
   const std::optional<std::int64_t> version = Version();
   if (!version) return {};
   facts.version = *version;
-  if (*version <= kStoreVersion) facts.settings = Settings(seat);
+  if (*version > kStoreVersion) return facts;
+  facts.settings = Settings(seat);
+  facts.former = Settings(former_seat);
   return facts;
 }
 
@@ -247,10 +270,7 @@ std::vector<StoreUser> StoreTables::Users() {
       connection_.Run(QStringLiteral("SELECT user_id, name, first_name FROM melvado_user "
                                      "WHERE length(user_id) <= ?"),
                       {kLongestNumber});
-  for (const QVariantList& row : found.rows) {
-    users.push_back(
-        {TextIn(row, 0), ShortText(row, 1, kLongestName), ShortText(row, 2, kLongestName)});
-  }
+  for (const QVariantList& row : found.rows) users.push_back(UserIn(row, 0));
   return users;
 }
 

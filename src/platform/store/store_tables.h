@@ -61,9 +61,13 @@ class StoreTables {
   struct Facts {
     std::int64_t version = 0;
     std::map<std::string, std::string> settings;  ///< of the seat
+    std::map<std::string, std::string> former;    ///< of the other one
+    std::optional<std::vector<StoreUser>> users;  ///< where they are wanted and there
   };
+  enum class AlsoUsers { kNo, kYes };
   /// No value when the store has no tables yet. One statement, for a server far away.
-  std::optional<Facts> LookInto(const std::string& seat);
+  std::optional<Facts> LookInto(const std::string& seat, const std::string& former_seat,
+                                AlsoUsers also_users);
   /// Makes the tables, if nobody else has made them meanwhile.
   void Create();
   /// Makes a store of an older version into one of this version, if nobody else has done it

@@ -337,8 +337,13 @@ TEST_F(AwayServer, IsAskedNoMoreOftenThanNeededOnALongRoad) {
     store.SetLanguage("English");
     StoreValue(store, "E1", Array{"old"});
   }
+  HostStore(Options()).SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew);
   ServerProxy proxy(kServer->Socket());
-  HostStore store(OptionsFor(Through(proxy)));
+  StoreOptions options = OptionsFor(Through(proxy));
+  options.server_patience_ms = 30'000;
+  options.users_at_start = true;
+  HostStore store(std::move(options));
+  EXPECT_EQ(store.Users().size(), 1u);
   EXPECT_EQ(store.Language(), "English");
   // Whether it encrypts, who is there, and what has to be known of the store.
   EXPECT_LE(proxy.RoundTrips(), 3);
@@ -351,6 +356,7 @@ TEST_F(AwayServer, IsAskedNoMoreOftenThanNeededOnALongRoad) {
   EXPECT_EQ(trips_of([&] { StorePair(store, Array{"new E"}, Array{"new A"}); }), 1);
   EXPECT_EQ(trips_of([&] { LogLine(store, "line"); }), 1);
   EXPECT_EQ(trips_of([&] { store.SetUser({"4711", "Berg", "Anna"}); }), 1);
+  EXPECT_EQ(trips_of([&] { EXPECT_EQ(store.Users().size(), 1u); }), 1);
 }
 
 TEST_F(AwayServer, IsNotWaitedForByAProcessThatAnotherOneHasTold) {
