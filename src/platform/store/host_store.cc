@@ -732,10 +732,11 @@ void HostStore::DropKeptUser(const std::string& id) {
 /// Brings the store what stands in the outbox, in its order. Errors: SqlError.
 void HostStore::EmptyOutbox() {
   if (!outbox_ || outbox_->Pieces().empty()) return;
-  // What another process is bringing is its own to bring.
+  // What another process has left, a third one may be bringing.
   QLockFile lock(outbox_->Path() + ".lock");
   if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) return;
   for (const OutboxPiece& piece : outbox_->Pieces()) {
+    if (piece.is_of_another) continue;
     try {
       const bool brought =
           WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { Bring(tables, piece); });

@@ -3,6 +3,8 @@
 
 #include "platform/store/outbox.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <utility>
 
@@ -17,6 +19,23 @@ namespace {
 
 // For another process that adds a piece.
 constexpr int kPatienceMs = 1000;
+
+/// What tells a process from all others of this machine: its number and when it began, in the
+/// system's count. "" when there is none of this number.
+QString Mark(const QString& process) {
+  QFile facts("/proc/" + process + "/stat");
+  if (!facts.open(QIODevice::ReadOnly)) return {};
+  // The name before the bracket may hold anything. Behind it the beginning is the twentieth.
+  const QByteArray line = facts.readAll();
+  return process + ' ' +
+         QString::fromLatin1(line.mid(line.lastIndexOf(')') + 2).split(' ').value(19));
+}
+
+QString OwnMark() { return Mark(QString::number(QCoreApplication::applicationPid())); }
+
+bool IsOfAnother(const QString& mark) {
+  return mark != OwnMark() && mark == Mark(mark.section(' ', 0, 0));
+}
 
 }  // namespace
 
@@ -50,7 +69,7 @@ void Outbox::OpenAnew() {
   connection->SetSync(SqlConnection::Sync::kToDisk);
   connection->Run(
       "CREATE TABLE IF NOT EXISTS piece (number INTEGER PRIMARY KEY AUTOINCREMENT, "
-      "at TEXT NOT NULL)");
+      "at TEXT NOT NULL, owner TEXT NOT NULL)");
   connection->Run(
       "CREATE TABLE IF NOT EXISTS entry (id INTEGER PRIMARY KEY AUTOINCREMENT, "
       "piece INTEGER NOT NULL, kind TEXT NOT NULL, content BLOB NOT NULL)");
@@ -59,8 +78,8 @@ void Outbox::OpenAnew() {
 
 bool Outbox::Add(const std::vector<OutboxEntry>& entries) {
   if (!Open()) return false;
-  SqlStatements statements = {
-      {"INSERT INTO piece (at) VALUES (?)", {QString::fromStdString(TextOf(clock_()))}}};
+  SqlStatements statements = {{"INSERT INTO piece (at, owner) VALUES (?, ?)",
+                               {QString::fromStdString(TextOf(clock_())), OwnMark()}}};
   for (const OutboxEntry& entry : entries) {
     statements.push_back(
         {"INSERT INTO entry (piece, kind, content) "
@@ -82,14 +101,16 @@ std::vector<OutboxPiece> Outbox::Pieces() {
   SqlResult found;
   try {
     found = connection_->Run(
-        "SELECT number, at, kind, content, id FROM piece JOIN entry ON piece = number ORDER BY id");
+        "SELECT number, at, kind, content, id, owner FROM piece JOIN entry ON piece = number ORDER "
+        "BY id");
   } catch (const SqlError&) {
     return pieces;
   }
   for (const QVariantList& row : found.rows) {
     const std::int64_t number = row[0].toLongLong();
     if (pieces.empty() || pieces.back().number != number) {
-      pieces.push_back({number, row[1].toString().toStdString(), {}});
+      pieces.push_back(
+          {number, row[1].toString().toStdString(), IsOfAnother(row[5].toString()), {}});
     }
     try {
       pieces.back().entries.push_back({row[2].toString().toStdString(),

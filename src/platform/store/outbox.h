@@ -26,7 +26,8 @@ struct OutboxEntry {
 /// Entries that belong together.
 struct OutboxPiece {
   std::int64_t number = 0;
-  std::string at;  ///< date and time at which it was added, "YYYY-MM-DD hh:mm:ss"
+  std::string at;              ///< date and time at which it was added, "YYYY-MM-DD hh:mm:ss"
+  bool is_of_another = false;  ///< of a process that is still at work, and will see to it
   std::vector<OutboxEntry> entries;
 };
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "store_process.h"
 #include "store_testing.h"
 
 namespace vmod17 {
@@ -62,6 +63,18 @@ TEST_F(OutboxFile, IsOneForSeveralProcesses) {
   EXPECT_TRUE(other.Add({{"record", Array{"2"}}}));
   EXPECT_TRUE(one.Add({{"record", Array{"3"}}}));
   EXPECT_EQ(TextsOf(other), "record:1 | record:2 | record:3 | ");
+}
+
+TEST_F(OutboxFile, LeavesWhatAProcessHasPutInToItAsLongAsItIsAtWork) {
+  StoreProcess process;
+  ASSERT_EQ(process.Ask("post " + Path() + " record"), "posted");
+  Outbox outbox(Path(), Now);
+  EXPECT_TRUE(outbox.Add({{"record", Array{"mine"}}}));
+  ASSERT_EQ(outbox.Pieces().size(), 2u);
+  EXPECT_TRUE(outbox.Pieces()[0].is_of_another);
+  EXPECT_FALSE(outbox.Pieces()[1].is_of_another);
+  process.Kill();
+  EXPECT_FALSE(outbox.Pieces()[0].is_of_another);
 }
 
 TEST_F(OutboxFile, CanBeReadByItsOwnerAlone) {

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "platform/store/host_store.h"
+#include "platform/store/outbox.h"
 #include "platform/store/seat.h"
 
 namespace vmod17 {
@@ -42,6 +43,7 @@ class Helper {
     if (command == "add") return Add(words);
     if (command == "users") return Users();
     if (command == "seat") return SeatHere(words);
+    if (command == "post") return Post(words);
     if (command == "nobody") return BecomeNobody();
     if (command == "limit") return LimitFiles(words);
     if (command == "loop") StoreForEver(words);
@@ -159,6 +161,15 @@ class Helper {
     std::string all;
     for (const int notice : notices_) all += std::to_string(notice) + ' ';
     return all;
+  }
+
+  // post FILE KIND: an entry for an outbox
+  static std::string Post(std::istringstream& words) {
+    std::string path;
+    std::string kind;
+    words >> path >> kind;
+    Outbox outbox(QString::fromStdString(path), [] { return DateTime{2026, 3, 9, 8, 5, 1}; });
+    return outbox.Add({{kind, Array{kind}}}) ? "posted" : "refused";
   }
 
   // seat FOLDER
