@@ -37,6 +37,10 @@ constexpr const char* kSoundfont = "soundfont";
 // Between two glances at a connection that is being made.
 constexpr int kGlanceMs = 500;
 constexpr int kSoonMs = 1000;
+// How long a log that somebody holds keeps a line waiting. On a server all get it in turn; of a
+// file whoever asks at the right moment gets it, and may have to ask often.
+constexpr int kPatienceForLogMs = 250;
+constexpr int kPatienceForFileMs = 1500;
 
 DateTime SystemTime() {
   const QDateTime now = QDateTime::currentDateTime();
@@ -346,7 +350,10 @@ bool HostStore::BringLog() {
       return false;
     }
     WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
-      if (!read_only_) sent = log_.Send(tables);
+      const int patience_ms = IsServer() ? kPatienceForLogMs : kPatienceForFileMs;
+      if (!read_only_) {
+        sent = log_.Send(tables, std::min(patience_ms, options_.busy_timeout_ms));
+      }
     });
     if (read_only_ || state_ == State::kMemoryOnly) log_.Take();
   } catch (const SqlError& error) {

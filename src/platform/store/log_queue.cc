@@ -16,8 +16,6 @@ constexpr std::size_t kMostLines = 1000;
 constexpr std::size_t kLinesAtOnce = 100;
 // So many wait for those that are under way before somebody waits for these.
 constexpr std::size_t kLinesInAdvance = 10;
-// How long a log that is held may keep a line waiting; the next one goes by without a wait.
-constexpr int kPatienceMs = 250;
 constexpr std::chrono::milliseconds kMoment(500);
 
 }  // namespace
@@ -27,7 +25,7 @@ void LogQueue::Add(LogEntry line) {
   lines_.push_back(std::move(line));
 }
 
-bool LogQueue::Send(StoreTables& tables) {
+bool LogQueue::Send(StoreTables& tables, int patience_ms) {
   do {
     const bool is_long = lines_.size() - under_way_ > kLinesInAdvance;
     if (errand_.valid() && is_long) errand_.wait_for(kMoment);
@@ -43,7 +41,7 @@ bool LogQueue::Send(StoreTables& tables) {
     }
     for (const LogEntry& line : lines) bytes_to_trim_ -= StoreTables::SizeOf(line);
     try {
-      errand_ = tables.AppendLog(lines, limit, was_locked_ ? 0 : kPatienceMs);
+      errand_ = tables.AppendLog(lines, limit, was_locked_ ? 0 : patience_ms);
     } catch (const SqlError&) {
       under_way_ = 0;
       throw;

@@ -25,8 +25,9 @@ class LogQueue {
   /// Of a queue that is full the oldest line goes.
   void Add(LogEntry line);
   /// Sends what waits, unless the store is still at the lines that were sent before. Returns false
-  /// when another process holds the log. Errors: SqlError.
-  bool Send(StoreTables& tables);
+  /// when another process holds the log and has not let go within `patience_ms`; after that it is
+  /// only tried until it goes again. Errors: SqlError.
+  bool Send(StoreTables& tables, int patience_ms);
   /// Whether lines wait that the store has not got for certain.
   bool IsEmpty() const { return lines_.empty(); }
   /// What waits, for another place to keep it; of what is under way, what has not arrived a moment

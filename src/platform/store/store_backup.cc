@@ -98,7 +98,8 @@ std::optional<Notice> StoreBackup::CheckCopy() const {
   const SqlResult check = connection.Run(QStringLiteral("PRAGMA integrity_check(1)"));
   const QString finding = check.rows.isEmpty() ? QString() : check.rows[0][0].toString();
   if (finding != "ok") return DamagedBackupNotice(Path(file_), finding.toStdString());
-  const std::optional<StoreTables::Facts> facts = StoreTables(connection).LookInto("");
+  const std::optional<StoreTables::Facts> facts =
+      StoreTables(connection).LookInto("", "", StoreTables::AlsoUsers::kNo);
   if (!facts) return NoBackupNotice(Path(file_));
   if (facts->version > kStoreVersion) return NewerBackupNotice(Path(file_));
   for (const char* table : kTables) {

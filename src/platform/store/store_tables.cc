@@ -17,7 +17,7 @@ constexpr std::int64_t kRowOverhead = 80;
 constexpr std::size_t kLongestLine = 16 * 1024;
 // Others may write into the store as well. What is longer than this was not entered by anybody.
 constexpr int kLongestNumber = 1000;
-constexpr int kLongestName = 200;
+constexpr int kLongestName = 10'000;
 constexpr int kLongestSetting = 8192;
 
 // A server refuses NUL in a text, and both kinds would cut it there.

@@ -160,7 +160,7 @@ TEST_F(TroubledStore, ReadsNoMoreOfARowThanAnybodyWouldEnter) {
   HostStore store(Options());
   ASSERT_EQ(store.Users().size(), 1u);
   EXPECT_EQ(store.Users()[0].id, "4711");
-  EXPECT_EQ(store.Users()[0].name, std::string(200, 'x') + "…");
+  EXPECT_EQ(store.Users()[0].name, std::string(10'000, 'x') + "…");
   EXPECT_EQ(store.User()->id, "4711");
   EXPECT_EQ(store.User()->name, "");
   EXPECT_LT(store.Session().size(), 1000u);
