@@ -191,14 +191,15 @@ TEST_F(AwayServer, LetsAProcessEndThatHasLeftSomethingBehindWithIt) {
 }
 
 TEST_F(AwayServer, GetsAtTheNextStartWhatItDidNotTake) {
+  auto store = std::make_unique<HostStore>(Options());
+  store->SetUser({"4711", "Berg", "Anna"});
   {
-    HostStore store(Options());
-    store.SetUser({"4711", "Berg", "Anna"});
     const Frozen frozen;
-    EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
-    EXPECT_TRUE(store.SaveUser({"4712", "Tal", "Ida"}, HostStore::UserIs::kNew));
-    store.SetLanguage("English");
-    LogLine(store, "line");
+    EXPECT_EQ(StorePair(*store, Array{"new E"}, Array{"new A"}), 0);
+    EXPECT_TRUE(store->SaveUser({"4712", "Tal", "Ida"}, HostStore::UserIs::kNew));
+    store->SetLanguage("English");
+    LogLine(*store, "line");
+    store.reset();
   }
   EXPECT_EQ(Elsewhere("E1"), NothingStored());
   HostStore next(Options());
@@ -220,11 +221,12 @@ TEST_F(AwayServer, GetsAtTheNextStartWhatItDidNotTake) {
 }
 
 TEST_F(AwayServer, KeepsTheNewerRecordOfAnotherMachineAndTheOneThatComesLateBesideIt) {
+  auto store = std::make_unique<HostStore>(Options());
+  EXPECT_EQ(StorePair(*store, Array{"old E"}, Array{"old A"}), 0);
   {
-    HostStore store(Options());
-    EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
     const Frozen frozen;
-    EXPECT_EQ(StorePair(store, Array{"late E"}, Array{"late A"}), 0);
+    EXPECT_EQ(StorePair(*store, Array{"late E"}, Array{"late A"}), 0);
+    store.reset();
   }
   HostStore elsewhere(OptionsElsewhere());
   EXPECT_EQ(StorePair(elsewhere, Array{"newer E"}, Array{"newer A"}), 0);
