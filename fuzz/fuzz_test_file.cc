@@ -85,6 +85,12 @@ std::string PieceAt(const std::string& text, std::size_t at) {
   return text.substr(begin, end == std::string::npos ? end : end - begin + 1);
 }
 
+std::string Times(int times, const std::string& piece) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += piece;
+  return all;
+}
+
 void DamageOnce(std::string& text, Dice& dice) {
   static const std::vector<std::string> kWords = {
       "<!DOCTYPE test [<!ENTITY a \"&b;&b;\"><!ENTITY b \"bbbb\">]>",
@@ -146,12 +152,21 @@ void DamageOnce(std::string& text, Dice& dice) {
       if (at < text.size()) text[at] = static_cast<char>(dice.From(' ', '~'));
       break;
     case 8: {
-      // Deep, or long.
+      // Deep, wide or long, and mostly well-formed.
       const int times = dice.OneIn(4) ? 20'000 : dice.From(1, 50);
-      const std::string piece = dice.OneIn(2) ? "<control>" : "x";
-      std::string all;
-      for (int i = 0; i < times; ++i) all += piece;
-      text.insert(at, all);
+      const std::size_t tag = std::min(text.find('<', at), text.size());
+      switch (dice.Below(3)) {
+        case 0:
+          text.insert(tag, Times(times, "<control>") + PieceAt(text, tag) +
+                               (dice.OneIn(8) ? "" : Times(times, "</control>")));
+          break;
+        case 1:
+          text.insert(tag, Times(times, "<control><cname>a</cname></control>"));
+          break;
+        case 2:
+          text.insert(at, Times(times, "x"));
+          break;
+      }
       break;
     }
   }
@@ -193,10 +208,14 @@ class Readings {
     } catch (const TestFileError&) {
       return;  // its references make it larger than a file may be
     }
-    const TestDocument written = files_.Read(path_);
-    Demand(written.controls.size() == document.controls.size(), "a control that was lost");
-    files_.Write(path_, written);
-    Demand(files_.Read(path_) == written, "a test that changes when written");
+    try {
+      const TestDocument written = files_.Read(path_);
+      Demand(written.controls.size() == document.controls.size(), "a control that was lost");
+      files_.Write(path_, written);
+      Demand(files_.Read(path_) == written, "a test that changes when written");
+    } catch (const TestFileError& error) {
+      Fault("what was written is refused: " + error.reason().english);
+    }
   }
 
   Folder folder_;

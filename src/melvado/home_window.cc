@@ -562,10 +562,15 @@ void HomeWindow::RestoreBackup() {
   const std::optional<std::string> path = dialog_.AskToOpen(
       words.Say(9209, "Choose a backup").toStdString(), kAnyExtension, host_.StoreFolder());
   if (!path) return;
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   const std::optional<Notice> outcome = host_.RestoreBackup(*path, [&](const Notice& question) {
-    return messages_.Ask(words.Say(question).toStdString(), "Melvado", MessageBox::Answer::kNo) ==
-           MessageBox::Answer::kYes;
+    QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
+    const MessageBox::Answer answer =
+        messages_.Ask(words.Say(question).toStdString(), "Melvado", MessageBox::Answer::kNo);
+    QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
+    return answer == MessageBox::Answer::kYes;
   });
+  QGuiApplication::restoreOverrideCursor();
   if (!outcome) return;
   Refresh();  // behind the message stands already what was restored
   messages_.Warn(words.Say(*outcome).toStdString(), "Melvado");

@@ -993,6 +993,12 @@ bool HostStore::Repair() {
 }
 
 std::optional<Notice> HostStore::Restore(StoreBackup& backup) {
+  // What waits in memory belongs to the store that is kept aside.
+  try {
+    if (state_ == State::kOpen && !read_only_) WritePending();
+  } catch (const SqlError&) {
+    // The user was told when it could not be written the first time.
+  }
   if (connection_) connection_->Close();
   if (state_ == State::kOpen) state_ = State::kClosed;
   if (auto refusal = backup.PutInPlace(options_.clock())) return refusal;

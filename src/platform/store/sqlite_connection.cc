@@ -201,10 +201,25 @@ void SqliteConnection::KeepToOneFile() {
   }
 }
 
+bool SqliteConnection::IsInOneFile() {
+  const SqlResult mode = Run(QStringLiteral("PRAGMA journal_mode"));
+  return !mode.rows.isEmpty() && mode.rows[0][0].toString() == "delete";
+}
+
+qlonglong SqliteConnection::DataVersion() {
+  return Run(QStringLiteral("PRAGMA data_version")).rows.value(0).value(0).toLongLong();
+}
+
 void SqliteConnection::Alone(const std::function<void()>& work) {
+  const auto end = [this] { QSqlQuery(database_).exec(QStringLiteral("ROLLBACK")); };
   Run(QStringLiteral("BEGIN EXCLUSIVE"));
-  work();
-  QSqlQuery(database_).exec(QStringLiteral("ROLLBACK"));
+  try {
+    work();
+  } catch (...) {
+    end();
+    throw;
+  }
+  end();
 }
 
 }  // namespace vmod17

@@ -34,7 +34,12 @@ class SqliteConnection : public SqlConnection {
   /// Brings all of the database into its file, and leaves nothing beside it. Errors: SqlError,
   /// kLocked also while anyone else has it open.
   void KeepToOneFile();
-  /// Runs `work`, which raises nothing, while nobody else can read or write. After `KeepToOneFile`.
+  /// Whether it is so, also by the hand of others.
+  bool IsInOneFile();
+  /// A number that changes whenever another connection has changed the database.
+  qlonglong DataVersion();
+  /// Runs `work` while nobody else can write, or, as long as it `IsInOneFile`, read. Nothing of the
+  /// process may open the file meanwhile: its closing would give up the lock.
   void Alone(const std::function<void()>& work);
   QString BytesType() const override { return QStringLiteral("BLOB"); }
   QString RowNumberType() const override {

@@ -7,6 +7,7 @@
 #include <QTemporaryFile>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "platform/event_loop.h"
 #include "platform/notice.h"
@@ -31,20 +32,25 @@ class StoreBackup {
   /// each moment one of the two lies whole in that place. Returns why it cannot be done, as when
   /// another process has the store open; then all is as it was.
   std::optional<Notice> PutInPlace(const DateTime& now);
-  /// Where the store is now that was there before; "" when there was none.
+  /// Where the store is now that was there before, or what was left of one; "" for none.
   QString aside() const { return aside_; }
 
  private:
   QString Copy() const { return copy_->fileName(); }
   std::optional<Notice> MakeCopy();
   std::optional<Notice> CheckCopy() const;
-  std::optional<Notice> Exchange(const DateTime& now);
+  std::optional<Notice> ReplaceStore(const DateTime& now);
+  bool KeepStore(const DateTime& now);
+  std::optional<Notice> Exchange();
+  void Undo();
   Notice Failed(const QString& reason) const;
 
   QString file_;
   QString store_;
   std::unique_ptr<QTemporaryFile> copy_;
   QString aside_;
+  QString beside_;                  // to whose name the endings of side files go
+  std::vector<const char*> moved_;  // of side files, by their endings
 };
 
 }  // namespace vmod17

@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <array>
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
@@ -21,7 +21,6 @@ namespace {
 
 constexpr QFileDevice::Permissions kOwnerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 constexpr QFileDevice::Permissions kOwnerFolder = kOwnerFile | QFileDevice::ExeOwner;
-constexpr std::array<const char*, 3> kSideFiles = {"-wal", "-shm", "-journal"};
 
 bool MakeFolder(const QString& folder) {
   if (QFileInfo(folder).isDir()) return true;
@@ -44,6 +43,18 @@ QString Stamp(const DateTime& now) {
   };
   return digits(now.year, 4) + digits(now.month, 2) + digits(now.day, 2) + '-' +
          digits(now.hour, 2) + digits(now.minute, 2) + digits(now.second, 2);
+}
+
+/// The first of `wanted`, `wanted`-2 and so on under which nothing lies, nor beside it.
+QString Free(const QString& wanted) {
+  QString name = wanted;
+  const auto is_taken = [&name] {
+    return QFileInfo::exists(name) || std::ranges::any_of(kSideFiles, [&](const char* side) {
+             return QFileInfo::exists(name + side);
+           });
+  };
+  for (int i = 2; is_taken(); ++i) name = wanted + '-' + QString::number(i);
+  return name;
 }
 
 }  // namespace
@@ -86,24 +97,21 @@ bool IsWritableStore(const QString& path) {
 
 QString BrokenSuffix(const DateTime& now) { return ".broken-" + Stamp(now); }
 
+QString FreeAside(const QString& path, const DateTime& now) {
+  return Free(path + ".replaced-" + Stamp(now));
+}
+
 QString KeepAlsoAside(const QString& path, const DateTime& now) {
-  QString aside;
-  for (int i = 1; aside.isEmpty(); ++i) {
-    const QString name =
-        path + ".replaced-" + Stamp(now) + (i == 1 ? "" : '-' + QString::number(i));
+  for (;;) {
+    const QString name = FreeAside(path, now);
     std::error_code error;
     std::filesystem::create_hard_link(QFile::encodeName(path).toStdString(),
                                       QFile::encodeName(name).toStdString(), error);
-    if (error == std::errc::file_exists) continue;
-    if (error && !QFile::copy(path, name)) return {};
-    aside = name;
-  }
-  for (const char* side : kSideFiles) {
-    if (!QFileInfo::exists(path + side) || QFile::rename(path + side, aside + side)) continue;
-    QFile::remove(aside);
+    if (!error) return name;
+    if (error == std::errc::file_exists) continue;  // taken by another process meanwhile
+    if (QFile::copy(path, name) && SyncToDisk(name)) return name;
     return {};
   }
-  return SyncToDisk(aside) ? aside : QString();
 }
 
 bool SyncToDisk(const QString& path) {
@@ -119,9 +127,7 @@ bool SyncToDisk(const QString& path) {
 }
 
 QString MoveStoreAside(const QString& path, const DateTime& now) {
-  const QString wanted = path + BrokenSuffix(now);
-  QString aside = wanted;
-  for (int i = 2; QFileInfo::exists(aside); ++i) aside = wanted + '-' + QString::number(i);
+  const QString aside = Free(path + BrokenSuffix(now));
   // The side files first: left under the old name they would be taken for those of the new file.
   for (const char* side : kSideFiles) {
     if (QFileInfo::exists(path + side) && !QFile::rename(path + side, aside + side)) return {};

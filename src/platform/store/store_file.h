@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <array>
 #include <cstdint>
 #include <utility>
 
@@ -18,6 +19,9 @@ FileIdentity IdentityOf(const QString& path);
 
 enum class Privacy { kOfNewFiles, kEnforced };
 
+/// What SQLite keeps beside a file, by the endings of the names.
+inline constexpr std::array<const char*, 3> kSideFiles = {"-wal", "-shm", "-journal"};
+
 /// Makes the file at `path` and the folders above it if they are missing: folders for their owner
 /// alone (0700), the file likewise (0600), whatever the process's mask. SQLite gives its side files
 /// the mode of the file. `kEnforced` narrows a file and a folder that are there already.
@@ -30,9 +34,13 @@ bool IsWritableStore(const QString& path);
 /// The ending of what is put aside: `.broken-YYYYMMDD-hhmmss`.
 QString BrokenSuffix(const DateTime& now);
 
-/// Gives a file a second name, its path with `.replaced-YYYYMMDD-hhmmss` behind it, and "-2" and so
-/// on when that name is taken; where the file system knows no second names, to a copy of it. Side
-/// files go to the second name. Returns it, or "" when it cannot be done.
+/// Where a file that gives way to another is kept: its path with `.replaced-YYYYMMDD-hhmmss` behind
+/// it, and "-2" and so on as long as that name, or that of a side file to it, is taken.
+QString FreeAside(const QString& path, const DateTime& now);
+
+/// Gives a file a second name, which is `FreeAside`; where the file system knows no second names,
+/// to a copy of it. Returns it, or "" when it cannot be done. To be called without a lock on the
+/// file: the copying would lose it.
 QString KeepAlsoAside(const QString& path, const DateTime& now);
 
 /// Waits until a file, or the names in a folder, are on the disk. False when that fails.

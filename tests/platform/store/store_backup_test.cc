@@ -5,9 +5,13 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
+#include <QDateTime>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <csignal>
 #include <filesystem>
 #include <map>
 
@@ -44,6 +48,14 @@ class StoreBackupTest : public ::testing::Test {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
+  }
+  /// Makes the store as a process leaves it that was killed: with its log beside it.
+  void LeaveLogOf(const QString& text) {
+    StoreProcess process;
+    process.Ask("open " + Path() + " 20");
+    ASSERT_EQ(process.Ask("pair " + text + " 1 1"), "stored");
+    process.Kill();
+    ASSERT_GT(Content(Path() + "-wal").size(), 0);
   }
   static void RunOn(const QString& path, const QStringList& statements) {
     QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "other hand");
@@ -105,13 +117,7 @@ TEST_F(StoreBackupTest, IsWhatIsReadThenAndTheStoreThatWasThereIsKept) {
 }
 
 TEST_F(StoreBackupTest, IsWhatIsReadAlsoWhereAKilledProcessHasLeftItsLog) {
-  {
-    StoreProcess process;
-    process.Ask("open " + Path() + " 20");
-    ASSERT_EQ(process.Ask("pair newest 1 1"), "stored");
-    process.Kill();
-  }
-  ASSERT_GT(Content(Path() + "-wal").size(), 0);
+  LeaveLogOf("newest");
   EXPECT_EQ(Restore(Backup()), 0);
   ExpectInStore("old");
   HostStore aside(TestOptions(Aside().toStdString()));
@@ -229,6 +235,117 @@ TEST_F(StoreBackupTest, LeavesTheRightsOfTheStoreAsTheyAre) {
   const auto before = QFile::permissions(Path());
   EXPECT_EQ(Restore(Backup()), 0);
   EXPECT_EQ(QFile::permissions(Path()), before);
+}
+
+TEST_F(StoreBackupTest, LeavesTheGroupOfTheStoreAsItIs) {
+  constexpr gid_t kAnother = 1;
+  if (::chown(qPrintable(Path()), static_cast<uid_t>(-1), kAnother) != 0) {
+    GTEST_SKIP() << "only the administrator may give a file away";
+  }
+  EXPECT_EQ(Restore(Backup()), 0);
+  EXPECT_EQ(QFileInfo(Path()).groupId(), kAnother);
+}
+
+TEST_F(StoreBackupTest, IsReadWithoutTheLogOfAStoreThatIsGone) {
+  LeaveLogOf("newest");
+  const QByteArray log = Content(Path() + "-wal");
+  ASSERT_TRUE(QFile::remove(Path()));
+  StoreBackup backup(Backup(), Path());
+  ASSERT_FALSE(backup.Prepare());
+  EXPECT_FALSE(backup.PutInPlace({2026, 3, 9, 8, 5, 1}));
+  EXPECT_EQ(backup.aside(), Aside() + "-wal");
+  EXPECT_EQ(Content(Aside() + "-wal"), log);
+  ExpectInStore("old");
+}
+
+TEST_F(StoreBackupTest, TakesThePlaceOfAFileThatALinkHasLost) {
+  const QString link = folder_ / "link.sqlite";
+  QFile::link(Path(), link);
+  ASSERT_TRUE(QFile::remove(Path()));
+  StoreBackup backup(Backup(), link);
+  ASSERT_FALSE(backup.Prepare());
+  EXPECT_FALSE(backup.PutInPlace({2026, 3, 9, 8, 5, 1}));
+  EXPECT_EQ(QFile::symLinkTarget(link), Path());
+  ExpectInStore("old");
+}
+
+TEST_F(StoreBackupTest, KeepsOthersOutUntilTheCopyHasItsName) {
+  StoreProcess restorer(BACKUP_RESTORER, {Path(), Backup(), "watch"});
+  EXPECT_EQ(restorer.Hear(), "alone");
+  restorer.HearTheRest();
+  EXPECT_EQ(restorer.Status(), 0);
+}
+
+TEST_F(StoreBackupTest, LeavesAllAsItWasWhereTheCopyDoesNotGetItsName) {
+  // Of a damaged store its log may be what can be rescued.
+  Write(Path(), QByteArray(5000, 'x'));
+  Write(Path() + "-wal", "left");
+  StoreProcess restorer(BACKUP_RESTORER, {Path(), Backup(), "refuse"});
+  restorer.HearTheRest();
+  EXPECT_EQ(restorer.Status(), 1);
+  EXPECT_EQ(Content(Path()), QByteArray(5000, 'x'));
+  EXPECT_EQ(Content(Path() + "-wal"), "left");
+  EXPECT_THAT(folder_.Names().join(' ').toStdString(), ::testing::Not(::testing::HasSubstr(".re")));
+}
+
+/// Files can become so large while it lives, as on a disk that is nearly full.
+class SmallFiles {
+ public:
+  explicit SmallFiles(qint64 bytes) : ignored_(::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit small{static_cast<rlim_t>(bytes), before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+  }
+  ~SmallFiles() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    ::signal(SIGXFSZ, ignored_);
+  }
+  SmallFiles(const SmallFiles&) = delete;
+  SmallFiles& operator=(const SmallFiles&) = delete;
+
+ private:
+  rlimit before_{};
+  sighandler_t ignored_;
+};
+
+TEST_F(StoreBackupTest, IsNotTakenForDamagedWhereItsCopyHasNoRoom) {
+  StoreBackup backup(Backup(), Path());
+  std::optional<Notice> refusal;
+  {
+    const SmallFiles disk(Content(Backup()).size() - 1);
+    refusal = backup.Prepare();
+  }
+  ASSERT_TRUE(refusal);
+  EXPECT_EQ(refusal->text_id, 9124);
+  ExpectInStore("new");
+}
+
+TEST_F(StoreBackupTest, LeavesToTheStoreThatIsKeptWhatStillWaitedForIt) {
+  HostStore store(Options());
+  ExpectPair(store, "new", "new");
+  {
+    const SmallFiles disk(Content(Path()).size());
+    EXPECT_EQ(StorePair(store, Array{"late"}, Array{QString(50'000, 'x').toStdString()}), 0);
+  }
+  EXPECT_EQ(Ids(notices_), std::vector{9105});
+  EXPECT_EQ(Restore(store, Backup()), 0);
+  HostStore aside(TestOptions(Aside().toStdString()));
+  EXPECT_EQ(ReadValue(aside, "E1"), TaggedValue(Array{"late"}));
+}
+
+TEST_F(StoreBackupTest, RemovesTheCopyOfOneThatWasKilledLongAgo) {
+  const QString left = Path() + ".restore-aBcDeF";
+  const QString of_another = Path() + ".restore-GhIjKl";
+  Write(left, "left");
+  Write(of_another, "at work");
+  QFile file(left);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-4000),
+                               QFileDevice::FileModificationTime));
+  file.close();
+  EXPECT_EQ(Restore(Backup()), 0);
+  EXPECT_FALSE(QFile::exists(left));
+  EXPECT_TRUE(QFile::exists(of_another));
 }
 
 TEST_F(StoreBackupTest, LeavesTheOldStoreOrTheNewOneWheneverItIsKilled) {
