@@ -35,6 +35,7 @@ extern "C" void OnAlarm(int) {
   constexpr char kHangs[] = "a case hangs\n";
   static_cast<void>(!write(STDERR_FILENO, kHangs, sizeof kHangs - 1));
   SayCase();
+  std::signal(SIGABRT, SIG_DFL);
   std::abort();
 }
 
@@ -61,6 +62,7 @@ int Fuzz(int argc, char* argv[], const FuzzProgram& program) {
   const std::uint64_t count = Argument(argc, argv, 2, 100'000);
   const std::uint64_t first = Argument(argc, argv, 3, 0);
   std::signal(SIGALRM, OnAlarm);
+  std::signal(SIGABRT, OnCrash);  // an assertion, or what nobody caught
 #ifdef __SANITIZE_ADDRESS__
   __sanitizer_set_death_callback(SayCase);
 #else
