@@ -57,6 +57,8 @@ TEST(TheTree, HasAWordForEachTextIdInEachLanguage) {
   EXPECT_THAT(LanguageFaults(TheTree()), IsEmpty());
 }
 
+TEST(TheTree, HasLanguagesOfOneManner) { EXPECT_THAT(MannerFaults(TheTree()), IsEmpty()); }
+
 TEST(TheTree, HasTextIdsThatAreFound) {
   // A table or call in a new form would escape the search, and its ids with it.
   EXPECT_THAT(UsedTextIds(TheTree()),
@@ -261,6 +263,22 @@ TEST(Languages, HaveTheSameKeysAndDetails) {
   EXPECT_THAT(LanguageFaults({{"assets/languages/A.ts", Message("1s", "a")},
                               {"assets/languages/B.ts", Message("2s", "a")}}),
               SizeIs(2));
+}
+
+TEST(Languages, HaveOneManner) {
+  EXPECT_THAT(MannerFaults({{"assets/languages/Nederlands.ts",
+                             Message("1s", "Wil je stoppen?") + Message("2s", "uur, nu, zuur")},
+                            {"assets/languages/Italiano.ts", Message("1s", "L’accordo")}}),
+              IsEmpty());
+  EXPECT_THAT(MannerFaults({{"assets/languages/Nederlands.ts",
+                             Message("1s", "Wilt u stoppen?") + Message("2s", "Uw naam")}}),
+              SizeIs(2));
+  for (const char* apostrophe : {"'", "&apos;"}) {
+    const std::string word = Message("1s", std::string("L") + apostrophe + "accordo");
+    EXPECT_THAT(MannerFaults({{"assets/languages/Italiano.ts", word}}),
+                ElementsAre(HasSubstr("1s")));
+    EXPECT_THAT(MannerFaults({{"assets/languages/Français.ts", word}}), SizeIs(1));
+  }
 }
 
 }  // namespace

@@ -616,6 +616,30 @@ Faults LanguageFaults(const Tree& tree) {
   return faults;
 }
 
+Faults MannerFaults(const Tree& tree) {
+  static const struct {
+    const char* language;
+    std::regex strange;
+    const char* reason;
+  } kManners[] = {
+      {"Français.ts", std::regex("[A-Za-z]'"), "its apostrophe is ’"},
+      {"Italiano.ts", std::regex("[A-Za-z]'"), "its apostrophe is ’"},
+      {"Nederlands.ts", std::regex("\\b[Uu]w?\\b"), "its reader is je"},
+  };
+  Faults faults;
+  for (const auto& [language, strange, reason] : kManners) {
+    const std::string path = std::string(kLanguages) + language;
+    const auto file = tree.find(path);
+    if (file == tree.end()) continue;
+    for (const auto& [key, word] : ReadLanguage(path, file->second, faults)) {
+      if (std::regex_search(word, strange)) {
+        faults.push_back(path + ": " + key + ": " + reason);
+      }
+    }
+  }
+  return faults;
+}
+
 Faults NoticeFaults(const Tree& tree) {
   const std::string english_path = std::string(kLanguages) + "English.ts";
   const auto english = tree.find(english_path);

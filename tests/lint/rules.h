@@ -59,6 +59,9 @@ std::map<std::string, std::string> ReadLanguage(const std::string& path, const s
 /// keys, with the same places for details (%1, %2) in their words.
 Faults LanguageFaults(const Tree& tree);
 
+/// A language has one manner throughout: how it calls its reader, which sign its apostrophe is.
+Faults MannerFaults(const Tree& tree);
+
 /// A notice says in English what its text id says in the English language file.
 Faults NoticeFaults(const Tree& tree);
 
