@@ -3,9 +3,16 @@
 
 #include "platform/qt/single_instance.h"
 
+#include <fcntl.h>
 #include <signal.h>
+#include <sys/file.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
 
+#include <QAbstractEventDispatcher>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QThread>
@@ -56,6 +63,16 @@ class SingleInstanceTest : public testing::Test {
     Signal(signal);
     thread->wait();
     return claimed;
+  }
+
+  static int OpenSockets() {
+    int sockets = 0;
+    for (const auto& each : std::filesystem::directory_iterator("/proc/self/fd")) {
+      std::error_code closed_meanwhile;
+      const auto what = std::filesystem::read_symlink(each, closed_meanwhile).string();
+      sockets += what.starts_with("socket:");
+    }
+    return sockets;
   }
 
   /// The system's list has the socket of the first process, and one for each call in its queue.
@@ -168,6 +185,62 @@ TEST_F(SingleInstanceTest, MayLieInAFolderWhoseNameIsNotUtf8) {
   EXPECT_EQ(Start(), "FIRST");
   EXPECT_TRUE(SingleInstance::BringToFront(kKey));
   std::filesystem::remove_all(folder.toStdString());
+}
+
+TEST_F(SingleInstanceTest, WaitsForAPlaceInAFullQueue) {
+  SingleInstance(kKey).Claim();
+  const QString lock = QDir(folder_.path()).entryInfoList({"*.lock"}).at(0).filePath();
+  // One call fills the queue of this one.
+  const std::string name = lock.chopped(5).toStdString();
+  sockaddr_un address{AF_UNIX, {}};
+  name.copy(address.sun_path, sizeof address.sun_path);
+  const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
+  const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0);
+  ASSERT_EQ(bind(listener, generic, sizeof address), 0);
+  ASSERT_EQ(listen(listener, 0), 0);
+  const int first_call = socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_EQ(connect(first_call, generic, sizeof address), 0);
+  EXPECT_EQ(SingleInstance(kKey, kShort).Claim(), Claimed::kSilent);
+
+  Claimed claimed = Claimed::kFirst;
+  const int opened_before = OpenSockets();
+  SingleInstance next(kKey, kLong);
+  const std::unique_ptr<QThread> thread(QThread::create([&] { claimed = next.Claim(); }));
+  thread->start();
+  EXPECT_TRUE(ServeUntil([&] { return OpenSockets() > opened_before; }));
+  // It is held until the first attempt has been made.
+  const int held = open(lock.toUtf8(), O_RDWR | O_CLOEXEC);
+  ASSERT_EQ(flock(held, LOCK_EX), 0);
+  close(held);
+  int answered = 0;
+  EXPECT_TRUE(ServeUntil([&] {
+    const int call = accept(listener, nullptr, nullptr);
+    if (call >= 0) close(call);
+    answered += call >= 0;
+    return thread->isFinished();
+  }));
+  EXPECT_EQ(answered, 2);
+  thread->wait();
+  EXPECT_EQ(claimed, Claimed::kAnswered);
+  close(first_call);
+  close(listener);
+}
+
+TEST_F(SingleInstanceTest, RestsWhereTheNameOfTheFolderIsTooLongForASocket) {
+  const QByteArray folder = folder_.path().toUtf8() + '/' + QByteArray(100, 'x');
+  ASSERT_EQ(mkdir(folder, 0700), 0);
+  const Surrounding runtime("XDG_RUNTIME_DIR", folder);
+  {
+    SingleInstance first(kKey);
+    EXPECT_EQ(first.Claim(), Claimed::kFirst);
+    // What does not end.
+    Serve();
+    EXPECT_FALSE(QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents));
+    // A file of the name that it could not bind is another's.
+    const QString lock = QDir(folder).entryInfoList({"*.lock"}).at(0).filePath();
+    ASSERT_TRUE(QFile(lock.chopped(5)).open(QIODevice::WriteOnly));
+  }
+  EXPECT_EQ(QDir(folder).entryList(QDir::Files).size(), 2);
 }
 
 TEST(SingleInstance, LetsEveryProcessBeTheFirstWhereThereIsNoFolder) {

@@ -18,6 +18,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 #include <utility>
 
 // Older C libraries declare it for C alone.
@@ -105,13 +106,17 @@ Descriptor MakeSocket() {
   return Descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
+/// Between two attempts at what another process has in its hands.
+constexpr milliseconds kPause{10};
+
+void Pause() { poll(nullptr, 0, kPause.count()); }
+
 /// Keeps others of the same path out, for a while at the most: who holds it may hang, too.
 Descriptor Lock(const std::string& path, milliseconds patience) {
   Descriptor file(open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
-  constexpr milliseconds kPause{10};
   for (milliseconds waited{0}; file && waited < patience; waited += kPause) {
     if (flock(file.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) break;
-    poll(nullptr, 0, kPause.count());
+    Pause();
   }
   return file;
 }
@@ -124,25 +129,19 @@ class SingleInstance::Call {
   enum class Heard { kNothing, kAnswer, kItsEnd };
 
   explicit Call(const std::string& path) : socket_(MakeSocket()), process_(-1) {
-    sockaddr_un address;
-    if (!FillAddress(address, path)) return;
-    const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
-    const bool connected = connect(socket_.number(), generic, sizeof address) == 0;
-    // Where too many wait already, the process cannot be known, but there is one.
-    there_ = connected || errno == EAGAIN;
-    if (!connected) return;
-    ucred peer{};
-    socklen_t size = sizeof peer;
-    if (getsockopt(socket_.number(), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0) return;
-    if (peer.uid == getuid()) process_ = Descriptor(pidfd_open(peer.pid, 0));
-    connected_ = true;
+    if (FillAddress(address_, path)) Connect();
   }
 
   /// Whether a process listens.
-  bool there() const { return there_; }
+  bool there() const { return line_ != Line::kNone; }
 
-  Heard Wait(milliseconds time) const {
-    if (!connected_ || !socket_.Wakes(time)) return Heard::kNothing;
+  Heard Wait(milliseconds time) {
+    for (; line_ == Line::kBusy && time >= kPause; time -= kPause) {
+      Pause();
+      Connect();
+      if (!there()) return Heard::kItsEnd;
+    }
+    if (line_ != Line::kOpen || !socket_.Wakes(time)) return Heard::kNothing;
     char byte = 0;
     // One that ends with the question in its queue resets it.
     return read(socket_.number(), &byte, 1) < 0 ? Heard::kItsEnd : Heard::kAnswer;
@@ -160,27 +159,38 @@ class SingleInstance::Call {
   }
 
  private:
+  /// Where too many wait already, the process cannot be known, but there is one.
+  enum class Line { kNone, kBusy, kOpen };
+
+  void Connect() {
+    const auto* const generic = reinterpret_cast<const sockaddr*>(&address_);
+    if (connect(socket_.number(), generic, sizeof address_) != 0) {
+      line_ = errno == EAGAIN ? Line::kBusy : Line::kNone;
+      return;
+    }
+    line_ = Line::kOpen;
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    const bool known = getsockopt(socket_.number(), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0;
+    if (known && peer.uid == getuid()) process_ = Descriptor(pidfd_open(peer.pid, 0));
+  }
   void Signal(int number) const { pidfd_send_signal(process_.number(), number, nullptr, 0); }
 
   Descriptor socket_;
   Descriptor process_;
-  bool there_ = false;
-  bool connected_ = false;
+  sockaddr_un address_{};
+  Line line_ = Line::kNone;
 };
 
 /// The socket on which this process answers.
 class SingleInstance::Listener {
  public:
   Listener(const std::string& path, std::function<void()> asked)
-      : path_(path), socket_(MakeSocket()), notifier_(socket_.number(), QSocketNotifier::Read) {
-    sockaddr_un address;
-    if (!FillAddress(address, path)) return;
-    unlink(path.c_str());  // of a process that was killed
-    const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
-    if (bind(socket_.number(), generic, sizeof address) != 0) return;
-    chmod(path.c_str(), S_IRUSR | S_IWUSR);
-    listen(socket_.number(), SOMAXCONN);
-    QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_,
+      : path_(path), socket_(MakeSocket()) {
+    if (!Listen()) return;
+    // A socket that does not listen would wake the program without end.
+    notifier_.emplace(socket_.number(), QSocketNotifier::Read);
+    QObject::connect(&*notifier_, &QSocketNotifier::activated, &*notifier_,
                      [this, asked = std::move(asked)] {
                        while (HangUp()) {
                        }
@@ -188,11 +198,23 @@ class SingleInstance::Listener {
                      });
   }
   // The name goes before the socket: in between it could be another process's already.
-  ~Listener() { unlink(path_.c_str()); }
+  ~Listener() {
+    if (bound_) unlink(path_.c_str());
+  }
   Listener(const Listener&) = delete;
   Listener& operator=(const Listener&) = delete;
 
  private:
+  bool Listen() {
+    sockaddr_un address;
+    if (!FillAddress(address, path_)) return false;
+    unlink(path_.c_str());  // of a process that was killed
+    const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
+    bound_ = bind(socket_.number(), generic, sizeof address) == 0;
+    if (!bound_) return false;
+    chmod(path_.c_str(), S_IRUSR | S_IWUSR);
+    return listen(socket_.number(), SOMAXCONN) == 0;
+  }
   /// The answer to one call; false when there is none.
   bool HangUp() const {
     return bool(Descriptor(accept4(socket_.number(), nullptr, nullptr, SOCK_CLOEXEC)));
@@ -200,7 +222,8 @@ class SingleInstance::Listener {
 
   const std::string path_;
   const Descriptor socket_;
-  QSocketNotifier notifier_;
+  bool bound_ = false;
+  std::optional<QSocketNotifier> notifier_;  // while it listens
 };
 
 SingleInstance::SingleInstance(const std::string& key, milliseconds patience)

@@ -17,7 +17,8 @@ namespace vmod17 {
 /// works; a further one brings it to the front and ends. A QCoreApplication must exist.
 ///
 /// The first listens on a socket in the user's runtime folder, which goes with the process, however
-/// that ends. Where there is no such folder, every process takes itself for the first.
+/// that ends. Where there is no such folder, or its name is too long for a socket (more than 74
+/// bytes), every process takes itself for the first.
 class SingleInstance {
  public:
   enum class Claimed {
