@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <future>
 #include <memory>
@@ -15,7 +16,7 @@ namespace vmod17 {
 /// only as long as he likes. A courier that is let go finishes what it was sent for, however long
 /// that takes, and nobody waits for it: not the destructor, and not the end of the process.
 ///
-/// An errand must own all that it touches.
+/// An errand must own all that it touches. It is gone once it is done, whoever keeps the answer.
 class Courier {
  public:
   Courier();
@@ -26,9 +27,22 @@ class Courier {
   template <typename Errand>
   auto Send(Errand errand) {
     using Result = std::invoke_result_t<Errand>;
-    const auto task = std::make_shared<std::packaged_task<Result()>>(std::move(errand));
-    Queue([task] { (*task)(); });
-    return task->get_future().share();
+    // A packaged task would keep what the errand owns as long as its answer is kept.
+    const auto answer = std::make_shared<std::promise<Result>>();
+    const std::shared_future<Result> future = answer->get_future().share();
+    Queue([answer, errand = std::move(errand)]() mutable {
+      try {
+        if constexpr (std::is_void_v<Result>) {
+          errand();
+          answer->set_value();
+        } else {
+          answer->set_value(errand());
+        }
+      } catch (...) {
+        answer->set_exception(std::current_exception());
+      }
+    });
+    return future;
   }
 
  private:

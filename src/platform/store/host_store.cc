@@ -103,6 +103,11 @@ RecordKey KeyIn(const TaggedValue& content) {
   return {content[0].String(), content[1].String(), content[2].String()};
 }
 
+bool IsOfLog(const OutboxPiece& piece) {
+  return std::any_of(piece.entries.begin(), piece.entries.end(),
+                     [](const OutboxEntry& entry) { return entry.kind == kLogKind; });
+}
+
 /// What is behind the key of a record that has to give way to another: ".kept-YYYYMMDD-hhmmss".
 std::string KeptSuffix(const std::string& at) {
   std::string suffix = ".kept-";
@@ -207,6 +212,7 @@ HostStore::HostStore(StoreOptions options)
 }
 
 HostStore::~HostStore() {
+  const OneCall call(*this);
   const bool waits_for_server = IsServer() && !(connection_ && connection_->IsAtHand());
   try {
     if (state_ != State::kMemoryOnly && !read_only_ && !waits_for_server) WritePending();
@@ -214,9 +220,10 @@ HostStore::~HostStore() {
     // The user was told when it could not be written the first time.
   }
   if (log_.IsEmpty()) return;
-  BringLog();
+  // Without an outbox this is their last chance.
+  BringLog(outbox_ ? Patience::kOnlyOnce : Patience::kWait);
   std::vector<OutboxEntry> lines;
-  for (const LogEntry& line : log_.Take()) lines.push_back({kLogKind, ContentOf(line)});
+  for (const LogEntry& line : log_.Take(deadline_)) lines.push_back({kLogKind, ContentOf(line)});
   if (!lines.empty()) Post(lines);
 }
 
@@ -329,8 +336,9 @@ bool HostStore::Store(const TaggedValue& args) {
 bool HostStore::AppendLog(LogEntry entry) {
   entry.at = TextOf(options_.clock());
   entry.user = Setting(kUserId);
+  const bool is_error = entry.kind == LogEntry::Kind::kError;
   log_.Add(std::move(entry));
-  if (connection_ && connection_->IsFar()) {
+  if (connection_ && connection_->IsFar() && !is_error) {
     // What the user waits for goes first.
     LookForServerLater(kSoonMs);
     return true;
@@ -339,10 +347,12 @@ bool HostStore::AppendLog(LogEntry entry) {
 }
 
 /// Sends the lines that wait. Returns false when the store has not taken them.
-bool HostStore::BringLog() {
+bool HostStore::BringLog(Patience patience) {
   if (log_.IsEmpty()) return true;
   MakeConnection();
   bool sent = false;
+  const bool waited_in_vain = waited_in_vain_;
+  const auto nobody_takes_them = [&] { log_.Take(std::chrono::steady_clock::now()); };
   try {
     // A line of the log is never worth the wait for a connection.
     if (state_ == State::kClosed && !connection_->IsAtHand()) {
@@ -350,15 +360,21 @@ bool HostStore::BringLog() {
       return false;
     }
     WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
-      const int patience_ms = IsServer() ? kPatienceForLogMs : kPatienceForFileMs;
+      int patience_ms = IsServer() ? kPatienceForLogMs : kPatienceForFileMs;
+      if (patience == Patience::kWait) {
+        patience_ms = options_.busy_timeout_ms;
+        log_.Insist();
+      }
       if (!read_only_) {
         sent = log_.Send(tables, std::min(patience_ms, options_.busy_timeout_ms));
       }
     });
-    if (read_only_ || state_ == State::kMemoryOnly) log_.Take();
+    // The log may be held like the records, and on a server it may be free while they are not.
+    if (!sent || IsServer()) waited_in_vain_ = waited_in_vain;
+    if (read_only_ || state_ == State::kMemoryOnly) nobody_takes_them();
   } catch (const SqlError& error) {
     // Nor worth a word to the user, and an error while an error is logged none either.
-    if (error.failure() == SqlFailure::kReadOnly) log_.Take();
+    if (error.failure() == SqlFailure::kReadOnly) nobody_takes_them();
   }
   if (!sent) LookForServerLater();
   return sent;
@@ -367,6 +383,7 @@ bool HostStore::BringLog() {
 // ---- Settings and the log, for the host's window
 
 std::optional<StoreUser> HostStore::User() {
+  const OneCall call(*this);
   StoreUser user{Setting(kUserId), Setting(kUserName), Setting(kUserFirstName)};
   if (user.id.empty()) return {};
   return user;
@@ -750,7 +767,8 @@ void HostStore::EmptyOutbox() {
       if (!brought) return;
     } catch (const SqlError& error) {
       // One that the store will never take must not hold up the others.
-      if (error.failure() != SqlFailure::kOther) throw;
+      const bool is_held_log = error.failure() == SqlFailure::kLocked && IsOfLog(piece);
+      if (error.failure() != SqlFailure::kOther && !is_held_log) throw;
       continue;
     }
     outbox_->Remove(piece.entries);
@@ -761,6 +779,7 @@ void HostStore::Bring(StoreTables& tables, const OutboxPiece& piece) {
   if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
   LateRecords records;
   Settings settings;
+  std::vector<LogEntry> lines;
   for (const auto& [kind, content, id] : piece.entries) {
     if (kind == kRecordKind) {
       records[KeyIn(content)] = {content[3].String(), content[4].String()};
@@ -773,8 +792,15 @@ void HostStore::Bring(StoreTables& tables, const OutboxPiece& piece) {
       NeedUserTable();
       tables.RemoveUser(content[0].String());
     } else if (kind == kLogKind) {
-      log_.Add(LineIn(content));
+      lines.push_back(LineIn(content));
     }
+  }
+  if (!lines.empty()) {
+    const SqlErrand errand = tables.AppendLog(lines, options_.log_limit_bytes, kPatienceForLogMs);
+    if (errand.wait_until(deadline_) != std::future_status::ready) {
+      throw SqlError(SqlFailure::kUnreachable, "the server does not answer");
+    }
+    errand.get();
   }
   if (!settings.empty()) tables.SetSettings(options_.seat, settings);
   if (!records.empty() && !tables.WriteLate(records, KeptSuffix(piece.at))) {
@@ -797,8 +823,7 @@ void HostStore::LookForServer() {
   const OneCall call(*this);
   retry_timer_->stop();
   try {
-    WithStore(Patience::kOnlyOnce, [](StoreTables&) {});
-    WritePending();
+    if (WithStore(Patience::kOnlyOnce, [](StoreTables&) {})) WritePending();
   } catch (const SqlError&) {
     // The user knows, and it is looked for again.
     LookForServerLater();

@@ -78,9 +78,10 @@ struct StoreOptions {
 /// needs a QCoreApplication from its first command on. Nothing is opened before that.
 ///
 /// Each "STORE", each `Together` and each setter is one transaction, on the disk when the call
-/// returns. Log lines are handed to the system and may be lost with the power, not with the
-/// process. The settings are read once, when the store is opened: a process belongs to the user for
-/// whom it was started. What the store does not take of them is kept like a record.
+/// returns. A log line that the store takes is handed to the system and may be lost with the power,
+/// not with the process; one that waits for it is lost with a process that is killed. The settings
+/// are read once, when the store is opened: a process belongs to the user for whom it was started.
+/// What the store does not take of them is kept like a record.
 ///
 /// A store that is missing is made. Of a store that does not work the user is told, once until it
 /// has stored something again or `TellAnew` is called:
@@ -181,7 +182,7 @@ class HostStore {
   bool Login(TaggedValue& result);
   bool Lang(TaggedValue& result);
   bool AppendLog(LogEntry entry);
-  bool BringLog();
+  bool BringLog(Patience patience = Patience::kOnlyOnce);
 
   /// Runs `work` on the open store, on a new one if it proves broken, and again if the connection
   /// was lost. Returns false, without running it, when there is none. Errors: SqlError.

@@ -21,7 +21,9 @@ constexpr std::chrono::milliseconds kMoment(500);
 }  // namespace
 
 void LogQueue::Add(LogEntry line) {
-  if (lines_.size() >= kMostLines && under_way_ == 0) lines_.pop_front();
+  if (lines_.size() >= kMostLines) {
+    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(under_way_));
+  }
   lines_.push_back(std::move(line));
 }
 
@@ -69,8 +71,8 @@ bool LogQueue::Collect() {
   return true;
 }
 
-std::vector<LogEntry> LogQueue::Take() {
-  if (errand_.valid()) errand_.wait_for(kMoment);
+std::vector<LogEntry> LogQueue::Take(std::chrono::steady_clock::time_point until) {
+  if (errand_.valid()) errand_.wait_until(until);
   try {
     Collect();
   } catch (const SqlError&) {
@@ -78,6 +80,8 @@ std::vector<LogEntry> LogQueue::Take() {
   }
   std::vector<LogEntry> lines(lines_.begin(), lines_.end());
   lines_.clear();
+  under_way_ = 0;
+  errand_ = {};
   return lines;
 }
 

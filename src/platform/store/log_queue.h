@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <vector>
@@ -22,7 +23,7 @@ class LogQueue {
   ///                passes from one look at the size to the next
   explicit LogQueue(std::int64_t limit_bytes) : limit_bytes_(limit_bytes) {}
 
-  /// Of a queue that is full the oldest line goes.
+  /// Of a queue that is full the oldest line goes that is not under way.
   void Add(LogEntry line);
   /// Sends what waits, unless the store is still at the lines that were sent before. Returns false
   /// when another process holds the log and has not let go within `patience_ms`; after that it is
@@ -30,9 +31,11 @@ class LogQueue {
   bool Send(StoreTables& tables, int patience_ms);
   /// Whether lines wait that the store has not got for certain.
   bool IsEmpty() const { return lines_.empty(); }
-  /// What waits, for another place to keep it; of what is under way, what has not arrived a moment
-  /// later. The queue is empty then.
-  std::vector<LogEntry> Take();
+  /// Lets the next `Send` wait, although the last one did in vain.
+  void Insist() { was_locked_ = false; }
+  /// What waits, for another place to keep it; of what is under way, what has not arrived by then.
+  /// The queue is empty afterwards.
+  std::vector<LogEntry> Take(std::chrono::steady_clock::time_point until);
 
  private:
   bool Collect();

@@ -81,23 +81,30 @@ void PostgresConnection::Open(int wait_ms) {
   SetWait(wait_ms);
   if (!session_) Dial();
   if (!dialling_.valid()) return;
-  if (!IsBack(dialling_, is_silent_ ? steady_clock::now() : deadline_)) {
+  const auto begin = steady_clock::now();
+  if (!IsBack(dialling_, is_silent_ ? begin : deadline_)) {
     // The courier goes on trying: perhaps it is back when somebody asks again.
     is_silent_ = true;
     throw SqlError(SqlFailure::kUnreachable, kTooLate);
   }
-  is_silent_ = false;
   try {
     is_far_ = std::exchange(dialling_, {}).get() > kNear;
+    is_silent_ = false;
   } catch (const SqlError&) {
+    // Who refuses at once may be asked again: that keeps nobody waiting.
+    if (steady_clock::now() - begin > kNear) is_silent_ = true;
     Close();
     throw;
   }
 }
 
 void PostgresConnection::Close() {
-  if (dialling_.valid() && !IsBack(dialling_, steady_clock::now())) LeaveBehind();
+  const auto now = steady_clock::now();
+  if (dialling_.valid() ? !IsBack(dialling_, now) : latest_.valid() && !IsBack(latest_, now)) {
+    LeaveBehind();
+  }
   dialling_ = {};
+  latest_ = {};
   // Its end, too, is the courier's to bring about.
   if (session_) courier_->Send([session = std::exchange(session_, {})]() mutable { session = {}; });
 }
@@ -106,6 +113,8 @@ void PostgresConnection::LeaveBehind() {
   session_->HangUp();
   session_.reset();
   courier_.reset();
+  dialling_ = {};
+  latest_ = {};
   left_behind_ = true;
 }
 
@@ -139,9 +148,10 @@ SqlErrand PostgresConnection::Send(const SqlStatements& statements) {
   is_greeted_ = true;
   left_behind_ = false;
   wait_of_session_ms_ = wait_ms_;
-  return courier_->Send([session = session_, greeting = std::move(greeting), statements] {
+  latest_ = courier_->Send([session = session_, greeting = std::move(greeting), statements] {
     return session->Run(greeting, statements);
   });
+  return latest_;
 }
 
 SqlResult PostgresConnection::Execute(const SqlStatements& statements) {

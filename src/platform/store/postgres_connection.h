@@ -17,8 +17,9 @@ namespace vmod17 {
 ///
 /// All that the server is asked goes by a courier, since no setting bounds the wait for a server
 /// that is stopped, or a name that is not resolved. What is not back at the deadline is left behind
-/// with its connection, whose rest the server then ends. After that nobody waits for the server
-/// until a connection has come about beside the program.
+/// with its connection, whose rest the server then ends. After that, and after a refusal that was
+/// long in coming, nobody waits for the server until a connection has come about beside the
+/// program.
 class PostgresConnection : public SqlConnection {
  public:
   /// `address`  see `ParseStoreAddress`
@@ -59,7 +60,8 @@ class PostgresConnection : public SqlConnection {
   std::shared_ptr<PostgresSession> session_;
   // How long the connecting took; valid until `Open` has seen what became of it.
   std::shared_future<std::chrono::steady_clock::duration> dialling_;
-  bool is_silent_ = false;      // a deadline has passed, and no connection has come about since
+  SqlErrand latest_;            // that the session was sent for
+  bool is_silent_ = false;      // it was waited for in vain, and no connection has come about since
   bool left_behind_ = false;    // the server may still be at something that nobody waits for
   bool is_far_ = false;         // a connection took so long that a log line does not wait for it
   int wait_ms_ = 0;             // for a lock, as wanted

@@ -7,6 +7,7 @@
 
 #include <QLibrary>
 #include <optional>
+#include <utility>
 
 namespace vmod17 {
 namespace {
@@ -135,13 +136,15 @@ QVariant ValueOf(const Library& pq, const void* result, int row, int column) {
 
 }  // namespace
 
-PostgresSession::~PostgresSession() {
+PostgresSession::~PostgresSession() { End(); }
+
+void PostgresSession::End() {
   if (connection_ == nullptr) return;
   {
     const std::lock_guard lock(mutex_);
     socket_ = -1;
   }
-  FindLibrary()->finish(connection_);
+  FindLibrary()->finish(std::exchange(connection_, nullptr));
 }
 
 void PostgresSession::Connect(const Parameters& parameters) {
@@ -164,21 +167,36 @@ void PostgresSession::Connect(const Parameters& parameters) {
 }
 
 SqlResult PostgresSession::Run(const SqlStatements& greeting, const SqlStatements& statements) {
+  if (connection_ == nullptr) ThrowLost();
   const Library& pq = *FindLibrary();
   pq.enter_pipeline(connection_);
   Send(greeting);
   Send(statements);
   try {
     Answers(greeting.size());
+  } catch (const SqlError& error) {
+    // The answers of the statements are still to come, and nobody may take them for others.
+    End();
+    throw SqlError(SqlFailure::kUnreachable, error.what());
+  }
+  try {
     const SqlResult result = Answers(statements.size());
-    pq.exit_pipeline(connection_);
+    LeavePipeline();
     return result;
   } catch (const SqlError&) {
-    if (pq.status(connection_) != kConnectionOk) throw;
-    pq.exit_pipeline(connection_);
+    if (connection_ == nullptr || pq.status(connection_) != kConnectionOk) throw;
+    LeavePipeline();
     if (pq.transaction_status(connection_) == kTransactionInError) Run({}, {{"ROLLBACK", {}}});
     throw;
   }
+}
+
+/// Which fails where an answer is left over: then no later one could be trusted.
+void PostgresSession::LeavePipeline() {
+  if (FindLibrary()->exit_pipeline(connection_) == 1) return;
+  const std::string text = Line(FindLibrary()->error(connection_));
+  End();
+  throw SqlError(SqlFailure::kUnreachable, text);
 }
 
 /// Statements that succeed or fail without regard to what comes behind them.
@@ -237,7 +255,8 @@ SqlResult PostgresSession::Answer() {
 }
 
 void PostgresSession::ThrowLost() const {
-  const char* const text = connection_ == nullptr ? "" : FindLibrary()->error(connection_);
+  const char* const text =
+      connection_ == nullptr ? "the connection has ended" : FindLibrary()->error(connection_);
   throw SqlError(SqlFailure::kUnreachable, Line(text));
 }
 

@@ -31,7 +31,8 @@ class PostgresSession {
   /// Errors: SqlError kUnreachable.
   void Connect(const Parameters& parameters);
   /// Sends all of them at once and waits for the answers, one round trip in all. See
-  /// `SqlConnection::Execute`. What `greeting` has set holds whatever becomes of the statements.
+  /// `SqlConnection::Execute`. What `greeting` has set holds whatever becomes of the statements;
+  /// a session whose greeting fails has ended, with kUnreachable.
   /// Errors: SqlError.
   SqlResult Run(const SqlStatements& greeting, const SqlStatements& statements);
   /// From any thread: cuts the connection under the feet of a call that does not return.
@@ -40,6 +41,8 @@ class PostgresSession {
  private:
   [[noreturn]] void ThrowLost() const;
   void Send(const SqlStatements& statements);
+  void LeavePipeline();
+  void End();
   SqlResult Answers(std::size_t count);
   SqlResult Answer();
 

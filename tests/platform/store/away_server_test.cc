@@ -83,6 +83,24 @@ class AwayServer : public ::testing::Test {
     return clock.elapsed();
   }
 
+  // How many connections to the database the server has.
+  int Guests() const {
+    QSqlDatabase owner = QSqlDatabase::addDatabase("QPSQL", "counter");
+    owner.setHostName(QString::fromStdString(address_).section("host=", 1));
+    owner.setUserName("melvado");
+    owner.setDatabaseName("postgres");
+    owner.open();
+    int count = -1;
+    {
+      QSqlQuery query(owner);
+      query.exec("SELECT count(*) FROM pg_stat_activity WHERE datname = '" + database_ + "'");
+      if (query.next()) count = query.value(0).toInt();
+    }
+    owner = QSqlDatabase();
+    QSqlDatabase::removeDatabase("counter");
+    return count;
+  }
+
   QStringList Files() const { return QDir(data_ / "melvado").entryList(QDir::Files); }
 
   ScratchFolder data_;
@@ -274,6 +292,44 @@ TEST_F(AwayServer, IsToldOfInOtherWordsWhereNothingCanBeKept) {
   EXPECT_EQ(Ids(notices_), std::vector<int>{9111});
 }
 
+TEST_F(AwayServer, KeepsNobodyWaitingWhenAnAttemptEndsWithoutAConnection) {
+  ServerProxy proxy(kServer->Socket());
+  proxy.SwallowAfter(0);
+  // The least that the client library takes.
+  StoreOptions options = OptionsFor(Through(proxy) + "?connect_timeout=2");
+  options.server_patience_ms = 1500;
+  HostStore store(std::move(options));
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"kept"}));
+  qint64 longest = 0;
+  EXPECT_TRUE(ComesTrue([&] {
+    longest = std::max(longest, TimeOf([&] { QCoreApplication::processEvents(); }));
+    return proxy.Connections() > 3;
+  }));
+  EXPECT_LT(longest, 1000);
+  EXPECT_LT(TimeOf([&] {
+              ReadValue(store, "A1");
+              store.User();
+            }),
+            1000);
+}
+
+TEST_F(AwayServer, IsWaitedForOnceWhenItRefusesAfterSomeTime) {
+  ServerProxy proxy(kServer->Socket());
+  proxy.HangUpAfter(std::chrono::seconds(1));
+  StoreOptions options = OptionsFor(Through(proxy));
+  options.server_patience_ms = 4000;
+  options.retry_ms = 5000;
+  HostStore store(std::move(options));
+  EXPECT_LT(TimeOf([&] {
+              store.Language();
+              store.User();
+              store.MidiDevice();
+              ReadValue(store, "E1");
+            }),
+            2500);
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9108});
+}
+
 // ---- A road that swallows everything
 
 TEST_F(AwayServer, LosesNothingOnARoadThatSwallowsEverythingFromAnyByteOn) {
@@ -404,33 +460,97 @@ TEST_F(AwayServer, IsTriedAgainWhenItHadTooManyGuestsAndToldOfOnce) {
 }
 
 TEST_F(AwayServer, HasNoGuestOfAStoreThatIsNotUsed) {
-  const auto guests = [&] {
-    QSqlDatabase owner = QSqlDatabase::addDatabase("QPSQL", "counter");
-    owner.setHostName(QString::fromStdString(address_).section("host=", 1));
-    owner.setUserName("melvado");
-    owner.setDatabaseName("postgres");
-    owner.open();
-    int count = -1;
-    {
-      QSqlQuery query(owner);
-      query.exec("SELECT count(*) FROM pg_stat_activity WHERE datname = '" + database_ + "'");
-      if (query.next()) count = query.value(0).toInt();
-    }
-    owner = QSqlDatabase();
-    QSqlDatabase::removeDatabase("counter");
-    return count;
-  };
   StoreOptions options = Options();
   options.idle_ms = 50;
   HostStore store(std::move(options));
   EXPECT_TRUE(StoreValue(store, "E1", Array{"one"}));
-  EXPECT_EQ(guests(), 1);
-  EXPECT_TRUE(ComesTrue([&] { return guests() == 0; }));
+  EXPECT_EQ(Guests(), 1);
+  EXPECT_TRUE(ComesTrue([&] { return Guests() == 0; }));
   EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"one"}));
   EXPECT_TRUE(notices_.empty());
 }
 
+TEST_F(AwayServer, HasNoGuestOfAStoreOnALongRoadThatHasLoggedALine) {
+  ServerProxy proxy(kServer->Socket());
+  proxy.Delay(std::chrono::milliseconds(100));
+  StoreOptions options = OptionsFor(Through(proxy));
+  options.server_patience_ms = 30'000;
+  options.idle_ms = 1500;
+  HostStore store(std::move(options));
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"one"}));
+  LogLine(store, "line");
+  EXPECT_EQ(Guests(), 1);
+  EXPECT_TRUE(ComesTrue([&] { return Guests() == 0; }));
+  EXPECT_EQ(HostStore(OptionsElsewhere()).Log(10).size(), 1u);
+}
+
+TEST_F(AwayServer, GetsAnErrorAtOnceAlsoOnALongRoad) {
+  ServerProxy proxy(kServer->Socket());
+  proxy.Delay(std::chrono::milliseconds(100));
+  StoreOptions options = OptionsFor(Through(proxy));
+  options.server_patience_ms = 30'000;
+  HostStore store(std::move(options));
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"one"}));
+  HostStore elsewhere(OptionsElsewhere());
+  LogLine(store, "line");
+  TaggedValue result;
+  store.Service()->Action("LOGERR", Array{"place", 9, "error", "source"}, result);
+  // Its timers do not run here.
+  QElapsedTimer clock;
+  clock.start();
+  while (elsewhere.Log(10).size() < 2 && clock.elapsed() < 20'000) {
+  }
+  EXPECT_EQ(elsewhere.Log(10).size(), 2u);
+}
+
+TEST_F(AwayServer, HasALineOnceThatWasStillUnderWayWhenTheProgramEnded) {
+  ServerProxy proxy(kServer->Socket());
+  {
+    StoreOptions options = OptionsFor(Through(proxy));
+    options.server_patience_ms = 6000;
+    HostStore store(std::move(options));
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"one"}));
+    proxy.Delay(std::chrono::milliseconds(400));
+    LogLine(store, "line");
+  }
+  proxy.Delay(std::chrono::milliseconds(0));
+  StoreOptions options = OptionsFor(Through(proxy));
+  HostStore next(std::move(options));
+  EXPECT_TRUE(StoreValue(next, "E1", Array{"two"}));
+  EXPECT_EQ(next.Log(10).size(), 1u);
+}
+
 // ---- A log that somebody holds
+
+TEST_F(AwayServer, KeepsTheLinesThatWaitForItUntilItHasThem) {
+  {
+    HostStore store(TestOptions(address_));
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"one"}));
+    kServer->Stop();
+    LogLine(store, "line");
+  }
+  kServer->Start();
+  {
+    const Crowd crowd(address_, 1);
+    QSqlDatabase hand = QSqlDatabase::cloneDatabase("crowd 0", "hand");
+    hand.setDatabaseName(database_);
+    ASSERT_TRUE(hand.open());
+    QSqlQuery(hand).exec("BEGIN");
+    QSqlQuery(hand).exec("SELECT pg_advisory_xact_lock(1835363447)");
+    StoreProcess process;
+    ASSERT_EQ(process.Ask("open " + QString::fromStdString(address_) + " 50"), "open");
+    EXPECT_EQ(process.Ask("store E1 two 1"), "stored");
+    process.Kill();
+    hand = QSqlDatabase();
+    QSqlDatabase::removeDatabase("hand");
+  }
+  HostStore next(TestOptions(address_));
+  EXPECT_TRUE(ComesTrue([&] {
+    EXPECT_TRUE(StoreValue(next, "E1", Array{"three"}));
+    return !next.Log(10).empty();
+  }));
+  EXPECT_EQ(next.Log(10).size(), 1u);
+}
 
 TEST_F(AwayServer, CostsNeitherTimeNorLinesWhenSomebodyHoldsTheLog) {
   StoreOptions options = Options();

@@ -27,6 +27,16 @@ TEST(Courier, BringsTheErrorOfAnErrandAndGoesOn) {
   EXPECT_EQ(courier.Send([] { return 7; }).get(), 7);
 }
 
+TEST(Courier, KeepsNothingOfAnErrandThatIsDone) {
+  Courier courier;
+  auto owned = std::make_shared<int>(7);
+  const std::weak_ptr<int> left = owned;
+  const auto answer = courier.Send([owned = std::move(owned)] { return *owned; });
+  EXPECT_EQ(answer.get(), 7);
+  courier.Send([] {}).wait();
+  EXPECT_TRUE(left.expired());
+}
+
 TEST(Courier, IsNotWaitedForWhenItIsLetGoAndFinishesWhatItWasSentFor) {
   std::promise<void> go;
   const std::shared_future<void> gone = go.get_future().share();

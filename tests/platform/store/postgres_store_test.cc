@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <memory>
@@ -179,6 +180,20 @@ TEST_F(PostgresStore, RaisesWhenALockIsNotReleasedInTimeAndLosesNothing) {
   EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"old"}));
   EXPECT_TRUE(StoreValue(store, "E1", Array{"new"}));
   EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"new"}));
+}
+
+TEST_F(PostgresStore, WaitsNoLongerForALockAfterALineOfTheLogHasFoundNone) {
+  StoreOptions options = Options();
+  options.busy_timeout_ms = 1000;
+  HostStore store(std::move(options));
+  StoreValue(store, "E1", Array{"old"});
+  const OtherHand hand(address_, {"BEGIN", "LOCK TABLE melvado_record IN ACCESS EXCLUSIVE MODE"});
+  EXPECT_THROW(StoreValue(store, "E1", Array{"new"}), RunTimeError);
+  EXPECT_TRUE(LogLine(store, "line"));
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_EQ(ReadValue(store, "E1"), std::nullopt);
+  EXPECT_LT(clock.elapsed(), 700);
 }
 
 TEST_F(PostgresStore, StoresNothingOfAPairOfWhichOneRecordIsLocked) {

@@ -58,6 +58,7 @@ void ServerProxy::Work() {
       if (sources[i++].revents != 0) Take(road, road.server, road.to_client);
       if (!Deliver(road, road.server, road.to_server)) road.ended = true;
       if (!Deliver(road, road.client, road.to_client)) road.ended = true;
+      if (Clock::now() >= road.open_until) road.ended = true;
     }
     roads_.remove_if([](const Road& road) {
       if (!road.ended) return false;
@@ -84,7 +85,12 @@ void ServerProxy::Accept() {
     ::close(road.server);
     return;
   }
+  ++connections_;
   road.open_from = Clock::now() + std::chrono::milliseconds(2 * delay_ms_);
+  if (hang_up_ms_ >= 0) {
+    road.open_until = Clock::now() + std::chrono::milliseconds(hang_up_ms_);
+    road.open_from = road.open_until;
+  }
   roads_.push_back(std::move(road));
 }
 

@@ -29,6 +29,10 @@ class ServerProxy {
   /// After so many bytes of a connection that it has brought, in both directions together, the road
   /// swallows everything and says nothing of it. Below 0: never.
   void SwallowAfter(long bytes) { swallow_after_ = bytes; }
+  /// New connections end after that time; until then they bring nothing. Below 0: they stay.
+  void HangUpAfter(std::chrono::milliseconds time) { hang_up_ms_ = static_cast<int>(time.count()); }
+  /// How many connections there were.
+  int Connections() const { return connections_; }
   /// How often the client has spoken and then waited for the server.
   int RoundTrips() const { return round_trips_; }
 
@@ -46,6 +50,7 @@ class ServerProxy {
     std::deque<Parcel> to_server;
     std::deque<Parcel> to_client;
     Clock::time_point open_from;
+    Clock::time_point open_until = Clock::time_point::max();
     bool ended = false;
   };
 
@@ -59,6 +64,8 @@ class ServerProxy {
   int port_ = 0;
   std::atomic<int> delay_ms_ = 0;
   std::atomic<long> swallow_after_ = -1;
+  std::atomic<int> hang_up_ms_ = -1;
+  std::atomic<int> connections_ = 0;
   std::atomic<int> round_trips_ = 0;
   std::atomic<bool> ended_ = false;
   std::list<Road> roads_;

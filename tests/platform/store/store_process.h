@@ -27,7 +27,7 @@ class StoreProcess {
     }
   }
 
-  /// The next line of its answers, or "" when it has ended or is silent for half a minute.
+  /// The next line of its answers, or "" when it has ended or is silent for two minutes.
   QString Hear() {
     while (!process_.canReadLine() && process_.waitForReadyRead(120'000)) {
     }
@@ -48,9 +48,12 @@ class StoreProcess {
     return HearTheRest();
   }
 
+  /// Tells it to end.
+  void Finish() { process_.closeWriteChannel(); }
+
   /// Lets it end by itself.
   void End() {
-    process_.closeWriteChannel();
+    Finish();
     process_.waitForFinished();
   }
 

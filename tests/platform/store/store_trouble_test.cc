@@ -187,6 +187,44 @@ TEST_F(TroubledStore, RaisesWhenALockIsNotReleasedInTimeAndLosesNothing) {
   EXPECT_TRUE(LogLine(store, "line"));
 }
 
+TEST_F(TroubledStore, WaitsNoLongerForALockAfterALineOfTheLogHasMetItToo) {
+  MakeStoreWith(Array{"old"});
+  StoreOptions options = Options();
+  options.busy_timeout_ms = 1000;
+  OtherHand hand(Path());
+  hand.Run("PRAGMA journal_mode = DELETE");
+  hand.Run("BEGIN IMMEDIATE");
+  // The change of the mode is refused, so a lock keeps readers out, too.
+  HostStore store(std::move(options));
+  EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"old"}));
+  hand.Run("COMMIT");
+  hand.Run("BEGIN EXCLUSIVE");
+  EXPECT_EQ(NumberRaisedByStore(store, "A1", Array{"new"}), ErrorNumber::kStore);
+  EXPECT_FALSE(LogLine(store, "line"));
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_EQ(ReadValue(store, "E1"), std::nullopt);
+  EXPECT_LT(clock.elapsed(), 700);
+}
+
+TEST_F(TroubledStore, WaitsAtItsEndForALockThatKeepsTheLastLinesOut) {
+  {
+    StoreProcess process;
+    ASSERT_EQ(process.Ask("open " + Path() + " 20000"), "open");
+    ASSERT_EQ(process.Ask("store E1 old 1"), "stored");
+    {
+      OtherHand hand(Path());
+      hand.Run("BEGIN IMMEDIATE");
+      EXPECT_EQ(process.Ask("log line"), "lost");
+      process.Finish();
+      EXPECT_TRUE(process.IsSilentFor(700));
+      EXPECT_FALSE(process.HasEnded());
+    }
+    process.End();
+  }
+  ASSERT_EQ(HostStore(Options()).Log(10).size(), 1u);
+}
+
 TEST_F(TroubledStore, AnswersNothingWhileItIsLockedFromTheStartAndWorksAfterwards) {
   {
     HostStore store(Options());
