@@ -17,6 +17,7 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/qt/html_bounds.h"
 #include "platform/qt/look.h"
 
 namespace vmod17 {
@@ -33,9 +34,6 @@ constexpr double kMostZoom = 2.5;
 constexpr QSize kUsualSize{760, 680};
 constexpr QSize kLeastSize{420, 300};
 constexpr qint64 kLargestFile = 16 << 20;
-// The largest page of the program has 15 KB and nests eight elements.
-constexpr qsizetype kLargestPage = 128 << 10;
-constexpr int kDeepest = 40;
 constexpr char kScheme[] = "help";
 constexpr char kEnglish[] = "en";
 constexpr char kContentsPage[] = "index";
@@ -70,31 +68,6 @@ QString FileOf(const QUrl& address) {
 QString WithWordsOfPictures(QString page) {
   static const QRegularExpression kPicture("(<img[^>]*\\balt=\"([^\"]*)\"[^>]*/>)");
   return page.replace(kPicture, "\\1<br/><span class=\"quiet\">\\2</span>");
-}
-
-/// How deeply the elements of a page are nested, but for those that many leave open.
-int DepthOf(const QString& page) {
-  static const QRegularExpression kTag("<(/?)([a-zA-Z][a-zA-Z0-9]*)([^>]*)>");
-  static const QStringList kOften = {"p",  "br", "hr", "img",  "meta", "link", "li",
-                                     "td", "th", "tr", "html", "body", "dt",   "dd"};
-  int depth = 0;
-  int deepest = 0;
-  for (auto tag = kTag.globalMatch(page); tag.hasNext();) {
-    const QRegularExpressionMatch match = tag.next();
-    if (kOften.contains(match.captured(2).toLower())) continue;
-    if (match.capturedView(3).endsWith('/')) continue;
-    depth += match.capturedView(1).isEmpty() ? 1 : -1;
-    deepest = std::max(deepest, depth);
-  }
-  return deepest;
-}
-
-/// Whether the toolkit lays a page out in no time. It takes seconds for tables in tables, and room
-/// for each cell that one spans.
-bool CanBeLaidOut(const QString& page) {
-  static const QRegularExpression kWideCell("(row|col)span\\s*=\\s*[\"']?\\s*\\d{4}",
-                                            QRegularExpression::CaseInsensitiveOption);
-  return page.size() <= kLargestPage && DepthOf(page) <= kDeepest && !page.contains(kWideCell);
 }
 
 bool IsWithin(const std::filesystem::path& path, const std::filesystem::path& folder) {
@@ -146,7 +119,9 @@ class HelpWindow::Browser : public QTextBrowser {
     if (held.isEmpty()) return help_.Missing();
     const QString page = QString::fromUtf8(held);
     if (!CanBeLaidOut(page)) return help_.TooLarge();
-    return help_.WithNote(file, WithWordsOfPictures(page));
+    // Words of pictures may be tags, too, which come to count only now.
+    const QString shown = help_.WithNote(file, WithWordsOfPictures(page));
+    return CanBeLaidOut(shown) ? shown : help_.TooLarge();
   }
 
  private:

@@ -320,9 +320,12 @@ TEST(HelpWindow, RefusesInWordsAPageThatCannotBeLaidOut) {
   folder.Write("en/deep.html", QByteArray("<table><tr><td>").repeated(20'000) + "x");
   folder.Write("en/large.html", QByteArray("<p>words and words</p>").repeated(10'000));
   folder.Write("en/wide.html", "<table><tr><td colspan=\"99999999\">x</td></tr></table>");
+  folder.Write("en/nested.html", QByteArray("<table><tr><td>").repeated(20) + "x");
+  folder.Write("en/told.html",
+               QByteArray("<img alt=\"</span><table><tr><td>\"/>").repeated(20) + "x");
   folder.Write("en/good.html", QByteArray("<div>").repeated(30) + "good");
   HelpWindow help({folder.path()});
-  for (const char* page : {"deep", "large", "wide"}) {
+  for (const char* page : {"deep", "large", "wide", "nested", "told"}) {
     help.Show(page, "en");
     EXPECT_EQ(TextOf(help), HelpWindow::Words().too_large) << page;
   }
