@@ -739,7 +739,7 @@
     </message>
     <message id="9205s">
         <source></source>
-        <translation>Protokoll aufgeben</translation>
+        <translation>Protokoll verwerfen</translation>
     </message>
     <message id="9206s">
         <source></source>
