@@ -66,6 +66,7 @@ int main(int argc, char* argv[]) {
   options.address =
       "postgresql://melvado@127.0.0.1:" + std::to_string(proxy.port()) + '/' + argv[2];
   options.data_folder = data.path().toStdString();
+  options.users_at_start = true;
   {
     // The tables are there, as they are at every start but the first.
     vmod17::HostStore store(options);

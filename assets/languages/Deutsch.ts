@@ -669,6 +669,10 @@
         <source></source>
         <translation>Ein Training, das auf diesem Computer aufgehoben war, solange der Server nicht zu erreichen war, ist jetzt zu %1 gebracht worden. Dort war inzwischen ein neueres gespeichert worden, das gilt; das von diesem Computer steht daneben, unter einem Namen, der auf %2 endet.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>Die Datei, in der dieser Computer aufhebt, was der Server noch nicht übernommen hat, %1, ist beschädigt oder stammt von einer anderen Version dieses Programms und konnte nicht gelesen werden. Sie ist unter dem Namen %2 aufgehoben, und eine neue, leere Datei wurde angelegt. Bitte sagen Sie es der Person, die die Computer betreut.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>Die Datei %1 ist keine Sicherungskopie gespeicherter Trainings. Nichts wurde verändert.</translation>

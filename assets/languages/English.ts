@@ -669,6 +669,10 @@
         <source></source>
         <translation>A training that was kept on this computer while the server was away has now been brought to %1. A newer one had been stored there meanwhile, which holds; the one from this computer was kept beside it, under a name that ends in %2.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>The file in which this computer keeps what the server has not taken yet, %1, is damaged or of another version of this program and could not be read. It has been kept under the name %2, and a new, empty file has been started. Please tell the person who looks after the computers.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>The file %1 is no backup of stored trainings. Nothing has been changed.</translation>

@@ -669,6 +669,10 @@
         <source></source>
         <translation>Un entrenamiento que se conservaba en este ordenador mientras el servidor no estaba disponible se ha llevado ahora a %1. Entretanto se había guardado allí uno más reciente, que es el válido; el de este ordenador se ha conservado a su lado, con un nombre que termina en %2.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>El archivo en el que este ordenador conserva lo que el servidor aún no ha recibido, %1, está dañado o es de otra versión de este programa y no se ha podido leer. Se ha conservado con el nombre %2 y se ha creado un archivo nuevo, vacío. Avise a la persona que se ocupa de los ordenadores.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>El archivo %1 no es una copia de seguridad de entrenamientos guardados. No se ha cambiado nada.</translation>

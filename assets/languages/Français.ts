@@ -669,6 +669,10 @@
         <source></source>
         <translation>Un entraînement gardé sur cet ordinateur pendant que le serveur était injoignable vient d’être transmis à %1. Un entraînement plus récent y avait été enregistré entre-temps et reste valable ; celui de cet ordinateur a été gardé à côté, sous un nom qui se termine par %2.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>Le fichier dans lequel cet ordinateur garde ce que le serveur n’a pas encore reçu, %1, est endommagé ou provient d’une autre version de ce programme et n’a pas pu être lu. Il a été conservé sous le nom %2, et un nouveau fichier vide a été créé. Veuillez prévenir la personne qui s’occupe des ordinateurs.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>Le fichier %1 n’est pas une copie de sauvegarde d’entraînements enregistrés. Rien n’a été modifié.</translation>

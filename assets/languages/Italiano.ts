@@ -669,6 +669,10 @@
         <source></source>
         <translation>Un allenamento conservato su questo computer mentre il server non era raggiungibile è stato ora portato a %1. Nel frattempo là ne era stato salvato uno più recente, che resta valido; quello di questo computer è stato conservato accanto, con un nome che termina con %2.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>Il file in cui questo computer conserva ciò che il server non ha ancora ricevuto, %1, è danneggiato o di un’altra versione di questo programma e non si è potuto leggere. È stato conservato con il nome %2 ed è stato creato un nuovo file vuoto. Avvisa la persona che si occupa dei computer.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>Il file %1 non è una copia di sicurezza di allenamenti salvati. Non è stato cambiato nulla.</translation>

@@ -669,6 +669,10 @@
         <source></source>
         <translation>Een training die op deze computer was bewaard zolang de server niet bereikbaar was, is nu naar %1 gebracht. Daar was intussen een nieuwere opgeslagen, die geldt; die van deze computer is ernaast bewaard, onder een naam die eindigt op %2.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>Het bestand waarin deze computer bewaart wat de server nog niet heeft overgenomen, %1, is beschadigd of van een andere versie van dit programma en kon niet worden gelezen. Het is bewaard onder de naam %2 en er is een nieuw, leeg bestand aangemaakt. Zeg het tegen degene die de computers beheert.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>Het bestand %1 is geen reservekopie van opgeslagen trainingen. Er is niets gewijzigd.</translation>

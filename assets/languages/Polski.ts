@@ -669,6 +669,10 @@
         <source></source>
         <translation>Trening zachowany na tym komputerze w czasie, gdy serwer był niedostępny, został teraz przekazany do %1. W międzyczasie zapisano tam nowszy i to on obowiązuje; trening z tego komputera zachowano obok, pod nazwą, która kończy się na %2.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>Plik, w którym ten komputer przechowuje to, czego serwer jeszcze nie przyjął, %1, jest uszkodzony lub pochodzi z innej wersji programu i nie udało się go odczytać. Zachowano go pod nazwą %2 i utworzono nowy, pusty plik. Powiadom osobę, która opiekuje się komputerami.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>Plik %1 nie jest kopią zapasową zapisanych treningów. Niczego nie zmieniono.</translation>

@@ -669,6 +669,10 @@
         <source></source>
         <translation>Um treino guardado neste computador enquanto o servidor não estava acessível foi agora levado para %1. Entretanto tinha sido gravado lá um mais recente, que é o que vale; o deste computador ficou guardado ao lado, com um nome que termina em %2.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>O ficheiro em que este computador guarda o que o servidor ainda não recebeu, %1, está danificado ou é de outra versão deste programa e não pôde ser lido. Foi conservado com o nome %2 e foi criado um ficheiro novo, vazio. Avise a pessoa que cuida dos computadores.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>O ficheiro %1 não é uma cópia de segurança de treinos gravados. Nada foi alterado.</translation>

@@ -669,6 +669,10 @@
         <source></source>
         <translation>Trénink, který zůstal v tomto počítači, dokud server nebyl dostupný, byl nyní přenesen na %1. Mezitím tam byl uložen novější, který platí; trénink z tohoto počítače je uložen vedle něj pod názvem, který končí na %2.</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>Soubor, ve kterém tento počítač uchovává to, co server ještě nepřevzal, %1, je poškozený nebo pochází z jiné verze programu a nepodařilo se ho přečíst. Je uschován pod názvem %2 a byl založen nový, prázdný soubor. Oznamte to prosím osobě, která se stará o počítače.</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>Soubor %1 není zálohou uložených tréninků. Nic nebylo změněno.</translation>

@@ -669,6 +669,10 @@
         <source></source>
         <translation>服务器无法访问期间留在这台计算机上的一个训练现已传送到 %1。在此期间那里保存了更新的训练，以较新的为准；这台计算机上的训练保存在它旁边，名称以 %2 结尾。</translation>
     </message>
+    <message id="9117s">
+        <source></source>
+        <translation>这台计算机上保存尚未传送到服务器的内容的文件 %1 已损坏，或来自本程序的其他版本，无法读取。该文件已改名为 %2 保留，并新建了一个空文件。请告知负责管理计算机的人员。</translation>
+    </message>
     <message id="9120s">
         <source></source>
         <translation>文件 %1 不是已保存训练的备份。未作任何更改。</translation>

@@ -712,9 +712,11 @@ void HostStore::PutAside(const RecordKey& key, const std::string& value) {
 
 void HostStore::OpenOutbox() {
   if (outbox_ || !IsServer() || options_.data_folder.empty()) return;
-  outbox_ = std::make_unique<Outbox>(
-      OutboxPath(QString::fromStdString(options_.data_folder), address_->server, options_.seat),
-      options_.clock);
+  const QString path =
+      OutboxPath(QString::fromStdString(options_.data_folder), address_->server, options_.seat);
+  outbox_ = std::make_unique<Outbox>(path, options_.clock, [this, path](const QString& aside) {
+    Tell(UnreadableOutboxNotice(path.toStdString(), aside.toStdString()));
+  });
   Settings kept;
   for (const auto& [kind, content, id] : Kept()) {
     if (kind == kSettingKind) kept[content[0].String()] = content[1].String();

@@ -17,6 +17,8 @@
 namespace vmod17 {
 namespace {
 
+// Of the tables; a file of another one is of no use to this program.
+constexpr int kVersion = 1;
 // For another process that adds a piece.
 constexpr int kPatienceMs = 1000;
 
@@ -39,8 +41,8 @@ bool IsOfAnother(const QString& mark) {
 
 }  // namespace
 
-Outbox::Outbox(QString path, std::function<DateTime()> clock)
-    : path_(std::move(path)), clock_(std::move(clock)) {}
+Outbox::Outbox(QString path, std::function<DateTime()> clock, PutAsideHandler put_aside)
+    : path_(std::move(path)), clock_(std::move(clock)), put_aside_(std::move(put_aside)) {}
 Outbox::~Outbox() = default;
 
 bool Outbox::Open() {
@@ -48,15 +50,21 @@ bool Outbox::Open() {
   try {
     OpenAnew();
   } catch (const SqlError& error) {
-    if (error.failure() != SqlFailure::kBroken || MoveStoreAside(path_, clock_()).isEmpty()) {
-      return false;
-    }
+    if (error.failure() != SqlFailure::kBroken || !PutAside()) return false;
     try {
       OpenAnew();
     } catch (const SqlError&) {
       return false;
     }
   }
+  return true;
+}
+
+bool Outbox::PutAside() {
+  connection_.reset();
+  const QString aside = MoveStoreAside(path_, clock_());
+  if (aside.isEmpty()) return false;
+  if (put_aside_) put_aside_(aside);
   return true;
 }
 
@@ -67,12 +75,19 @@ void Outbox::OpenAnew() {
   auto connection = std::make_unique<SqliteConnection>(path_);
   connection->Open(kPatienceMs);
   connection->SetSync(SqlConnection::Sync::kToDisk);
-  connection->Run(
-      "CREATE TABLE IF NOT EXISTS piece (number INTEGER PRIMARY KEY AUTOINCREMENT, "
-      "at TEXT NOT NULL, owner TEXT NOT NULL)");
-  connection->Run(
-      "CREATE TABLE IF NOT EXISTS entry (id INTEGER PRIMARY KEY AUTOINCREMENT, "
-      "piece INTEGER NOT NULL, kind TEXT NOT NULL, content BLOB NOT NULL)");
+  const int version = connection->Run("PRAGMA user_version").rows[0][0].toInt();
+  if (version == 0) {
+    connection->RunTogether(
+        {{"CREATE TABLE IF NOT EXISTS piece (number INTEGER PRIMARY KEY AUTOINCREMENT, "
+          "at TEXT NOT NULL, owner TEXT NOT NULL)",
+          {}},
+         {"CREATE TABLE IF NOT EXISTS entry (id INTEGER PRIMARY KEY AUTOINCREMENT, "
+          "piece INTEGER NOT NULL, kind TEXT NOT NULL, content BLOB NOT NULL)",
+          {}},
+         {"PRAGMA user_version = " + QString::number(kVersion), {}}});
+  } else if (version != kVersion) {
+    throw SqlError(SqlFailure::kBroken, "the file is of another version");
+  }
   connection_ = std::move(connection);
 }
 
@@ -103,7 +118,8 @@ std::vector<OutboxPiece> Outbox::Pieces() {
     found = connection_->Run(
         "SELECT number, at, kind, content, id, owner FROM piece JOIN entry ON piece = number ORDER "
         "BY id");
-  } catch (const SqlError&) {
+  } catch (const SqlError& error) {
+    if (error.failure() == SqlFailure::kBroken) PutAside();
     return pieces;
   }
   for (const QVariantList& row : found.rows) {

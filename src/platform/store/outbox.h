@@ -38,8 +38,12 @@ struct OutboxPiece {
 /// file that cannot be written takes nothing, and one that cannot be read has nothing.
 class Outbox {
  public:
-  /// The file need not exist. One that is damaged is put aside, under a name that bears the date.
-  Outbox(QString path, std::function<DateTime()> clock);
+  /// Is told the new path of a file.
+  using PutAsideHandler = std::function<void(const QString& aside)>;
+
+  /// The file need not exist. One that is damaged or of another version is put aside, under a name
+  /// that bears the date.
+  Outbox(QString path, std::function<DateTime()> clock, PutAsideHandler put_aside = {});
   ~Outbox();
 
   /// Whether it is there to be written; makes it where it is not.
@@ -55,9 +59,11 @@ class Outbox {
  private:
   bool Open();
   void OpenAnew();
+  bool PutAside();
 
   QString path_;
   std::function<DateTime()> clock_;
+  PutAsideHandler put_aside_;
   std::unique_ptr<SqliteConnection> connection_;
 };
 

@@ -102,6 +102,15 @@ Notice NewerRecordNotice(const std::string& place, const std::string& suffix) {
           {place, suffix}};
 }
 
+Notice UnreadableOutboxNotice(const std::string& file, const std::string& aside) {
+  return {9117,
+          "The file in which this computer keeps what the server has not taken yet, %1, is damaged "
+          "or of another version of this program and could not be read. It has been kept under the "
+          "name %2, and a new, empty file has been started. Please tell the person who looks after "
+          "the computers.",
+          {file, aside}};
+}
+
 Notice NoBackupNotice(const std::string& file) {
   return {9120, "The file %1 is no backup of stored trainings. Nothing has been changed.", {file}};
 }

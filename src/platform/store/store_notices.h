@@ -29,6 +29,8 @@ Notice UnreachableServerNotice(const std::string& place, const std::string& reas
 Notice UnusableServerNotice(const std::string& place, const std::string& reason);
 /// `suffix` is what the key of the older record, which came late, has behind it now.
 Notice NewerRecordNotice(const std::string& place, const std::string& suffix);
+/// What waited on this machine for a server, and is `aside` now.
+Notice UnreadableOutboxNotice(const std::string& file, const std::string& aside);
 /// Why a backup was not restored. `file` is the backup.
 Notice NoBackupNotice(const std::string& file);
 Notice DamagedBackupNotice(const std::string& file, const std::string& reason);

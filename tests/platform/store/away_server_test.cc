@@ -281,6 +281,20 @@ TEST_F(AwayServer, KeepsWhatWaitsForItForTheOwnersEyesAndWithoutThePassword) {
   EXPECT_FALSE(file.readAll().contains("geheim"));
 }
 
+TEST_F(AwayServer, IsToldOfWhenWhatWaitsForItCannotBeRead) {
+  const StoreOptions options = OptionsFor("postgresql://anna@localhost:1/db?host=/nowhere");
+  EXPECT_TRUE(StoreValue(*std::make_unique<HostStore>(options), "E1", Array{"kept"}));
+  ASSERT_EQ(Files().size(), 1);
+  QFile file(data_ / "melvado/" + Files()[0]);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+  file.write(QByteArray(5000, 'x'));
+  file.close();
+  notices_.clear();
+  HostStore next(options);
+  EXPECT_EQ(ReadValue(next, "E1"), NothingStored());
+  EXPECT_EQ(Ids(notices_), (std::vector<int>{9117, 9108}));
+}
+
 TEST_F(AwayServer, IsToldOfInOtherWordsWhereNothingCanBeKept) {
   QFile file(data_ / "file");
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/store/sqlite_connection.h"
 #include "store_process.h"
 #include "store_testing.h"
 
@@ -93,6 +94,22 @@ TEST_F(OutboxFile, StartsAnewBesideADamagedOne) {
   EXPECT_TRUE(outbox.Add({{"record", Array{"E1"}}}));
   EXPECT_EQ(TextsOf(outbox), "record:E1 | ");
   EXPECT_TRUE(Names().contains("outbox.sqlite.broken-20260309-080501"));
+}
+
+TEST_F(OutboxFile, StartsAnewBesideOneOfAnotherVersionAndTellsOfIt) {
+  EXPECT_TRUE(Outbox(Path(), Now).Add({{"record", Array{"E1"}}}));
+  {
+    SqliteConnection other(Path());
+    other.Open(0);
+    other.Run("PRAGMA user_version = 2");
+  }
+  QStringList told;
+  Outbox outbox(Path(), Now, [&](const QString& aside) { told.push_back(aside); });
+  EXPECT_TRUE(outbox.Pieces().empty());
+  EXPECT_EQ(told, QStringList{Path() + ".broken-20260309-080501"});
+  EXPECT_TRUE(QFile::exists(told[0]));
+  EXPECT_TRUE(outbox.Add({{"record", Array{"A1"}}}));
+  EXPECT_EQ(TextsOf(outbox), "record:A1 | ");
 }
 
 TEST_F(OutboxFile, TakesNothingWhereNothingCanBeWritten) {

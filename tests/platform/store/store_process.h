@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QProcess>
 #include <QString>
 #include <stdexcept>
@@ -51,14 +53,18 @@ class StoreProcess {
   /// Tells it to end.
   void Finish() { process_.closeWriteChannel(); }
 
-  /// Lets it end by itself.
+  /// Lets it end by itself, which it does without a fault; a sanitizer that has one to report ends
+  /// it with a status of its own.
   void End() {
     Finish();
-    process_.waitForFinished();
+    process_.waitForFinished(120'000);
+    EXPECT_TRUE(HasEnded());
+    EXPECT_TRUE(ends_as_it_likes_ || Status() == 0) << Status();
   }
 
-  /// What it says until it ends.
+  /// What it says until it ends, in whatever way: that is for the caller to see.
   QString HearTheRest() {
+    ends_as_it_likes_ = true;
     process_.waitForFinished(120'000);
     return QString::fromUtf8(process_.readAll());
   }
@@ -70,6 +76,7 @@ class StoreProcess {
 
  private:
   QProcess process_;
+  bool ends_as_it_likes_ = false;
 };
 
 }  // namespace vmod17
