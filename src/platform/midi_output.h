@@ -25,6 +25,7 @@ enum class MidiMember {
   Marke = 22,         ///< write: a number that travels with a queued message
   QueueStand = 23,    ///< read: a `MidiQueueStand`
   KlangStand = 24,    ///< read: a `MidiKlangStand`
+  QueueZeit = 25,     ///< read: milliseconds of the queue that was started last that have passed
 };
 
 /// How the queue that was started last fares.

@@ -3,6 +3,7 @@
 
 #include "sound/mod_midi.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vmod17 {
@@ -19,7 +20,8 @@ constexpr int kStandardStaerke = 100;
 
 constexpr float kUnbemerkt = 300;    // ms that a wait may last before it is shown
 constexpr float kGeduld = 20000;     // ms until an output that only loads counts as none
-constexpr float kVerspaetet = 5000;  // ms until a queue that does not end counts as cut off
+constexpr float kVerspaetet = 5000;  // ms until a queue that comes no further counts as cut off
+constexpr float kHinsehen = 250;     // ms between two looks at how far it is
 
 }  // namespace
 
@@ -86,24 +88,34 @@ void ModMIDI::MidiStart() {
 
 Spielstand ModMIDI::WarteAufBeginn(const std::function<bool()>& verlassen,
                                    const std::function<void()>& dauert) {
-  return WarteSolange(MidiQueueStand::kWartet, kGeduld, verlassen, dauert);
+  const float start = loop_.Clock();
+  bool gezeigt = false;
+  while (!verlassen() && QueueStand() == MidiQueueStand::kWartet) {
+    const float gewartet = ClockDifference(start, loop_.Clock()) * 1000;
+    if (gewartet >= kGeduld) break;
+    if (gewartet >= kUnbemerkt && !std::exchange(gezeigt, true)) dauert();
+    loop_.WaitForEvent((gezeigt ? kGeduld : kUnbemerkt) - gewartet);
+  }
+  return NachDem(MidiQueueStand::kWartet, verlassen);
 }
 
 Spielstand ModMIDI::WarteAufEnde(const std::function<bool()>& verlassen) {
-  return WarteSolange(MidiQueueStand::kLaeuft, kVerspaetet, verlassen, [] {});
+  float seit = loop_.Clock();
+  float stillstand = 0;
+  double zeit = Port().Get(MidiMember::QueueZeit);
+  while (!verlassen() && QueueStand() == MidiQueueStand::kLaeuft && stillstand < kVerspaetet) {
+    loop_.WaitForEvent(kHinsehen);
+    const float jetzt = loop_.Clock();
+    // A process that is stopped misses nothing: only what it has seen counts.
+    stillstand += std::min(ClockDifference(seit, jetzt) * 1000, kHinsehen);
+    seit = jetzt;
+    const double zuvor = std::exchange(zeit, Port().Get(MidiMember::QueueZeit));
+    if (zeit != zuvor) stillstand = 0;
+  }
+  return NachDem(MidiQueueStand::kLaeuft, verlassen);
 }
 
-Spielstand ModMIDI::WarteSolange(MidiQueueStand stand, float geduld,
-                                 const std::function<bool()>& verlassen,
-                                 const std::function<void()>& dauert) {
-  const float start = loop_.Clock();
-  bool gezeigt = false;
-  while (!verlassen() && QueueStand() == stand) {
-    const float gewartet = ClockDifference(start, loop_.Clock()) * 1000;
-    if (gewartet >= geduld) break;
-    if (gewartet >= kUnbemerkt && !std::exchange(gezeigt, true)) dauert();
-    loop_.WaitForEvent((gezeigt ? geduld : kUnbemerkt) - gewartet);
-  }
+Spielstand ModMIDI::NachDem(MidiQueueStand stand, const std::function<bool()>& verlassen) {
   if (verlassen()) return Spielstand::kAbgebrochen;
   if (QueueStand() != stand && QueueStand() != MidiQueueStand::kStumm) return Spielstand::kKlingt;
   MidiReset();

@@ -61,7 +61,8 @@ class ModMIDI {
   /// takes so long that the user should see why.
   Spielstand WarteAufBeginn(const std::function<bool()>& verlassen,
                             const std::function<void()>& dauert);
-  /// The same until the queue that has begun is at its end, where it is late.
+  /// The same until the queue that has begun is at its end, however late it is, as long as it comes
+  /// on.
   Spielstand WarteAufEnde(const std::function<bool()>& verlassen);
   /// Whether what is played can be heard.
   MidiKlangStand KlangStand();
@@ -82,10 +83,8 @@ class ModMIDI {
   MidiOutput& Port();
   void Befehl(MidiBefehl befehl);
   MidiQueueStand QueueStand();
-  /// Serves events while the queue is at `stand`, for `geduld` milliseconds at the most.
-  Spielstand WarteSolange(MidiQueueStand stand, float geduld,
-                          const std::function<bool()>& verlassen,
-                          const std::function<void()>& dauert);
+  /// How the wait for the end of `stand` came out. A queue that is still there is dropped.
+  Spielstand NachDem(MidiQueueStand stand, const std::function<bool()>& verlassen);
   void SetzeLautstaerken(int links, int rechts);
   void Sende(int status, int daten1, int daten2);
 

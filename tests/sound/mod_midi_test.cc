@@ -486,6 +486,48 @@ TEST_F(Ending, OfAQueueThatLosesItsOutputIsSilence) {
   EXPECT_EQ(midi_.KlangStand(), MidiKlangStand::kWeg);
 }
 
+/// An output whose queue takes the time of the loop.
+class LateEnding : public Ending {
+ protected:
+  LateEnding() {
+    server_.HostVerbinden();
+    midi_.MidiGeraeteListe(timed_);
+    midi_.MidiOeffnen(timed_);
+    midi_.MidiNote(60, 0, 2000, 0, 1);
+  }
+  RecordingMidiOutput timed_{&loop_};
+};
+
+TEST_F(LateEnding, IsWaitedForAsLongAsTheQueueComesOn) {
+  timed_.Lag(60'000);
+  midi_.MidiStart();
+  loop_.Advance(2000);
+  EXPECT_EQ(WaitForTheEnd(), Spielstand::kKlingt);
+  EXPECT_NEAR(loop_.Elapsed(), 62'000, 1);
+}
+
+TEST_F(LateEnding, IsGivenUpFiveSecondsAfterTheQueueHasStopped) {
+  timed_.Lag(60'000);
+  midi_.MidiStart();
+  loop_.StartTimer(10'000, EventLoop::Repeat::kOnce, [&] { timed_.Stall(); });
+  EXPECT_EQ(WaitForTheEnd(), Spielstand::kStumm);
+  EXPECT_NEAR(loop_.Elapsed(), 15'000, 300);
+  EXPECT_FALSE(timed_.IsRunning());
+}
+
+TEST_F(LateEnding, IsWaitedForAfterTheProcessWasStopped) {
+  timed_.Lag(3000);
+  midi_.MidiStart();
+  loop_.Advance(2000);
+  // The clock has gone on by a minute before anything else moves.
+  loop_.StartTimer(1000, EventLoop::Repeat::kOnce, [&] {
+    timed_.Stall();
+    loop_.Sleep(60'000);
+  });
+  loop_.StartTimer(62'000, EventLoop::Repeat::kOnce, [&] { timed_.FinishQueue(); });
+  EXPECT_EQ(WaitForTheEnd(), Spielstand::kKlingt);
+}
+
 TEST_F(Ending, ThatNeverComesIsGivenUpAfterFiveSeconds) {
   Start(Device::kReady);
   EXPECT_EQ(WaitForTheEnd(), Spielstand::kStumm);

@@ -69,10 +69,10 @@ class RecordingMidiOutput : public MidiOutput {
     TakeSound(MidiKlangStand::kWeg);
   }
   /// The queue that runs comes no further, which nobody has noticed yet.
-  void Stall() {
-    if (timer_ > 0) loop_->StopTimer(timer_);
-    timer_ = 0;
-  }
+  void Stall() { StopTimer(); }
+  /// From now on a queue plays so much longer than it should, in ms, as on a machine that is too
+  /// slow for it.
+  void Lag(double ms) { lag_ = ms; }
   /// Whoever opens it from now on can be heard again.
   void ReturnSound() { there_ = true; }
 
@@ -153,6 +153,7 @@ class RecordingMidiOutput : public MidiOutput {
       case MidiMember::OffenStand:
       case MidiMember::QueueStand:
       case MidiMember::KlangStand:
+      case MidiMember::QueueZeit:
         break;
     }
   }
@@ -175,6 +176,8 @@ class RecordingMidiOutput : public MidiOutput {
         return static_cast<int>(stand_);
       case MidiMember::KlangStand:
         return static_cast<int>(klang_);
+      case MidiMember::QueueZeit:
+        return loop_ && timer_ > 0 ? (loop_->Clock() - begun_) * 1000 : 0;
       case MidiMember::Befehl:
       case MidiMember::GeraetName:
       case MidiMember::Status:
@@ -255,15 +258,20 @@ class RecordingMidiOutput : public MidiOutput {
     stand_ = device_ == Device::kReady ? MidiQueueStand::kLaeuft : MidiQueueStand::kStumm;
     played = std::exchange(waiting_, {});
     if (!loop_) return;
+    begun_ = loop_->Clock();
     double last = 0;
     for (const MidiMessage& message : played) last = std::max(last, message.zeit);
-    timer_ = loop_->StartTimer(static_cast<int>(std::ceil(last)), EventLoop::Repeat::kOnce,
+    timer_ = loop_->StartTimer(static_cast<int>(std::ceil(last + lag_)), EventLoop::Repeat::kOnce,
                                [this] { FinishQueue(); });
   }
 
   void DropRunning() {
     stand_ = MidiQueueStand::kRuht;
     waiting_.clear();
+    StopTimer();
+  }
+
+  void StopTimer() {
     if (timer_ > 0) loop_->StopTimer(timer_);
     timer_ = 0;
   }
@@ -289,6 +297,8 @@ class RecordingMidiOutput : public MidiOutput {
   MidiQueueStand stand_ = MidiQueueStand::kRuht;
   std::vector<MidiMessage> waiting_;
   int timer_ = 0;
+  float begun_ = 0;
+  double lag_ = 0;
 };
 
 }  // namespace vmod17

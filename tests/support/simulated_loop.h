@@ -37,6 +37,9 @@ class SimulatedLoop : public EventLoop {
     now_ = std::max(now_, target);  // a handler may have waited past it
   }
 
+  /// Lets time pass in which nothing is delivered, as in a process that is stopped.
+  void Sleep(double ms) { now_ += Ticks(ms); }
+
   /// Milliseconds since the loop was made.
   double Elapsed() const { return static_cast<double>(now_) / kTicksPerMs; }
   int yields() const { return yields_; }

@@ -181,6 +181,7 @@ void MidiDeviceOutput::Set(MidiMember member, double value) {
     case MidiMember::OffenStand:
     case MidiMember::QueueStand:
     case MidiMember::KlangStand:
+    case MidiMember::QueueZeit:
       break;  // to be read only
   }
 }
@@ -203,6 +204,8 @@ double MidiDeviceOutput::Get(MidiMember member) const {
       return static_cast<int>(queue_stand_);
     case MidiMember::KlangStand:
       return static_cast<int>(klang_stand_);
+    case MidiMember::QueueZeit:
+      return started_ ? started_->Time() : 0;
     case MidiMember::Befehl:
     case MidiMember::GeraetName:
     case MidiMember::Status:
@@ -263,6 +266,7 @@ void MidiDeviceOutput::Start() {
     });
   };
   auto queue = std::make_shared<SequencerQueue>(messages, tell);
+  started_ = queue;
   Do([this, queue] { player_->Start(queue); });
 }
 

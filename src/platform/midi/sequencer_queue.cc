@@ -65,6 +65,7 @@ void SequencerQueue::Advance(double ms, const Sink& sink) {
   sink_ = &sink;
   fluid_sequencer_process(sequencer_.get(), TickOf(ms));
   sink_ = nullptr;
+  time_ = ms;
   if (!std::exchange(begun_, true) && !mute_) tell_(MidiQueueStand::kLaeuft);
   if (sent_ == groups_.size() && !over_.exchange(true)) tell_(MidiQueueStand::kRuht);
 }

@@ -24,7 +24,7 @@ namespace vmod17 {
 /// Messages whose times agree to a hundredth of a millisecond are one event of the sequencer, so
 /// they leave in one call, in the order in which they were queued.
 ///
-/// Not synchronised but for `IsOver`: one thread at a time.
+/// Not synchronised but for `IsOver` and `Time`: one thread at a time.
 class SequencerQueue {
  public:
   using Sink = std::function<void(std::span<const MidiBytes>)>;
@@ -43,6 +43,8 @@ class SequencerQueue {
 
   /// Any thread.
   bool IsOver() const { return over_; }
+  /// Any thread: milliseconds from the start that have passed.
+  double Time() const { return time_; }
   /// Milliseconds from the start to the next message; the last one's time when all have left.
   double NextTime() const;
   /// The channels that have a message.
@@ -66,6 +68,7 @@ class SequencerQueue {
   bool begun_ = false;
   bool mute_ = false;
   std::atomic<bool> over_ = false;
+  std::atomic<double> time_ = 0;
   const Tell tell_;
   const Sink* sink_ = nullptr;  // only inside Advance
   std::unique_ptr<fluid_sequencer_t, DeleteSequencer> sequencer_;

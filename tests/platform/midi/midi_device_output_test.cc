@@ -178,6 +178,21 @@ TEST(MidiDeviceOutput, KeepsAQueueThatWasDroppedBetweenItsEndAndTheDeliveryQuiet
   EXPECT_EQ(rendered.queue_empty, 0);
 }
 
+TEST(MidiDeviceOutput, TellsHowFarItsQueueIsAndBeginsAnewWithEach) {
+  RenderedOutput rendered(NoPorts());
+  rendered.Open(-1);
+  EXPECT_EQ(rendered.output.Get(MidiMember::QueueZeit), 0);
+  for (int queue = 0; queue < 2; ++queue) {
+    rendered.QueueNote(60, 0, 3000);
+    rendered.Do(MidiBefehl::kStart);
+    EXPECT_EQ(rendered.output.Get(MidiMember::QueueZeit), 0);
+    rendered.Render(500);
+    EXPECT_NEAR(rendered.output.Get(MidiMember::QueueZeit), 500, 5);
+    rendered.Render(1000);
+    EXPECT_NEAR(rendered.output.Get(MidiMember::QueueZeit), 1500, 5);
+  }
+}
+
 TEST(MidiDeviceOutput, LeavesNoEventBehindWhenItGoes) {
   PostingLoop loop;
   int events = 0;

@@ -72,6 +72,16 @@ TEST(SequencerQueue, TellsItsBeginningAndItsEndOnce) {
   EXPECT_TRUE(queue.IsOver());
 }
 
+TEST(SequencerQueue, TellsHowFarItIsBetweenItsMessagesToo) {
+  SequencerQueue queue({NoteOn(0, 60), NoteOn(4000, 61)}, &TellNobody);
+  Listener listener;
+  EXPECT_EQ(queue.Time(), 0);
+  for (const double ms : {10, 1500, 4000}) {
+    queue.Advance(ms, listener.sink);
+    EXPECT_EQ(queue.Time(), ms);
+  }
+}
+
 TEST(SequencerQueue, NeverSaysThatItSoundsWhenItIsMute) {
   std::vector<MidiQueueStand> told;
   SequencerQueue queue({NoteOn(0, 60)}, [&](MidiQueueStand stand) { told.push_back(stand); });
