@@ -12,8 +12,9 @@ namespace vmod17 {
 
 void Arbeitsblatt1::KlangWechsel() {
   if (!loaded() || run_.abbruch) return;
+  MerkeKlang();
   Bewache("spieltimer_timer.", [this] {
-    if (KlangIstWeg()) {
+    if (KlangIstVerloren()) {
       if (const auto bei = WasLaeuft()) VerliereKlang(*bei);
     } else if (parts_.midi.KlangStand() == MidiKlangStand::kDa && run_.ohne_klang) {
       NimmWiederAuf();
@@ -21,8 +22,12 @@ void Arbeitsblatt1::KlangWechsel() {
   });
 }
 
+void Arbeitsblatt1::MerkeKlang() {
+  if (parts_.midi.KlangStand() == MidiKlangStand::kDa) run_.klang_war_da = true;
+}
+
 std::optional<KlangVerlust> Arbeitsblatt1::WasLaeuft() const {
-  if (spieltimer.enabled) return KlangVerlust::kSpiel;
+  if (spieltimer.enabled) return VerlustDesSpiels();
   if (wieder.enabled) return KlangVerlust::kAntwort;
   const bool schalter = CmdNextAufg.visible && CmdNextAufg.enabled && !run_.ungehoert;
   if (WahlAutomat.enabled || schalter) return KlangVerlust::kAngebot;
@@ -52,7 +57,23 @@ void Arbeitsblatt1::VerliereKlang(KlangVerlust bei) {
   WaitMeld.caption = shell_.texts.Words(kKlangVerloren);
   WaitMeldung.visible = true;
   Say(WaitMeld.caption);
+  run_.nachgespielt.reset();
   SucheKlang(bei);
+}
+
+/// What stands still on an output that says that all is well is tried once more. The second time
+/// the student is told, and goes on by hand.
+void Arbeitsblatt1::VerliereSpiel() {
+  const bool erneut = std::exchange(run_.stockte, !KlangIstVerloren());
+  if (!erneut || KlangIstVerloren()) return VerliereKlang(VerlustDesSpiels());
+  run_.stockte = false;
+  run_.nachgespielt.reset();
+  listening = false;
+  HalteTestzeitAn(run_.spiel_start);
+  MeldeStumm();
+  if (run_.abbruch) return;
+  if (run_.spiel_art == SpielArt::kKontrolle) return BeendeSpiel();
+  BieteUngehoerteAn();
 }
 
 void Arbeitsblatt1::SucheKlang(KlangVerlust bei) {
@@ -79,6 +100,8 @@ void Arbeitsblatt1::NimmWiederAuf() {
   BeendeWarten();
   SetzeTestzeitFort();
   BieteWiederAn();
+  // Seen at once, and heard by nobody: nothing else tells that there is sound again.
+  Say(parts_.settings.abfolge == 1 ? LbNextAufg.caption : CmdNextAufg.caption);
 }
 
 /// The task from its beginning, with the answers that it has already. As after every playing the
@@ -88,6 +111,7 @@ void Arbeitsblatt1::SpieleNach(KlangVerlust bei) {
   // What was told holds until it sounds.
   switch (BeginneSpiel([] {})) {
     case Spielstand::kKlingt:
+      run_.nachgespielt = bei;
       // It is heard for the first time, or once more than the time of a test reckons with.
       if (bei == KlangVerlust::kSpiel) SetzeTestzeitFort();
       return;

@@ -136,10 +136,10 @@ void Arbeitsblatt1::SpieleUngehoerte() {
   });
 }
 
-/// By the button in every sequence: what the student has to mend takes its time. Where it is known
-/// that the sound is gone, its return is waited for.
+/// By the button in every sequence: what the student has to mend takes its time. Where the sound
+/// was lost, its return is waited for.
 void Arbeitsblatt1::BieteUngehoerteAn() {
-  if (KlangIstWeg()) return VerliereKlang(KlangVerlust::kSpiel);
+  if (KlangIstVerloren()) return VerliereKlang(KlangVerlust::kSpiel);
   run_.ungehoert = true;
   CmdNextAufg.visible = true;
   CmdNextAufg.enabled = true;
@@ -183,7 +183,7 @@ bool Arbeitsblatt1::Spiele(SpielArt art) {
   if (beginn == Spielstand::kStumm) {
     BeendeWarten();
     HalteTestzeitAn(seit);
-    if (!KlangIstWeg()) MeldeStumm();
+    if (!KlangIstVerloren()) MeldeStumm();
     return run_.abbruch;
   }
   if (beginn == Spielstand::kKlingt) SetzeTestzeitFort();
@@ -228,7 +228,7 @@ void Arbeitsblatt1::spieltimer_Timer() {
       case Spielstand::kKlingt:
         return BeendeSpiel();
       case Spielstand::kStumm:
-        return VerliereKlang(KlangVerlust::kSpiel);
+        return VerliereSpiel();
       case Spielstand::kAbgebrochen:
         return;
     }
@@ -237,9 +237,11 @@ void Arbeitsblatt1::spieltimer_Timer() {
 
 void Arbeitsblatt1::BeendeSpiel() {
   listening = false;
+  run_.stockte = false;
+  run_.nachgespielt.reset();
   const bool kontrolle = run_.spiel_art == SpielArt::kKontrolle;
   if (!kontrolle) run_.clock.antw_start = shell_.loop.Clock();
-  if (KlangIstWeg()) {
+  if (KlangIstVerloren()) {
     return VerliereKlang(kontrolle ? KlangVerlust::kAngebot : KlangVerlust::kAntwort);
   }
   SetzeTestzeitFort();

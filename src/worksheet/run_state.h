@@ -84,11 +84,14 @@ struct RunState {
   int akk_nr = 0;  ///< the open slot; one more than `akk_anzahl` when the task is finished
   LaufStatus lauf_status = LaufStatus::kNochKeine;
   SpielArt spiel_art = SpielArt::kAufgabe;
-  bool ungehoert = false;  ///< the task could not be played, and waits to be asked for again
-  float spiel_start = 0;   ///< seconds since midnight at which the last playing began to sound
-  std::optional<KlangVerlust> ohne_klang;  ///< the run stands since the sound was lost
-  bool abbruch = false;                    ///< the worksheet is being left
-  int schalter_zaehler = 0;                ///< 1 from the first finished task on
+  bool ungehoert = false;     ///< the task could not be played, and waits to be asked for again
+  float spiel_start = 0;      ///< seconds since midnight at which the last playing began to sound
+  bool klang_war_da = false;  ///< there was sound in this run
+  std::optional<KlangVerlust> ohne_klang;    ///< the run stands since the sound was lost
+  std::optional<KlangVerlust> nachgespielt;  ///< what the present playing makes up for
+  bool stockte = false;      ///< the last playing came to a standstill on an output that is there
+  bool abbruch = false;      ///< the worksheet is being left
+  int schalter_zaehler = 0;  ///< 1 from the first finished task on
 };
 
 }  // namespace vmod17

@@ -172,6 +172,7 @@ void Arbeitsblatt1::BaueAuf() {
   midi_ereignis->QueueEmpty = [this] { midi_QueueEmpty(); };
   parts_.midi.KlangWechsel = [this] { KlangWechsel(); };
   run_ = RunState();
+  MerkeKlang();
   caption = shell_.texts.ueb_typ_name_ar.at(shell_.state.uebTyp);
   TexteSetzen();
   visible = true;

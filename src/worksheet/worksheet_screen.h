@@ -138,7 +138,7 @@ class Arbeitsblatt1 : public Form {
   void BereiteAufgabeVor();
   void LegeLoesungBereit(int slot);
   /// Plays the task. False when it cannot be heard. The student has been told then, unless
-  /// `KlangIstWeg`.
+  /// `KlangIstVerloren`.
   bool Spiele(SpielArt art);
   /// Starts the playing of `spiel_art`. `dauert` is called when the output keeps it waiting.
   Spielstand BeginneSpiel(const std::function<void()>& dauert);
@@ -170,11 +170,19 @@ class Arbeitsblatt1 : public Form {
   // lost_sound.cc
   /// The output has fallen silent, or can be heard again.
   void KlangWechsel();
-  bool KlangIstWeg() const { return parts_.midi.KlangStand() == MidiKlangStand::kWeg; }
+  void MerkeKlang();
+  /// The sound is gone that was there in this run. Where there never was any, none is lost.
+  bool KlangIstVerloren() const {
+    return run_.klang_war_da && parts_.midi.KlangStand() == MidiKlangStand::kWeg;
+  }
   /// What a loss would cut off now; none where that is dealt with otherwise, or nothing goes on.
   std::optional<KlangVerlust> WasLaeuft() const;
   /// Stops the clock and closes the answers until there is sound again.
   void VerliereKlang(KlangVerlust bei);
+  /// The playing has not come to its end.
+  void VerliereSpiel();
+  /// What the loss of the present playing is: of a replay, the same as the loss before it.
+  KlangVerlust VerlustDesSpiels() const { return run_.nachgespielt.value_or(KlangVerlust::kSpiel); }
   void SucheKlang(KlangVerlust bei);
   void NimmWiederAuf();
   void SpieleNach(KlangVerlust bei);

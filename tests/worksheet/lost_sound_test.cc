@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,12 @@ class LostRun : public ModeFixture {
     Return();
     loop.Advance(PlayingTime());
   }
+  /// From now on each playing comes to a standstill, unnoticed. The timer that sees to it.
+  int StallEach() {
+    return loop.StartTimer(100, EventLoop::Repeat::kAlways, [this] {
+      if (worksheet().spieltimer.enabled) output.Stall();
+    });
+  }
   bool Stands() {
     Arbeitsblatt1& s = worksheet();
     return OpenChoices().empty() && !s.wieder.Reachable() && !s.wieder2.Reachable() &&
@@ -48,6 +55,11 @@ class LostRun : public ModeFixture {
       if (node->name == "sound_lost") lessons.push_back(node->attributes.at(0)->text);
     }
     return lessons;
+  }
+  /// The words with which the next task is offered.
+  std::string Offer() {
+    return settings().abfolge == 0 ? worksheet().CmdNextAufg.caption
+                                   : worksheet().LbNextAufg.caption;
   }
   int Offered() {
     return worksheet().CmdNextAufg.Reachable() || worksheet().WahlAutomat.enabled ? 1 : 0;
@@ -174,6 +186,7 @@ TEST_P(LostSound, TakesBackTheOfferOfTheNextTaskUntilThereIsSound) {
   EXPECT_EQ(Books(), books);
   p_.Return();
   EXPECT_EQ(p_.Told(), "");
+  EXPECT_EQ(p_.worksheet().TakeSaid().back(), p_.Offer());
   EXPECT_FALSE(p_.output.IsRunning()) << "nothing was cut off";
   EXPECT_EQ(p_.Offered(), 1);
   EXPECT_TRUE(p_.worksheet().wieder2.Reachable());
@@ -401,6 +414,253 @@ TEST(LostSoundOnTheWay, IsTriedAgainWhereNothingIsKnownAgainstTheOutput) {
   EXPECT_EQ(p.Told(), "");
   EXPECT_EQ(p.OpenChoices().size(), 10u);
   EXPECT_EQ(p.Marks(), Marks{"1"});
+}
+
+TEST(LostSoundOnTheWay, IsNoneWhereATaskIsLate) {
+  LostRun p;
+  p.Begin();
+  p.output.Lag(6000);
+  for (int task = 0; task < 3; ++task) {
+    p.worksheet().CmdNextAufg.Press();
+    p.loop.meanwhile = [&] { EXPECT_FALSE(p.output.IsRunning() && !p.OpenChoices().empty()); };
+    p.loop.Advance(p.PlayingTime() + 6000);
+    p.loop.meanwhile = nullptr;
+    EXPECT_EQ(p.Told(), "");
+    EXPECT_EQ(p.OpenChoices().size(), 10u);
+    EXPECT_NE(p.Right(), 0);
+  }
+  EXPECT_EQ(p.run().count.richtig, 3);
+  EXPECT_EQ(p.Marks(), Marks());
+}
+
+TEST(LostSoundOnTheWay, IsNoneWhereTheProcessWasStopped) {
+  LostRun p;
+  p.Begin();
+  // Eight seconds of it are still to come when the process goes on and `spieltimer` is long due.
+  p.output.Lag(38e3);
+  p.worksheet().CmdNextAufg.Press();
+  p.loop.Advance(500);
+  p.loop.Sleep(30e3);
+  p.loop.Advance(p.PlayingTime() + 8e3);
+  EXPECT_EQ(p.Told(), "");
+  EXPECT_EQ(p.OpenChoices().size(), 10u);
+  EXPECT_EQ(p.Marks(), Marks());
+}
+
+/// A queue that comes to a standstill each time, on an output that says that all is well.
+TEST(LostSoundOnTheWay, IsGivenUpAfterTheSecondRound) {
+  LostRun p;
+  p.Begin();
+  const int stalls = p.StallEach();
+  p.worksheet().CmdNextAufg.Press();
+  p.loop.Advance(kLongTime);
+  ASSERT_EQ(p.messages.warnings.size(), 1u);
+  EXPECT_EQ(p.messages.warnings[0].text, "[9532s]");
+  EXPECT_EQ(p.Told(), "");
+  EXPECT_EQ(p.Marks(), Marks{"1"});
+  EXPECT_EQ(p.output.starts, 2);
+  const int asked = p.Asked(1);
+  p.loop.StopTimer(stalls);
+  ASSERT_TRUE(p.worksheet().CmdNextAufg.Press());
+  p.loop.Advance(p.PlayingTime());
+  EXPECT_EQ(p.Right(), asked);
+  EXPECT_EQ(p.Lessons(), 1);
+}
+
+TEST(LostSoundOnTheWay, IsGivenUpInAControlRepeatAndTheNextTaskOffered) {
+  LostRun p;
+  p.Begin();
+  p.PlayTask();
+  p.FinishTask();
+  p.StallEach();
+  p.worksheet().wieder2.Press();
+  p.loop.Advance(kLongTime);
+  EXPECT_EQ(p.messages.warnings.size(), 1u);
+  EXPECT_EQ(p.Told(), "");
+  EXPECT_EQ(p.Offered(), 1);
+  EXPECT_TRUE(p.worksheet().wieder2.Reachable());
+}
+
+TEST(LostSoundOnTheWay, KeepsTheAnswersOfATaskThatIsGivenUp) {
+  LostRun p;
+  p.BeginMode(kTest, [](ExerciseSettings& s) { s.akk_anzahl = 2; });
+  p.PlayTask();
+  p.Right();
+  p.Lose();
+  const int stalls = p.StallEach();
+  p.Return();
+  p.loop.Advance(30e3);
+  ASSERT_EQ(p.messages.warnings.size(), 1u);
+  const int left = p.run().test.rest_sek;
+  p.loop.Advance(kLongTime);
+  EXPECT_EQ(p.run().test.rest_sek, left);
+  p.loop.StopTimer(stalls);
+  ASSERT_TRUE(p.worksheet().CmdNextAufg.Press());
+  p.loop.Advance(p.PlayingTime());
+  EXPECT_EQ(p.Right(), p.Asked(2));
+  EXPECT_EQ(p.run().count.richtig, 2);
+}
+
+/// A machine without sound: nothing is lost there, and nothing comes back by itself.
+class NeverAnySound : public ::testing::TestWithParam<int> {};
+
+TEST_P(NeverAnySound, IsNoLoss) {
+  LostRun p;
+  p.output.LoseSound();
+  BeginAnyMode(p, GetParam());
+  p.loop.Advance(1);
+  EXPECT_EQ(p.Told(), "");
+  p.PlayTask();
+  ASSERT_EQ(p.messages.warnings.size(), 1u);
+  EXPECT_EQ(p.messages.warnings[0].text, "[9532s]");
+  EXPECT_EQ(p.Told(), "");
+  p.loop.Advance(kLongTime);
+  ASSERT_TRUE(p.worksheet().CmdNextAufg.Press());
+  EXPECT_EQ(p.messages.warnings.size(), 2u);
+  EXPECT_EQ(p.Marks(), Marks());
+  // From its first sound on it can be lost.
+  p.output.ReturnSound();
+  ASSERT_TRUE(p.worksheet().CmdNextAufg.Press());
+  p.loop.Advance(p.PlayingTime());
+  EXPECT_FALSE(p.OpenChoices().empty());
+  p.Lose();
+  EXPECT_EQ(p.Told(), "[9306s]");
+  EXPECT_EQ(p.Marks(), Marks{"1"});
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, NeverAnySound,
+                         ::testing::Values(kFrei, kTraining, kWeiter, kTest, kPruefung));
+
+/// What a test takes of its time, with all that is still to be given back.
+class PaidTime : public ::testing::TestWithParam<int> {
+ protected:
+  PaidTime() {
+    p_.BeginMode(GetParam(), [](ExerciseSettings& s) { s.akk_anzahl = 2; });
+    whole_ = p_.run().test.rest_sek;
+    begun_ = p_.loop.Elapsed();
+  }
+  /// Seconds. `Uhrzeit` counts in beats of ten.
+  double Paid() {
+    constexpr double kBeat = 10e3;
+    const double now = p_.loop.Elapsed() - begun_;
+    const double broken = now - std::floor(now / kBeat) * kBeat;
+    const TestRest& test = p_.run().test;
+    return whole_ - test.rest_sek - test.gutschrift + broken / 1000;
+  }
+  double Playing() { return p_.worksheet().spieltimer.interval / 1000.0; }
+  void BeginTask() {
+    p_.loop.Advance(p_.worksheet().WahlAutomat.interval);
+    ASSERT_TRUE(p_.worksheet().spieltimer.enabled);
+  }
+  /// Loses the sound in the middle of a playing and has it back after half a minute.
+  void LoseWhilePlaying() {
+    p_.loop.Advance(600);
+    ASSERT_TRUE(p_.worksheet().spieltimer.enabled);
+    LoseNow();
+  }
+  void LoseNow() {
+    p_.Lose();
+    p_.loop.Advance(30e3);
+    p_.output.ReturnSound();
+    while (!p_.worksheet().spieltimer.enabled) p_.loop.Advance(1);
+  }
+  void EndOfPlaying() {
+    while (p_.OpenChoices().empty()) p_.loop.Advance(1);
+  }
+
+  LostRun p_;
+  int whole_ = 0;
+  double begun_ = 0;
+};
+
+INSTANTIATE_TEST_SUITE_P(Tests, PaidTime, ::testing::Values(kTest, kPruefung));
+
+TEST_P(PaidTime, IsOnePlayingHoweverOftenTheFirstOneIsLost) {
+  BeginTask();
+  const double before = Paid();
+  for (int i = 0; i < 3; ++i) LoseWhilePlaying();
+  EndOfPlaying();
+  EXPECT_NEAR(Paid() - before, Playing(), 0.1);
+}
+
+TEST_P(PaidTime, IsNothingForAReplayHoweverOftenItIsLost) {
+  BeginTask();
+  EndOfPlaying();
+  const double before = Paid();
+  p_.loop.Advance(2000);
+  LoseNow();
+  for (int i = 0; i < 3; ++i) LoseWhilePlaying();
+  EndOfPlaying();
+  EXPECT_NEAR(Paid() - before, 0, 0.1);
+}
+
+TEST_P(PaidTime, IsNothingForAReplayThatComesToAStandstill) {
+  BeginTask();
+  EndOfPlaying();
+  const double before = Paid();
+  p_.loop.Advance(2000);
+  LoseNow();
+  p_.output.Stall();
+  while (p_.Told().empty()) p_.loop.Advance(1);
+  while (!p_.worksheet().spieltimer.enabled) p_.loop.Advance(1);
+  EndOfPlaying();
+  EXPECT_NEAR(Paid() - before, 0, 0.1);
+}
+
+TEST_P(PaidTime, IsOnePlayingForARepeatHoweverOftenItIsLost) {
+  BeginTask();
+  EndOfPlaying();
+  const double before = Paid();
+  p_.worksheet().wieder.Press();
+  for (int i = 0; i < 3; ++i) LoseWhilePlaying();
+  EndOfPlaying();
+  EXPECT_NEAR(Paid() - before, Playing() + p_.kPauses / 1000, 0.1);
+}
+
+TEST_P(PaidTime, IsOnePlayingForAControlRepeatHoweverOftenItIsLost) {
+  BeginTask();
+  EndOfPlaying();
+  p_.FinishTask();
+  const double before = Paid();
+  p_.worksheet().wieder2.Press();
+  for (int i = 0; i < 3; ++i) LoseWhilePlaying();
+  while (!p_.worksheet().wieder2.Reachable()) p_.loop.Advance(1);
+  EXPECT_NEAR(Paid() - before, Playing() + p_.kPauses / 1000, 0.1);
+}
+
+TEST_P(PaidTime, IsNothingForALossInThePauseBetweenTwoTasks) {
+  BeginTask();
+  EndOfPlaying();
+  p_.FinishTask();
+  const double before = Paid();
+  p_.loop.Advance(500);
+  for (int i = 0; i < 3; ++i) {
+    p_.Lose();
+    p_.loop.Advance(30e3);
+    p_.output.ReturnSound();
+    while (p_.Offered() == 0) p_.loop.Advance(1);
+  }
+  EXPECT_NEAR(Paid() - before, 0.5, 0.1);
+}
+
+TEST_P(PaidTime, IsOnePlayingAndTheAnswersForATaskThatIsLostEverywhere) {
+  BeginTask();
+  const double before = Paid();
+  for (int i = 0; i < 2; ++i) LoseWhilePlaying();
+  EndOfPlaying();
+  p_.loop.Advance(1000);
+  LoseNow();
+  for (int i = 0; i < 2; ++i) LoseWhilePlaying();
+  EndOfPlaying();
+  p_.loop.Advance(1500);
+  p_.Right();
+  p_.loop.Advance(1000);
+  LoseNow();
+  LoseWhilePlaying();
+  EndOfPlaying();
+  p_.loop.Advance(700);
+  p_.Right();
+  EXPECT_NEAR(Paid() - before, Playing() + 1.5 + 0.7, 0.1);
 }
 
 TEST(LostSoundOnTheWay, IsLookedForEveryTwoSeconds) {
