@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>Die Tonausgabe ist ausgefallen. Prüfen Sie die Lautsprecher oder Kopfhörer und die Klangeinstellungen des Systems. Die Übung geht weiter; bei den nächsten Akkorden wird die Ausgabe noch einmal versucht.</translation>
+        <translation>Die Tonausgabe ist ausgefallen. Prüfen Sie die Lautsprecher oder Kopfhörer und die Klangeinstellungen des Systems, und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Das MIDI-Gerät „%1“ ist nicht mehr da. Prüfen Sie sein Kabel und ob es eingeschaltet ist; bei den nächsten Akkorden wird es noch einmal gesucht.</translation>
+        <translation>Das MIDI-Gerät „%1“ ist nicht mehr da. Prüfen Sie sein Kabel und ob es eingeschaltet ist, und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message id="9156s">
         <source></source>

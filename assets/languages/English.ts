@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>The sound output has stopped. Check the loudspeakers or headphones and the sound settings of the system. The exercise goes on; the next chords try to sound again.</translation>
+        <translation>The sound output has stopped. Check the loudspeakers or headphones and the sound settings of the system, then try again.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>The MIDI device "%1" is not there any more. Check its cable and whether it is switched on; the next chords try to reach it again.</translation>
+        <translation>The MIDI device "%1" is not there any more. Check its cable and whether it is switched on, then try again.</translation>
     </message>
     <message id="9156s">
         <source></source>

@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>La salida de audio ha dejado de funcionar. Compruebe los altavoces o los auriculares y los ajustes de sonido del sistema. El ejercicio continúa; con los próximos acordes se intentará de nuevo.</translation>
+        <translation>La salida de audio ha dejado de funcionar. Compruebe los altavoces o los auriculares y los ajustes de sonido del sistema e inténtelo de nuevo.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>El dispositivo MIDI «%1» ya no está disponible. Compruebe el cable y que esté encendido; con los próximos acordes se buscará de nuevo.</translation>
+        <translation>El dispositivo MIDI «%1» ya no está disponible. Compruebe el cable y que esté encendido e inténtelo de nuevo.</translation>
     </message>
     <message id="9156s">
         <source></source>

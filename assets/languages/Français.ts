@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>La sortie audio ne répond plus. Vérifiez les haut-parleurs ou le casque, ainsi que les réglages audio du système. L’exercice continue&#xa0;; un nouvel essai sera fait aux prochains accords.</translation>
+        <translation>La sortie audio ne répond plus. Vérifiez les haut-parleurs ou le casque, ainsi que les réglages audio du système, puis réessayez.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Le périphérique MIDI «&#xa0;%1&#xa0;» n’est plus là. Vérifiez son câble et qu’il est bien allumé&#xa0;; il sera recherché de nouveau aux prochains accords.</translation>
+        <translation>Le périphérique MIDI «&#xa0;%1&#xa0;» n’est plus là. Vérifiez son câble et qu’il est bien allumé, puis réessayez.</translation>
     </message>
     <message id="9156s">
         <source></source>

@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>L’uscita audio non funziona più. Controlla gli altoparlanti o le cuffie e le impostazioni audio del sistema. L’esercizio continua; con i prossimi accordi si farà un nuovo tentativo.</translation>
+        <translation>L’uscita audio non funziona più. Controlla gli altoparlanti o le cuffie e le impostazioni audio del sistema e riprova.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Il dispositivo MIDI «%1» non è più disponibile. Controlla il cavo e che sia acceso; con i prossimi accordi verrà cercato di nuovo.</translation>
+        <translation>Il dispositivo MIDI «%1» non è più disponibile. Controlla il cavo e che sia acceso e riprova.</translation>
     </message>
     <message id="9156s">
         <source></source>

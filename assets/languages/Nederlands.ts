@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>De geluidsuitvoer is weggevallen. Controleer de luidsprekers of de koptelefoon en de geluidsinstellingen van het systeem. De oefening gaat door; bij de volgende akkoorden wordt het opnieuw geprobeerd.</translation>
+        <translation>De geluidsuitvoer is weggevallen. Controleer de luidsprekers of de koptelefoon en de geluidsinstellingen van het systeem en probeer het dan opnieuw.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Het MIDI-apparaat ‘%1’ is er niet meer. Controleer de kabel en kijk of het apparaat aanstaat; bij de volgende akkoorden wordt het opnieuw gezocht.</translation>
+        <translation>Het MIDI-apparaat ‘%1’ is er niet meer. Controleer de kabel, kijk of het apparaat aanstaat en probeer het dan opnieuw.</translation>
     </message>
     <message id="9156s">
         <source></source>

@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>Wyjście dźwięku przestało działać. Sprawdź głośniki lub słuchawki oraz systemowe ustawienia dźwięku. Ćwiczenie trwa dalej; przy następnych akordach program znów spróbuje odtworzyć dźwięk.</translation>
+        <translation>Wyjście dźwięku przestało działać. Sprawdź głośniki lub słuchawki oraz systemowe ustawienia dźwięku i spróbuj ponownie.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Urządzenie MIDI „%1” nie jest już dostępne. Sprawdź kabel i to, czy urządzenie jest włączone; przy następnych akordach program poszuka go ponownie.</translation>
+        <translation>Urządzenie MIDI „%1” nie jest już dostępne. Sprawdź kabel i to, czy urządzenie jest włączone, a następnie spróbuj ponownie.</translation>
     </message>
     <message id="9156s">
         <source></source>

@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>A saída de áudio deixou de funcionar. Verifique as colunas de som ou os fones e as configurações de som do sistema. O exercício continua; nos próximos acordes será feita uma nova tentativa.</translation>
+        <translation>A saída de áudio deixou de funcionar. Verifique as colunas de som ou os fones e as configurações de som do sistema e tente outra vez.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>O dispositivo MIDI “%1” já não está disponível. Verifique o cabo e se o dispositivo está ligado; nos próximos acordes será procurado outra vez.</translation>
+        <translation>O dispositivo MIDI “%1” já não está disponível. Verifique o cabo e se o dispositivo está ligado e tente outra vez.</translation>
     </message>
     <message id="9156s">
         <source></source>

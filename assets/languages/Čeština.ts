@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>Zvukový výstup přestal fungovat. Zkontrolujte reproduktory nebo sluchátka a nastavení zvuku systému. Cvičení pokračuje; u dalších akordů se výstup vyzkouší znovu.</translation>
+        <translation>Zvukový výstup přestal fungovat. Zkontrolujte reproduktory nebo sluchátka a nastavení zvuku systému a zkuste to znovu.</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>Zařízení MIDI „%1“ už není k dispozici. Zkontrolujte jeho kabel a zda je zapnuté; u dalších akordů se vyhledá znovu.</translation>
+        <translation>Zařízení MIDI „%1“ už není k dispozici. Zkontrolujte jeho kabel a zda je zapnuté a zkuste to znovu.</translation>
     </message>
     <message id="9156s">
         <source></source>

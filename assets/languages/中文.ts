@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>音频输出已中断。请检查扬声器或耳机以及系统的声音设置。练习将继续；播放后面的和弦时会再次尝试发声。</translation>
+        <translation>音频输出已中断。请检查扬声器或耳机以及系统的声音设置，然后重试。</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>MIDI 设备“%1”已不可用。请检查连接线以及设备是否已开启；播放后面的和弦时会再次查找。</translation>
+        <translation>MIDI 设备“%1”已不可用。请检查连接线以及设备是否已开启，然后重试。</translation>
     </message>
     <message id="9156s">
         <source></source>

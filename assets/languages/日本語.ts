@@ -711,11 +711,11 @@
     </message>
     <message id="9154s">
         <source></source>
-        <translation>音声出力が停止しました。スピーカーまたはヘッドホンと、システムのサウンド設定を確認してください。練習は続きます。次のコードから、もう一度出力を試みます。</translation>
+        <translation>音声出力が停止しました。スピーカーまたはヘッドホンと、システムのサウンド設定を確認して、もう一度お試しください。</translation>
     </message>
     <message id="9155s">
         <source></source>
-        <translation>MIDI 機器「%1」が見つからなくなりました。ケーブルと電源を確認してください。次のコードでもう一度探します。</translation>
+        <translation>MIDI 機器「%1」が見つからなくなりました。ケーブルと電源を確認して、もう一度お試しください。</translation>
     </message>
     <message id="9156s">
         <source></source>

@@ -46,7 +46,7 @@ Notice NoAudioNotice(const std::vector<std::string>& drivers) {
 Notice AudioLostNotice() {
   return {9154,
           "The sound output has stopped. Check the loudspeakers or headphones and the sound "
-          "settings of the system. The exercise goes on; the next chords try to sound again.",
+          "settings of the system, then try again.",
           {}};
 }
 
@@ -54,7 +54,7 @@ Notice PortVanishedNotice(const std::string& name) {
   return {
       9155,
       "The MIDI device \"%1\" is not there any more. Check its cable and whether it is switched "
-      "on; the next chords try to reach it again.",
+      "on, then try again.",
       {name}};
 }
 

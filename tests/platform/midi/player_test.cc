@@ -10,12 +10,14 @@
 #include <array>
 
 #include "fake_ports.h"
+#include "platform/midi/midi_notices.h"
 #include "platform/midi/soundfonts.h"
 
 namespace vmod17 {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using enum MidiKlangStand;
@@ -119,6 +121,13 @@ TEST_F(SoundCard, IsMissedWithinTwoSecondsWhetherOrNotItPlays) {
   StandStill(60'000);
   EXPECT_THAT(told_, SizeIs(2));
   EXPECT_THAT(notices_, IsEmpty());
+}
+
+TEST_F(SoundCard, IsToBeTriedAgainByWhoeverIsToldThatItStopped) {
+  // Nothing tries by itself where these words are read.
+  for (const Notice& notice : {AudioLostNotice(), PortVanishedNotice("Piano")}) {
+    EXPECT_THAT(notice.english, EndsWith(", then try again."));
+  }
 }
 
 TEST_F(SoundCard, ThatDiesUnderAQueueSilencesIt) {
