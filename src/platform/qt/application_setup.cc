@@ -5,16 +5,16 @@
 
 #include <unistd.h>
 
+#include <QStringList>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
-#include <vector>
 
 namespace vmod17 {
 namespace {
 
 /// What the toolkit has said while it was looking for a display.
-std::vector<std::string> g_said;
+QStringList g_said;
 
 /// Where a display was looked for: "DISPLAY is :0".
 std::string Places() {
@@ -28,12 +28,17 @@ std::string Places() {
 }
 
 void Listen(QtMsgType type, const QMessageLogContext&, const QString& message) {
-  g_said.push_back(message.toStdString());
-  if (type != QtFatalMsg) return;
+  if (type != QtFatalMsg) {
+    g_said += message;
+    return;
+  }
+  // It is a display for the most part, but a part of the toolkit may be missing as well. The last
+  // word only sums up, over many lines, what was said before.
+  const QString reason = g_said.isEmpty() ? message : g_said.join(", ");
   std::fprintf(stderr,
-               "There is no display here on which the program can be shown (%s). Start it from a "
-               "desktop.\n",
-               Places().c_str());
+               "The program cannot be shown here (%s). Start it from a desktop that has a display. "
+               "The toolkit says: %s\n",
+               Places().c_str(), reason.simplified().toStdString().c_str());
   _exit(kStatusNotShown);
 }
 
@@ -43,7 +48,7 @@ std::unique_ptr<QApplication> MakeApplication(int& argc, char* argv[]) {
   const QtMessageHandler before = qInstallMessageHandler(Listen);
   auto application = std::make_unique<QApplication>(argc, argv);
   qInstallMessageHandler(before);
-  for (const std::string& said : g_said) std::fprintf(stderr, "%s\n", said.c_str());
+  for (const QString& said : g_said) std::fprintf(stderr, "%s\n", said.toStdString().c_str());
   g_said.clear();
   SetUpApplication();
   return application;
