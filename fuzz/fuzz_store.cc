@@ -5,7 +5,8 @@
 // text is broken.
 //
 // Whatever lies there, the program works on: it reads what it can, says what it cannot, stores what
-// it is given and reads it back. A file that is given up is kept byte for byte under another name.
+// it is given and reads it back. A file that is given up is kept under another name, byte for byte
+// if it is given up at its first reading, and the new one in its place keeps what is stored.
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -181,14 +182,21 @@ void ReadAll(HostStore& store) {
   store.Log(1000);
 }
 
+bool WasGivenUp(const std::vector<Notice>& notices) {
+  return std::any_of(notices.begin(), notices.end(),
+                     [](const Notice& notice) { return notice.text_id == 9106; });
+}
+
 /// What is stored is read back, in this process or, where nothing was said of it, in the next.
 void DemandThatItWorks(const QString& path, std::vector<Notice>& notices) {
   const TaggedValue value = ARecord(3);
   bool stored = false;
+  bool in_new_file = false;
   {
     HostStore store(OptionsFor(path, notices));
     ReadAll(store);
     const std::unique_ptr<HostService> host = store.Service();
+    in_new_file = WasGivenUp(notices);
     stored = Store(*host, "new", value);
     TaggedValue result;
     Demand(!stored || (Send(*host, "READ", Array{"vmod17", "new"}, result) && result == value),
@@ -196,11 +204,24 @@ void DemandThatItWorks(const QString& path, std::vector<Notice>& notices) {
     Send(*host, "LOGMESS", "a line", result);
   }
   Demand(stored || !notices.empty(), "a store that refuses without a word");
-  if (!notices.empty()) return;
+  if (!notices.empty() && !(stored && in_new_file)) return;
   HostStore store(OptionsFor(path, notices));
   TaggedValue result;
   Demand(Send(*store.Service(), "READ", Array{"vmod17", "new"}, result) && result == value,
          "a value that was lost without a word");
+}
+
+/// A file without a log is as it was when its first reading gives it up.
+void DemandThatItIsKept(const QString& path, const StoredFile& damaged,
+                        std::vector<Notice>& notices) {
+  {
+    HostStore store(OptionsFor(path, notices));
+    TaggedValue result;
+    Send(*store.Service(), "READ", Array{"vmod17", "R1"}, result);
+  }
+  if (!WasGivenUp(notices) || !damaged.wal.isEmpty()) return;
+  Demand(BytesOf(path + ".broken-20260309-080501") == damaged.file,
+         "a file that was given up and is not as it was");
 }
 
 void TryFile(const std::vector<StoredFile>& stores, Dice& dice, Tally& tally) {
@@ -213,6 +234,7 @@ void TryFile(const std::vector<StoredFile>& stores, Dice& dice, Tally& tally) {
   if (!damaged.wal.isEmpty()) Write(path + "-wal", damaged.wal);
 
   std::vector<Notice> notices;
+  DemandThatItIsKept(path, damaged, notices);
   DemandThatItWorks(path, notices);
   for (const QString& name : QDir(folder.path()).entryList({"*.broken-*"}, QDir::Files)) {
     if (name.endsWith("-wal") || name.endsWith("-shm")) continue;
