@@ -130,10 +130,16 @@ class HelpWindow::Browser : public QTextBrowser {
     if (!help_.Find(FileOf(address)).empty()) setSource(address);
   }
 
-  /// Pictures grow with the words between which they stand.
+  /// Pictures grow with the words between which they stand. One that there is not is an empty one:
+  /// the toolkit would look for it in the file system by itself.
   QVariant Scaled(const QImage& picture) const {
+    if (picture.isNull()) {
+      QImage nothing(1, 1, QImage::Format_ARGB32);
+      nothing.fill(Qt::transparent);
+      return nothing;
+    }
     const double factor = help_.style_.factor;
-    if (picture.isNull() || factor == 1) return picture;
+    if (factor == 1) return picture;
     return picture.scaledToWidth(qRound(picture.width() * factor), Qt::SmoothTransformation);
   }
 

@@ -14,12 +14,16 @@ namespace {
 
 /// Whether whoever wrote this had a server in mind, however badly it is spelt.
 bool LooksLikeServer(const QString& text) {
-  static const QRegularExpression kScheme("^(postgres(ql)?\\s*:|[a-z][a-z0-9+.-]*://)",
-                                          QRegularExpression::CaseInsensitiveOption);
+  constexpr auto kAnyCase = QRegularExpression::CaseInsensitiveOption;
+  // Quotes come along from files that set variables.
+  static const QRegularExpression kScheme("^[\"'\\s]*(p(g|ost)\\w*\\s*(:|//)|[a-z][a-z0-9+.-]*://)",
+                                          kAnyCase);
+  // A name and a password before a place. One letter before the colon is a disk.
+  static const QRegularExpression kWithPassword("^[\"'\\s]*(//)?[^/.~:][^/:]+:.*@", kAnyCase);
   static const QRegularExpression kKeyValue(
-      "(^|\\s)(host|hostaddr|port|dbname|user|password|service)\\s*=",
-      QRegularExpression::CaseInsensitiveOption);
-  return kScheme.match(text).hasMatch() || kKeyValue.match(text).hasMatch();
+      "(^|[\"'\\s])(host|hostaddr|port|dbname|user|password|service)\\s*=", kAnyCase);
+  return kScheme.match(text).hasMatch() || kWithPassword.match(text).hasMatch() ||
+         kKeyValue.match(text).hasMatch();
 }
 
 /// A percent sign that begins no code stands for itself: a password may hold one.
