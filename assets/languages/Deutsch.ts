@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>Ein Training, das auf diesem Computer aufgehoben war, solange der Server nicht zu erreichen war, ist jetzt zu %1 gebracht worden. Dort war inzwischen ein neueres gespeichert worden, das gilt; das von diesem Computer steht daneben, unter einem Namen, der auf %2 endet.</translation>
+        <translation>Ein Training, das auf diesem Computer aufgehoben war, solange der Server nicht zu erreichen war, ist jetzt zu %1 gebracht worden. Dort war inzwischen ein neueres gespeichert worden, das gilt; das von diesem Computer steht daneben, unter einem Namen, der auf %2 endet. Wer den Server betreut, kann es zurückholen.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>Was Sie gespeichert haben, konnte im Augenblick nicht nach %1 geschrieben werden (%2). Es wird auf diesem Computer aufgehoben und dorthin gebracht, sobald das geht, auch wenn Sie das Programm an einem anderen Tag starten.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>%1, auf diesem Computer eingetragen, während der Server nicht zu erreichen war, konnte dort nicht eingetragen werden: Die Nummer %2 gehört dort %3. Bitte prüfen Sie die Nummer und tragen Sie den Benutzer noch einmal ein.</translation>
     </message>
     <message id="9117s">
         <source></source>

@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>A training that was kept on this computer while the server was away has now been brought to %1. A newer one had been stored there meanwhile, which holds; the one from this computer was kept beside it, under a name that ends in %2.</translation>
+        <translation>A training that was kept on this computer while the server was away has now been brought to %1. A newer one had been stored there meanwhile, which holds; the one from this computer was kept beside it, under a name that ends in %2. Whoever looks after the server can bring it back.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>What you stored could not be written to %1 at the moment (%2). It is kept on this computer and brought there as soon as that can be done, also when you start the program on another day.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>%1, who was added on this computer while the server was away, could not be added there: the number %2 belongs to %3. Please check the number and add the user again.</translation>
     </message>
     <message id="9117s">
         <source></source>

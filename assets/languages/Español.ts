@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>Un entrenamiento que se conservaba en este ordenador mientras el servidor no estaba disponible se ha llevado ahora a %1. Entretanto se había guardado allí uno más reciente, que es el válido; el de este ordenador se ha conservado a su lado, con un nombre que termina en %2.</translation>
+        <translation>Un entrenamiento que se conservaba en este ordenador mientras el servidor no estaba disponible se ha llevado ahora a %1. Entretanto se había guardado allí uno más reciente, que es el válido; el de este ordenador se ha conservado a su lado, con un nombre que termina en %2. La persona que se ocupa del servidor puede recuperarlo.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>Lo que ha guardado no se ha podido escribir en %1 por el momento (%2). Se conserva en este ordenador y se llevará allí en cuanto sea posible, también si inicia el programa otro día.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>No se ha podido añadir en el servidor a %1, que se añadió en este ordenador mientras el servidor no estaba disponible: el número %2 pertenece a %3. Compruebe el número y añada al usuario otra vez.</translation>
     </message>
     <message id="9117s">
         <source></source>

@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>Un entraînement gardé sur cet ordinateur pendant que le serveur était injoignable vient d’être transmis à %1. Un entraînement plus récent y avait été enregistré entre-temps et reste valable ; celui de cet ordinateur a été gardé à côté, sous un nom qui se termine par %2.</translation>
+        <translation>Un entraînement gardé sur cet ordinateur pendant que le serveur était injoignable vient d’être transmis à %1. Un entraînement plus récent y avait été enregistré entre-temps et reste valable ; celui de cet ordinateur a été gardé à côté, sous un nom qui se termine par %2. La personne qui s’occupe du serveur peut le récupérer.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>Ce que vous avez enregistré n’a pas pu être écrit dans %1 pour le moment (%2). C’est gardé sur cet ordinateur et sera transmis dès que possible, même si vous relancez le programme un autre jour.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>%1, ajouté sur cet ordinateur pendant que le serveur était injoignable, n’a pas pu y être ajouté&#xa0;: le numéro %2 appartient à %3. Vérifiez le numéro et ajoutez de nouveau l’utilisateur.</translation>
     </message>
     <message id="9117s">
         <source></source>

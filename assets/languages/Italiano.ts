@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>Un allenamento conservato su questo computer mentre il server non era raggiungibile è stato ora portato a %1. Nel frattempo là ne era stato salvato uno più recente, che resta valido; quello di questo computer è stato conservato accanto, con un nome che termina con %2.</translation>
+        <translation>Un allenamento conservato su questo computer mentre il server non era raggiungibile è stato ora portato a %1. Nel frattempo là ne era stato salvato uno più recente, che resta valido; quello di questo computer è stato conservato accanto, con un nome che termina con %2. Chi si occupa del server può recuperarlo.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>Ciò che hai salvato non ha potuto essere scritto in %1 per il momento (%2). Viene conservato su questo computer e portato là appena possibile, anche se avvii il programma un altro giorno.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>%1, che è stato aggiunto su questo computer mentre il server non era raggiungibile, non ha potuto essere aggiunto là: il numero %2 appartiene a %3. Controlla il numero e aggiungi di nuovo l’utente.</translation>
     </message>
     <message id="9117s">
         <source></source>

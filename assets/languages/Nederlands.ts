@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>Een training die op deze computer was bewaard zolang de server niet bereikbaar was, is nu naar %1 gebracht. Daar was intussen een nieuwere opgeslagen, die geldt; die van deze computer is ernaast bewaard, onder een naam die eindigt op %2.</translation>
+        <translation>Een training die op deze computer was bewaard zolang de server niet bereikbaar was, is nu naar %1 gebracht. Daar was intussen een nieuwere opgeslagen, die geldt; die van deze computer is ernaast bewaard, onder een naam die eindigt op %2. Wie de server beheert, kan hem terughalen.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>Wat je hebt opgeslagen, kon op dit moment niet naar %1 worden geschreven (%2). Het wordt op deze computer bewaard en daarheen gebracht zodra dat kan, ook als je het programma op een andere dag start.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>%1, die op deze computer is toegevoegd terwijl de server niet bereikbaar was, kon daar niet worden toegevoegd: het nummer %2 hoort bij %3. Controleer het nummer en voeg de gebruiker opnieuw toe.</translation>
     </message>
     <message id="9117s">
         <source></source>

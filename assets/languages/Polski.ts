@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>Trening zachowany na tym komputerze w czasie, gdy serwer był niedostępny, został teraz przekazany do %1. W międzyczasie zapisano tam nowszy i to on obowiązuje; trening z tego komputera zachowano obok, pod nazwą, która kończy się na %2.</translation>
+        <translation>Trening zachowany na tym komputerze w czasie, gdy serwer był niedostępny, został teraz przekazany do %1. W międzyczasie zapisano tam nowszy i to on obowiązuje; trening z tego komputera zachowano obok, pod nazwą, która kończy się na %2. Może go przywrócić osoba, która opiekuje się serwerem.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>Tego, co zapisano, nie udało się w tej chwili zapisać w %1 (%2). Dane są przechowywane na tym komputerze i zostaną tam przekazane, gdy tylko będzie to możliwe, także jeśli uruchomisz program innego dnia.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>Użytkownika %1, dodanego na tym komputerze w czasie, gdy serwer był niedostępny, nie udało się dodać na serwerze: numer %2 należy do użytkownika %3. Sprawdź numer i dodaj użytkownika ponownie.</translation>
     </message>
     <message id="9117s">
         <source></source>

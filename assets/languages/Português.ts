@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>Um treino guardado neste computador enquanto o servidor não estava acessível foi agora levado para %1. Entretanto tinha sido gravado lá um mais recente, que é o que vale; o deste computador ficou guardado ao lado, com um nome que termina em %2.</translation>
+        <translation>Um treino guardado neste computador enquanto o servidor não estava acessível foi agora levado para %1. Entretanto tinha sido gravado lá um mais recente, que é o que vale; o deste computador ficou guardado ao lado, com um nome que termina em %2. Quem cuida do servidor pode recuperá-lo.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>O que gravou não pôde ser escrito em %1 de momento (%2). Fica guardado neste computador e é levado para lá assim que for possível, mesmo que inicie o programa noutro dia.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>%1, que foi adicionado neste computador enquanto o servidor não estava acessível, não pôde ser adicionado lá: o número %2 pertence a %3. Verifique o número e adicione o utilizador outra vez.</translation>
     </message>
     <message id="9117s">
         <source></source>

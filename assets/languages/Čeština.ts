@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>Trénink, který zůstal v tomto počítači, dokud server nebyl dostupný, byl nyní přenesen na %1. Mezitím tam byl uložen novější, který platí; trénink z tohoto počítače je uložen vedle něj pod názvem, který končí na %2.</translation>
+        <translation>Trénink, který zůstal v tomto počítači, dokud server nebyl dostupný, byl nyní přenesen na %1. Mezitím tam byl uložen novější, který platí; trénink z tohoto počítače je uložen vedle něj pod názvem, který končí na %2. Obnovit jej může ten, kdo se o server stará.</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>Co jste uložili, se v tuto chvíli nepodařilo zapsat do %1 (%2). Zůstává to v tomto počítači a přenese se tam, jakmile to bude možné, i když program spustíte jiný den.</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>Uživatele %1, který byl přidán v tomto počítači, dokud server nebyl dostupný, se tam nepodařilo přidat: číslo %2 patří uživateli %3. Zkontrolujte prosím číslo a přidejte uživatele znovu.</translation>
     </message>
     <message id="9117s">
         <source></source>

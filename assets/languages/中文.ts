@@ -667,7 +667,15 @@
     </message>
     <message id="9112s">
         <source></source>
-        <translation>服务器无法访问期间留在这台计算机上的一个训练现已传送到 %1。在此期间那里保存了更新的训练，以较新的为准；这台计算机上的训练保存在它旁边，名称以 %2 结尾。</translation>
+        <translation>服务器无法访问期间留在这台计算机上的一个训练现已传送到 %1。在此期间那里保存了更新的训练，以较新的为准；这台计算机上的训练保存在它旁边，名称以 %2 结尾。管理服务器的人员可以将其恢复。</translation>
+    </message>
+    <message id="9113s">
+        <source></source>
+        <translation>您保存的内容暂时无法写入 %1（%2）。它会留在这台计算机上，一旦可以写入就会传送过去，即使您改日再启动程序也一样。</translation>
+    </message>
+    <message id="9114s">
+        <source></source>
+        <translation>服务器无法访问期间在这台计算机上添加的用户 %1 无法添加到服务器：学号 %2 属于 %3。请核对学号，然后重新添加该用户。</translation>
     </message>
     <message id="9117s">
         <source></source>

@@ -261,6 +261,7 @@ void Host::ModuleEnded(const ModuleEnd& end) {
     what = "vmod17 ended without a word, with status " + std::to_string(end.code);
   }
   if (!what.empty()) LogError("Host.ModuleEnded", end.code, what, "melvado");
+  store_.LookForTheRest();
   RefreshOutputs();
   if (on_module_end) on_module_end(end);
 }

@@ -37,6 +37,11 @@ constexpr const char* kSoundfont = "soundfont";
 // Between two glances at a connection that is being made.
 constexpr int kGlanceMs = 500;
 constexpr int kSoonMs = 1000;
+// How long what waits in the outbox is brought at a time.
+constexpr std::chrono::milliseconds kTimeToBring(1000);
+constexpr int kPatienceForOutboxMs = 250;
+// What no road takes long for. A training is a few thousand bytes.
+constexpr std::size_t kShortBytes = 100'000;
 // How long a log that somebody holds keeps a line waiting. On a server all get it in turn; of a
 // file whoever asks at the right moment gets it, and may have to ask often.
 constexpr int kPatienceForLogMs = 250;
@@ -58,8 +63,10 @@ std::string TextOf(int number) {
 constexpr const char* kRecordKind = "record";       // user, program, key, value, what was seen
 constexpr const char* kSettingKind = "setting";     // name, value
 constexpr const char* kUserKind = "user";           // number, name, first name
+constexpr const char* kNewUserKind = "new user";    // and the names with which he was added
 constexpr const char* kUserGoneKind = "user gone";  // number
 constexpr const char* kLogKind = "log";             // the members of a line
+constexpr const char* kNoticeKind = "notice";  // number of the text, text, and what stands in it
 
 /// The file of what waits for a server: one for each database, role and seat. The password is no
 /// part of it.
@@ -99,6 +106,29 @@ StoreUser UserIn(const TaggedValue& content) {
   return {content[0].String(), content[1].String(), content[2].String()};
 }
 
+bool IsUserKind(const std::string& kind) {
+  return kind == kUserKind || kind == kNewUserKind || kind == kUserGoneKind;
+}
+
+TaggedValue ContentOf(const Notice& notice) {
+  TaggedValue::Array content = {notice.text_id, notice.english};
+  content.insert(content.end(), notice.details.begin(), notice.details.end());
+  return content;
+}
+
+Notice NoticeIn(const TaggedValue& content) {
+  Notice notice{static_cast<int>(content[0].Integer()), content[1].String(), {}};
+  for (std::size_t i = 2; i < content.Elements().size(); ++i) {
+    notice.details.push_back(content[i].String());
+  }
+  return notice;
+}
+
+/// One who was added, as he was then.
+StoreUser FirstNamesIn(const TaggedValue& content) {
+  return {content[0].String(), content[3].String(), content[4].String()};
+}
+
 RecordKey KeyIn(const TaggedValue& content) {
   return {content[0].String(), content[1].String(), content[2].String()};
 }
@@ -106,6 +136,27 @@ RecordKey KeyIn(const TaggedValue& content) {
 bool IsOfLog(const OutboxPiece& piece) {
   return std::any_of(piece.entries.begin(), piece.entries.end(),
                      [](const OutboxEntry& entry) { return entry.kind == kLogKind; });
+}
+
+bool IsNotice(const OutboxPiece& piece) {
+  return !piece.entries.empty() && piece.entries[0].kind == kNoticeKind;
+}
+
+/// What it is that the entries change: of two pieces that have one in common the later holds.
+std::vector<RecordKey> SubjectsIn(const OutboxPiece& piece) {
+  std::vector<RecordKey> subjects;
+  for (const auto& [kind, content] : piece.entries) {
+    if (kind == kRecordKind) subjects.push_back(KeyIn(content));
+    if (kind == kSettingKind) subjects.push_back({"", kind, content[0].String()});
+    if (IsUserKind(kind)) subjects.push_back({"", kUserKind, content[0].String()});
+  }
+  return subjects;
+}
+
+std::size_t SizeOf(const Records& records) {
+  std::size_t size = 0;
+  for (const auto& [key, value] : records) size += value.size();
+  return size;
 }
 
 /// What is behind the key of a record that has to give way to another: ".kept-YYYYMMDD-hhmmss".
@@ -212,6 +263,7 @@ HostStore::HostStore(StoreOptions options)
 }
 
 HostStore::~HostStore() {
+  is_ending_ = true;
   const OneCall call(*this);
   const bool waits_for_server = IsServer() && !(connection_ && connection_->IsAtHand());
   try {
@@ -296,7 +348,10 @@ bool HostStore::Read(const TaggedValue& args, TaggedValue& result) {
   std::optional<std::string> stored;
   try {
     key = KeyOf(args, Patience::kOnlyOnce);
-    stored = Unwritten(key);
+    stored = InMemory(key);
+    if (!stored && (stored = InOutbox(key)) && !GoesPastAnother({{key, *stored}})) {
+      SetSeen({{key, *stored}});
+    }
     if (!stored) {
       WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
         stored = tables.Read(key);
@@ -429,10 +484,10 @@ void HostStore::ChangeSettings(const Settings& changes) {
   all.insert(pending_settings_.begin(), pending_settings_.end());
   bool written = false;
   try {
-    written = WithStore(Patience::kWait, [&](StoreTables& tables) {
-      if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
-      tables.SetSettings(options_.seat, all);
-    });
+    written = EmptyOutbox() && WithStore(Patience::kWait, [&](StoreTables& tables) {
+                if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
+                tables.SetSettings(options_.seat, all);
+              });
   } catch (const SqlError& error) {
     WriteFailed(error);
   }
@@ -440,11 +495,7 @@ void HostStore::ChangeSettings(const Settings& changes) {
   for (const auto& [name, value] : changes) {
     entries.push_back({kSettingKind, TaggedValue::Array{name, value}});
   }
-  if (written) {
-    DropKept([&](const OutboxEntry& entry) {
-      return entry.kind == kSettingKind && all.contains(entry.content[0].String());
-    });
-  } else if (Post(entries)) {
+  if (!written && Post(entries)) {
     LookForServerLater();
     all = pending_settings_;
   }
@@ -474,9 +525,10 @@ std::vector<StoreUser> HostStore::Users() {
     TellUnreadable(error);
   }
   std::map<std::string, UserChange> changes = pending_users_;
-  for (const auto& [kind, content, number] : Kept()) {
-    if (kind == kUserKind) changes[content[0].String()] = UserIn(content);
-    if (kind == kUserGoneKind) changes[content[0].String()] = std::nullopt;
+  for (const auto& [kind, content] : Kept()) {
+    if (!IsUserKind(kind)) continue;
+    changes[content[0].String()] =
+        kind == kUserGoneKind ? UserChange() : UserChange(UserIn(content));
   }
   for (const auto& [id, change] : changes) {
     if (change) {
@@ -516,9 +568,8 @@ bool HostStore::SaveUser(const StoreUser& user, UserIs is) {
   if (!added) return false;
   if (written) {
     pending_users_.erase(user.id);
-    DropKeptUser(user.id);
   } else {
-    KeepUser(user.id, user);
+    KeepUser(user.id, user, is);
   }
   if (Setting(kUserId) == user.id) {
     SetHere(kUserName, user.name);
@@ -531,30 +582,52 @@ void HostStore::RemoveUser(const std::string& id) {
   const OneCall call(*this);
   if (WriteUser([&](StoreTables& tables) { tables.RemoveUser(id); })) {
     pending_users_.erase(id);
-    DropKeptUser(id);
   } else {
-    KeepUser(id, std::nullopt);
+    KeepUser(id, std::nullopt, UserIs::kKnown);
   }
   if (Setting(kUserId) == id) SetHere(kUserId, "");
 }
 
 /// A change that the store has not taken.
-void HostStore::KeepUser(const std::string& id, const UserChange& change) {
-  const OutboxEntry entry =
-      change ? OutboxEntry{kUserKind, TaggedValue::Array{id, change->name, change->first_name}}
-             : OutboxEntry{kUserGoneKind, TaggedValue::Array{id}};
-  if (Post({entry})) return LookForServerLater();
+void HostStore::KeepUser(const std::string& id, const UserChange& change, UserIs is) {
+  // One who was added here is unknown to the store: he must not be changed or removed there, for he
+  // may prove to be somebody else of this number.
+  std::optional<std::int64_t> added;
+  StoreUser first;
+  if (outbox_) {
+    for (const OutboxPiece& piece : outbox_->Pieces()) {
+      for (const auto& [kind, content] : piece.entries) {
+        if (!IsUserKind(kind) || content[0].String() != id) continue;
+        added = kind == kNewUserKind ? std::optional(piece.number) : std::nullopt;
+        if (added) first = FirstNamesIn(content);
+      }
+    }
+  }
+  const bool is_new = is == UserIs::kNew || added;
+  OutboxEntry entry = {kUserGoneKind, TaggedValue::Array{id}};
+  if (change) {
+    if (!added) first = *change;
+    entry = {
+        is_new ? kNewUserKind : kUserKind,
+        TaggedValue::Array{id, change->name, change->first_name, first.name, first.first_name}};
+  }
+  const bool is_nothing = added && !change;
+  if (is_nothing || Post({entry})) {
+    if (added) outbox_->Remove(*added);
+    pending_users_.erase(id);
+    return LookForServerLater();
+  }
   pending_users_[id] = change;
 }
 
 bool HostStore::WriteUser(const Work& work) {
   try {
-    return WithStore(Patience::kWait, [&](StoreTables& tables) {
-      if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
-      NeedUserTable();
-      users_.reset();
-      work(tables);
-    });
+    return EmptyOutbox() && WithStore(Patience::kWait, [&](StoreTables& tables) {
+             if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
+             NeedUserTable();
+             users_.reset();
+             work(tables);
+           });
   } catch (const SqlError& error) {
     if (error.failure() == SqlFailure::kReadOnly && !has_user_table_) {
       // Tables may be refused to a role that may well write records.
@@ -609,11 +682,15 @@ RecordKey HostStore::KeyOf(const TaggedValue& args, Patience patience) {
   return {Setting(kUserId), args[0].String(), args[1].String()};
 }
 
-std::optional<std::string> HostStore::Unwritten(const RecordKey& key) const {
+std::optional<std::string> HostStore::InMemory(const RecordKey& key) const {
   for (const Records* records : {together_ ? &*together_ : nullptr, &pending_}) {
     if (!records) continue;
     if (const auto found = records->find(key); found != records->end()) return found->second;
   }
+  return {};
+}
+
+std::optional<std::string> HostStore::InOutbox(const RecordKey& key) const {
   std::optional<std::string> kept;
   for (const OutboxEntry& entry : Kept()) {
     if (entry.kind == kRecordKind && KeyIn(entry.content) == key) kept = entry.content[3].String();
@@ -621,47 +698,87 @@ std::optional<std::string> HostStore::Unwritten(const RecordKey& key) const {
   return kept;
 }
 
-void HostStore::Keep(const Records& records) {
+/// The entries of records for the outbox: each knows what this process has seen of its key.
+std::vector<OutboxEntry> HostStore::EntriesFor(const Records& records) const {
   std::vector<OutboxEntry> entries;
   for (const auto& [key, value] : records) {
-    entries.push_back({kRecordKind, TaggedValue::Array{key.user, key.program, key.key, value,
-                                                       outbox_ ? seen_[key] : std::string()}});
-    if (outbox_) seen_[key] = FingerprintOf(value);
+    std::string seen;
+    if (const auto found = seen_.find(key); found != seen_.end()) {
+      seen = found->second;
+    } else if (const auto kept = InOutbox(key)) {
+      seen = FingerprintOf(kept);
+    }
+    entries.push_back(
+        {kRecordKind, TaggedValue::Array{key.user, key.program, key.key, value, seen}});
   }
+  return entries;
+}
+
+/// Whether the store holds a record of another machine's that this process goes past.
+bool HostStore::GoesPastAnother(const Records& records) const {
+  return std::ranges::any_of(records, [&](const auto& record) {
+    const auto seen = seen_.find(record.first);
+    return seen != seen_.end() && seen->second.empty();
+  });
+}
+
+void HostStore::Keep(const Records& records) {
+  const bool is_first = !WaitsInOutbox() && !GoesPastAnother(records);
   // Before the server is asked: who is killed while it says nothing has lost nothing.
-  bool is_kept = Post(entries);
-  const auto take_back = [&] {
-    DropKept([&](const OutboxEntry& entry) {
-      return entry.kind == kRecordKind && records.contains(KeyIn(entry.content));
-    });
-  };
+  std::optional<std::int64_t> piece = outbox_ ? Post(EntriesFor(records)) : std::nullopt;
+  if (piece && SizeOf(records) <= kShortBytes) HurryUp();
   try {
-    if (WriteRecords(records)) {
-      take_back();
+    if (piece && !is_first) {
+      // Behind what waits already, and like that with a look at what the store holds by now.
+      SetSeen(records);
+      if (EmptyOutbox()) {
+        ForgetOlder(records);
+        TellAnew();
+        return WriteTheRest();
+      }
+    } else if (WriteRecords(records)) {
+      if (piece) outbox_->Remove(*piece);
+      if (outbox_) SetSeen(records);
+      ForgetOlder(records);
+      TellAnew();
       return WriteTheRest();
     }
     if (in_memory_) Tell(*in_memory_);
   } catch (const SqlError& error) {
-    if (error.failure() == SqlFailure::kLocked || error.failure() == SqlFailure::kReadOnly) {
-      take_back();
-      is_kept = false;
-    }
-    WriteFailed(error);
+    const bool is_refused =
+        error.failure() == SqlFailure::kLocked || error.failure() == SqlFailure::kReadOnly;
+    if (piece && is_first && is_refused) outbox_->Remove(*std::exchange(piece, std::nullopt));
+    WriteFailed(error, piece.has_value());
   }
   LookForServerLater();
-  if (is_kept) return;
-  for (const auto& [key, value] : records) pending_.insert_or_assign(key, value);
+  if (piece) {
+    if (is_first) SetSeen(records);
+    ForgetOlder(records);
+  } else {
+    for (const auto& [key, value] : records) pending_.insert_or_assign(key, value);
+  }
+}
+
+/// What is in the outbox already need not keep anybody waiting as long as the rest.
+void HostStore::HurryUp() {
+  deadline_ = std::min(deadline_, std::chrono::steady_clock::now() +
+                                      std::chrono::milliseconds(options_.server_patience_ms / 2));
+}
+
+void HostStore::SetSeen(const Records& records) {
+  for (const auto& [key, value] : records) seen_[key] = FingerprintOf(value);
+}
+
+/// What is in memory of these is older than what was stored or put into the outbox since.
+void HostStore::ForgetOlder(const Records& records) {
+  for (const auto& [key, value] : records) pending_.erase(key);
 }
 
 bool HostStore::WriteRecords(const Records& records) {
-  const bool written = WithStore(Patience::kWait, [&](StoreTables& tables) {
+  return WithStore(Patience::kWait, [&](StoreTables& tables) {
     if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
     tables.Write(records);
   });
-  if (!written) return false;
-  TellAnew();
-  for (const auto& [key, value] : records) pending_.erase(key);
-  return true;
 }
 
 /// What else waits, after something was stored.
@@ -718,7 +835,7 @@ void HostStore::OpenOutbox() {
     Tell(UnreadableOutboxNotice(path.toStdString(), aside.toStdString()));
   });
   Settings kept;
-  for (const auto& [kind, content, id] : Kept()) {
+  for (const auto& [kind, content] : Kept()) {
     if (kind == kSettingKind) kept[content[0].String()] = content[1].String();
   }
   settings_.merge(kept);
@@ -726,10 +843,11 @@ void HostStore::OpenOutbox() {
 
 /// Puts them into the outbox as one piece. False where there is none, or where the store would
 /// never take them.
-bool HostStore::Post(const std::vector<OutboxEntry>& entries) {
-  if (!outbox_ || read_only_ || state_ == State::kMemoryOnly) return false;
-  outbox_fails_ = !outbox_->Add(entries);
-  return !outbox_fails_;
+std::optional<std::int64_t> HostStore::Post(const std::vector<OutboxEntry>& entries) {
+  if (!outbox_ || read_only_ || state_ == State::kMemoryOnly) return {};
+  const std::optional<std::int64_t> piece = outbox_->Add(entries);
+  outbox_fails_ = !piece;
+  return piece;
 }
 
 std::vector<OutboxEntry> HostStore::Kept() const {
@@ -741,48 +859,81 @@ std::vector<OutboxEntry> HostStore::Kept() const {
   return all;
 }
 
-/// Takes out what the store has got by another way.
-void HostStore::DropKept(const std::function<bool(const OutboxEntry&)>& is_outdated) {
-  std::vector<OutboxEntry> entries = Kept();
-  std::erase_if(entries, std::not_fn(is_outdated));
-  if (outbox_) outbox_->Remove(entries);
+/// Whether anything waits that is this process's to bring, and that a "STORE" could overtake.
+bool HostStore::WaitsInOutbox() const {
+  return outbox_ && std::ranges::any_of(outbox_->Pieces(), [](const OutboxPiece& piece) {
+           return !piece.is_of_another && !IsNotice(piece) && !IsOfLog(piece);
+         });
 }
 
-void HostStore::DropKeptUser(const std::string& id) {
-  DropKept([&](const OutboxEntry& entry) {
-    return (entry.kind == kUserKind || entry.kind == kUserGoneKind) &&
-           entry.content[0].String() == id;
-  });
-}
-
-/// Brings the store what stands in the outbox, in its order. Errors: SqlError.
-void HostStore::EmptyOutbox() {
-  if (!outbox_ || outbox_->Pieces().empty()) return;
+/// Brings the store what stands in the outbox, in its order, as far as there is time. Returns
+/// whether nothing is left but what another process at work will bring, and lines of the log.
+/// Errors: SqlError kUnreachable.
+bool HostStore::EmptyOutbox() {
+  if (!outbox_ || outbox_->Pieces().empty()) return true;
   // What another process has left, a third one may be bringing.
   QLockFile lock(outbox_->Path() + ".lock");
-  if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) return;
-  for (const OutboxPiece& piece : outbox_->Pieces()) {
-    if (piece.is_of_another) continue;
-    try {
-      const bool brought =
-          WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { Bring(tables, piece); });
-      if (!brought) return;
-    } catch (const SqlError& error) {
-      // One that the store will never take must not hold up the others.
-      const bool is_held_log = error.failure() == SqlFailure::kLocked && IsOfLog(piece);
-      if (error.failure() != SqlFailure::kOther && !is_held_log) throw;
-      continue;
-    }
-    outbox_->Remove(piece.entries);
+  if (!lock.tryLock(kPatienceForOutboxMs) && lock.error() == QLockFile::LockFailedError) {
+    LookForServerLater();
+    return false;
   }
+  const bool is_done = BringPieces(outbox_->Pieces());
+  if (!outbox_->Pieces().empty()) LookForServerLater();
+  return is_done;
 }
 
-void HostStore::Bring(StoreTables& tables, const OutboxPiece& piece) {
+bool HostStore::BringPieces(const std::vector<OutboxPiece>& pieces) {
+  using Clock = std::chrono::steady_clock;
+  // A piece for which there is too little time must not be begun: the server would be taken for
+  // silent.
+  const Clock::time_point end = std::min(deadline_, Clock::now() + kTimeToBring);
+  Clock::duration longest{};
+  bool is_done = true;
+  std::set<RecordKey> held_up;
+  for (const OutboxPiece& piece : pieces) {
+    if (piece.is_of_another || (IsNotice(piece) && !CanTell())) continue;
+    const Clock::time_point begin = Clock::now();
+    if (longest > Clock::duration::zero() && begin + longest > end) return false;
+    const std::vector<RecordKey> subjects = SubjectsIn(piece);
+    const auto follows = [&](const RecordKey& subject) { return held_up.contains(subject); };
+    try {
+      if (std::ranges::none_of(subjects, follows)) {
+        if (!BringPiece(piece)) return false;
+        longest = std::max(longest, Clock::now() - begin);
+        continue;
+      }
+    } catch (const SqlError& error) {
+      if (error.failure() == SqlFailure::kUnreachable) throw;
+      if (IsOfLog(piece)) continue;
+      WriteFailed(error, true);
+      if (error.failure() != SqlFailure::kOther) return false;
+    }
+    // What the store will never take must not hold up the others, unless they follow from it.
+    held_up.insert(subjects.begin(), subjects.end());
+    is_done = false;
+  }
+  return is_done;
+}
+
+/// Returns false when there is no store. Errors: SqlError.
+bool HostStore::BringPiece(const OutboxPiece& piece) {
+  std::vector<Notice> notices;
+  const bool is_brought =
+      WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { notices = Bring(tables, piece); });
+  if (!is_brought) return false;
+  for (const Notice& notice : notices) TellOrKeep(notice);
+  outbox_->Remove(piece.number);
+  return true;
+}
+
+/// What the user has to be told of it. Errors: SqlError.
+std::vector<Notice> HostStore::Bring(StoreTables& tables, const OutboxPiece& piece) {
   if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
+  std::vector<Notice> notices;
   LateRecords records;
   Settings settings;
   std::vector<LogEntry> lines;
-  for (const auto& [kind, content, id] : piece.entries) {
+  for (const auto& [kind, content] : piece.entries) {
     if (kind == kRecordKind) {
       records[KeyIn(content)] = {content[3].String(), content[4].String()};
     } else if (kind == kSettingKind) {
@@ -790,11 +941,16 @@ void HostStore::Bring(StoreTables& tables, const OutboxPiece& piece) {
     } else if (kind == kUserKind) {
       NeedUserTable();
       tables.SaveUser(UserIn(content));
+    } else if (kind == kNewUserKind) {
+      NeedUserTable();
+      if (const auto notice = BringNewUser(tables, content)) notices.push_back(*notice);
     } else if (kind == kUserGoneKind) {
       NeedUserTable();
       tables.RemoveUser(content[0].String());
     } else if (kind == kLogKind) {
       lines.push_back(LineIn(content));
+    } else if (kind == kNoticeKind) {
+      notices.push_back(NoticeIn(content));
     }
   }
   if (!lines.empty()) {
@@ -805,8 +961,35 @@ void HostStore::Bring(StoreTables& tables, const OutboxPiece& piece) {
     errand.get();
   }
   if (!settings.empty()) tables.SetSettings(options_.seat, settings);
-  if (!records.empty() && !tables.WriteLate(records, KeptSuffix(piece.at))) {
-    Tell(NewerRecordNotice(address_->Display(), KeptSuffix(piece.at)));
+  if (!tables.WriteLate(records, KeptSuffix(piece.at))) {
+    for (const auto& [key, record] : records) seen_[key].clear();
+    notices.push_back(NewerRecordNotice(address_->Display(), KeptSuffix(piece.at)));
+  }
+  return notices;
+}
+
+std::optional<Notice> HostStore::BringNewUser(StoreTables& tables, const TaggedValue& content) {
+  const StoreUser user = UserIn(content);
+  if (tables.AddUser(user)) return {};
+  const std::vector<StoreUser> users = tables.Users();
+  const auto other = std::ranges::find(users, user.id, &StoreUser::id);
+  if (other == users.end() || *other == user) return {};
+  if (*other == FirstNamesIn(content)) {
+    // The server had added him already, without an answer.
+    tables.SaveUser(user);
+    return {};
+  }
+  return UserTakenNotice(user, *other);
+}
+
+bool HostStore::CanTell() const { return options_.notify && !is_ending_; }
+
+/// Where nobody can be told, the next process tells it.
+void HostStore::TellOrKeep(const Notice& notice) {
+  if (CanTell()) {
+    Tell(notice);
+  } else {
+    Post({{kNoticeKind, ContentOf(notice)}});
   }
 }
 
@@ -819,8 +1002,11 @@ void HostStore::LookForServerLater(std::optional<int> ms) {
   if (!retry_timer_->isActive()) retry_timer_->start(ms.value_or(options_.retry_ms));
 }
 
+void HostStore::LookForTheRest() { LookForServerLater(kSoonMs); }
+
 void HostStore::LookForServer() {
-  if (calls_ > 0 || together_ || !connection_) return;
+  if (calls_ > 0 || together_) return;
+  MakeConnection();
   if (!connection_->IsAtHand()) return retry_timer_->start(std::min(options_.retry_ms, kGlanceMs));
   const OneCall call(*this);
   retry_timer_->stop();
@@ -905,8 +1091,11 @@ bool HostStore::Open(Patience patience) {
 int HostStore::WaitFor(Patience patience) const {
   if (patience == Patience::kOnlyOnce && waited_in_vain_) return 0;
   // A lock on a server must not be taken for its silence.
-  return IsServer() ? std::min(options_.busy_timeout_ms, options_.server_patience_ms * 3 / 4)
-                    : options_.busy_timeout_ms;
+  if (!IsServer()) return options_.busy_timeout_ms;
+  const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
+      deadline_ - std::chrono::steady_clock::now());
+  return static_cast<int>(
+      std::clamp<std::int64_t>(left.count() * 3 / 4, 0, options_.busy_timeout_ms));
 }
 
 void HostStore::MakeConnection() {
@@ -1086,8 +1275,11 @@ void HostStore::TellUnreadable(const SqlError& error) {
   }
 }
 
-void HostStore::WriteFailed(const SqlError& error) {
+void HostStore::WriteFailed(const SqlError& error, bool is_kept) {
   const std::string place = address_->Display();
+  if (is_kept && error.failure() != SqlFailure::kUnreachable) {
+    return Tell(WaitingStoreNotice(place, error.what()));
+  }
   switch (error.failure()) {
     case SqlFailure::kLocked:
       Tell(LockedStoreNotice(place));

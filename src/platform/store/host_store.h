@@ -90,7 +90,8 @@ struct StoreOptions {
 /// |--------------------------|---------------------------|--------------------------------------|
 /// | held by another process  | false                     | waits, then RunTimeError kStore      |
 /// | read-only                | works                     | in memory until the process ends     |
-/// | on a full disk           | works                     | in memory, and tried again with the  |
+/// | on a full disk           | works                     | in memory, or in the outbox of a     |
+/// |                          |                           | server, and tried again with the     |
 /// |                          |                           | next "STORE" and at the end          |
 /// | a file cut off later     | false                     | the same                             |
 /// | a server that is away    | false; at first contact   | in the outbox, and brought as soon   |
@@ -109,9 +110,10 @@ struct StoreOptions {
 ///
 /// A server is waited for `server_patience_ms` at the most, and after that not again until it has
 /// been found beside the program. What is stored is written into the `Outbox` of this machine
-/// before the server is asked, so that a process that is killed meanwhile loses nothing; it is read
-/// back, and brought in its order by this process or the next one, each piece in one transaction. A
-/// record that somebody else has stored meanwhile is not overwritten by an older one.
+/// before the server is asked, so that a process that is killed meanwhile loses nothing, and what
+/// is short waits half as long for it; it is read back, and brought in its order by this process or
+/// the next one, each piece in one transaction. A record that somebody else has stored meanwhile is
+/// not overwritten by an older one, nor by a "STORE" behind what waits.
 class HostStore {
  public:
   explicit HostStore(StoreOptions options);
@@ -161,6 +163,9 @@ class HostStore {
   /// A run begins: a trouble that was told before is told again when it is met again.
   void TellAnew() { told_.clear(); }
 
+  /// Brings a server what another process may have left for it, as soon as nobody is waited for.
+  void LookForTheRest();
+
   /// The newest `count` log lines, oldest first; none when the store cannot be read.
   std::vector<LogEntry> Log(int count);
 
@@ -201,23 +206,33 @@ class HostStore {
   void NeedUserTable();
 
   RecordKey KeyOf(const TaggedValue& args, Patience patience);
-  std::optional<std::string> Unwritten(const RecordKey& key) const;
+  std::optional<std::string> InMemory(const RecordKey& key) const;
+  std::optional<std::string> InOutbox(const RecordKey& key) const;
   void Keep(const Records& records);
   bool WriteRecords(const Records& records);
+  std::vector<OutboxEntry> EntriesFor(const Records& records) const;
+  bool GoesPastAnother(const Records& records) const;
+  void SetSeen(const Records& records);
+  void ForgetOlder(const Records& records);
+  void HurryUp();
   void WriteTheRest();
   void WritePending();
   bool WriteUser(const Work& work);
-  void KeepUser(const std::string& id, const UserChange& change);
+  void KeepUser(const std::string& id, const UserChange& change, UserIs is);
   bool IsUser(const std::string& id);
   void WritePendingUsers();
 
   void OpenOutbox();
-  bool Post(const std::vector<OutboxEntry>& entries);
+  std::optional<std::int64_t> Post(const std::vector<OutboxEntry>& entries);
   std::vector<OutboxEntry> Kept() const;
-  void DropKept(const std::function<bool(const OutboxEntry&)>& is_outdated);
-  void DropKeptUser(const std::string& id);
-  void EmptyOutbox();
-  void Bring(StoreTables& tables, const OutboxPiece& piece);
+  bool WaitsInOutbox() const;
+  bool EmptyOutbox();
+  bool BringPieces(const std::vector<OutboxPiece>& pieces);
+  bool BringPiece(const OutboxPiece& piece);
+  std::vector<Notice> Bring(StoreTables& tables, const OutboxPiece& piece);
+  std::optional<Notice> BringNewUser(StoreTables& tables, const TaggedValue& content);
+  bool CanTell() const;
+  void TellOrKeep(const Notice& notice);
   void LookForServerLater(std::optional<int> ms = {});
   void LookForServer();
   void RestSoon();
@@ -232,7 +247,7 @@ class HostStore {
   void TellInMemory(const Notice& notice);
   Notice ServerNotice(const SqlError& error) const;
   void TellUnreadable(const SqlError& error);
-  void WriteFailed(const SqlError& error);
+  void WriteFailed(const SqlError& error, bool is_kept = false);
 
   StoreOptions options_;
   std::unique_ptr<StoreAddress> address_;
@@ -253,7 +268,10 @@ class HostStore {
   LogQueue log_;
   std::unique_ptr<Outbox> outbox_;  // of a server
   bool outbox_fails_ = false;
-  std::map<RecordKey, std::string> seen_;  // fingerprints of what a server holds
+  // Fingerprints of what a server holds, as far as this process knows; "" where it holds another
+  // one than the one with which this process goes on.
+  std::map<RecordKey, std::string> seen_;
+  bool is_ending_ = false;
   std::string former_seat_;
   std::optional<std::vector<StoreUser>> users_;     // that came with the settings, until asked for
   int calls_ = 0;                                   // that are under way, one within the other

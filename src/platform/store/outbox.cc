@@ -91,8 +91,8 @@ void Outbox::OpenAnew() {
   connection_ = std::move(connection);
 }
 
-bool Outbox::Add(const std::vector<OutboxEntry>& entries) {
-  if (!Open()) return false;
+std::optional<std::int64_t> Outbox::Add(const std::vector<OutboxEntry>& entries) {
+  if (!Open()) return {};
   SqlStatements statements = {{"INSERT INTO piece (at, owner) VALUES (?, ?)",
                                {QString::fromStdString(TextOf(clock_())), OwnMark()}}};
   for (const OutboxEntry& entry : entries) {
@@ -102,12 +102,12 @@ bool Outbox::Add(const std::vector<OutboxEntry>& entries) {
          {QString::fromStdString(entry.kind),
           QByteArray::fromStdString(EncodeTaggedValue(entry.content))}});
   }
+  statements.push_back({"SELECT MAX(number) FROM piece", {}});
   try {
-    connection_->RunTogether(std::move(statements));
+    return connection_->RunTogether(std::move(statements)).rows.value(0).value(0).toLongLong();
   } catch (const SqlError&) {
-    return false;
+    return {};
   }
-  return true;
 }
 
 std::vector<OutboxPiece> Outbox::Pieces() {
@@ -116,7 +116,7 @@ std::vector<OutboxPiece> Outbox::Pieces() {
   SqlResult found;
   try {
     found = connection_->Run(
-        "SELECT number, at, kind, content, id, owner FROM piece JOIN entry ON piece = number ORDER "
+        "SELECT number, at, kind, content, owner FROM piece JOIN entry ON piece = number ORDER "
         "BY id");
   } catch (const SqlError& error) {
     if (error.failure() == SqlFailure::kBroken) PutAside();
@@ -126,12 +126,11 @@ std::vector<OutboxPiece> Outbox::Pieces() {
     const std::int64_t number = row[0].toLongLong();
     if (pieces.empty() || pieces.back().number != number) {
       pieces.push_back(
-          {number, row[1].toString().toStdString(), IsOfAnother(row[5].toString()), {}});
+          {number, row[1].toString().toStdString(), IsOfAnother(row[4].toString()), {}});
     }
     try {
-      pieces.back().entries.push_back({row[2].toString().toStdString(),
-                                       DecodeTaggedValue(row[3].toByteArray().toStdString()),
-                                       row[4].toLongLong()});
+      pieces.back().entries.push_back(
+          {row[2].toString().toStdString(), DecodeTaggedValue(row[3].toByteArray().toStdString())});
     } catch (const RunTimeError&) {
       // Of no use to anybody.
     }
@@ -139,16 +138,12 @@ std::vector<OutboxPiece> Outbox::Pieces() {
   return pieces;
 }
 
-void Outbox::Remove(const std::vector<OutboxEntry>& entries) {
-  if (entries.empty() || !Open()) return;
-  SqlStatements statements;
-  for (const OutboxEntry& entry : entries) {
-    statements.push_back(
-        {"DELETE FROM entry WHERE id = ?", {QVariant::fromValue<qlonglong>(entry.id)}});
-  }
-  statements.push_back({"DELETE FROM piece WHERE number NOT IN (SELECT piece FROM entry)", {}});
+void Outbox::Remove(std::int64_t piece) {
+  if (!Open()) return;
+  const QVariantList number = {QVariant::fromValue<qlonglong>(piece)};
   try {
-    connection_->RunTogether(std::move(statements));
+    connection_->RunTogether({{"DELETE FROM entry WHERE piece = ?", number},
+                              {"DELETE FROM piece WHERE number = ?", number}});
   } catch (const SqlError&) {
     // They are brought once more, to a store that has them already.
   }

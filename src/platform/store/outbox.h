@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,6 @@ class SqliteConnection;
 struct OutboxEntry {
   std::string kind;
   TaggedValue content;
-  std::int64_t id = 0;  ///< of one that is in the outbox
 };
 
 /// Entries that belong together.
@@ -34,7 +34,7 @@ struct OutboxPiece {
 /// What a far store has not taken yet, in a file of this machine that only its owner can read: a
 /// list of pieces in the order in which they came, each of one or more entries.
 /// It knows nothing of what its entries mean. A piece is on the disk when it has been added, and
-/// stays until its entries are removed; several processes may work on one file. No member throws: a
+/// stays until it is removed; several processes may work on one file. No member throws: a
 /// file that cannot be written takes nothing, and one that cannot be read has nothing.
 class Outbox {
  public:
@@ -48,11 +48,11 @@ class Outbox {
 
   /// Whether it is there to be written; makes it where it is not.
   bool IsReady() { return Open(); }
-  /// Adds one piece. Returns false when it could not be written.
-  bool Add(const std::vector<OutboxEntry>& entries);
+  /// Adds one piece. Returns its number, or none when it could not be written.
+  std::optional<std::int64_t> Add(const std::vector<OutboxEntry>& entries);
   /// The oldest first. An entry that is damaged is left out.
   std::vector<OutboxPiece> Pieces();
-  void Remove(const std::vector<OutboxEntry>& entries);
+  void Remove(std::int64_t piece);
 
   const QString& Path() const { return path_; }
 

@@ -214,7 +214,9 @@ SqlResult PostgresSession::Answers(std::size_t count) {
   std::optional<SqlError> error;
   for (std::size_t i = 0; i < count; ++i) {
     try {
-      last = Answer();
+      SqlResult next = Answer();
+      if (next.rows.isEmpty()) next.rows = std::move(last.rows);
+      last = std::move(next);
     } catch (const SqlError& failure) {
       // What follows it is answered too: that it was not run.
       if (!error) error = failure;

@@ -10,8 +10,8 @@
 
 namespace vmod17 {
 
-void SqlConnection::RunTogether(SqlStatements statements) {
-  Execute(InOneTransaction(std::move(statements)));
+SqlResult SqlConnection::RunTogether(SqlStatements statements) {
+  return Execute(InOneTransaction(std::move(statements)));
 }
 
 void SqlConnection::InTransaction(const std::function<void()>& work) {

@@ -87,8 +87,8 @@ class SqlConnection {
   SqlResult Run(const QString& statement, const QVariantList& values = {}) {
     return Execute({{statement, values}});
   }
-  /// Runs all of them or none, in one transaction.
-  void RunTogether(SqlStatements statements);
+  /// Runs all of them or none, in one transaction. Returns the rows of the last query among them.
+  SqlResult RunTogether(SqlStatements statements);
   /// Runs `work` between the begin of a writing transaction and its commit. An exception of
   /// `work` undoes what it did and passes on.
   void InTransaction(const std::function<void()>& work);
@@ -114,7 +114,7 @@ class SqlConnection {
 
  protected:
   /// Runs them in their order up to the first that fails, which ends the transaction that it stands
-  /// in. Returns the result of the last.
+  /// in. Returns the result of the last, but with the rows of the last query that found any.
   virtual SqlResult Execute(const SqlStatements& statements) = 0;
   virtual QString BeginStatement() const = 0;
   SqlStatements InOneTransaction(SqlStatements statements) const;

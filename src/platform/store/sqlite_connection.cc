@@ -103,7 +103,11 @@ SqliteConnection::~SqliteConnection() {
 SqlResult SqliteConnection::Execute(const SqlStatements& statements) {
   SqlResult result;
   try {
-    for (const SqlStatement& statement : statements) result = RunOne(database_, statement);
+    for (const SqlStatement& statement : statements) {
+      SqlResult next = RunOne(database_, statement);
+      if (next.rows.isEmpty()) next.rows = std::move(result.rows);
+      result = std::move(next);
+    }
   } catch (const SqlError&) {
     // Its own failure would hide the first one; outside a transaction there is nothing to undo.
     QSqlQuery(database_).exec(QStringLiteral("ROLLBACK"));

@@ -98,7 +98,9 @@ Notice NewerRecordNotice(const std::string& place, const std::string& suffix) {
   return {9112,
           "A training that was kept on this computer while the server was away has now been "
           "brought to %1. A newer one had been stored there meanwhile, which holds; the one from "
-          "this computer was kept beside it, under a name that ends in %2.",
+          "this computer was kept beside it, under a name that ends in %2. Whoever looks after the "
+          "server can "
+          "bring it back.",
           {place, suffix}};
 }
 
@@ -109,6 +111,21 @@ Notice UnreadableOutboxNotice(const std::string& file, const std::string& aside)
           "name %2, and a new, empty file has been started. Please tell the person who looks after "
           "the computers.",
           {file, aside}};
+}
+
+Notice WaitingStoreNotice(const std::string& place, const std::string& reason) {
+  return {9113,
+          "What you stored could not be written to %1 at the moment (%2). It is kept on this "
+          "computer and brought there as soon as that can be done, also when you start the program "
+          "on another day.",
+          {place, reason}};
+}
+
+Notice UserTakenNotice(const StoreUser& user, const StoreUser& other) {
+  return {9114,
+          "%1, who was added on this computer while the server was away, could not be added there: "
+          "the number %2 belongs to %3. Please check the number and add the user again.",
+          {user.first_name + ' ' + user.name, user.id, other.first_name + ' ' + other.name}};
 }
 
 Notice NoBackupNotice(const std::string& file) {

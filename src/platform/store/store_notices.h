@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/notice.h"
+#include "platform/store/store_user.h"
 
 namespace vmod17 {
 
@@ -31,6 +32,10 @@ Notice UnusableServerNotice(const std::string& place, const std::string& reason)
 Notice NewerRecordNotice(const std::string& place, const std::string& suffix);
 /// What waited on this machine for a server, and is `aside` now.
 Notice UnreadableOutboxNotice(const std::string& file, const std::string& aside);
+/// A record or a change that a server refuses, and that waits for it on this machine.
+Notice WaitingStoreNotice(const std::string& place, const std::string& reason);
+/// One who was entered while the server was away has the number of somebody else there.
+Notice UserTakenNotice(const StoreUser& user, const StoreUser& other);
 /// Why a backup was not restored. `file` is the backup.
 Notice NoBackupNotice(const std::string& file);
 Notice DamagedBackupNotice(const std::string& file, const std::string& reason);

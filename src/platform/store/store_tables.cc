@@ -203,34 +203,52 @@ void StoreTables::Write(const Records& records) {
 }
 
 bool StoreTables::WriteLate(const LateRecords& records, const std::string& suffix) {
-  bool is_newest = true;
-  const auto beside = [&](RecordKey key) {
-    key.key += suffix;
-    return key;
-  };
-  const auto write = [&](const RecordKey& key, const std::string& value) {
-    const SqlStatement statement = WriteStatement(key, value);
-    connection_.Run(statement.text, statement.values);
-  };
+  if (records.empty()) return true;
+  QStringList rows_of_keys;
+  QStringList rows;
+  QVariantList keys;
+  QVariantList values;
+  for (const auto& [key, record] : records) {
+    rows_of_keys << QStringLiteral("(?::text, ?::text, ?::text)");
+    keys << KeyValues(key);
+    rows << QStringLiteral("(?::text, ?::text, ?::text, ?::bytea, ?::text)");
+    values << KeyValues(key) << Bytes(record.value) << Text(record.seen);
+  }
+  const QString all_keys = rows_of_keys.join(QStringLiteral(", "));
+  // Locks the rows, also those that are not there yet: they are made, and empty.
+  const SqlStatement lock = {
+      QStringLiteral("INSERT INTO melvado_record (user_id, program, record_key, value) "
+                     "SELECT *, ''::bytea FROM (VALUES %1) late "
+                     "ON CONFLICT (user_id, program, record_key) "
+                     "DO UPDATE SET value = melvado_record.value")
+          .arg(all_keys),
+      keys};
+  const SqlStatement write = {
+      QStringLiteral(
+          "WITH late (user_id, program, record_key, value, seen) AS (VALUES %1), "
+          "other AS (SELECT user_id, program, record_key, held.value, seen FROM late "
+          "JOIN melvado_record held USING (user_id, program, record_key) "
+          "WHERE held.value NOT IN (''::bytea, late.value)), "
+          "verdict AS (SELECT EXISTS (SELECT 1 FROM other WHERE seen <> '' "
+          "AND seen <> encode(sha256(value), 'hex')) AS is_late), "
+          "aside AS (INSERT INTO melvado_record (user_id, program, record_key, value) "
+          "SELECT user_id, program, record_key || ?::text, value FROM late, verdict WHERE is_late "
+          "UNION ALL SELECT user_id, program, record_key || ?::text, value FROM other, verdict "
+          "WHERE NOT is_late AND seen = '' "
+          "ON CONFLICT (user_id, program, record_key) DO UPDATE SET value = excluded.value), "
+          "present AS (UPDATE melvado_record held SET value = late.value FROM late, verdict "
+          "WHERE NOT is_late AND held.user_id = late.user_id AND held.program = late.program "
+          "AND held.record_key = late.record_key) "
+          "SELECT CASE WHEN is_late THEN 'late' ELSE 'newest' END FROM verdict")
+          .arg(rows.join(QStringLiteral(", "))),
+      values + QVariantList{Text(suffix), Text(suffix)}};
+  const SqlStatement tidy_up = {QStringLiteral("DELETE FROM melvado_record WHERE value = ''::bytea "
+                                               "AND (user_id, program, record_key) IN (VALUES %1)")
+                                    .arg(all_keys),
+                                keys};
   connection_.SetSync(SqlConnection::Sync::kToDisk);
-  connection_.InTransaction([&] {
-    Records unseen;
-    is_newest = true;
-    for (const auto& [key, record] : records) {
-      const std::optional<std::string> held = Read(key);
-      if (held == record.value) continue;
-      if (record.seen.empty()) {
-        if (held) unseen[key] = *held;
-      } else if (record.seen != FingerprintOf(held)) {
-        is_newest = false;
-      }
-    }
-    if (is_newest) {
-      for (const auto& [key, value] : unseen) write(beside(key), value);
-    }
-    for (const auto& [key, record] : records) write(is_newest ? key : beside(key), record.value);
-  });
-  return is_newest;
+  const SqlResult result = connection_.RunTogether({lock, write, tidy_up});
+  return TextIn(result.rows.value(0), 0) == "newest";
 }
 
 void StoreTables::Rename(const RecordKey& key, const std::string& value,

@@ -77,10 +77,11 @@ class StoreTables {
   std::optional<std::string> Read(const RecordKey& key);
   /// Writes all of them or none.
   void Write(const Records& records);
-  /// Writes late records, all or none. Where the store holds another one than was seen, somebody
-  /// has stored a newer one meanwhile: that one stays, and all of these are written under their
-  /// keys with `suffix`. Where nobody knew, the late one holds and the other gets the suffix.
-  /// Returns false when a newer one stays.
+  /// Writes late records, all or none, in one errand, to a server. Where the store holds another
+  /// one than was seen, somebody has stored a newer one meanwhile: that one stays, and all of these
+  /// are written under their keys with `suffix`. Where nobody knew, the late one holds and the
+  /// other gets the suffix; where there is none any more, the late one holds, too. Nobody can store
+  /// another one between the look and the writing. Returns false when a newer one stays.
   bool WriteLate(const LateRecords& records, const std::string& suffix);
   /// Gives a record another key, unless its value is another one by now.
   void Rename(const RecordKey& key, const std::string& value, const std::string& new_key);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -16,6 +17,7 @@
 
 #include "platform/store/host_store.h"
 #include "platform/store/seat.h"
+#include "platform/store/tagged_value_codec.h"
 #include "postgres_server.h"
 #include "server_proxy.h"
 #include "store_process.h"
@@ -76,6 +78,9 @@ class AwayServer : public ::testing::Test {
     return true;
   }
 
+  // The last call that a server gets which stands still: it may carry it out when it goes on.
+  static void FallSilent(HostStore& store) { StoreValue(store, "X0", Array{"sent"}); }
+
   static qint64 TimeOf(const std::function<void()>& call) {
     QElapsedTimer clock;
     clock.start();
@@ -107,6 +112,27 @@ class AwayServer : public ::testing::Test {
   std::string address_ = kServer->NewDatabase();
   QString database_ = kServer->LatestDatabase();
   std::vector<Notice> notices_;
+};
+
+/// A session with the server by hand.
+class Hand {
+ public:
+  Hand(const std::string& address, const QString& database) {
+    QSqlDatabase hand = QSqlDatabase::addDatabase("QPSQL", "hand");
+    hand.setHostName(QString::fromStdString(address).section("host=", 1));
+    hand.setUserName("melvado");
+    hand.setDatabaseName(database);
+    if (!hand.open()) throw std::runtime_error(hand.lastError().text().toStdString());
+  }
+  ~Hand() {
+    // The server would notice the end of a session only some time later.
+    QSqlQuery(QSqlDatabase::database("hand")).exec("ROLLBACK");
+    QSqlDatabase::removeDatabase("hand");
+  }
+  void Run(const QString& statement) const {
+    QSqlQuery query(QSqlDatabase::database("hand"));
+    if (!query.exec(statement)) throw std::runtime_error(statement.toStdString());
+  }
 };
 
 class Frozen {
@@ -344,6 +370,253 @@ TEST_F(AwayServer, IsWaitedForOnceWhenItRefusesAfterSomeTime) {
   EXPECT_EQ(Ids(notices_), std::vector<int>{9108});
 }
 
+// ---- What waits goes in its order, whole and once
+
+TEST_F(AwayServer, GetsThePairThatWaitsAlthoughALaterOneMeetsALock) {
+  HostStore store(Options());
+  EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
+  {
+    const Frozen frozen;
+    FallSilent(store);
+    EXPECT_EQ(StorePair(store, Array{"late E"}, Array{"late A"}), 0);
+  }
+  {
+    const Hand hand(address_, database_);
+    hand.Run("BEGIN");
+    hand.Run("SELECT * FROM melvado_record WHERE record_key = 'E1' FOR UPDATE");
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"newest E"}));
+    ExpectPair(store, "newest E", "late A");
+    EXPECT_EQ(Elsewhere("A1"), TaggedValue(Array{"old A"}));
+  }
+  EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E1") == TaggedValue(Array{"newest E"}); }));
+  EXPECT_EQ(Elsewhere("A1"), TaggedValue(Array{"late A"}));
+  EXPECT_EQ(Ids(notices_), (std::vector<int>{9108, 9113}));
+}
+
+TEST_F(AwayServer, GetsNothingOlderFromMemoryOverWhatWasKeptLater) {
+  HostStore store(Options());
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
+  {
+    const Frozen frozen;
+    // Whatever hinders the file of what waits.
+    QDir().mkpath(data_ / "melvado");
+    const QString outbox = data_ / "melvado/" + Files().filter("outbox-")[0];
+    QSqlDatabase hinderer = QSqlDatabase::addDatabase("QSQLITE", "hinderer");
+    hinderer.setDatabaseName(outbox);
+    ASSERT_TRUE(hinderer.open());
+    QSqlQuery(hinderer).exec("BEGIN EXCLUSIVE");
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"in memory"}));
+    EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"in memory"}));
+    QSqlQuery(hinderer).exec("ROLLBACK");
+    hinderer = QSqlDatabase();
+    QSqlDatabase::removeDatabase("hinderer");
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"kept later"}));
+    EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"kept later"}));
+  }
+  EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E1") != TaggedValue(Array{"old"}); }));
+  EXPECT_TRUE(StoreValue(store, "X1", Array{"other"}));
+  EXPECT_EQ(Elsewhere("E1"), TaggedValue(Array{"kept later"}));
+}
+
+TEST_F(AwayServer, GetsTheNewestAfterOneThatItHasRefused) {
+  HostStore store(Options());
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
+  for (const char* errcode : {"lock_not_available", "raise_exception"}) {
+    kServer->Run(database_,
+                 QString("CREATE OR REPLACE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS "
+                         "$$ BEGIN RAISE EXCEPTION 'not now' USING ERRCODE = '%1'; END $$")
+                     .arg(errcode));
+    kServer->Run(database_,
+                 "CREATE TRIGGER refusal BEFORE INSERT OR UPDATE ON melvado_record "
+                 "FOR EACH ROW EXECUTE FUNCTION refuse()");
+    try {
+      StoreValue(store, "E1", Array{"refused"});
+    } catch (const RunTimeError&) {
+      EXPECT_EQ(errcode, std::string("lock_not_available"));
+    }
+    kServer->Run(database_, "DROP TRIGGER refusal ON melvado_record");
+    {
+      const Frozen frozen;
+      StoreValue(store, "E1", Array{errcode});
+    }
+    EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E1") == TaggedValue(Array{errcode}); }));
+  }
+  EXPECT_EQ(std::ranges::count(Ids(notices_), 9112), 0);
+}
+
+TEST_F(AwayServer, GetsARecordInItsPlaceWhereItHoldsNoneAnyMore) {
+  HostStore store(Options());
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
+  {
+    const Frozen frozen;
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"only copy"}));
+  }
+  kServer->Run(database_, "DELETE FROM melvado_record");
+  EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E1") == TaggedValue(Array{"only copy"}); }));
+  EXPECT_EQ(std::ranges::count(Ids(notices_), 9112), 0);
+}
+
+TEST_F(AwayServer, LosesNoRecordOfAnotherMachineToOneThatANextProcessHasBuiltOnWhatWaited) {
+  {
+    HostStore store(Options());
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
+    const Frozen frozen;
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"first day"}));
+  }
+  EXPECT_TRUE(StoreValue(*std::make_unique<HostStore>(OptionsElsewhere()), "E1", Array{"newer"}));
+  {
+    const Frozen frozen;
+    HostStore store(Options());
+    EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"first day"}));
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"third day"}));
+  }
+  notices_.clear();
+  HostStore next(Options());
+  next.Language();
+  EXPECT_TRUE(ComesTrue([&] { return !notices_.empty(); }));
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9112});
+  EXPECT_EQ(Elsewhere("E1"), TaggedValue(Array{"newer"}));
+  EXPECT_EQ(Elsewhere("E1.kept-20260309-080501"), TaggedValue(Array{"third day"}));
+}
+
+TEST_F(AwayServer, LosesNoRecordOfAnotherMachineToALaterOneThatIsStoredAtOnce) {
+  HostStore store(Options());
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
+  {
+    const Frozen frozen;
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"late"}));
+  }
+  EXPECT_TRUE(StoreValue(*std::make_unique<HostStore>(OptionsElsewhere()), "E1", Array{"newer"}));
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"here"}));
+  EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E1.kept-20260309-080501") != NothingStored(); }));
+  EXPECT_EQ(std::ranges::count(Ids(notices_), 9112), 1);
+  EXPECT_EQ(Elsewhere("E1"), TaggedValue(Array{"newer"}));
+  // Who goes on here all the same stores the latest, and the other one is kept.
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"latest"}));
+  EXPECT_EQ(Elsewhere("E1"), TaggedValue(Array{"latest"}));
+  EXPECT_EQ(Elsewhere("E1.kept-20260309-080501"), TaggedValue(Array{"newer"}));
+}
+
+TEST_F(AwayServer, LosesNoRecordThatAnotherMachineStoresWhileALateOneArrives) {
+  StoreProcess process;
+  ASSERT_EQ(process.Ask("open " + QString::fromStdString(address_) + " 60000 6000"), "open");
+  ASSERT_EQ(process.Ask("store E1 old 1"), "stored");
+  {
+    const Frozen frozen;
+    ASSERT_EQ(process.Ask("store X0 sent 1"), "stored");
+    ASSERT_EQ(process.Ask("store E1 late 1"), "stored");
+  }
+  ASSERT_NE(Elsewhere("X1"), std::nullopt);
+  {
+    const Hand hand(address_, database_);
+    hand.Run("BEGIN");
+    hand.Run("UPDATE melvado_record SET value = decode('" +
+             QByteArray::fromStdString(EncodeTaggedValue(Array{"newer"})).toHex() +
+             "', 'hex') WHERE record_key = 'E1'");
+    process.Say("store X1 other 1");
+    EXPECT_TRUE(process.IsSilentFor(500));
+    hand.Run("COMMIT");
+    EXPECT_EQ(process.Hear(), "stored");
+  }
+  process.Ask("store X1 more 1");
+  EXPECT_EQ(Elsewhere("E1"), TaggedValue(Array{"newer"}));
+  EXPECT_EQ(Elsewhere("E1.kept-20260309-080501"), TaggedValue(Array{"late"}));
+}
+
+TEST_F(AwayServer, GetsWhatAProcessAtWorkHasKeptFromThatOneAndFromTheNextWhenItIsGone) {
+  StoreProcess process;
+  ASSERT_EQ(process.Ask("open " + QString::fromStdString(address_) + " 50 700"), "open");
+  ASSERT_EQ(process.Ask("store E1 old 1"), "stored");
+  {
+    const Frozen frozen;
+    ASSERT_EQ(process.Ask("store X0 sent 1"), "stored");
+    ASSERT_EQ(process.Ask("store E1 late 1"), "stored");
+  }
+  StoreOptions options = TestOptions(address_, &notices_);
+  options.retry_ms = 20;
+  HostStore next(std::move(options));
+  EXPECT_EQ(ReadValue(next, "E1"), TaggedValue(Array{"late"}));
+  EXPECT_TRUE(StoreValue(next, "X1", Array{"other"}));
+  EXPECT_EQ(Elsewhere("X1"), TaggedValue(Array{"other"}));
+  EXPECT_EQ(Elsewhere("E1"), TaggedValue(Array{"old"}));
+  process.Kill();
+  EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E1") == TaggedValue(Array{"late"}); }));
+  EXPECT_TRUE(notices_.empty());
+}
+
+TEST_F(AwayServer, GetsWhatAnotherProcessHasLeftFromOneThatIsIdle) {
+  HostStore idle(TestOptions(address_));
+  idle.Language();
+  {
+    StoreProcess process;
+    ASSERT_EQ(process.Ask("open " + QString::fromStdString(address_) + " 50 700"), "open");
+    ASSERT_EQ(process.Ask("store E1 old 1"), "stored");
+    const Frozen frozen;
+    ASSERT_EQ(process.Ask("store X0 sent 1"), "stored");
+    ASSERT_EQ(process.Ask("store E1 late 1"), "stored");
+    process.Kill();
+  }
+  idle.LookForTheRest();
+  EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E1") == TaggedValue(Array{"late"}); }));
+}
+
+TEST_F(AwayServer, KeepsTheUserOfANumberThatAnotherOneWasGivenHereMeanwhile) {
+  HostStore store(Options());
+  store.Language();
+  {
+    const Frozen frozen;
+    FallSilent(store);
+    EXPECT_TRUE(store.SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew));
+    EXPECT_TRUE(store.SaveUser({"4711", "Berg", "Annas"}, HostStore::UserIs::kKnown));
+    EXPECT_TRUE(store.SaveUser({"4712", "See", "Max"}, HostStore::UserIs::kNew));
+    store.RemoveUser("4712");
+  }
+  HostStore elsewhere(OptionsElsewhere());
+  EXPECT_TRUE(elsewhere.SaveUser({"4711", "Tal", "Ida"}, HostStore::UserIs::kNew));
+  EXPECT_TRUE(elsewhere.SaveUser({"4712", "Au", "Eva"}, HostStore::UserIs::kNew));
+  EXPECT_TRUE(ComesTrue([&] { return notices_.size() == 2; }));
+  EXPECT_EQ(Ids(notices_), (std::vector<int>{9108, 9114}));
+  EXPECT_EQ(notices_[1].details, (std::vector<std::string>{"Annas Berg", "4711", "Ida Tal"}));
+  EXPECT_THAT(elsewhere.Users(), ::testing::UnorderedElementsAre(StoreUser{"4711", "Tal", "Ida"},
+                                                                 StoreUser{"4712", "Au", "Eva"}));
+}
+
+TEST_F(AwayServer, GetsTheLastNamesOfAUserWhomItHasAddedWithoutAnAnswer) {
+  HostStore store(Options());
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
+  {
+    const Frozen frozen;
+    EXPECT_TRUE(store.SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew));
+    EXPECT_TRUE(store.SaveUser({"4711", "Tal", "Anna"}, HostStore::UserIs::kKnown));
+  }
+  HostStore(OptionsElsewhere()).SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew);
+  HostStore elsewhere(OptionsElsewhere());
+  EXPECT_TRUE(ComesTrue([&] { return elsewhere.Users()[0].name == "Tal"; }));
+  EXPECT_EQ(std::ranges::count(Ids(notices_), 9114), 0);
+}
+
+TEST_F(AwayServer, HasTheUserToldOfALateRecordByTheNextProcessWhereThisOneCanTellNobody) {
+  {
+    HostStore store(Options());
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
+    const Frozen frozen;
+    EXPECT_TRUE(StoreValue(store, "E1", Array{"late"}));
+  }
+  EXPECT_TRUE(StoreValue(*std::make_unique<HostStore>(OptionsElsewhere()), "E1", Array{"newer"}));
+  {
+    StoreOptions silent = Options();
+    silent.notify = {};
+    HostStore store(std::move(silent));
+    EXPECT_TRUE(StoreValue(store, "X1", Array{"other"}));
+  }
+  EXPECT_EQ(Elsewhere("E1.kept-20260309-080501"), TaggedValue(Array{"late"}));
+  notices_.clear();
+  HostStore next(Options());
+  next.Language();
+  EXPECT_TRUE(ComesTrue([&] { return !notices_.empty(); }));
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9112});
+}
+
 // ---- A road that swallows everything
 
 TEST_F(AwayServer, LosesNothingOnARoadThatSwallowsEverythingFromAnyByteOn) {
@@ -450,6 +723,50 @@ TEST_F(AwayServer, IsNotWaitedForByAProcessThatAnotherOneHasTold) {
   proxy.SwallowAfter(-1);
   StoreValue(module, "E1", Array{"Anna's"});
   EXPECT_TRUE(ComesTrue([&] { return !module.Log(10).empty(); }));
+}
+
+TEST_F(AwayServer, GetsAllThatWaitsOnALongRoadWithoutBeingTakenForSilent) {
+  EXPECT_EQ(Elsewhere("E0"), NothingStored());
+  ServerProxy proxy(kServer->Socket());
+  const auto options = [&] {
+    StoreOptions all = OptionsFor(Through(proxy));
+    all.server_patience_ms = 4000;
+    return all;
+  };
+  {
+    // Nobody answers there yet.
+    proxy.SwallowAfter(0);
+    StoreOptions hasty = options();
+    hasty.server_patience_ms = 100;
+    HostStore store(std::move(hasty));
+    for (int i = 0; i < 12; ++i) {
+      EXPECT_EQ(StorePair(store, Array{"E", i}, Array{"A", i}), 0);
+      EXPECT_TRUE(StoreValue(store, "E" + std::to_string(i), Array{i}));
+    }
+  }
+  proxy.SwallowAfter(-1);
+  proxy.Delay(std::chrono::milliseconds(150));
+  notices_.clear();
+  EXPECT_LT(TimeOf([&] {
+              HostStore store(options());
+              store.Language();
+            }),
+            kTooLongMs);
+  HostStore next(options());
+  next.Language();
+  EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E11") == TaggedValue(Array{11}); }));
+  EXPECT_EQ(Elsewhere("A1"), TaggedValue(Array{"A", 11}));
+  EXPECT_EQ(Ids(notices_), std::vector<int>());
+}
+
+TEST_F(AwayServer, KeepsNobodyWaitingLongForWhatIsKeptAlready) {
+  StoreOptions options = Options();
+  options.server_patience_ms = 6000;
+  HostStore store(std::move(options));
+  EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
+  const Frozen frozen;
+  EXPECT_LT(TimeOf([&] { EXPECT_TRUE(StoreValue(store, "E1", Array{"new"})); }), 5000);
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9108});
 }
 
 // ---- Too many guests

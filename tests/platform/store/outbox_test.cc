@@ -51,10 +51,14 @@ TEST_F(OutboxFile, GivesTheNextProcessItsPiecesInTheirOrder) {
   ASSERT_EQ(next.Pieces().size(), 2u);
   EXPECT_EQ(next.Pieces()[0].at, "2026-03-09 08:05:01");
   EXPECT_EQ(next.Pieces()[1].entries[0].content[0].String(), std::string("\0\xFF\n", 3));
-  next.Remove(next.Pieces()[1].entries);
+  next.Remove(next.Pieces()[1].number);
   EXPECT_EQ(TextsOf(next), "record:E1 record:A1 | ");
-  next.Remove({next.Pieces()[0].entries[0]});
-  EXPECT_EQ(TextsOf(next), "record:A1 | ");
+  const std::optional<std::int64_t> third = next.Add({{"record", Array{"B1"}}});
+  ASSERT_TRUE(third.has_value());
+  next.Remove(next.Pieces()[0].number);
+  EXPECT_EQ(TextsOf(next), "record:B1 | ");
+  next.Remove(*third);
+  EXPECT_TRUE(next.Pieces().empty());
 }
 
 TEST_F(OutboxFile, IsOneForSeveralProcesses) {

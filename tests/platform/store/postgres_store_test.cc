@@ -282,7 +282,7 @@ TEST_F(PostgresStore, LosesNothingOnAFullDiskOfTheServerAndStoresWhenThereIsRoom
       "FOR EACH ROW WHEN (NEW.record_key = 'A1') EXECUTE FUNCTION refuse()");
   EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
   ExpectPair(store, "new E", "new A");
-  EXPECT_EQ(Ids(notices_), std::vector<int>{9105});
+  EXPECT_EQ(Ids(notices_), std::vector<int>{9113});
   HostStore other(OptionsElsewhere());
   ExpectPair(other, "old E", "old A");
   Run("DROP TRIGGER refusal ON melvado_record");
