@@ -205,11 +205,7 @@ void HomeWindow::OrderTabs() {
 
 void HomeWindow::Connect() {
   host_.changed = [this] { Refresh(); };
-  host_.on_module_shown = [this] {
-    if (log_) log_->hide();
-    hide();
-    if (on_module_shown) on_module_shown();
-  };
+  host_.on_module_shown = [this] { GiveWay(); };
   host_.on_module_back = [this] { loop_.Deliver([this] { Return(); }); };
   host_.on_module_end = [this](const ModuleEnd& end) {
     loop_.Deliver([this, end] { ModuleEnded(end); });
@@ -414,9 +410,19 @@ void HomeWindow::Open() {
   poll_->start();
 }
 
+/// The module's window stands.
+void HomeWindow::GiveWay() {
+  if (log_) log_->hide();
+  hide();
+  if (on_module_shown) on_module_shown();
+}
+
 void HomeWindow::ComeToFront() {
-  const bool module_is_in_front = host_.ModuleRuns() && !isVisible();
-  if (module_is_in_front && host_.BringModuleToFront()) return;
+  const bool asks = host_.ModuleRuns() && !host_.ModuleStarts() && !asks_to_end_;
+  if (asks && host_.BringModuleToFront()) {
+    if (host_.ModuleIsShown()) GiveWay();
+    return;
+  }
   for (QWidget* window : {static_cast<QWidget*>(this), QApplication::activeModalWidget()}) {
     if (window == nullptr) continue;
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
@@ -424,10 +430,16 @@ void HomeWindow::ComeToFront() {
     window->raise();
     window->activateWindow();
   }
-  if (module_is_in_front) QTimer::singleShot(0, this, [this] { AskToEndModule(); });
+  if (!asks) return;
+  asks_to_end_ = true;
+  QTimer::singleShot(0, this, [this] {
+    AskToEndModule();
+    asks_to_end_ = false;
+  });
 }
 
 void HomeWindow::AskToEndModule() {
+  if (!host_.ModuleRuns()) return;
   const QString question = host_.words().Say(
       9260,
       "The exercise does not answer. If it is only busy, wait for it. Do you want to end it? What "
@@ -503,6 +515,7 @@ void HomeWindow::Start() {
 
 /// The user is here again.
 void HomeWindow::Return() {
+  if (asks_to_end_) messages_.Withdraw();
   Refresh();
   if (!isVisible()) Open();
   start_->setFocus(Qt::OtherFocusReason);

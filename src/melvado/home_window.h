@@ -102,6 +102,7 @@ class HomeWindow : public QWidget {
   void Test();
   void Start();
   void Return();
+  void GiveWay();
   void AskToEndModule();
   void ModuleEnded(const ModuleEnd& end);
   void ShowLog();
@@ -122,6 +123,7 @@ class HomeWindow : public QWidget {
   std::optional<bool> verdict_is_good_;  // none: no test has come to its end
   bool filling_ = false;                 // a list changes by the program, not by the user
   bool was_open_ = false;
+  bool asks_to_end_ = false;  // a question whether to end the module stands
 
   TextWidget* title_ = nullptr;
   TextWidget* subtitle_ = nullptr;

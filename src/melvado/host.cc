@@ -234,7 +234,7 @@ void Host::StartModule() {
   if (module_.runs()) return;
   test_.Stop();  // a sound card may serve one program at a time
   module_.Start(QString::fromStdString(setup_.module), QString::fromStdString(setup_.store),
-                QString::fromStdString(Session()));
+                QString::fromStdString(Session()), setup_.time_to_start_ms);
 }
 
 bool Host::BringModuleToFront() {

@@ -30,8 +30,9 @@ struct HostSetup {
   std::vector<std::filesystem::path> language_folders;
   std::vector<std::string> locales;  ///< what the desktop's user reads, best first
   std::string module;                ///< path of the program
-  MidiOptions sound;                 ///< its soundfont is the one named from outside, or ""
-  std::optional<std::string> midi;   ///< an output named from outside, taken over once
+  int time_to_start_ms = kTimeToStartMs;
+  MidiOptions sound;                ///< its soundfont is the one named from outside, or ""
+  std::optional<std::string> midi;  ///< an output named from outside, taken over once
 };
 
 /// What the host knows and does, without a window: who learns, in which language, on which output,
@@ -101,11 +102,14 @@ class Host {
   /// What the module is given of the choices.
   std::string Session() { return store_.Session(); }
   bool ModuleRuns() const { return module_.runs(); }
+  /// See `ModuleProcess::starts`.
+  bool ModuleStarts() const { return module_.starts(); }
+  bool ModuleIsShown() const { return module_.is_shown(); }
   qint64 module_process() const { return module_.process_id(); }
   /// See `ModuleProcess::leaving`.
   int ModulesThatLeave() const { return module_.leaving(); }
   /// Ends the module that does not answer.
-  void EndModule() { module_.EndSilent(); }
+  void EndModule(int time_to_save_ms = kTimeToSaveMs) { module_.EndSilent(time_to_save_ms); }
   /// False when there is none to be brought, or it does not answer in some seconds.
   bool BringModuleToFront();
 

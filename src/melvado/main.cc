@@ -66,6 +66,7 @@ class EarlyWords {
     StoreOptions options;
     options.address = setup.store;
     options.busy_timeout_ms = kEarlyPatienceMs;
+    options.server_patience_ms = kEarlyPatienceMs;
     options.desktop_language = [this, &setup] { return languages_.BestFor(setup.locales); };
     TaggedValue name;
     try {
@@ -78,7 +79,7 @@ class EarlyWords {
   const Words& words() const { return words_; }
 
  private:
-  // The process that is silent may hold the store.
+  // The process that is silent may hold the store, and wait for the server as this one would.
   static constexpr int kEarlyPatienceMs = 500;
 
   const QtLanguageList languages_;

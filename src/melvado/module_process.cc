@@ -5,7 +5,6 @@
 
 #include <signal.h>
 
-#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -21,14 +20,14 @@ ModuleProcess::~ModuleProcess() {
   }
   for (const auto& module : leaving_) {
     module->process.disconnect();
-    if (module->process.waitForFinished(static_cast<int>(module->patience.remainingTime())))
-      continue;
+    if (module->process.waitForFinished(module->patience.remainingTime())) continue;
     module->process.kill();
     module->process.waitForFinished();
   }
 }
 
-void ModuleProcess::Start(const QString& program, const QString& store, const QString& session) {
+void ModuleProcess::Start(const QString& program, const QString& store, const QString& session,
+                          int time_to_start_ms) {
   if (at_work_) return;
   at_work_ = std::make_unique<Module>();
   Module& module = *at_work_;
@@ -60,6 +59,12 @@ void ModuleProcess::Start(const QString& program, const QString& store, const QS
                      Hear(module);
                      Finish(module, code, status);
                    });
+  module.start.setRemainingTime(time_to_start_ms);
+  module.patience.setSingleShot(true);
+  QObject::connect(&module.patience, &QTimer::timeout, &module, [&module] {
+    module.killed = true;
+    module.process.kill();
+  });
   process.start(program, QStringList());
 }
 
@@ -70,14 +75,17 @@ void ModuleProcess::EndSilent(int time_to_save_ms) {
   module.process.terminate();
   // One that was stopped takes its leave as others do.
   kill(static_cast<pid_t>(module.process.processId()), SIGCONT);
-  QTimer::singleShot(time_to_save_ms, &module, [&module] { module.process.kill(); });
+  module.patience.start(time_to_save_ms);
 }
 
 void ModuleProcess::Hear(Module& module) {
   while (module.process.canReadLine()) {
     const QByteArray line = module.process.readLine().trimmed();
     if (line == ModuleLine::kOpen) module.open_before = true;
-    if (line == ModuleLine::kShown && on_shown) on_shown();
+    if (line == ModuleLine::kShown) {
+      module.shown = true;
+      if (on_shown) on_shown();
+    }
     if (line == ModuleLine::kMenu && !std::exchange(module.menu, true)) TakeBack();
   }
 }
@@ -85,17 +93,14 @@ void ModuleProcess::Hear(Module& module) {
 void ModuleProcess::TakeBack() {
   Module& module = *at_work_;
   leaving_.push_back(std::move(at_work_));
-  module.patience.setRemainingTime(time_to_leave_ms_);
-  QTimer::singleShot(time_to_leave_ms_, &module, [&module] {
-    module.killed = true;
-    module.process.kill();
-  });
+  module.patience.start(time_to_leave_ms_);
   if (on_back) on_back();
 }
 
 void ModuleProcess::Finish(Module& module, int code, QProcess::ExitStatus status) {
   ModuleEnd end;
-  end.crashed = status == QProcess::CrashExit && !module.killed;
+  const bool ended_by_us = module.killed || (module.unwanted && code == SIGTERM);
+  end.crashed = status == QProcess::CrashExit && !ended_by_us;
   end.code = code;
   // What a module writes at its end may be lost when it crashes there.
   if (module.menu && !end.crashed) end.kind = ModuleEnd::Kind::kMenu;

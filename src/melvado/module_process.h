@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QProcess>
 #include <QString>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -24,8 +25,8 @@ struct ModuleEnd {
     kNotStarted,  ///< it could not be started at all
   };
   Kind kind = Kind::kBroken;
-  bool crashed = false;  ///< kBroken: ended by a signal, be it after it had found its way out
-  int code = 0;          ///< kBroken: exit status, or number of the signal where it is known
+  bool crashed = false;  ///< ended by a signal that nobody sent on purpose, be it on its way out
+  int code = 0;          ///< exit status, or number of the signal where it is known
   QString reason;        ///< kNotStarted: what the system says
 };
 
@@ -35,6 +36,9 @@ inline constexpr int kTimeToEndMs = 15'000;
 
 /// The same for one that does not answer, and which its user does not want to wait for.
 inline constexpr int kTimeToSaveMs = 3000;
+
+/// How long a module may take until it is shown. It may wait for the store meanwhile.
+inline constexpr int kTimeToStartMs = 10'000;
 
 /// The module as a process of its own, one at a time. What it says is in app/places.h.
 ///
@@ -61,10 +65,15 @@ class ModuleProcess {
 
   /// `store`    handed on, see `ParseStoreAddress`
   /// `session`  handed on, see `HostStore::Session`
-  void Start(const QString& program, const QString& store, const QString& session);
+  void Start(const QString& program, const QString& store, const QString& session,
+             int time_to_start_ms = kTimeToStartMs);
   /// Ends the module at work, which does not answer: by its own way out, or after some time by
   /// force.
   void EndSilent(int time_to_save_ms = kTimeToSaveMs);
+  /// The module at work has not been shown yet, which may take it a while, but no longer than this.
+  bool starts() const { return at_work_ && !at_work_->shown && !at_work_->start.hasExpired(); }
+  /// The module at work has been shown.
+  bool is_shown() const { return at_work_ && at_work_->shown; }
   /// A module is at work: it was started and has not given control back.
   bool runs() const { return at_work_ != nullptr; }
   /// How many processes have given control back and have not ended.
@@ -75,7 +84,9 @@ class ModuleProcess {
  private:
   struct Module : QObject {
     QProcess process;
-    QDeadlineTimer patience{QDeadlineTimer::Forever};  // with it, once it is leaving
+    QDeadlineTimer start;
+    bool shown = false;
+    QTimer patience;  // with it, once it is to end: it is killed then
     bool menu = false;
     bool open_before = false;
     bool unwanted = false;

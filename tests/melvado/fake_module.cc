@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // A module that does what the variable FAKE_MODULE says, word by word: a word in capitals is said
-// as a line, "wait" waits for SIGTERM, "hang" until it is killed, "abort" and a number end it.
+// as a line, "wait" waits for SIGTERM, "hang" until it is killed, "mortal" until SIGTERM ends it,
+// "abort" and a number end it.
 // Before that it writes what it was given of the surroundings to the file that FAKE_MODULE_NOTES
 // names.
 
@@ -48,6 +49,9 @@ int main() {
     if (word == "wait") {
       WaitForTheEnd();
     } else if (word == "hang") {
+      for (;;) pause();
+    } else if (word == "mortal") {
+      sigprocmask(SIG_UNBLOCK, &signals, nullptr);
       for (;;) pause();
     } else if (word == "abort") {
       std::abort();

@@ -176,21 +176,62 @@ TEST_F(HomeWindowCourse, BringsTheModuleToTheFrontForASecondStart) {
   EndModule();
 }
 
-TEST_F(HomeWindowCourse, ComesToTheFrontItselfWhenTheModuleDoesNotAnswerAndAsksToEndIt) {
+TEST_F(HomeWindowCourse, AsksAtEachStartWhetherToEndAModuleThatDoesNotAnswer) {
+  Open();
+  ShowModule();
+  messages_.answer = MessageBox::Answer::kNo;
+  messages_.while_asked = [this] {
+    window_->ComeToFront();  // the question stands already
+    Serve();
+  };
+  for (const std::size_t questions : {1, 2}) {
+    window_->ComeToFront();
+    EXPECT_TRUE(window_->isVisible());
+    Serve();
+    EXPECT_THAT(messages_.questions, SizeIs(questions));
+    EXPECT_EQ(messages_.preselected, MessageBox::Answer::kNo);
+    EXPECT_TRUE(host_->ModuleRuns());
+  }
+  EndModule();
+  EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(HomeWindowCourse, GivesWayToAModuleThatAnswersAgain) {
   Open();
   ShowModule();
   messages_.answer = MessageBox::Answer::kNo;
   window_->ComeToFront();
-  EXPECT_TRUE(window_->isVisible());
   Serve();
-  ASSERT_THAT(messages_.questions, SizeIs(1));
-  EXPECT_EQ(messages_.preselected, MessageBox::Answer::kNo);
+  EXPECT_TRUE(window_->isVisible());
+  const Another module(KeyOfModule());
   window_->ComeToFront();
+  EXPECT_FALSE(window_->isVisible());
   Serve();
   EXPECT_THAT(messages_.questions, SizeIs(1));
-  EXPECT_TRUE(host_->ModuleRuns());
   EndModule();
-  EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(HomeWindowCourse, AsksAboutAModuleThatIsNotShownOnlyOnceItTakesTooLong) {
+  const Surrounding fake("FAKE_MODULE", "wait MENUE 0");
+  for (const int time_to_start_ms : {3'600'000, 0}) {
+    HostSetup setup = HostOfTest();
+    setup.time_to_start_ms = time_to_start_ms;
+    Open(setup);
+    Press("start");
+    window_->ComeToFront();
+    Serve();
+    EXPECT_THAT(messages_.questions, SizeIs(time_to_start_ms == 0 ? 1 : 0));
+    Close();  // ends the module
+  }
+}
+
+TEST_F(HomeWindowCourse, WithdrawsItsQuestionWhenTheModuleGivesControlBack) {
+  Open();
+  ShowModule();
+  messages_.while_asked = [this] { EndModule(); };
+  window_->ComeToFront();
+  ASSERT_TRUE(ServeUntil([this] { return messages_.withdrawn == 1; }));
+  EXPECT_TRUE(Find<QWidget>("language")->isEnabled());
 }
 
 TEST_F(HomeWindowCourse, EndsAModuleThatDoesNotAnswerOnTheUsersYes) {
@@ -203,6 +244,18 @@ TEST_F(HomeWindowCourse, EndsAModuleThatDoesNotAnswerOnTheUsersYes) {
   EXPECT_THAT(messages_.questions, SizeIs(1));
   EXPECT_TRUE(window_->isVisible());
   EXPECT_TRUE(Find<QWidget>("language")->isEnabled());
+}
+
+TEST_F(HomeWindowCourse, LogsThatItsUserHadASilentModuleEnded) {
+  Open();
+  const Surrounding fake("FAKE_MODULE", "SHOWN wait hang");
+  Press("start");
+  ASSERT_TRUE(ServeUntil([this] { return !window_->isVisible(); }));
+  host_->EndModule(50);
+  ASSERT_TRUE(ServeUntil([this] { return !host_->ModuleRuns(); }));
+  Serve();
+  EXPECT_THAT(messages_.questions, IsEmpty());
+  EXPECT_THAT(host_->Log().back().text, HasSubstr("its user had it ended"));
 }
 
 TEST_F(HomeWindowCourse, TellsAModuleThatHangsFromOneThatAnswers) {

@@ -110,6 +110,31 @@ TEST_F(ModuleProcessTest, EndsASilentModuleThatPaysNoHeedByForce) {
   EXPECT_FALSE(process_.runs());
 }
 
+TEST_F(ModuleProcessTest, TakesNoEndThatItsUserWantedForACrash) {
+  for (const char* script : {"SHOWN wait hang", "SHOWN mortal"}) {
+    ends_.clear();
+    shown_ = 0;
+    const Surrounding fake("FAKE_MODULE", script);
+    process_.Start(FAKE_MODULE, "", "");
+    ASSERT_TRUE(ServeUntil([this] { return shown_ == 1; }));
+    process_.EndSilent(50);
+    ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+    EXPECT_EQ(ends_[0].kind, Kind::kEnded) << script;
+    EXPECT_FALSE(ends_[0].crashed) << script;
+  }
+}
+
+TEST_F(ModuleProcessTest, TellsACrashOfAModuleThatItsUserWantedToEnd) {
+  const Surrounding fake("FAKE_MODULE", "SHOWN wait abort");
+  process_.Start(FAKE_MODULE, "", "");
+  ASSERT_TRUE(ServeUntil([this] { return shown_ == 1; }));
+  process_.EndSilent(30'000);
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(ends_[0].kind, Kind::kEnded);
+  EXPECT_TRUE(ends_[0].crashed);
+  EXPECT_EQ(ends_[0].code, SIGABRT);
+}
+
 TEST_F(ModuleProcessTest, RunsOneModuleAtATime) {
   const Surrounding fake("FAKE_MODULE", "SHOWN wait MENUE 0");
   process_.Start(FAKE_MODULE, "", "");
@@ -202,6 +227,19 @@ TEST_F(LeavingModule, IsKilledWhenItStays) {
   EXPECT_EQ(ends_[0].kind, Kind::kHung);
   EXPECT_FALSE(ends_[0].crashed);
   EXPECT_FALSE(IsAlive());
+}
+
+TEST_F(LeavingModule, HasItsTimeToLeaveAlsoWhereItsUserHadItEnded) {
+  ModuleProcess process(2000);
+  bool shown = false;
+  process.on_shown = [&] { shown = true; };
+  Start(process, "SHOWN wait MENUE hang");
+  ASSERT_TRUE(ServeUntil([&] { return shown; }));
+  process.EndSilent(1000);
+  ASSERT_TRUE(ServeUntil([this] { return !ends_.empty(); }));
+  EXPECT_EQ(back_, 1);
+  EXPECT_EQ(ends_[0].kind, Kind::kHung) << "what it has saved is whole";
+  EXPECT_FALSE(ends_[0].crashed);
 }
 
 TEST_F(LeavingModule, IsKilledWhenTheHostGoesAndItStays) {
