@@ -265,18 +265,29 @@ HostStore::HostStore(StoreOptions options)
 HostStore::~HostStore() {
   is_ending_ = true;
   const OneCall call(*this);
+  // Without an outbox this is the last chance of the log's lines.
+  BringWhatWaits(outbox_ ? Patience::kOnlyOnce : Patience::kWait);
+  if (log_.IsEmpty()) return;
+  std::vector<OutboxEntry> lines;
+  for (const LogEntry& line : log_.Take(deadline_)) lines.push_back({kLogKind, ContentOf(line)});
+  if (!lines.empty()) Post(lines);
+}
+
+/// A disk that was full may have room by now.
+void HostStore::BringWhatWaits(Patience with_the_log) {
   const bool waits_for_server = IsServer() && !(connection_ && connection_->IsAtHand());
   try {
     if (state_ != State::kMemoryOnly && !read_only_ && !waits_for_server) WritePending();
   } catch (const SqlError&) {
     // The user was told when it could not be written the first time.
   }
-  if (log_.IsEmpty()) return;
-  // Without an outbox this is their last chance.
-  BringLog(outbox_ ? Patience::kOnlyOnce : Patience::kWait);
-  std::vector<OutboxEntry> lines;
-  for (const LogEntry& line : log_.Take(deadline_)) lines.push_back({kLogKind, ContentOf(line)});
-  if (!lines.empty()) Post(lines);
+  BringLog(with_the_log);
+}
+
+/// The next module may read what this one has stored as soon as the host has its word.
+bool HostStore::Menue() {
+  BringWhatWaits(Patience::kOnlyOnce);
+  return options_.menue && options_.menue();
 }
 
 std::unique_ptr<HostService> HostStore::Service() { return std::make_unique<Front>(*this); }
@@ -293,7 +304,7 @@ bool HostStore::Action(std::string_view command, const TaggedValue& args, Tagged
   if (command == "MIDI") return Midi(result);
   if (command == "LOGIN") return Login(result);
   if (command == "LANG") return Lang(result);
-  if (command == "MENUE") return options_.menue && options_.menue();
+  if (command == "MENUE") return Menue();
   return false;
 }
 

@@ -186,6 +186,8 @@ class HostStore {
   bool Store(const TaggedValue& args);
   bool Login(TaggedValue& result);
   bool Lang(TaggedValue& result);
+  bool Menue();
+  void BringWhatWaits(Patience with_the_log);
   bool AppendLog(LogEntry entry);
   bool BringLog(Patience patience = Patience::kOnlyOnce);
 

@@ -40,6 +40,7 @@ class Helper {
     if (command == "logs") return LogMany(words);
     if (command == "notices") return Notices();
     if (command == "run") return BeginRun();
+    if (command == "menue") return Menue();
     if (command == "add") return Add(words);
     if (command == "users") return Users();
     if (command == "seat") return SeatHere(words);
@@ -61,6 +62,12 @@ class Helper {
     store_.reset();
     store_ = std::make_unique<HostStore>(std::move(options));
     return "open";
+  }
+
+  std::string Menue() {
+    TaggedValue slot;
+    store_->Service()->Action("MENUE", "", slot);
+    return "left";
   }
 
   // store KEY TEXT COUNT: an array of so many copies of a text

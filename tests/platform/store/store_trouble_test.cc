@@ -736,6 +736,14 @@ TEST_F(PairOnAFullDisk, IsNotStoredInHalfWhicheverHalfFindsRoom) {
   }
 }
 
+TEST_F(PairOnAFullDisk, IsStoredBeforeTheHostHasItsWord) {
+  StoreProcess process;
+  FillTheDisk(process, "pair new 10 100000");
+  ASSERT_EQ(process.Ask("limit 0"), "limited");
+  EXPECT_EQ(process.Ask("menue"), "left");
+  ExpectInTheStore("new", "new");
+}
+
 TEST_F(PairOnAFullDisk, IsStoredAtTheEndOfTheProcess) {
   {
     StoreProcess process;
