@@ -110,6 +110,8 @@ void Desktop::Leave() {
     unsaved_records_->SaveUnasked();
     program_->Leave();
   });
+  // Also where no screen stands: before the first one, or over a question after the last.
+  loop_.Quit();
 }
 
 /// Two at once would write over each other's training.

@@ -41,6 +41,8 @@ bool Program::Quiet() const {
 }
 
 void Program::Leave() {
+  // It waits for what the user is asked at the end.
+  if (Ended()) return;
   // A run that is cut off from outside ends as if it were left, so that its record is saved.
   try {
     if (arbeitsblatt1_ && arbeitsblatt1_->visible) arbeitsblatt1_->Abbrechen();

@@ -60,7 +60,8 @@ class Program : private Navigation {
   /// or answered.
   bool Quiet() const;
 
-  /// Unloads all screens and takes leave of the host, from any state.
+  /// Unloads all screens and takes leave of the host, from any state. The host has its word once
+  /// `OnEnd` has returned.
   void Leave();
 
   TextLookup& texts() { return texts_; }

@@ -42,5 +42,18 @@ TEST(Program, LeadsFromTheFirstScreenToAJudgedAnswerAndOut) {
   EXPECT_TRUE(p.messages.warnings.empty());
 }
 
+TEST(Program, GivesTheHostItsWordOnceItsUserHasAnsweredWhatTheEndAsks) {
+  ProgramFixture p;
+  p.ToFirstScreen();
+  int word_in_between = -1;
+  p.program.OnEnd = [&] {
+    p.program.Leave();  // cut off meanwhile
+    word_in_between = p.host.Sent("MENUE");
+  };
+  p.first().cmdEnde.Press();
+  EXPECT_EQ(word_in_between, 0);
+  EXPECT_EQ(p.host.Sent("MENUE"), 1);
+}
+
 }  // namespace
 }  // namespace vmod17

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QIcon>
 #include <QMessageBox>
 #include <QProcess>
@@ -138,6 +139,34 @@ TEST(Desktop, AsksBeforeItEndsAnExerciseThatHangs) {
   hangs.waitForFinished();
   EXPECT_TRUE(hangs.readAll().endsWith("MENUE\n"));
   QLocale::setDefault(before);
+}
+
+TEST(Desktop, IsCutOffWhileItAsksWhetherToEndAnExerciseThatHangs) {
+  const QTemporaryDir folder;
+  const Surrounding runtime("XDG_RUNTIME_DIR", folder.path().toUtf8());
+  const Surrounding data("XDG_DATA_HOME", folder.path().toUtf8());
+  const Surrounding address("MELVADO_STORE", folder.filePath("store.sqlite").toUtf8());
+  QProcess hangs;
+  {
+    const Surrounding host("MELVADO_HOST", "1");
+    hangs.start(MODULE_PROGRAM, QStringList());
+  }
+  ASSERT_TRUE(ServeUntil([&] { return hangs.canReadLine(); }));
+  kill(static_cast<pid_t>(hangs.processId()), SIGSTOP);
+  Desktop desktop;
+  QTimer look;
+  int looks = 0;
+  QObject::connect(&look, &QTimer::timeout, &look, [&] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    if (++looks == 1) return desktop.Leave();
+    ADD_FAILURE() << "the question still stands";
+    box->button(QMessageBox::No)->click();
+  });
+  look.start(5);
+  EXPECT_EQ(desktop.Run(), kStatusNotShown);
+  EXPECT_EQ(looks, 1);
+  EXPECT_EQ(hangs.state(), QProcess::Running);
 }
 
 TEST(Desktop, LogsAndTellsAnErrorThatNothingDealtWithAndEndsWithStatusOne) {
@@ -274,6 +303,28 @@ TEST_F(FullDisk, LosesNoRecordOfSeveralRunsWithoutTheStudentsWord) {
   // The second record is asked for twice; for the third there is room.
   EXPECT_EQ(student.asked(), 3);
   EXPECT_EQ(Records().size(), 2);
+}
+
+TEST_F(FullDisk, EndsWithoutWaitingForAFolderWhenItIsCutOff) {
+  Desktop desktop;
+  Student student(1, [](int) { return "Another folder…"; });
+  QTimer look;
+  int looks = 0;
+  QObject::connect(&look, &QTimer::timeout, &look, [&] {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    if (++looks > 1) {
+      ADD_FAILURE() << "the dialog still stands";
+      dialog->reject();
+    }
+    MakeRoom();
+    desktop.Leave();
+  });
+  look.start(5);
+  EXPECT_EQ(desktop.Run(), 0);
+  EXPECT_EQ(student.asked(), 1);
+  EXPECT_EQ(looks, 1);
+  EXPECT_EQ(Records().size(), 1);
 }
 
 TEST_F(FullDisk, EndsWithoutWaitingForAnAnswerWhenItIsCutOff) {
