@@ -756,8 +756,8 @@ void HostStore::Keep(const Records& records) {
     }
     if (in_memory_) Tell(*in_memory_);
   } catch (const SqlError& error) {
-    const bool is_refused =
-        error.failure() == SqlFailure::kLocked || error.failure() == SqlFailure::kReadOnly;
+    // What is locked or has no room takes it later, what may only be read never does.
+    const bool is_refused = error.failure() == SqlFailure::kReadOnly;
     if (piece && is_first && is_refused) outbox_->Remove(*std::exchange(piece, std::nullopt));
     WriteFailed(error, piece.has_value());
   }

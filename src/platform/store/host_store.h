@@ -88,7 +88,8 @@ struct StoreOptions {
 ///
 /// | the store is             | reading                   | storing                              |
 /// |--------------------------|---------------------------|--------------------------------------|
-/// | held by another process  | false                     | waits, then RunTimeError kStore      |
+/// | held by another process  | false                     | waits, then RunTimeError kStore; a   |
+/// |                          |                           | record for a server: in the outbox   |
 /// | read-only                | works                     | in memory until the process ends     |
 /// | on a full disk           | works                     | in memory, or in the outbox of a     |
 /// |                          |                           | server, and tried again with the     |
