@@ -57,6 +57,9 @@ class AwayServer : public ::testing::Test {
   }
 
   // What another machine finds on the server.
+  /// Stores over what the server has, and ends, while it is frozen: later it could bring that
+  /// itself.
+  void LeaveInOutbox(const char* text);
   std::optional<TaggedValue> Elsewhere(const std::string& key) {
     HostStore store(OptionsElsewhere());
     return ReadValue(store, key);
@@ -140,6 +143,14 @@ class Frozen {
   Frozen() { kServer->Freeze(); }
   ~Frozen() { kServer->Thaw(); }
 };
+
+void AwayServer::LeaveInOutbox(const char* text) {
+  auto store = std::make_unique<HostStore>(Options());
+  EXPECT_TRUE(StoreValue(*store, "E1", Array{"old"}));
+  const Frozen frozen;
+  EXPECT_TRUE(StoreValue(*store, "E1", Array{text}));
+  store.reset();
+}
 
 /// Connections to the server that do nothing.
 class Crowd {
@@ -457,13 +468,7 @@ TEST_F(AwayServer, GetsARecordInItsPlaceWhereItHoldsNoneAnyMore) {
 }
 
 TEST_F(AwayServer, LosesNoRecordOfAnotherMachineToOneThatANextProcessHasBuiltOnWhatWaited) {
-  auto first = std::make_unique<HostStore>(Options());
-  EXPECT_TRUE(StoreValue(*first, "E1", Array{"old"}));
-  {
-    const Frozen frozen;
-    EXPECT_TRUE(StoreValue(*first, "E1", Array{"first day"}));
-    first.reset();  // later it could bring that itself
-  }
+  LeaveInOutbox("first day");
   EXPECT_TRUE(StoreValue(*std::make_unique<HostStore>(OptionsElsewhere()), "E1", Array{"newer"}));
   {
     const Frozen frozen;
@@ -597,13 +602,7 @@ TEST_F(AwayServer, GetsTheLastNamesOfAUserWhomItHasAddedWithoutAnAnswer) {
 }
 
 TEST_F(AwayServer, HasTheUserToldOfALateRecordByTheNextProcessWhereThisOneCanTellNobody) {
-  auto first = std::make_unique<HostStore>(Options());
-  EXPECT_TRUE(StoreValue(*first, "E1", Array{"old"}));
-  {
-    const Frozen frozen;
-    EXPECT_TRUE(StoreValue(*first, "E1", Array{"late"}));
-    first.reset();  // later it could bring that itself
-  }
+  LeaveInOutbox("late");
   EXPECT_TRUE(StoreValue(*std::make_unique<HostStore>(OptionsElsewhere()), "E1", Array{"newer"}));
   {
     StoreOptions silent = Options();
