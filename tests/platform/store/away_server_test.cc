@@ -56,10 +56,11 @@ class AwayServer : public ::testing::Test {
     return options;
   }
 
-  // What another machine finds on the server.
-  /// Stores over what the server has, and ends, while it is frozen: later it could bring that
-  /// itself.
+  // Stores over what the server has, and ends, while it is frozen: later it could bring that
+  // itself.
   void LeaveInOutbox(const char* text);
+
+  // What another machine finds on the server.
   std::optional<TaggedValue> Elsewhere(const std::string& key) {
     HostStore store(OptionsElsewhere());
     return ReadValue(store, key);
