@@ -25,8 +25,8 @@
 #include <memory>
 #include <vector>
 
-#include "platform/store/host_store.h"
-#include "platform/store/server_proxy.h"
+#include "store/host_store.h"
+#include "store/server_proxy.h"
 
 namespace {
 

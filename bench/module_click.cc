@@ -21,8 +21,8 @@
 #include <cstdlib>
 #include <vector>
 
-#include "app/places.h"
-#include "melvado/home_window.h"
+#include "programs/host/home_window.h"
+#include "programs/shared/places.h"
 #include "support/fake_platform.h"
 
 namespace {

@@ -14,7 +14,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/midi/midi_device_output.h"
+#include "midi/midi_device_output.h"
 
 namespace vmod17 {
 namespace {

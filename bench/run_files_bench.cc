@@ -14,10 +14,10 @@
 #include <chrono>
 #include <vector>
 
-#include "platform/store/host_store.h"
-#include "platform/xml/pugi_document.h"
-#include "shell/numbers.h"
+#include "base/numbers.h"
+#include "store/host_store.h"
 #include "whole_runs.h"
+#include "xml/pugi_document.h"
 
 namespace vmod17 {
 namespace {

@@ -17,7 +17,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/store/host_store.h"
+#include "store/host_store.h"
 
 namespace {
 

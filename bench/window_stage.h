@@ -9,9 +9,9 @@
 #include <QPixmap>
 #include <QScreen>
 
-#include "app/program.h"
-#include "platform/qt/qt_event_loop.h"
-#include "platform/qt/qt_view.h"
+#include "module/program.h"
+#include "qt/desk/qt_event_loop.h"
+#include "qt/view/qt_view.h"
 #include "shell/uniform_random.h"
 #include "support/fake_platform.h"
 #include "support/memory_host.h"

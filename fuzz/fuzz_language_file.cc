@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "fuzz_main.h"
-#include "platform/qt/language_file.h"
+#include "qt/desk/language_file.h"
 
 namespace vmod17 {
 namespace {

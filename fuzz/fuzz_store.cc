@@ -20,11 +20,11 @@
 #include <string>
 #include <vector>
 
+#include "base/numbers.h"
+#include "base/run_time_error.h"
 #include "fuzz_main.h"
-#include "platform/run_time_error.h"
-#include "platform/store/host_store.h"
-#include "platform/store/tagged_value_codec.h"
-#include "shell/numbers.h"
+#include "store/host_store.h"
+#include "store/tagged_value_codec.h"
 
 namespace vmod17 {
 namespace {

@@ -21,7 +21,7 @@
 #include <vector>
 
 #include "fuzz_main.h"
-#include "platform/xml/pugi_test_files.h"
+#include "xml/pugi_settings_files.h"
 
 namespace vmod17 {
 namespace {

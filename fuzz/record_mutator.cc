@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "shell/numbers.h"
+#include "base/numbers.h"
 
 namespace vmod17 {
 namespace {

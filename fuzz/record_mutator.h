@@ -5,8 +5,8 @@
 
 #include <vector>
 
+#include "base/tagged_value.h"
 #include "dice.h"
-#include "platform/tagged_value.h"
 #include "saved_trainings.h"
 
 namespace vmod17 {

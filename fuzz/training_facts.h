@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/tagged_value.h"
-#include "settings/settings_record.h"
+#include "base/tagged_value.h"
+#include "exercise/settings_record.h"
 #include "worksheet/material.h"
 
 namespace vmod17 {

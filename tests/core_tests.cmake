@@ -4,9 +4,9 @@
 # The tests of everything that needs no window, sound or store.
 vmod17_test(
   core_tests
-  SOURCES app/notices_test.cc
-          app/program_test.cc
-          app/unsaved_records_test.cc
+  SOURCES shell/notices_test.cc
+          module/program_test.cc
+          shell/unsaved_records_test.cc
           shell/app_state_test.cc
           shell/delay_test.cc
           shell/error_report_test.cc
@@ -14,8 +14,8 @@ vmod17_test(
           shell/loaded_screens_test.cc
           shell/message_form_test.cc
           shell/mod_server_test.cc
-          shell/numbers_test.cc
-          shell/record_reader_test.cc
+          base/numbers_test.cc
+          base/record_reader_test.cc
           shell/text_lookup_test.cc
           shell/uniform_random_test.cc
           catalogue/chord_board_test.cc
@@ -27,7 +27,7 @@ vmod17_test(
           sound/mod_midi_test.cc
           sound/note_queue_test.cc
           sound/sample_playback_test.cc
-          settings/settings_record_test.cc
+          exercise/settings_record_test.cc
           settings/restoring_test.cc
           settings/settings_levels_test.cc
           settings/settings_outlook_test.cc
@@ -35,29 +35,29 @@ vmod17_test(
           settings/settings_selection_test.cc
           settings/settings_spoken_test.cc
           settings/settings_summary_test.cc
-          settings/settings_test_file_test.cc
+          settings/fixed_settings_test.cc
           settings/settings_walk_test.cc
           settings/sound_check_test.cc
-          settings/test_length_test.cc
-          platform/caption_test.cc
-          platform/store/memory_host_test.cc
-          platform/xml/memory_xml_document_test.cc
+          settings/time_limit_test.cc
+          forms/caption_test.cc
+          store/memory_host_test.cc
+          xml/memory_xml_document_test.cc
   LIBRARIES vmod17_program test_support rapidcheck)
 
 # Records, the worksheet and whole runs.
 target_sources(
   core_tests
-  PRIVATE app/clock_independence_test.cc
-          app/exams_test.cc
-          app/free_practice_simulation_test.cc
-          app/group_selections_test.cc
-          app/student_runs_test.cc
-          app/lesson_record_golden_test.cc
-          results/counters_test.cc
+  PRIVATE module/clock_independence_test.cc
+          module/exams_test.cc
+          module/free_practice_simulation_test.cc
+          module/group_selections_test.cc
+          module/student_runs_test.cc
+          module/lesson_record_golden_test.cc
+          exercise/counters_test.cc
           results/percentages_test.cc
           results/results_print_test.cc
           results/results_screen_test.cc
-          results/lesson_record_test.cc
+          exercise/lesson_record_test.cc
           worksheet/answers_test.cc
           worksheet/lost_sound_test.cc
           worksheet/material_test.cc
@@ -67,7 +67,7 @@ target_sources(
           worksheet/spoken_test.cc
           worksheet/stored_training_test.cc
           worksheet/task_selection_test.cc
-          worksheet/test_flow_test.cc
+          worksheet/timed_flow_test.cc
           worksheet/training_flow_test.cc
           worksheet/waiting_flow_test.cc
           worksheet/worksheet_screen_test.cc)

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "catalogue/chord_table.h"
-#include "platform/random.h"
+#include "ports/random.h"
 
 namespace vmod17 {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace vmod17 {
 namespace {

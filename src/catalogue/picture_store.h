@@ -6,7 +6,7 @@
 #include <array>
 #include <string_view>
 
-#include "platform/controls.h"
+#include "forms/controls.h"
 
 namespace vmod17 {
 

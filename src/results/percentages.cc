@@ -7,8 +7,8 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "settings/settings_record.h"
-#include "shell/numbers.h"
+#include "base/numbers.h"
+#include "exercise/settings_record.h"
 
 namespace vmod17 {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "platform/controls.h"
-#include "results/counters.h"
+#include "exercise/counters.h"
+#include "forms/controls.h"
 
 namespace vmod17 {
 

@@ -6,9 +6,9 @@
 #include <array>
 #include <span>
 
+#include "base/numbers.h"
 #include "results/own_words.h"
 #include "results/results_screen.h"
-#include "shell/numbers.h"
 
 namespace vmod17 {
 namespace {

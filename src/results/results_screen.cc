@@ -5,9 +5,9 @@
 
 #include <utility>
 
-#include "platform/caption.h"
+#include "base/numbers.h"
+#include "forms/caption.h"
 #include "results/own_words.h"
-#include "shell/numbers.h"
 
 namespace vmod17 {
 namespace {

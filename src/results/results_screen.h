@@ -8,10 +8,10 @@
 
 #include "catalogue/chord_board.h"
 #include "catalogue/picture_store.h"
-#include "platform/printer.h"
-#include "results/counters.h"
+#include "exercise/counters.h"
+#include "exercise/settings_record.h"
+#include "ports/printer.h"
 #include "results/percentages.h"
-#include "settings/settings_record.h"
 #include "settings/settings_screen.h"
 #include "shell/first_screen.h"
 #include "shell/navigation.h"

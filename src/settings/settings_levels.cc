@@ -7,10 +7,10 @@
 #include <array>
 #include <exception>
 
+#include "base/numbers.h"
+#include "base/record_reader.h"
 #include "catalogue/chord_table.h"
 #include "settings/settings_screen.h"
-#include "shell/numbers.h"
-#include "shell/record_reader.h"
 
 namespace vmod17 {
 namespace {

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "base/numbers.h"
 #include "catalogue/chord_board.h"
 #include "settings/settings_screen.h"
-#include "settings/test_length.h"
-#include "shell/numbers.h"
+#include "settings/time_limit.h"
 
 namespace vmod17 {
 namespace {

@@ -7,9 +7,9 @@
 #include <initializer_list>
 #include <utility>
 
+#include "base/numbers.h"
 #include "catalogue/chord_table.h"
 #include "shell/delay.h"
-#include "shell/numbers.h"
 #include "sound/instrument_list.h"
 
 namespace vmod17 {

@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "platform/file_dialog.h"
-#include "platform/random.h"
-#include "platform/test_file.h"
-#include "results/counters.h"
-#include "results/lesson_record.h"
-#include "settings/settings_record.h"
+#include "exercise/counters.h"
+#include "exercise/lesson_record.h"
+#include "exercise/settings_record.h"
+#include "ports/file_dialog.h"
+#include "ports/random.h"
+#include "ports/settings_file.h"
 #include "shell/shell.h"
 #include "sound/mod_midi.h"
 
@@ -123,7 +123,7 @@ class Einstellung1 : public Form {
   void HSliderVolume_Change();
   void klang_contr_Click();
 
-  // settings_test_file.cc
+  // fixed_settings.cc
   void cmdOptionSave_Click();
   void cmdOptionRead_Click();
 

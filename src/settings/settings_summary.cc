@@ -4,8 +4,8 @@
 // The settings of a run as they are kept: in words for the record and the results, and as the
 // stored record of a training.
 
+#include "base/numbers.h"
 #include "settings/settings_screen.h"
-#include "shell/numbers.h"
 #include "sound/instrument_list.h"
 
 namespace vmod17 {

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <array>
 
+#include "base/numbers.h"
 #include "settings/settings_screen.h"
-#include "shell/numbers.h"
 #include "sound/sample_playback.h"
 #include "sound/sound_words.h"
 

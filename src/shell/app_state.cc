@@ -3,7 +3,7 @@
 
 #include "shell/app_state.h"
 
-#include "shell/numbers.h"
+#include "base/numbers.h"
 
 namespace vmod17 {
 

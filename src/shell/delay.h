@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/event_loop.h"
+#include "ports/event_loop.h"
 
 namespace vmod17 {
 

@@ -7,8 +7,8 @@
 #include <functional>
 #include <string>
 
-#include "platform/controls.h"
-#include "platform/message_box.h"
+#include "forms/controls.h"
+#include "ports/message_box.h"
 #include "shell/mod_server.h"
 #include "shell/text_lookup.h"
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/controls.h"
+#include "forms/controls.h"
 
 namespace vmod17 {
 

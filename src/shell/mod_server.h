@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/host_service.h"
+#include "ports/host_service.h"
 #include "shell/app_state.h"
 #include "shell/loaded_screens.h"
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "platform/event_loop.h"
-#include "platform/message_box.h"
-#include "platform/system.h"
+#include "ports/event_loop.h"
+#include "ports/message_box.h"
+#include "ports/system.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
 #include "shell/loaded_screens.h"

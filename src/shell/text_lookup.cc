@@ -7,8 +7,8 @@
 #include <exception>
 #include <utility>
 
-#include "platform/run_time_error.h"
-#include "shell/numbers.h"
+#include "base/numbers.h"
+#include "base/run_time_error.h"
 
 namespace vmod17 {
 namespace {

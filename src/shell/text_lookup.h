@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/language.h"
-#include "platform/notice.h"
-#include "platform/system.h"
+#include "base/notice.h"
+#include "ports/language.h"
+#include "ports/system.h"
 
 namespace vmod17 {
 

@@ -5,7 +5,7 @@
 
 #include <random>
 
-#include "platform/random.h"
+#include "ports/random.h"
 
 namespace vmod17 {
 

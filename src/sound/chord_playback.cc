@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "shell/delay.h"
 
 namespace vmod17 {

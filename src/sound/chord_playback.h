@@ -7,9 +7,9 @@
 #include <functional>
 
 #include "catalogue/chord_board.h"
-#include "platform/event_loop.h"
-#include "platform/random.h"
-#include "settings/settings_record.h"
+#include "exercise/settings_record.h"
+#include "ports/event_loop.h"
+#include "ports/random.h"
 #include "shell/app_state.h"
 #include "sound/mod_midi.h"
 #include "sound/note_queue.h"

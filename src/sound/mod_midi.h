@@ -8,8 +8,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/event_loop.h"
-#include "platform/midi_output.h"
+#include "ports/event_loop.h"
+#include "ports/midi_output.h"
 #include "shell/mod_server.h"
 
 namespace vmod17 {

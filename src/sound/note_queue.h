@@ -5,7 +5,7 @@
 
 #include <span>
 
-#include "settings/settings_record.h"
+#include "exercise/settings_record.h"
 #include "shell/app_state.h"
 #include "sound/mod_midi.h"
 

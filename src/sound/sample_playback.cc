@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
-#include "platform/run_time_error.h"
-#include "shell/numbers.h"
+#include "base/numbers.h"
+#include "base/run_time_error.h"
 
 namespace vmod17 {
 namespace {

@@ -6,8 +6,8 @@
 #include <array>
 #include <vector>
 
-#include "platform/random.h"
-#include "settings/settings_record.h"
+#include "exercise/settings_record.h"
+#include "ports/random.h"
 #include "sound/note_queue.h"
 
 namespace vmod17 {

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/notice.h"
+#include "base/notice.h"
 
 namespace vmod17 {
 

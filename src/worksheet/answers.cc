@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "shell/numbers.h"
+#include "base/numbers.h"
 #include "worksheet/worksheet_screen.h"
 
 namespace vmod17 {

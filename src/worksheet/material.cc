@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "shell/numbers.h"
+#include "base/numbers.h"
 
 namespace vmod17 {
 namespace {

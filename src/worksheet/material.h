@@ -6,8 +6,8 @@
 #include <array>
 #include <vector>
 
-#include "platform/random.h"
-#include "results/counters.h"
+#include "exercise/counters.h"
+#include "ports/random.h"
 
 namespace vmod17 {
 

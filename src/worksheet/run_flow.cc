@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/numbers.h"
 #include "shell/delay.h"
-#include "shell/numbers.h"
 #include "sound/sound_words.h"
 #include "worksheet/worksheet_screen.h"
 

@@ -6,7 +6,7 @@
 #include <array>
 #include <optional>
 
-#include "settings/test_length.h"
+#include "settings/time_limit.h"
 #include "sound/chord_playback.h"
 #include "worksheet/material.h"
 

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "shell/numbers.h"
+#include "base/numbers.h"
 
 namespace vmod17 {
 float ZeitZuschlag(float t, int frei) {

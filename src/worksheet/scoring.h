@@ -4,8 +4,8 @@
 #pragma once
 
 #include "catalogue/chord_board.h"
-#include "results/counters.h"
-#include "settings/settings_record.h"
+#include "exercise/counters.h"
+#include "exercise/settings_record.h"
 #include "worksheet/run_state.h"
 
 namespace vmod17 {

@@ -3,7 +3,7 @@
 
 // What a student hears of a run who does not see it. A playback is told of by its end alone.
 
-#include "shell/numbers.h"
+#include "base/numbers.h"
 #include "worksheet/worksheet_screen.h"
 
 namespace vmod17 {

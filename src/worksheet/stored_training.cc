@@ -7,8 +7,8 @@
 #include <cmath>
 #include <set>
 
-#include "shell/numbers.h"
-#include "shell/record_reader.h"
+#include "base/numbers.h"
+#include "base/record_reader.h"
 #include "worksheet/material.h"
 
 namespace vmod17 {

@@ -6,10 +6,10 @@
 #include <array>
 #include <vector>
 
+#include "base/tagged_value.h"
 #include "catalogue/chord_board.h"
-#include "platform/tagged_value.h"
-#include "results/counters.h"
-#include "settings/settings_record.h"
+#include "exercise/counters.h"
+#include "exercise/settings_record.h"
 
 namespace vmod17 {
 

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "catalogue/chord_board.h"
-#include "platform/random.h"
-#include "results/counters.h"
-#include "settings/settings_record.h"
+#include "exercise/counters.h"
+#include "exercise/settings_record.h"
+#include "ports/random.h"
 #include "worksheet/run_state.h"
 
 namespace vmod17 {

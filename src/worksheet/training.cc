@@ -6,7 +6,7 @@
 #include <exception>
 #include <utility>
 
-#include "shell/numbers.h"
+#include "base/numbers.h"
 #include "worksheet/worksheet_screen.h"
 
 namespace vmod17 {

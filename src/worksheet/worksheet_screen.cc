@@ -6,8 +6,8 @@
 #include <array>
 #include <map>
 
+#include "base/numbers.h"
 #include "catalogue/chord_spelling.h"
-#include "shell/numbers.h"
 
 namespace vmod17 {
 namespace {

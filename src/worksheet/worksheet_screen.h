@@ -11,9 +11,9 @@
 
 #include "catalogue/chord_board.h"
 #include "catalogue/picture_store.h"
-#include "results/counters.h"
-#include "results/lesson_record.h"
-#include "settings/settings_record.h"
+#include "exercise/counters.h"
+#include "exercise/lesson_record.h"
+#include "exercise/settings_record.h"
 #include "settings/settings_screen.h"
 #include "shell/shell.h"
 #include "sound/chord_playback.h"
@@ -28,7 +28,7 @@ namespace vmod17 {
 /// `arbeitsblatt1`, the worksheet: the screen of a run, and the run itself. Its routines stand in
 /// several files: worksheet_screen.cc builds it, run_flow.cc leads from task to task and out,
 /// lost_sound.cc stops it while nothing can be heard, answers.cc judges the clicks, spoken.cc tells
-/// of them to whom does not see, training.cc and test_run.cc hold what is theirs alone.
+/// of them to whom does not see, training.cc and timed_run.cc hold what is theirs alone.
 class Arbeitsblatt1 : public Form {
  public:
   /// What the screen works on.
@@ -238,7 +238,7 @@ class Arbeitsblatt1 : public Form {
   void LegeTrainingAb();
   StoredTraining Trainingsstand() const;
 
-  // test_run.cc
+  // timed_run.cc
   void BeginneTest();
   void ZaehleTestaufgabe();
   void ZaehleTestzeit();

@@ -17,8 +17,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/run_time_error.h"
 #include "catalogue/expected_chords.h"
-#include "platform/run_time_error.h"
 #include "support/scripted_random.h"
 
 namespace vmod17 {

@@ -10,8 +10,8 @@
 #include <cstddef>
 #include <span>
 
+#include "base/run_time_error.h"
 #include "catalogue/expected_chords.h"
-#include "platform/run_time_error.h"
 
 namespace vmod17 {
 namespace {

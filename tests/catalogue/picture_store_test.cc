@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace vmod17 {
 namespace {

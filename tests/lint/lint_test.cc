@@ -73,32 +73,22 @@ TEST(TheTree, HasNoticesThatSayTheSameAsTheEnglishLanguageFile) {
 TEST(Floors, LetAFileIncludeItsOwnFloorAndLowerOnes) {
   EXPECT_THAT(FloorFaults({{"src/worksheet/a.cc", Includes("worksheet/a.h") +
                                                       Includes("settings/settings_screen.h") +
-                                                      Includes("platform/random.h")},
-                           {"src/platform/qt/w.cc", Includes("worksheet/a.h")},
-                           {"src/app/main.cc", Includes("platform/qt/w.h")}}),
+                                                      Includes("ports/random.h")},
+                           {"src/qt/kit/w.cc", Includes("worksheet/a.h")},
+                           {"src/programs/module/main.cc", Includes("qt/kit/w.h")}}),
               IsEmpty());
 }
 
 TEST(Floors, RefuseAHigherFloor) {
   EXPECT_THAT(FloorFaults({{"src/settings/a.h", "\n" + Includes("worksheet/b.h")}}),
               ElementsAre("src/settings/a.h:2: must not include worksheet/b.h"));
-  EXPECT_THAT(FloorFaults({{"src/platform/random.h", Includes("shell/numbers.h")}}), SizeIs(1));
-  EXPECT_THAT(FloorFaults({{"src/shell/a.h", Includes("platform/qt/w.h")}}), SizeIs(1));
-  EXPECT_THAT(FloorFaults({{"src/sound/a.h", Includes("app/b.h")}}), SizeIs(1));
-}
-
-TEST(Floors, PutTheRecordsBelowTheScreensOfTheirFolders) {
-  EXPECT_THAT(FloorFaults({{"src/sound/a.h", Includes("settings/settings_record.h")},
-                           {"src/settings/b.h", Includes("results/counters.h")}}),
-              IsEmpty());
-  EXPECT_THAT(FloorFaults({{"src/sound/a.h", Includes("settings/settings_screen.h")},
-                           {"src/settings/b.h", Includes("results/results_screen.h")},
-                           {"src/results/counters.h", Includes("sound/mod_midi.h")}}),
-              SizeIs(3));
+  EXPECT_THAT(FloorFaults({{"src/ports/random.h", Includes("shell/delay.h")}}), SizeIs(1));
+  EXPECT_THAT(FloorFaults({{"src/shell/a.h", Includes("qt/kit/w.h")}}), SizeIs(1));
+  EXPECT_THAT(FloorFaults({{"src/sound/a.h", Includes("module/b.h")}}), SizeIs(1));
 }
 
 TEST(Floors, KeepTheLibrariesOfThePlatformApart) {
-  EXPECT_THAT(FloorFaults({{"src/platform/qt/a.cc", Includes("platform/midi/b.h")}}), SizeIs(1));
+  EXPECT_THAT(FloorFaults({{"src/qt/kit/a.cc", Includes("midi/b.h")}}), SizeIs(1));
 }
 
 TEST(Floors, KnowEveryFolder) { EXPECT_THAT(FloorFaults({{"src/attic/a.h", ""}}), SizeIs(1)); }
@@ -117,7 +107,7 @@ TEST(Circles, AreFoundOverSeveralFiles) {
 TEST(CoreIncludes, AreTheStandardLibrarysPlainHeadersAndOurOwn) {
   EXPECT_THAT(CoreIncludeFaults({{"src/shell/a.cc", "#include <vector>\n" + Includes("shell/a.h")},
                                  {"src/shell/a.h", ""},
-                                 {"src/platform/qt/w.cc", "#include <QWidget>\n"}}),
+                                 {"src/qt/kit/w.cc", "#include <QWidget>\n"}}),
               IsEmpty());
 }
 

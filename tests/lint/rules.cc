@@ -94,39 +94,30 @@ std::vector<Include> Includes(std::string_view text) {
 
 // The floors, from the ground up.
 enum Floor {
-  kPlatformHeaders,
-  kShell,
+  kBase,
+  kForms,
   kCatalogue,
-  kSettingsRecord,
-  kRunRecords,
+  kShell,
+  kExercise,
   kSound,
   kSettings,
   kResults,
   kWorksheet,
+  kModule,
   kLibraries,
   kPrograms,
 };
 
 /// The floor of a file of src/, named from there.
 std::optional<Floor> FloorOf(std::string_view file) {
-  // The first that fits counts: a single file stands before its folder.
   static constexpr std::pair<std::string_view, Floor> kTable[] = {
-      {"shell/", kShell},
-      {"catalogue/", kCatalogue},
-      {"settings/settings_record.", kSettingsRecord},
-      {"results/counters.", kRunRecords},
-      {"results/lesson_record.", kRunRecords},
-      {"sound/", kSound},
-      {"settings/", kSettings},
-      {"results/", kResults},
-      {"worksheet/", kWorksheet},
-      {"app/", kPrograms},
-      {"melvado/", kPrograms},
+      {"base/", kBase},           {"forms/", kForms},       {"ports/", kForms},
+      {"catalogue/", kCatalogue}, {"shell/", kShell},       {"exercise/", kExercise},
+      {"sound/", kSound},         {"settings/", kSettings}, {"results/", kResults},
+      {"worksheet/", kWorksheet}, {"module/", kModule},     {"midi/", kLibraries},
+      {"qt/", kLibraries},        {"store/", kLibraries},   {"xml/", kLibraries},
+      {"programs/", kPrograms},
   };
-  constexpr std::string_view kPlatform = "platform/";
-  if (file.starts_with(kPlatform)) {
-    return file.find('/', kPlatform.size()) == file.npos ? kPlatformHeaders : kLibraries;
-  }
   for (const auto& [start, floor] : kTable) {
     if (file.starts_with(start)) return floor;
   }
@@ -144,7 +135,7 @@ std::map<std::string, const std::string*> SourceFiles(const Tree& tree) {
   return files;
 }
 
-std::string_view Folder(std::string_view file) { return file.substr(0, file.rfind('/')); }
+std::string_view Folder(std::string_view file) { return file.substr(0, file.find('/')); }
 
 bool MayInclude(const std::string& file, Floor floor, const std::string& other, Floor below) {
   if (below > floor) return false;

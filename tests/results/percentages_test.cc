@@ -7,8 +7,8 @@
 
 #include <string>
 
-#include "platform/run_time_error.h"
-#include "settings/settings_record.h"
+#include "base/run_time_error.h"
+#include "exercise/settings_record.h"
 
 namespace vmod17 {
 namespace {

@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "settings/settings_fixture.h"
 #include "shell/shell_fixture.h"
 #include "support/program_fixture.h"

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/tagged_value.h"
+#include "base/tagged_value.h"
 
 namespace vmod17 {
 

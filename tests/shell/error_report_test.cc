@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "shell/shell_fixture.h"
 
 namespace vmod17 {

@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "shell/shell_fixture.h"
 #include "support/program_fixture.h"
 

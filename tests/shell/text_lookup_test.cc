@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "support/fake_platform.h"
 
 namespace vmod17 {

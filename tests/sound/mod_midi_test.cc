@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "support/memory_host.h"
 #include "support/recording_midi_output.h"
 #include "support/simulated_loop.h"

@@ -12,15 +12,15 @@
 #include <utility>
 #include <vector>
 
-#include "platform/file_dialog.h"
-#include "platform/form_view.h"
-#include "platform/language.h"
-#include "platform/message_box.h"
-#include "platform/printer.h"
-#include "platform/run_time_error.h"
-#include "platform/system.h"
-#include "platform/test_file.h"
-#include "shell/numbers.h"
+#include "base/numbers.h"
+#include "base/run_time_error.h"
+#include "ports/file_dialog.h"
+#include "ports/form_view.h"
+#include "ports/language.h"
+#include "ports/message_box.h"
+#include "ports/printer.h"
+#include "ports/settings_file.h"
+#include "ports/system.h"
 
 namespace vmod17 {
 

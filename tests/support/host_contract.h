@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/host_service.h"
+#include "ports/host_service.h"
 
 namespace vmod17 {
 

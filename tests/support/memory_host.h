@@ -14,8 +14,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/host_service.h"
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "ports/host_service.h"
 
 namespace vmod17 {
 

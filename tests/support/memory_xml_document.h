@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/run_time_error.h"
-#include "platform/xml_document.h"
+#include "base/run_time_error.h"
+#include "ports/xml_document.h"
 
 namespace vmod17 {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "app/program.h"
+#include "module/program.h"
 #include "support/fake_platform.h"
 #include "support/memory_host.h"
 #include "support/memory_xml_document.h"

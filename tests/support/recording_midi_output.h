@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/event_loop.h"
-#include "platform/midi_output.h"
+#include "ports/event_loop.h"
+#include "ports/midi_output.h"
 
 namespace vmod17 {
 

@@ -7,8 +7,8 @@
 #include <initializer_list>
 #include <vector>
 
-#include "platform/random.h"
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "ports/random.h"
 
 namespace vmod17 {
 

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/event_loop.h"
+#include "ports/event_loop.h"
 
 namespace vmod17 {
 

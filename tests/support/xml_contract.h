@@ -9,8 +9,8 @@
 #include <memory>
 #include <string>
 
-#include "platform/run_time_error.h"
-#include "platform/xml_document.h"
+#include "base/run_time_error.h"
+#include "ports/xml_document.h"
 
 namespace vmod17 {
 

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <fluidsynth.h>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <set>
+#include <span>
+#include <vector>
+
+#include "midi/midi_message.h"
+#include "ports/midi_output.h"
+
+namespace vmod17 {
+
+/// One playing of the time-stamped queue, in a sequencer of FluidSynth that stands at time 0 until
+/// `Advance` moves it. Whoever owns the clock advances it: the audio callback of the synthesiser,
+/// counting frames, or the sound thread.
+///
+/// Messages whose times agree to a hundredth of a millisecond are one event of the sequencer, so
+/// they leave in one call, in the order in which they were queued.
+///
+/// Not synchronised but for `IsOver` and `Time`: one thread at a time.
+class SequencerQueue {
+ public:
+  using Sink = std::function<void(std::span<const MidiBytes>)>;
+  using Tell = std::function<void(MidiQueueStand)>;
+
+  /// `tell` is called once for each stand: kLaeuft inside the first `Advance`, unless the queue is
+  /// mute, and kRuht inside the one that sent the last message; for a queue without messages inside
+  /// the first one. It may run on the audio thread.
+  SequencerQueue(std::vector<TimedMessage> messages, Tell tell);
+
+  /// The queue goes on, but cannot be heard any more.
+  void Mute();
+
+  /// Gives `sink` everything up to `ms` after the start. Time never runs backwards.
+  void Advance(double ms, const Sink& sink);
+
+  /// Any thread.
+  bool IsOver() const { return over_; }
+  /// Any thread: milliseconds from the start that have passed.
+  double Time() const { return time_; }
+  /// Milliseconds from the start to the next message; the last one's time when all have left.
+  double NextTime() const;
+  /// The channels that have a message.
+  std::set<int> Channels() const;
+
+ private:
+  struct Group {
+    unsigned int tick;
+    std::vector<MidiBytes> messages;
+  };
+  struct DeleteSequencer {
+    void operator()(fluid_sequencer_t* sequencer) const { delete_fluid_sequencer(sequencer); }
+  };
+
+  static void OnEvent(unsigned int time, fluid_event_t* event, fluid_sequencer_t* sequencer,
+                      void* self);
+  void FillSequencer();
+
+  std::vector<Group> groups_;
+  std::size_t sent_ = 0;
+  bool begun_ = false;
+  bool mute_ = false;
+  std::atomic<bool> over_ = false;
+  std::atomic<double> time_ = 0;
+  const Tell tell_;
+  const Sink* sink_ = nullptr;  // only inside Advance
+  std::unique_ptr<fluid_sequencer_t, DeleteSequencer> sequencer_;
+};
+
+}  // namespace vmod17

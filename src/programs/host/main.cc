@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <QApplication>
+#include <QIcon>
+#include <QLocale>
+#include <QTimer>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "programs/host/home_window.h"
+#include "programs/shared/end_on_signal.h"
+#include "programs/shared/places.h"
+#include "qt/desk/application_setup.h"
+#include "qt/desk/qt_event_loop.h"
+#include "qt/desk/qt_file_dialog.h"
+#include "qt/desk/qt_message_box.h"
+#include "qt/desk/qt_system.h"
+#include "qt/desk/single_instance.h"
+#include "qt/kit/help_window.h"
+#include "qt/kit/theme.h"
+#include "shell/error_report.h"
+
+namespace vmod17 {
+namespace {
+
+HostSetup SetupOfThisMachine() {
+  const QtSystem system;
+  HostSetup setup;
+  setup.store = system.Environment("MELVADO_STORE").value_or("");
+  setup.language_folders = LanguageFolders();
+  for (const QString& locale : QLocale::system().uiLanguages()) {
+    setup.locales.push_back(locale.toStdString());
+  }
+  setup.module = QCoreApplication::applicationDirPath().toStdString() + "/vmod17";
+  setup.sound.soundfont = system.Environment("MELVADO_SOUNDFONT").value_or("");
+  setup.midi = system.Environment("MELVADO_MIDI");
+  return setup;
+}
+
+/// Made when it is first asked for: most starts need none.
+void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& host,
+              const std::string& page) {
+  if (!help) {
+    help = std::make_unique<HelpWindow>(HelpFolders());
+    help->owner = [&window] { return &window; };
+    help->words = [&host] {
+      const HelpWindow::Words english;
+      const auto word = [&host](int id, const std::string& text) {
+        return host.words().Say(id, text.c_str()).toStdString();
+      };
+      return HelpWindow::Words{word(9421, english.title),    word(9391, english.contents),
+                               word(9392, english.back),     word(9393, english.forward),
+                               word(9394, english.missing),  word(9631, english.english_only),
+                               word(9634, english.too_large)};
+    };
+  }
+  help->Show(page, host.words().locale().name().toStdString());
+}
+
+/// The words in which the host would speak, had it started.
+class EarlyWords {
+ public:
+  explicit EarlyWords(const HostSetup& setup) : languages_(setup.language_folders) {
+    StoreOptions options;
+    options.address = setup.store;
+    options.busy_timeout_ms = kEarlyPatienceMs;
+    options.server_patience_ms = kEarlyPatienceMs;
+    options.desktop_language = [this, &setup] { return languages_.BestFor(setup.locales); };
+    TaggedValue name;
+    try {
+      HostStore(std::move(options)).Service()->Action("LANG", "", name);
+      words_.Speak(name.String());
+    } catch (const RunTimeError&) {
+      // English, then.
+    }
+  }
+  const Words& words() const { return words_; }
+
+ private:
+  // The process that is silent may hold the store, and wait for the server as this one would.
+  static constexpr int kEarlyPatienceMs = 500;
+
+  const QtLanguageList languages_;
+  Words words_{languages_};
+};
+
+QtMessageBox::Words ButtonsIn(const Words& words) {
+  return {words.Say(432, "OK").toStdString(), words.Say(9001, "Yes").toStdString(),
+          words.Say(9002, "No").toStdString()};
+}
+
+/// Two hosts of a store would hide what the other has chosen.
+SingleInstance::Claimed ClaimFor(const HostSetup& setup, SingleInstance& instance) {
+  std::optional<EarlyWords> early;
+  const auto words = [&]() -> const Words& {
+    if (!early) early.emplace(setup);
+    return early->words();
+  };
+  QtMessageBox messages(nullptr);
+  messages.words = [&] { return ButtonsIn(words()); };
+  const Notice question{
+      9257,
+      "Melvado is open already, but does not answer. If it is only busy, wait for it. Do you want "
+      "to end it and start it again? What has not been stored there may be lost.",
+      {}};
+  return ClaimOrAsk(instance, messages, question,
+                    [&](const Notice& notice) { return words().Say(notice).toStdString(); });
+}
+
+int Run() {
+  const Theme theme;
+  QtEventLoop loop;
+  const EndOnSignal end_on_signal([&loop] { loop.Quit(); });
+  HostSetup setup = SetupOfThisMachine();
+  SingleInstance instance(HostKey(setup.store));
+  switch (ClaimFor(setup, instance)) {
+    case SingleInstance::Claimed::kFirst:
+      break;
+    case SingleInstance::Claimed::kAnswered:
+      return 0;
+    case SingleInstance::Claimed::kSilent:
+      return kStatusNotShown;
+  }
+
+  QWidget* front = nullptr;
+  QtMessageBox messages([&front] { return front; });
+  QtFileDialog dialog([&front] { return front; });
+  Host host(std::move(setup), loop);
+  messages.words = [&host] { return ButtonsIn(host.words()); };
+  loop.on_error = [&](const std::exception_ptr& error) {
+    const RunTimeError what = AsRunTimeError(error);
+    host.LogError("run_time", what.number(), what.what(), what.source());
+    const QString said = QString::fromStdString(what.what());
+    messages.Warn(host.words()
+                      .Say(9467,
+                           "An error has occurred that the program did not expect (%1). It is in "
+                           "the log; you can go on. Please send the fault report from the log.",
+                           {said})
+                      .toStdString(),
+                  "Melvado");
+  };
+  HomeWindow window(host, loop, messages, dialog);
+  front = &window;
+  std::unique_ptr<HelpWindow> help;
+  window.on_help = [&](const std::string& page) { ShowHelp(help, window, host, page); };
+  window.on_module_shown = [&help] {
+    if (help) help->hide();
+  };
+  window.on_quit = [&loop] { loop.Quit(); };
+  instance.come_to_front = [&window] { window.ComeToFront(); };
+  window.Open();
+  // Once the user has something to look at.
+  QTimer::singleShot(0, &window, [&] {
+    QApplication::setWindowIcon(QIcon(":/melvado.svg"));
+    host.SetTell([&](const Notice& notice) {
+      messages.Warn(host.words().Say(notice).toStdString(), "Melvado");
+    });
+  });
+  loop.Run();
+  return 0;
+}
+
+}  // namespace
+}  // namespace vmod17
+
+int main(int argc, char* argv[]) {
+  const auto application = vmod17::MakeApplication(argc, argv);
+  return vmod17::Run();
+}

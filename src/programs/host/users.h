@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QCollator>
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "base/notice.h"
+#include "store/store_user.h"
+
+namespace vmod17 {
+
+/// What a number and a name may have at most, in characters.
+inline constexpr int kLongestNumber = 50;
+inline constexpr int kLongestName = 100;
+
+/// A user as he was typed, made fit to be kept: without blanks around, line breaks, control
+/// characters and marks of direction, which reach beyond the name wherever it is shown or printed;
+/// letters in their composed form; in the number also without what is not seen, so that two numbers
+/// that look alike are one.
+StoreUser Cleaned(const StoreUser& typed);
+
+/// Why a cleaned user cannot be kept; nothing when he can. That the number is another's already is
+/// for the store to say; see `NumberTakenNotice`.
+std::optional<Notice> FaultOf(const StoreUser& user);
+Notice NumberTakenNotice(const std::string& number);
+
+/// "Berg, Anna (4711)", in whatever direction its letters run.
+QString Shown(const StoreUser& user);
+
+/// By name as the language sorts, then by number.
+void Sort(std::vector<StoreUser>& users, const QLocale& locale);
+
+}  // namespace vmod17

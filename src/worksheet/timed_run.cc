@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+// A test and an exam: a fixed number of tasks in a limited time.
+
+#include <string>
+#include <utility>
+
+#include "base/numbers.h"
+#include "worksheet/worksheet_screen.h"
+
+namespace vmod17 {
+namespace {
+
+constexpr int kSekundenJeTakt = 10;  // between two firings of `Uhrzeit`
+
+}  // namespace
+
+void Arbeitsblatt1::BeginneTest() {
+  run_.test = BemissTest({run_.material.mat_posten, parts_.settings.akk_anzahl, spieltimer.interval,
+                          WahlAutomat.interval});
+  selection_.BeginneTest(run_, parts_.counters.auswertung_obj);
+  ZeigeRestzeit();
+  lab_aufgaben.caption = shell_.texts.Sprachtext(462) + SignedText(run_.test.rest_aufgaben);
+  PicUetyp[1].visible = true;
+  ZeigeTeststand(true);
+}
+
+void Arbeitsblatt1::ZaehleTestaufgabe() {
+  TestRest& test = run_.test;
+  --test.rest_aufgaben;
+  if (test.rest_aufgaben == 0) {
+    MeldeEnde();
+    run_.lauf_status = LaufStatus::kTestZuEnde;
+  } else if (test.rest_aufgaben == test.test_aufgaben / 2) {
+    run_.material.MaterialTest(parts_.counters.auswertung_obj, parts_.random);
+  }
+  lab_aufgaben.caption = shell_.texts.Sprachtext(462) + " " + SignedText(test.rest_aufgaben);
+}
+
+void Arbeitsblatt1::HalteTestzeitAn(float seit) {
+  if (!run_.test.halt_seit) run_.test.halt_seit = seit;
+}
+
+void Arbeitsblatt1::SetzeTestzeitFort() {
+  TestRest& test = run_.test;
+  if (!test.halt_seit) return;
+  test.gutschrift += ClockDifference(*test.halt_seit, shell_.loop.Clock());
+  test.halt_seit.reset();
+}
+
+void Arbeitsblatt1::ZaehleTestzeit() {
+  TestRest& test = run_.test;
+  // Time that was lost is given back in whole beats, the broken one in the student's favour.
+  if (test.halt_seit || test.gutschrift > 0) {
+    test.gutschrift -= kSekundenJeTakt;
+    return;
+  }
+  test.rest_sek -= kSekundenJeTakt;
+  ZeigeRestzeit();
+  if (run_.test.rest_sek <= 0) BeendeTestNachZeit();
+}
+
+void Arbeitsblatt1::ZeigeRestzeit() {
+  const TextLookup& texts = shell_.texts;
+  const int sekunden = run_.test.rest_sek;
+  stop_uhr.caption = texts.Sprachtext(461) + SignedText(sekunden / 60) + " " +
+                     texts.Sprachtext(394) + SignedText(sekunden % 60) + " " +
+                     texts.Sprachtext(480);
+}
+
+void Arbeitsblatt1::BeendeTestNachZeit() {
+  HalteAn();
+  wieder.enabled = false;
+  wieder2.enabled = false;
+  Say(shell_.texts.Words({9728, "Time is up", {}}));
+  BeendeAufzeichnung();
+  // Events are served while the record is saved: the program may have been ended in them.
+  if (loaded()) OeffneErgebnisse(RunEnd::kTimeUp);
+}
+
+bool Arbeitsblatt1::TestLaeuft() const {
+  return visible && IstTest() && run_.lauf_status != LaufStatus::kTestZuEnde;
+}
+
+/// A key or the window's cross is pressed by mistake more easily than a button, and a test that is
+/// left has no results. The time goes on meanwhile.
+bool Arbeitsblatt1::WillTestBeenden() {
+  if (std::exchange(ende_gefragt_, true)) return false;
+  const std::string frage =
+      shell_.texts.Words({9502, "The test is not over yet. End it without results?", {}});
+  const MessageBox::Answer answer = shell_.messages.Ask(frage, caption, MessageBox::Answer::kNo);
+  ende_gefragt_ = false;
+  return answer == MessageBox::Answer::kYes;
+}
+
+}  // namespace vmod17
