@@ -50,7 +50,6 @@ struct PictureId {
 };
 
 class Control;
-class Timer;
 
 /// A screen: its controls in the order of their making, and what concerns the window as a whole.
 /// Units of places and sizes are the pixels of a screen of 1024 by 768; a view may enlarge them.
@@ -66,8 +65,7 @@ class Form {
 
   const std::string& name() const { return name_; }
   const std::vector<Control*>& controls() const { return controls_; }
-  /// False once the screen has been unloaded. Nothing of it can be reached then, and its timers
-  /// cannot be armed any more.
+  /// False once the screen has been unloaded. Nothing of it can be reached any more then.
   bool loaded() const { return loaded_; }
 
   /// The three events of a screen's life, and the wish of the window system to close it.
@@ -96,11 +94,9 @@ class Form {
 
  private:
   friend class Control;
-  friend class Timer;
   std::string name_;
   std::vector<std::string> said_;
   std::vector<Control*> controls_;
-  std::vector<Timer*> timers_;
   bool loaded_ = true;
 };
 
@@ -134,6 +130,9 @@ class Control {
     }
     return form_.loaded() && form_.visible && form_.enabled;
   }
+
+  /// Ends what the control does by itself. Called when its form is put out of reach for good.
+  virtual void OutOfReach() {}
 
   std::string caption;
   std::string spoken;       ///< what a reader of the screen says in place of the caption
@@ -466,7 +465,6 @@ class Timer : public Control {
  public:
   Timer(Form& form, EventLoop& loop, std::string name, int interval_ms)
       : Control(form, std::move(name)), interval(interval_ms), loop_(loop) {
-    form.timers_.push_back(this);
     visible = false;
     enabled = false;
   }
@@ -486,6 +484,7 @@ class Timer : public Control {
     if (enabled) loop_.StopTimer(running_);
     enabled = false;
   }
+  void OutOfReach() override { Disable(); }
 
  private:
   EventLoop& loop_;
@@ -496,7 +495,7 @@ inline void Form::Unload() {
   if (!loaded_) return;
   loaded_ = false;
   visible = false;
-  for (Timer* timer : timers_) timer->Disable();
+  for (Control* control : controls_) control->OutOfReach();
   Form_Unload();
 }
 
