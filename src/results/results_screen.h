@@ -11,6 +11,7 @@
 #include "exercise/counters.h"
 #include "exercise/settings_record.h"
 #include "ports/printer.h"
+#include "ports/timer.h"
 #include "results/percentages.h"
 #include "settings/settings_screen.h"
 #include "shell/first_screen.h"

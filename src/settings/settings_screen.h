@@ -13,6 +13,7 @@
 #include "ports/file_dialog.h"
 #include "ports/random.h"
 #include "ports/settings_file.h"
+#include "ports/timer.h"
 #include "shell/shell.h"
 #include "sound/mod_midi.h"
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ports/timer.h"
 #include "shell/shell.h"
 
 namespace vmod17 {

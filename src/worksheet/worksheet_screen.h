@@ -14,6 +14,7 @@
 #include "exercise/counters.h"
 #include "exercise/lesson_record.h"
 #include "exercise/settings_record.h"
+#include "ports/timer.h"
 #include "settings/settings_screen.h"
 #include "shell/shell.h"
 #include "sound/chord_playback.h"

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "forms/caption.h"
+#include "ports/timer.h"
 
 namespace vmod17 {
 namespace {

@@ -9,6 +9,7 @@
 #include <map>
 #include <set>
 
+#include "ports/timer.h"
 #include "qt/accessible_tree.h"
 #include "qt/finished_test.h"
 #include "qt/shown_page.h"

@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "ports/timer.h"
 #include "qt/desk/qt_message_box.h"
 #include "qt/finished_test.h"
 #include "qt/kit/help_window.h"
