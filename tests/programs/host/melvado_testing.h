@@ -5,14 +5,10 @@
 
 #include <gmock/gmock.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <algorithm>
-#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -20,27 +16,10 @@
 
 #include "programs/host/home_window.h"
 #include "programs/host/host.h"
+#include "qt/surroundings.h"
 #include "support/fake_platform.h"
 
 namespace vmod17 {
-
-/// Serves events until `done` holds; false when that takes half a minute.
-inline bool ServeUntil(const std::function<bool()>& done) {
-  QDeadlineTimer patience(30'000);
-  // What is waited for need not be an event.
-  QTimer look;
-  look.start(20);
-  while (!done()) {
-    if (patience.hasExpired()) return false;
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  }
-  return true;
-}
-
-/// Serves what is due.
-inline void Serve() {
-  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
-}
 
 /// MIDI ports that a test plugs in and pulls out, also while a thread plays on them.
 class PluggedPorts : public MidiPorts {
@@ -88,29 +67,6 @@ class PluggedPorts : public MidiPorts {
   std::mutex mutex_;
   std::vector<std::string> names_;
   std::vector<MidiBytes> got_;
-};
-
-/// A variable of the surroundings for the time of a test.
-class Surrounding {
- public:
-  Surrounding(const char* name, const QByteArray& value) : name_(name), before_(qgetenv(name)) {
-    was_set_ = qEnvironmentVariableIsSet(name);
-    qputenv(name, value);
-  }
-  ~Surrounding() {
-    if (was_set_) {
-      qputenv(name_, before_);
-    } else {
-      qunsetenv(name_);
-    }
-  }
-  Surrounding(const Surrounding&) = delete;
-  Surrounding& operator=(const Surrounding&) = delete;
-
- private:
-  const char* const name_;
-  const QByteArray before_;
-  bool was_set_;
 };
 
 /// A host on a store of its own, with ports and a module in the hands of the test.

@@ -3,6 +3,7 @@
 
 #include "programs/module/desktop.h"
 
+#include <gmock/gmock.h>
 #include <signal.h>
 
 #include <QAbstractButton>
@@ -12,12 +13,13 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 #include <utility>
 
 #include "base/run_time_error.h"
-#include "programs/host/melvado_testing.h"
 #include "qt/desk/application_setup.h"
+#include "qt/surroundings.h"
 #include "store/host_store.h"
 
 namespace vmod17 {

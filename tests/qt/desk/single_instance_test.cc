@@ -4,6 +4,7 @@
 #include "qt/desk/single_instance.h"
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/file.h>
 #include <sys/socket.h>
@@ -15,10 +16,12 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QThread>
 #include <filesystem>
 
-#include "melvado_testing.h"
+#include "qt/surroundings.h"
+#include "support/fake_platform.h"
 
 namespace vmod17 {
 namespace {

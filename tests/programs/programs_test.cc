@@ -4,19 +4,24 @@
 // The two programs as processes: the second start, the kill, and what the module says to its host.
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <signal.h>
 
 #include <QDir>
 #include <QLocalServer>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <array>
+#include <memory>
 #include <set>
+#include <string>
 
-#include "melvado_testing.h"
 #include "programs/shared/end_on_signal.h"
 #include "programs/shared/places.h"
 #include "qt/desk/application_setup.h"
 #include "qt/desk/single_instance.h"
+#include "qt/surroundings.h"
+#include "store/host_store.h"
 
 namespace vmod17 {
 namespace {
