@@ -10,8 +10,10 @@
 
 #include "qt/kit/look.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+namespace look = vmod17::look;
 
 constexpr double kText = 15;
 constexpr char kDresser[] = "dresser";
@@ -101,4 +103,4 @@ void Dress(QDialog& dialog, double factor) {
   new Dresser(dialog, factor);
 }
 
-}  // namespace vmod17
+}  // namespace melvado

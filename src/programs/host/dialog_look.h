@@ -5,9 +5,9 @@
 
 class QDialog;
 
-namespace vmod17 {
+namespace melvado {
 
 /// Gives a dialog the program's colours and type. `factor` is the number of pixels of a unit.
 void Dress(QDialog& dialog, double factor);
 
-}  // namespace vmod17
+}  // namespace melvado

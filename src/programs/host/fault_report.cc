@@ -7,8 +7,10 @@
 #include <QString>
 #include <algorithm>
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::LogEntry;
 
 constexpr std::size_t kMostLines = 1000;
 
@@ -55,4 +57,4 @@ std::string FaultReport(const FaultFacts& facts, const std::vector<LogEntry>& lo
   return WithoutNames(report, facts.home);
 }
 
-}  // namespace vmod17
+}  // namespace melvado

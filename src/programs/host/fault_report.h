@@ -8,7 +8,7 @@
 
 #include "store/log_entry.h"
 
-namespace vmod17 {
+namespace melvado {
 
 /// What whoever mends a fault wants to know beside the log. All UTF-8.
 struct FaultFacts {
@@ -24,6 +24,6 @@ struct FaultFacts {
 
 /// The facts and the newest 1000 lines of the log as a plain text, in English, for a mail. Names of
 /// users are not in it, neither as that of the home folder nor in the address of a server.
-std::string FaultReport(const FaultFacts& facts, const std::vector<LogEntry>& log);
+std::string FaultReport(const FaultFacts& facts, const std::vector<vmod17::LogEntry>& log);
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -22,8 +22,25 @@
 #include "qt/kit/signs.h"
 #include "version.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::Dressed;
+using vmod17::DropDownWidget;
+using vmod17::FileDialog;
+using vmod17::HelpWindow;
+using vmod17::kVersionMajor;
+using vmod17::kVersionMinor;
+using vmod17::kVersionRevision;
+using vmod17::Look;
+namespace look = vmod17::look;
+using vmod17::MessageBox;
+using vmod17::Notice;
+using vmod17::Placement;
+using vmod17::PressWidget;
+using vmod17::QtEventLoop;
+using vmod17::StoreUser;
+using vmod17::TextWidget;
 
 // All lengths in units, counted from the upper left corner of the canvas.
 constexpr QSizeF kCanvas{1024, 700};
@@ -683,4 +700,4 @@ bool HomeWindow::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-}  // namespace vmod17
+}  // namespace melvado

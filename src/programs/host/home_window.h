@@ -20,7 +20,7 @@
 
 class QTimer;
 
-namespace vmod17 {
+namespace melvado {
 
 class LogWindow;
 
@@ -32,7 +32,8 @@ class LogWindow;
 class HomeWindow : public QWidget {
  public:
   /// All outlive the window.
-  HomeWindow(Host& host, QtEventLoop& loop, MessageBox& messages, FileDialog& dialog);
+  HomeWindow(Host& host, vmod17::QtEventLoop& loop, vmod17::MessageBox& messages,
+             vmod17::FileDialog& dialog);
   ~HomeWindow() override;
 
   /// Asked for by F1, also in a dialog, and by the button. `page` is that of the window in front:
@@ -65,15 +66,17 @@ class HomeWindow : public QWidget {
  private:
   struct Part {
     QWidget* widget;
-    Dressed* dress;
+    vmod17::Dressed* dress;
     QRectF rect;
   };
 
   template <typename Widget>
-  Widget* Make(const char* name, const Placement& place);
-  PressWidget* MakeButton(const char* name, const Placement& place, std::function<void()> act);
-  DropDownWidget* MakeList(const char* name, const QRectF& rect, std::function<void(int)> choose);
-  TextWidget* MakeHeading(const char* name, const QRectF& rect);
+  Widget* Make(const char* name, const vmod17::Placement& place);
+  vmod17::PressWidget* MakeButton(const char* name, const vmod17::Placement& place,
+                                  std::function<void()> act);
+  vmod17::DropDownWidget* MakeList(const char* name, const QRectF& rect,
+                                   std::function<void(int)> choose);
+  vmod17::TextWidget* MakeHeading(const char* name, const QRectF& rect);
   void BuildUsers();
   void BuildSound();
   void BuildFooter();
@@ -92,7 +95,7 @@ class HomeWindow : public QWidget {
   void ShowSoundfont();
   void ShowVerdict();
   void ShowStart();
-  void Fill(DropDownWidget& list, const QStringList& entries, int chosen);
+  void Fill(vmod17::DropDownWidget& list, const QStringList& entries, int chosen);
   void Act(const std::function<void()>& action);
 
   void AskForUser(bool known);
@@ -110,44 +113,44 @@ class HomeWindow : public QWidget {
   bool AskHelp(const QWidget& asked, const QKeyEvent& key);
 
   Host& host_;
-  QtEventLoop& loop_;
-  MessageBox& messages_;
-  FileDialog& dialog_;
-  PictureSource pictures_;
-  PageStyle style_{pictures_};
+  vmod17::QtEventLoop& loop_;
+  vmod17::MessageBox& messages_;
+  vmod17::FileDialog& dialog_;
+  vmod17::PictureSource pictures_;
+  vmod17::PageStyle style_{pictures_};
   std::vector<Part> parts_;
-  std::vector<StoreUser> users_;
+  std::vector<vmod17::StoreUser> users_;
   std::unique_ptr<QTimer> poll_;
   std::unique_ptr<LogWindow> log_;
-  Narrator narrator_{*this};
+  vmod17::Narrator narrator_{*this};
   std::optional<bool> verdict_is_good_;  // none: no test has come to its end
   bool filling_ = false;                 // a list changes by the program, not by the user
   bool was_open_ = false;
   bool asks_to_end_ = false;  // a question whether to end the module stands
 
-  TextWidget* title_ = nullptr;
-  TextWidget* subtitle_ = nullptr;
-  TextWidget* user_heading_ = nullptr;
-  DropDownWidget* user_ = nullptr;
-  PressWidget* add_user_ = nullptr;
-  PressWidget* change_user_ = nullptr;
-  PressWidget* remove_user_ = nullptr;
-  TextWidget* language_heading_ = nullptr;
-  DropDownWidget* language_ = nullptr;
-  TextWidget* output_heading_ = nullptr;
-  DropDownWidget* output_ = nullptr;
-  TextWidget* output_note_ = nullptr;
-  PressWidget* test_ = nullptr;
-  PressWidget* soundfont_ = nullptr;
-  PressWidget* usual_soundfont_ = nullptr;
-  TextWidget* soundfont_note_ = nullptr;
-  TextWidget* verdict_ = nullptr;
-  PressWidget* start_ = nullptr;
-  PressWidget* help_ = nullptr;
-  PressWidget* log_button_ = nullptr;
-  PressWidget* restore_ = nullptr;
-  PressWidget* quit_ = nullptr;
-  TextWidget* version_ = nullptr;
+  vmod17::TextWidget* title_ = nullptr;
+  vmod17::TextWidget* subtitle_ = nullptr;
+  vmod17::TextWidget* user_heading_ = nullptr;
+  vmod17::DropDownWidget* user_ = nullptr;
+  vmod17::PressWidget* add_user_ = nullptr;
+  vmod17::PressWidget* change_user_ = nullptr;
+  vmod17::PressWidget* remove_user_ = nullptr;
+  vmod17::TextWidget* language_heading_ = nullptr;
+  vmod17::DropDownWidget* language_ = nullptr;
+  vmod17::TextWidget* output_heading_ = nullptr;
+  vmod17::DropDownWidget* output_ = nullptr;
+  vmod17::TextWidget* output_note_ = nullptr;
+  vmod17::PressWidget* test_ = nullptr;
+  vmod17::PressWidget* soundfont_ = nullptr;
+  vmod17::PressWidget* usual_soundfont_ = nullptr;
+  vmod17::TextWidget* soundfont_note_ = nullptr;
+  vmod17::TextWidget* verdict_ = nullptr;
+  vmod17::PressWidget* start_ = nullptr;
+  vmod17::PressWidget* help_ = nullptr;
+  vmod17::PressWidget* log_button_ = nullptr;
+  vmod17::PressWidget* restore_ = nullptr;
+  vmod17::PressWidget* quit_ = nullptr;
+  vmod17::TextWidget* version_ = nullptr;
 };
 
-}  // namespace vmod17
+}  // namespace melvado

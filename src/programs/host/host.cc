@@ -21,8 +21,32 @@
 #include "store/store_notices.h"
 #include "version.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::EventLoop;
+using vmod17::ExistingSoundfonts;
+using vmod17::HostStore;
+using vmod17::kVersionMajor;
+using vmod17::kVersionMinor;
+using vmod17::kVersionRevision;
+using vmod17::LanguageColumn;
+using vmod17::LoadsAsSoundfont;
+using vmod17::LockedStoreNotice;
+using vmod17::LogEntry;
+using vmod17::MakeSystemMidiPorts;
+using vmod17::ModuleKey;
+using vmod17::Notice;
+using vmod17::Notify;
+using vmod17::ParseStoreAddress;
+using vmod17::RunTimeError;
+using vmod17::SingleInstance;
+using vmod17::StoreAddress;
+using vmod17::StoreBackup;
+using vmod17::StoreInUseNotice;
+using vmod17::StoreOptions;
+using vmod17::StoreUser;
+using vmod17::TaggedValue;
 
 constexpr const char* kFirstLanguage = "Deutsch";
 
@@ -344,4 +368,4 @@ FaultFacts Host::Facts() {
 
 std::string Host::Report() { return FaultReport(Facts(), Log()); }
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -21,17 +21,17 @@
 #include "qt/desk/qt_language.h"
 #include "store/host_store.h"
 
-namespace vmod17 {
+namespace melvado {
 
 /// What a host is made of; empty members stand for what is usual.
 struct HostSetup {
   std::string store;  ///< see `ParseStoreAddress`
-  int store_patience_ms = StoreOptions().busy_timeout_ms;
+  int store_patience_ms = vmod17::StoreOptions().busy_timeout_ms;
   std::vector<std::filesystem::path> language_folders;
   std::vector<std::string> locales;  ///< what the desktop's user reads, best first
   std::string module;                ///< path of the program
   int time_to_start_ms = kTimeToStartMs;
-  MidiOptions sound;                ///< its soundfont is the one named from outside, or ""
+  vmod17::MidiOptions sound;        ///< its soundfont is the one named from outside, or ""
   std::optional<std::string> midi;  ///< an output named from outside, taken over once
 };
 
@@ -44,13 +44,13 @@ struct HostSetup {
 class Host {
  public:
   /// `loop` outlives the host.
-  Host(HostSetup setup, EventLoop& loop);
+  Host(HostSetup setup, vmod17::EventLoop& loop);
   ~Host();
   Host(const Host&) = delete;
   Host& operator=(const Host&) = delete;
 
   /// The user should be told this. Notices from before it was set are told when it is.
-  void SetTell(Notify tell);
+  void SetTell(vmod17::Notify tell);
   /// What is shown has changed: outputs have come or gone.
   std::function<void()> changed;
 
@@ -58,14 +58,14 @@ class Host {
 
   // --- Who is learning
   /// Sorted; with who is chosen, even if somebody has taken him off the list meanwhile.
-  std::vector<StoreUser> Users();
+  std::vector<vmod17::StoreUser> Users();
   /// The number of who is chosen, "" for nobody.
   std::string ChosenUser();
   void ChooseUser(const std::string& id);
   /// Adds and chooses. Returns why it cannot be done; nothing when it is.
-  std::optional<Notice> AddUser(const StoreUser& typed);
+  std::optional<vmod17::Notice> AddUser(const vmod17::StoreUser& typed);
   /// Changes the names of the user with this number. Returns why it cannot be done.
-  std::optional<Notice> ChangeUser(const StoreUser& typed);
+  std::optional<vmod17::Notice> ChangeUser(const vmod17::StoreUser& typed);
   void RemoveUser(const std::string& id);
 
   // --- Language
@@ -88,7 +88,7 @@ class Host {
   bool SoundfontIsNamed() const { return !setup_.sound.soundfont.empty(); }
   /// Takes a soundfont that can be loaded, or ""; a test that runs ends then. Returns why another
   /// one is not taken.
-  std::optional<Notice> ChooseSoundfont(const std::string& path);
+  std::optional<vmod17::Notice> ChooseSoundfont(const std::string& path);
   void TestSound(std::function<void()> done);
   bool TestRuns() const { return test_.runs(); }
   const std::optional<Verdict>& verdict() const { return verdict_; }
@@ -120,22 +120,22 @@ class Host {
   std::string StoreFolder() const;
   /// Puts a backup in the place of what is stored, if it is fit for that and `agree` says so to the
   /// question of it. Returns what is to be said of it; nothing when it was not agreed to.
-  std::optional<Notice> RestoreBackup(const std::string& path,
-                                      const std::function<bool(const Notice&)>& agree);
+  std::optional<vmod17::Notice> RestoreBackup(
+      const std::string& path, const std::function<bool(const vmod17::Notice&)>& agree);
 
   // --- The log
   /// Logs an error of the host itself.
   void LogError(const std::string& place, int number, const std::string& text,
                 const std::string& source);
   /// The whole of it, some 10,000 lines; see `StoreOptions::log_limit_bytes`.
-  std::vector<LogEntry> Log();
+  std::vector<vmod17::LogEntry> Log();
   std::string Report();
 
  private:
-  StoreOptions HostStoreOptions();
-  void Tell(const Notice& notice);
+  vmod17::StoreOptions HostStoreOptions();
+  void Tell(const vmod17::Notice& notice);
   void TellLater();
-  std::optional<Notice> Store(const std::function<void()>& work);
+  std::optional<vmod17::Notice> Store(const std::function<void()>& work);
   void Choose(const std::function<void()>& work);
   void SpeakLanguage();
   void ModuleIsBack();
@@ -143,19 +143,19 @@ class Host {
   FaultFacts Facts();
 
   HostSetup setup_;
-  EventLoop& loop_;
+  vmod17::EventLoop& loop_;
   std::shared_ptr<int> alive_ = std::make_shared<int>(0);
-  Notify tell_;
-  std::vector<Notice> untold_;
-  QtLanguageList languages_;
+  vmod17::Notify tell_;
+  std::vector<vmod17::Notice> untold_;
+  vmod17::QtLanguageList languages_;
   Words words_;
   std::string language_;
-  std::shared_ptr<MidiPorts> ports_;
-  HostStore store_;
+  std::shared_ptr<vmod17::MidiPorts> ports_;
+  vmod17::HostStore store_;
   OutputChoice outputs_;
   SoundTest test_;
   std::optional<Verdict> verdict_;
   ModuleProcess module_;
 };
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -17,8 +17,11 @@
 
 #include "programs/host/dialog_look.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::LogEntry;
+using vmod17::QtEventLoop;
 
 enum Column { kTime, kPlace, kNumber, kText, kSource, kColumns };
 
@@ -161,4 +164,4 @@ void LogWindow::Copy() {
       host_.words().Say(9463, "The report is in the clipboard and can be pasted into a mail."));
 }
 
-}  // namespace vmod17
+}  // namespace melvado

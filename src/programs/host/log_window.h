@@ -14,7 +14,7 @@ class QPlainTextEdit;
 class QPushButton;
 class QTableWidget;
 
-namespace vmod17 {
+namespace melvado {
 
 /// The log as a table, newest last, with the whole of the chosen line below, and a button that
 /// copies it as a fault report.
@@ -23,7 +23,7 @@ namespace vmod17 {
 class LogWindow : public QDialog {
  public:
   /// `host` and `loop` outlive the window.
-  LogWindow(Host& host, QtEventLoop& loop, QWidget* parent);
+  LogWindow(Host& host, vmod17::QtEventLoop& loop, QWidget* parent);
 
   /// Reads the log and shows it from its end. `factor` is the number of pixels of a unit.
   void Open(double factor);
@@ -37,8 +37,8 @@ class LogWindow : public QDialog {
   QString ShownTime(const std::string& at) const;
 
   Host& host_;
-  QtEventLoop& loop_;
-  std::vector<LogEntry> entries_;
+  vmod17::QtEventLoop& loop_;
+  std::vector<vmod17::LogEntry> entries_;
   QTableWidget* lines_;
   QPlainTextEdit* line_;
   QLabel* note_;
@@ -47,4 +47,4 @@ class LogWindow : public QDialog {
   QPushButton* close_;
 };
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -22,8 +22,29 @@
 #include "qt/kit/theme.h"
 #include "shell/error_report.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::AsRunTimeError;
+using vmod17::ClaimOrAsk;
+using vmod17::EndOnSignal;
+using vmod17::HelpFolders;
+using vmod17::HelpWindow;
+using vmod17::HostKey;
+using vmod17::HostStore;
+using vmod17::kStatusNotShown;
+using vmod17::LanguageFolders;
+using vmod17::Notice;
+using vmod17::QtEventLoop;
+using vmod17::QtFileDialog;
+using vmod17::QtLanguageList;
+using vmod17::QtMessageBox;
+using vmod17::QtSystem;
+using vmod17::RunTimeError;
+using vmod17::SingleInstance;
+using vmod17::StoreOptions;
+using vmod17::TaggedValue;
+using vmod17::Theme;
 
 HostSetup SetupOfThisMachine() {
   const QtSystem system;
@@ -163,9 +184,9 @@ int Run() {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado
 
 int main(int argc, char* argv[]) {
   const auto application = vmod17::MakeApplication(argc, argv);
-  return vmod17::Run();
+  return melvado::Run();
 }

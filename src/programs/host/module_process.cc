@@ -10,7 +10,11 @@
 
 #include "programs/shared/places.h"
 
-namespace vmod17 {
+namespace melvado {
+
+using vmod17::kHostVariable;
+using vmod17::kSessionVariable;
+namespace ModuleLine = vmod17::ModuleLine;
 
 ModuleProcess::~ModuleProcess() {
   if (at_work_) {
@@ -122,4 +126,4 @@ void ModuleProcess::End(Module& module, const ModuleEnd& end) {
   if (on_end) on_end(end);
 }
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -12,7 +12,7 @@
 #include <memory>
 #include <vector>
 
-namespace vmod17 {
+namespace melvado {
 
 /// How a module has ended.
 struct ModuleEnd {
@@ -103,4 +103,4 @@ class ModuleProcess {
   std::vector<std::unique_ptr<Module>> leaving_;
 };
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -5,7 +5,10 @@
 
 #include "midi/midi_ports.h"
 
-namespace vmod17 {
+namespace melvado {
+
+using vmod17::FindDevice;
+using vmod17::LastingPortName;
 
 OutputChoice ListOutputs(const std::vector<std::string>& ports, const std::string& remembered) {
   OutputChoice choice;
@@ -22,4 +25,4 @@ OutputChoice ListOutputs(const std::vector<std::string>& ports, const std::strin
   return choice;
 }
 
-}  // namespace vmod17
+}  // namespace melvado

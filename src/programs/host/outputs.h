@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vmod17 {
+namespace melvado {
 
 /// A sound output that can be chosen.
 struct Output {
@@ -29,4 +29,4 @@ struct OutputChoice {
 ///               listed first, and stays chosen.
 OutputChoice ListOutputs(const std::vector<std::string>& ports, const std::string& remembered);
 
-}  // namespace vmod17
+}  // namespace melvado

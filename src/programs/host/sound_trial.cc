@@ -7,8 +7,18 @@
 #include <chrono>
 #include <utility>
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::EventLoop;
+using vmod17::MakeMidiOutput;
+using vmod17::MidiBefehl;
+using vmod17::MidiBytes;
+using vmod17::MidiDeviceOutput;
+using vmod17::MidiMember;
+using vmod17::MidiOptions;
+using vmod17::Notice;
+using vmod17::SoundFacts;
 
 constexpr std::array<int, 4> kChord = {60, 64, 67, 70};  // C7
 constexpr double kChordMs = 1400;
@@ -106,4 +116,4 @@ void SoundTest::LetGo() {
   if (output_) gone_ = vmod17::LetGo(std::move(output_));
 }
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -14,7 +14,7 @@
 #include "ports/event_loop.h"
 #include "programs/host/verdict.h"
 
-namespace vmod17 {
+namespace melvado {
 
 /// Plays a chord of four notes on one output and tells what became of it.
 class SoundTest {
@@ -23,7 +23,8 @@ class SoundTest {
 
   /// `options`  for each test; its soundfont is not used
   /// `loop`     outlives the test
-  SoundTest(MidiOptions options, EventLoop& loop) : options_(std::move(options)), loop_(loop) {}
+  SoundTest(vmod17::MidiOptions options, vmod17::EventLoop& loop)
+      : options_(std::move(options)), loop_(loop) {}
   ~SoundTest() { Stop(); }
   SoundTest(const SoundTest&) = delete;
   SoundTest& operator=(const SoundTest&) = delete;
@@ -46,14 +47,14 @@ class SoundTest {
   void End(const Verdict& verdict);
   void LetGo();
 
-  const MidiOptions options_;
-  EventLoop& loop_;
-  std::unique_ptr<MidiDeviceOutput> output_;
+  const vmod17::MidiOptions options_;
+  vmod17::EventLoop& loop_;
+  std::unique_ptr<vmod17::MidiDeviceOutput> output_;
   std::future<void> gone_;  // tells that an earlier output has let go of its device
   std::string port_;
-  std::vector<Notice> troubles_;
+  std::vector<vmod17::Notice> troubles_;
   Done done_;
   int patience_ = 0;  // timer
 };
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -15,7 +15,9 @@
 #include "programs/host/dialog_look.h"
 #include "programs/host/users.h"
 
-namespace vmod17 {
+namespace melvado {
+
+using vmod17::StoreUser;
 
 UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& user, Take take)
     : QDialog(parent),
@@ -131,4 +133,4 @@ QLineEdit& UserDialog::FaultyField() const {
   return number_->isReadOnly() ? *name_ : *number_;
 }
 
-}  // namespace vmod17
+}  // namespace melvado

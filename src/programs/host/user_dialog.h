@@ -14,24 +14,24 @@
 class QLabel;
 class QLineEdit;
 
-namespace vmod17 {
+namespace melvado {
 
 /// Asks for the three facts of a user, until they are taken or the dialog is left.
 ///
 /// Its widgets have names: name, first_name, number, note, fault, ok, cancel.
 class UserDialog : public QDialog {
  public:
-  using Take = std::function<std::optional<Notice>(const StoreUser&)>;
+  using Take = std::function<std::optional<vmod17::Notice>(const vmod17::StoreUser&)>;
 
   /// `user`  the one to be changed, whose number stays; without a number, a new one
   /// `take`  takes what was typed, or says why it cannot
-  UserDialog(QWidget* parent, const Words& words, const StoreUser& user, Take take);
+  UserDialog(QWidget* parent, const Words& words, const vmod17::StoreUser& user, Take take);
 
  private:
   QLineEdit* MakeField(const char* name, const std::string& text);
   QLabel* MakeLabel(const QString& text, QLineEdit& field);
   QLabel* MakeLine(const char* name);
-  StoreUser Typed() const;
+  vmod17::StoreUser Typed() const;
   void Try();
   void Grow();
   /// Where the fault of what was typed is to be mended.
@@ -46,4 +46,4 @@ class UserDialog : public QDialog {
   QLabel* fault_;  // in its place: what is wrong with what was typed
 };
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -5,8 +5,11 @@
 
 #include <algorithm>
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::Notice;
+using vmod17::StoreUser;
 
 // Whoever answers so to the module is taken for nobody.
 constexpr const char* kUnknownUser = "unbekannt";
@@ -109,4 +112,4 @@ void Sort(std::vector<StoreUser>& users, const QLocale& locale) {
   });
 }
 
-}  // namespace vmod17
+}  // namespace melvado

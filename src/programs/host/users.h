@@ -11,7 +11,7 @@
 #include "base/notice.h"
 #include "store/store_user.h"
 
-namespace vmod17 {
+namespace melvado {
 
 /// What a number and a name may have at most, in characters.
 inline constexpr int kLongestNumber = 50;
@@ -21,17 +21,17 @@ inline constexpr int kLongestName = 100;
 /// characters and marks of direction, which reach beyond the name wherever it is shown or printed;
 /// letters in their composed form; in the number also without what is not seen, so that two numbers
 /// that look alike are one.
-StoreUser Cleaned(const StoreUser& typed);
+vmod17::StoreUser Cleaned(const vmod17::StoreUser& typed);
 
 /// Why a cleaned user cannot be kept; nothing when he can. That the number is another's already is
 /// for the store to say; see `NumberTakenNotice`.
-std::optional<Notice> FaultOf(const StoreUser& user);
-Notice NumberTakenNotice(const std::string& number);
+std::optional<vmod17::Notice> FaultOf(const vmod17::StoreUser& user);
+vmod17::Notice NumberTakenNotice(const std::string& number);
 
 /// "Berg, Anna (4711)", in whatever direction its letters run.
-QString Shown(const StoreUser& user);
+QString Shown(const vmod17::StoreUser& user);
 
 /// By name as the language sorts, then by number.
-void Sort(std::vector<StoreUser>& users, const QLocale& locale);
+void Sort(std::vector<vmod17::StoreUser>& users, const QLocale& locale);
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -10,8 +10,12 @@
 
 #include "midi/midi_notices.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::AudioLostNotice;
+using vmod17::Notice;
+using vmod17::SoundFacts;
 
 // A signal at a thousandth of the full range is below the noise of usual sound cards.
 constexpr float kHeard = 0.001f;
@@ -130,4 +134,4 @@ std::string DriverName(const std::string& driver) {
   return driver;
 }
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -7,8 +7,12 @@
 
 #include "base/run_time_error.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::LanguageColumn;
+using vmod17::Notice;
+using vmod17::RunTimeError;
 
 QString Filled(QString text, const QStringList& details) {
   // From the last one down: a detail may hold what looks like a place for another.
@@ -57,4 +61,4 @@ QString Words::Say(const Notice& notice) const {
   return Filled(Word(notice.text_id, QString::fromStdString(notice.english)), details);
 }
 
-}  // namespace vmod17
+}  // namespace melvado

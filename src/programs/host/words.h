@@ -12,21 +12,21 @@
 #include "base/notice.h"
 #include "ports/language.h"
 
-namespace vmod17 {
+namespace melvado {
 
 /// The host's texts by text id, in a language that can change while the host runs. A text that the
 /// language lacks is said in English.
 class Words {
  public:
   /// `list` outlives the words.
-  explicit Words(const LanguageList& list) : list_(list) {}
+  explicit Words(const vmod17::LanguageList& list) : list_(list) {}
 
   /// Takes the language of this name; one that is not installed or cannot be made leaves English.
   void Speak(const std::string& name);
 
   /// The text, with what stands for %1, %2 and so on.
   QString Say(int id, const char* english, std::initializer_list<QString> details = {}) const;
-  QString Say(const Notice& notice) const;
+  QString Say(const vmod17::Notice& notice) const;
 
   /// How the language writes dates and numbers.
   const QLocale& locale() const { return locale_; }
@@ -34,9 +34,9 @@ class Words {
  private:
   QString Word(int id, const QString& english) const;
 
-  const LanguageList& list_;
-  std::unique_ptr<Language> language_;
+  const vmod17::LanguageList& list_;
+  std::unique_ptr<vmod17::Language> language_;
   QLocale locale_ = QLocale(QLocale::English);
 };
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -8,8 +8,13 @@
 #include "melvado_testing.h"
 #include "midi/soundfonts.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::ExistingSoundfonts;
+using vmod17::MessageBox;
+using vmod17::StoreUser;
+using vmod17::UsualSoundfonts;
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -169,4 +174,4 @@ TEST_F(BadInput, WithoutAnyLanguageTheWindowIsEnglish) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

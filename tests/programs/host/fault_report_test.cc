@@ -5,8 +5,10 @@
 
 #include <gmock/gmock.h>
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::LogEntry;
 
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -86,4 +88,4 @@ TEST(FaultReport, LeavesOutPasswordsWithWhateverCharacters) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

@@ -15,8 +15,12 @@
 #include "qt/desk/qt_message_box.h"
 #include "qt/kit/help_window.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::HelpWindow;
+using vmod17::MessageBox;
+using vmod17::QtMessageBox;
 
 using ::testing::ElementsAre;
 
@@ -135,4 +139,4 @@ TEST_F(HostHelpTest, KeepsItsOwnPageForItsOwnKey) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

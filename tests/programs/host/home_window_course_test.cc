@@ -17,8 +17,12 @@
 #include "programs/shared/places.h"
 #include "qt/desk/single_instance.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::MessageBox;
+using vmod17::ModuleKey;
+using vmod17::SingleInstance;
 
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -326,4 +330,4 @@ TEST_F(HomeWindowCourse, ShowsEveryLineOfALongLog) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

@@ -22,8 +22,13 @@
 #include "programs/host/user_dialog.h"
 #include "qt/screen_reader.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::DropDownWidget;
+using vmod17::MessageBox;
+using vmod17::PressWidget;
+using vmod17::ScreenReader;
 
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -751,4 +756,4 @@ TEST_F(AccessibleHome, TestsTheSoundOpensHelpAndLogAndEnds) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

@@ -13,7 +13,7 @@
 
 #include "melvado_testing.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
 
 using ::testing::IsEmpty;
@@ -106,4 +106,4 @@ TEST_F(LanguageFiles, MayHaveNoKeyOfTheProgramAtAll) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

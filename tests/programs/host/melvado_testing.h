@@ -19,16 +19,20 @@
 #include "qt/surroundings.h"
 #include "support/fake_platform.h"
 
-namespace vmod17 {
+namespace melvado {
+
+using vmod17::Serve;
+using vmod17::ServeUntil;
+using vmod17::Surrounding;
 
 /// MIDI ports that a test plugs in and pulls out, also while a thread plays on them.
-class PluggedPorts : public MidiPorts {
+class PluggedPorts : public vmod17::MidiPorts {
  public:
   void Plug(const std::vector<std::string>& names) {
     const std::lock_guard lock(mutex_);
     names_ = names;
   }
-  std::vector<MidiBytes> Got() {
+  std::vector<vmod17::MidiBytes> Got() {
     const std::lock_guard lock(mutex_);
     return got_;
   }
@@ -37,16 +41,16 @@ class PluggedPorts : public MidiPorts {
     const std::lock_guard lock(mutex_);
     return names_;
   }
-  std::unique_ptr<MidiPort> Open(const std::string& name) override {
+  std::unique_ptr<vmod17::MidiPort> Open(const std::string& name) override {
     if (!Has(name)) return nullptr;
     return std::make_unique<Port>(*this, name);
   }
 
  private:
-  class Port : public MidiPort {
+  class Port : public vmod17::MidiPort {
    public:
     Port(PluggedPorts& ports, std::string name) : ports_(ports), name_(std::move(name)) {}
-    bool Send(const MidiBytes& message) override {
+    bool Send(const vmod17::MidiBytes& message) override {
       if (!IsThere()) return false;
       const std::lock_guard lock(ports_.mutex_);
       ports_.got_.push_back(message);
@@ -66,7 +70,7 @@ class PluggedPorts : public MidiPorts {
 
   std::mutex mutex_;
   std::vector<std::string> names_;
-  std::vector<MidiBytes> got_;
+  std::vector<vmod17::MidiBytes> got_;
 };
 
 /// A host on a store of its own, with ports and a module in the hands of the test.
@@ -99,7 +103,7 @@ class HostStage : public testing::Test {
   void Open(HostSetup setup) {
     Close();
     host_ = std::make_unique<Host>(std::move(setup), loop_);
-    host_->SetTell([this](const Notice& notice) { told_.push_back(notice.text_id); });
+    host_->SetTell([this](const vmod17::Notice& notice) { told_.push_back(notice.text_id); });
     window_ = std::make_unique<HomeWindow>(*host_, loop_, messages_, dialog_);
     window_->resize(1024, 730);
     window_->Open();
@@ -127,9 +131,9 @@ class HostStage : public testing::Test {
     if (widget == nullptr) throw std::runtime_error(std::string("no widget ") + name);
     return widget;
   }
-  void Press(const char* name) { Find<PressWidget>(name)->click(); }
+  void Press(const char* name) { Find<vmod17::PressWidget>(name)->click(); }
   QString Caption(const char* name) const {
-    return dynamic_cast<Dressed*>(Find<QWidget>(name))->caption();
+    return dynamic_cast<vmod17::Dressed*>(Find<QWidget>(name))->caption();
   }
   QStringList Entries(const char* name) const {
     const auto* list = Find<QComboBox>(name);
@@ -152,12 +156,12 @@ class HostStage : public testing::Test {
   Surrounding runtime_{"XDG_RUNTIME_DIR", folder_.path().toUtf8()};
   std::vector<std::string> locales_ = {"de_DE"};
   std::shared_ptr<PluggedPorts> ports_ = std::make_shared<PluggedPorts>();
-  QtEventLoop loop_;
-  ScriptedMessageBox messages_;
-  ScriptedFileDialog dialog_;
+  vmod17::QtEventLoop loop_;
+  vmod17::ScriptedMessageBox messages_;
+  vmod17::ScriptedFileDialog dialog_;
   std::vector<int> told_;
   std::unique_ptr<Host> host_;
   std::unique_ptr<HomeWindow> window_;
 };
 
-}  // namespace vmod17
+}  // namespace melvado

@@ -9,8 +9,10 @@
 
 #include "melvado_testing.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::StoreOptions;
 
 using Kind = ModuleEnd::Kind;
 
@@ -281,4 +283,4 @@ TEST(ModuleProcess, EndsItsModuleByTheModulesOwnWayWhenTheHostGoes) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

@@ -5,7 +5,7 @@
 
 #include <gmock/gmock.h>
 
-namespace vmod17 {
+namespace melvado {
 namespace {
 
 TEST(Outputs, AreTheSynthesiserWhereThereIsNoPort) {
@@ -37,4 +37,4 @@ TEST(Outputs, ShowARememberedOneThatIsGone) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

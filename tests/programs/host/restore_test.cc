@@ -9,8 +9,13 @@
 
 #include "melvado_testing.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::HostStore;
+using vmod17::MessageBox;
+using vmod17::StoreOptions;
+using vmod17::StoreUser;
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -140,4 +145,4 @@ TEST_F(Restore, IsNotOfferedForAServer) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

@@ -14,8 +14,13 @@
 
 #include "melvado_testing.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::HostStore;
+using vmod17::LogEntry;
+using vmod17::StoreOptions;
+using vmod17::StoreUser;
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
@@ -174,4 +179,4 @@ TEST_F(SessionTest, IsLoggedFromItsStartOnWithTheHostsOwnErrors) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

@@ -11,8 +11,14 @@
 #include "melvado_testing.h"
 #include "midi/soundfonts.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::MidiBytes;
+using vmod17::MidiOptions;
+using vmod17::MidiPort;
+using vmod17::MidiPorts;
+using vmod17::QtEventLoop;
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
@@ -224,4 +230,4 @@ TEST_F(SoundTestTest, SaysNothingOnceItIsStopped) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

@@ -6,8 +6,15 @@
 #include "melvado_testing.h"
 #include "results/results_fixture.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::HostStore;
+using vmod17::kTraining;
+using vmod17::kWeiter;
+using vmod17::ResultsFixture;
+using vmod17::StoreOptions;
+using vmod17::Wort;
 
 class Students : public HostStage {
  protected:
@@ -80,4 +87,4 @@ TEST_F(Students, SeeTheirDataOnTheResultsPage) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

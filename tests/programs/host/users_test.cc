@@ -5,8 +5,10 @@
 
 #include <gmock/gmock.h>
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::StoreUser;
 
 int FaultIdOf(const StoreUser& user) {
   const auto fault = FaultOf(user);
@@ -91,4 +93,4 @@ TEST(Users, AreSortedAsTheLanguageSorts) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

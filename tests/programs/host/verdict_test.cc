@@ -12,8 +12,19 @@
 #include "qt/desk/qt_language.h"
 #include "qt/kit/look.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+namespace look = vmod17::look;
+using vmod17::AudioLostNotice;
+using vmod17::LanguageColumn;
+using vmod17::NoAudioNotice;
+using vmod17::NoSoundfontNotice;
+using vmod17::Notice;
+using vmod17::OtherSoundfontNotice;
+using vmod17::PortVanishedNotice;
+using vmod17::QtLanguageList;
+using vmod17::SoundFacts;
 
 using ::testing::ElementsAre;
 
@@ -149,4 +160,4 @@ TEST(Verdict, FitsItsPlaceInEveryLanguage) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado

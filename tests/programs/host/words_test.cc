@@ -7,8 +7,12 @@
 
 #include "support/fake_platform.h"
 
-namespace vmod17 {
+namespace melvado {
 namespace {
+
+using vmod17::FakeLanguages;
+using vmod17::LanguageList;
+using vmod17::Notice;
 
 class WordsTest : public testing::Test {
  protected:
@@ -54,4 +58,4 @@ TEST_F(WordsTest, TakeDetailsAsTheyAre) {
 }
 
 }  // namespace
-}  // namespace vmod17
+}  // namespace melvado
