@@ -16,7 +16,7 @@ namespace vmod17 {
 /// Entries of which one at the most is selected.
 class ItemList : public Control {
  public:
-  enum class Look { kDropDown, kBox };
+  enum class Shape { kDropDown, kBox };
   /// Marks an entry whose value is its place in the list.
   static constexpr int kValueIsIndex = -999;
 
@@ -27,12 +27,12 @@ class ItemList : public Control {
     bool operator==(const Entry&) const = default;
   };
 
-  ItemList(Form& form, std::string name, int index = kNoIndex, Look look = Look::kDropDown)
-      : Control(form, std::move(name), index), look_(look) {}
+  ItemList(Form& form, std::string name, int index = kNoIndex, Shape shape = Shape::kDropDown)
+      : Control(form, std::move(name), index), shape_(shape) {}
 
   std::function<void()> Click;
 
-  Look look() const { return look_; }
+  Shape shape() const { return shape_; }
   const std::vector<Entry>& entries() const { return entries_; }
   int count() const { return static_cast<int>(entries_.size()); }
   /// The selected entry, from 0; -1 for none.
@@ -95,7 +95,7 @@ class ItemList : public Control {
     }
   }
 
-  Look look_;
+  Shape shape_;
   std::vector<Entry> entries_;
   int list_index_ = -1;
 };

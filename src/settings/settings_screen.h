@@ -52,9 +52,9 @@ class Einstellung1 : public Form {
   OptionGroup akk_grp{*this, "akk_grp", 0, 1, 0};
   OptionGroup aus_w{*this, "aus_w", 0, 1, 0};
   OptionGroup akk_anzg{*this, "akk_anzg", 0, 1, 0};
-  ControlArray<ItemList> klanglst{*this, "klanglst", 0, 1, ItemList::Look::kBox};
+  ControlArray<ItemList> klanglst{*this, "klanglst", 0, 1, ItemList::Shape::kBox};
   ControlArray<Label> lb11{*this, "lb11", 0, 2};
-  ControlArray<ItemList> grplst{*this, "grplst", 0, 1, ItemList::Look::kBox};
+  ControlArray<ItemList> grplst{*this, "grplst", 0, 1, ItemList::Shape::kBox};
   ControlArray<Label> lb2{*this, "lb2", 0, 3};
   ItemList akkzahl_cmb{*this, "akkzahl_cmb"};
   ItemList oktav_cmb{*this, "oktav_cmb"};

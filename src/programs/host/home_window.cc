@@ -93,15 +93,18 @@ HomeWindow::HomeWindow(Host& host, QtEventLoop& loop, MessageBox& messages, File
   setMinimumSize((kCanvas * kSmallest).toSize());
   title_ = Make<TextWidget>(
       "title",
-      {.rect = {kLeft + 36, 30, 560, 44}, .look = Look::kOnBanner, .text = 32, .bold = true});
+      {.rect = {kLeft + 36, 30, 560, 44}, .dress = Dress::kOnBanner, .text = 32, .bold = true});
   subtitle_ = Make<TextWidget>(
-      "subtitle", {.rect = {kLeft + 36, 76, 560, 30}, .look = Look::kOnBanner, .text = 17});
+      "subtitle", {.rect = {kLeft + 36, 76, 560, 30}, .dress = Dress::kOnBanner, .text = 17});
   BuildUsers();
   BuildSound();
-  start_ = MakeButton(
-      "start",
-      {.rect = kStart, .look = Look::kPrimary, .text = 26, .align = Qt::AlignCenter, .bold = true},
-      [this] { Start(); });
+  start_ = MakeButton("start",
+                      {.rect = kStart,
+                       .dress = Dress::kPrimary,
+                       .text = 26,
+                       .align = Qt::AlignCenter,
+                       .bold = true},
+                      [this] { Start(); });
   BuildFooter();
   OrderTabs();
   Connect();
@@ -144,7 +147,7 @@ DropDownWidget* HomeWindow::MakeList(const char* name, const QRectF& rect,
 }
 
 TextWidget* HomeWindow::MakeHeading(const char* name, const QRectF& rect) {
-  return Make<TextWidget>(name, {.rect = rect, .look = Look::kHeading, .text = 17, .bold = true});
+  return Make<TextWidget>(name, {.rect = rect, .dress = Dress::kHeading, .text = 17, .bold = true});
 }
 
 void HomeWindow::BuildUsers() {
@@ -176,7 +179,7 @@ void HomeWindow::BuildSound() {
     host_.ChooseOutput(host_.outputs().outputs[static_cast<std::size_t>(index)].name);
   });
   output_note_ = Make<TextWidget>(
-      "output_note", {.rect = {x, y + 78, kField, 44}, .look = Look::kHint, .text = 14});
+      "output_note", {.rect = {x, y + 78, kField, 44}, .dress = Dress::kHint, .text = 14});
   test_ = MakeButton("test", ButtonPlace({x, y + 128, kField, 42}, 16), [this] { Test(); });
   soundfont_ = MakeButton("soundfont", ButtonPlace({x, y + 180, half, 36}, 14),
                           [this] { ChooseSoundfont(); });
@@ -184,7 +187,7 @@ void HomeWindow::BuildSound() {
       MakeButton("usual_soundfont", ButtonPlace({x + half + 10, y + 180, half, 36}, 14),
                  [this] { TakeSoundfont(""); });
   soundfont_note_ = Make<TextWidget>(
-      "soundfont_note", {.rect = {x, y + 218, kField, 30}, .look = Look::kQuiet, .text = 13});
+      "soundfont_note", {.rect = {x, y + 218, kField, 30}, .dress = Dress::kQuiet, .text = 13});
   verdict_ = Make<TextWidget>(
       "verdict", {.rect = kVerdictCard.adjusted(kPadding, 8, -kPadding, -10), .text = 16});
 }
@@ -192,7 +195,7 @@ void HomeWindow::BuildSound() {
 void HomeWindow::BuildFooter() {
   const auto quiet = [](double x, double width) {
     return Placement{.rect = {x, kFooter, width, 40},
-                     .look = Look::kQuiet,
+                     .dress = Dress::kQuiet,
                      .text = 15,
                      .align = Qt::AlignCenter};
   };
@@ -205,7 +208,7 @@ void HomeWindow::BuildFooter() {
   restore_->setVisible(host_.KeepsAFile());
   quit_ = MakeButton("quit", quiet(kLeft + kWidth - 150, 150), [this] { close(); });
   version_ = Make<TextWidget>("version", {.rect = {kLeft + 576, kFooter + 4, 142, 32},
-                                          .look = Look::kQuiet,
+                                          .dress = Dress::kQuiet,
                                           .text = 13,
                                           .align = Qt::AlignCenter});
   version_->SetCaption(

@@ -49,7 +49,7 @@ std::optional<QColor> Optional(const std::optional<Color>& color) {
 }
 
 /// A picture with a place of its own has a white ground there; another stands on what is below it.
-bool BringsItsWhite(Look look) { return look == Look::kMark || look == Look::kTile; }
+bool BringsItsWhite(Dress dress) { return dress == Dress::kMark || dress == Dress::kTile; }
 
 /// A picture without its white, its black in another colour.
 QImage InInk(const QPixmap& picture, const QColor& ink) {
@@ -139,15 +139,15 @@ void PressWidget::SetMarks(const std::vector<AnswerMark>& marks) {
 }
 
 QSizeF PressWidget::TextBox() const {
-  const double side = place_.look == Look::kTile ? 4 : 20;
+  const double side = place_.dress == Dress::kTile ? 4 : 20;
   return QSizeF(width() - Px(side), height() - Px(6));
 }
 
 QColor PressWidget::Ground() const {
-  if (place_.look == Look::kTile) return back_.value_or(QColor(Qt::white));
+  if (place_.dress == Dress::kTile) return back_.value_or(QColor(Qt::white));
   if (back_) return isDown() ? back_->darker(112) : underMouse() ? back_->darker(104) : *back_;
   if (!isEnabled()) return colors().disabled_fill;
-  if (place_.look == Look::kPrimary) {
+  if (place_.dress == Dress::kPrimary) {
     return isDown() || underMouse() ? colors().accent_hover : colors().accent;
   }
   if (isDown()) return colors().pressed;
@@ -157,18 +157,18 @@ QColor PressWidget::Ground() const {
 QColor PressWidget::Edge() const {
   if (back_) return back_->darker(130);
   if (!isEnabled()) return colors().line;
-  return place_.look == Look::kPrimary ? Ground() : colors().button_line;
+  return place_.dress == Dress::kPrimary ? Ground() : colors().button_line;
 }
 
 QColor PressWidget::Ink() const {
   if (back_) return fore_.value_or(look::TextOn(*back_));
-  if (place_.look == Look::kTile) return Qt::black;
-  return InkOn(Ground(), place_.look == Look::kQuiet ? colors().accent : colors().text);
+  if (place_.dress == Dress::kTile) return Qt::black;
+  return InkOn(Ground(), place_.dress == Dress::kQuiet ? colors().accent : colors().text);
 }
 
 void PressWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (place_.look == Look::kTile) {
+  if (place_.dress == Dress::kTile) {
     PaintTile(painter);
   } else {
     PaintButton(painter);
@@ -209,7 +209,7 @@ void PressWidget::PaintNumber(QPainter& painter) {
 
 /// From the lower right corner upwards, and further to the left when the column is full.
 void PressWidget::PaintMarks(QPainter& painter) {
-  const bool tile = place_.look == Look::kTile;
+  const bool tile = place_.dress == Dress::kTile;
   const double height = Px(tile ? kTileMark : kLargeMark);
   const double gap = Px(1);
   const double margin = Px(tile ? 2 : 8);
@@ -228,7 +228,7 @@ void PressWidget::PaintMarks(QPainter& painter) {
 
 void PressWidget::PaintButton(QPainter& painter) {
   const QRectF box(rect());
-  const bool round = place_.look == Look::kQuiet;
+  const bool round = place_.dress == Dress::kQuiet;
   const double radius = round ? box.height() / 2 : Px(look::kRadius);
   look::DrawPlate(painter, box, Ground(), Edge(), radius, Px(1.2));
   const QRectF inside = box.adjusted(Px(10), Px(3), -Px(10), -Px(3));
@@ -280,22 +280,22 @@ void TextWidget::SetImage(const PictureId& image) {
 }
 
 QSizeF TextWidget::TextBox() const {
-  const double side = place_.look == Look::kMark || HasGround() ? 6 : 0;
+  const double side = place_.dress == Dress::kMark || HasGround() ? 6 : 0;
   return QSizeF(width() - Px(side), height());
 }
 
 /// White under a plain label is that of the paper.
 bool TextWidget::HasGround() const {
-  return back_ && (place_.look == Look::kMark || *back_ != QColor(Qt::white));
+  return back_ && (place_.dress == Dress::kMark || *back_ != QColor(Qt::white));
 }
 
 QColor TextWidget::Ground() const {
   const bool is_picture =
       image_.kind == PictureId::Kind::kNotation || image_.kind == PictureId::Kind::kSymbol;
-  if (is_picture) return BringsItsWhite(place_.look) ? QColor(Qt::white) : GroundBelow();
+  if (is_picture) return BringsItsWhite(place_.dress) ? QColor(Qt::white) : GroundBelow();
   if (HasGround()) return *back_;
-  if (place_.look == Look::kOnBanner) return look::kBannerEnd;
-  return place_.look == Look::kPrimary ? colors().hover : GroundBelow();
+  if (place_.dress == Dress::kOnBanner) return look::kBannerEnd;
+  return place_.dress == Dress::kPrimary ? colors().hover : GroundBelow();
 }
 
 QColor TextWidget::Ink() const {
@@ -307,19 +307,19 @@ QColor TextWidget::Ink() const {
            : look::IsReadable(color, ground) ? color
                                              : look::TextOn(ground);
   };
-  switch (place_.look) {
-    case Look::kMark:
+  switch (place_.dress) {
+    case Dress::kMark:
       if (back_) return fore_.value_or(look::TextOn(ground));
       return usual(colors().text);
-    case Look::kHeading:
+    case Dress::kHeading:
       return always(colors().text);
-    case Look::kHint:
+    case Dress::kHint:
       return always(colors().hint);
-    case Look::kPrimary:
+    case Dress::kPrimary:
       return usual(colors().accent);
-    case Look::kQuiet:
+    case Dress::kQuiet:
       return usual(colors().quiet_text);
-    case Look::kOnBanner:
+    case Dress::kOnBanner:
       return Qt::white;
     default:
       return usual(colors().text);
@@ -340,13 +340,13 @@ void TextWidget::PaintImage(QPainter& painter) {
   const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
   if (picture.isNull()) {
     DrawSign(painter, image_.kind, QRectF(rect()), colors().accent);
-    if (place_.look == Look::kMark) painter.fillRect(rect(), Ground());
+    if (place_.dress == Dress::kMark) painter.fillRect(rect(), Ground());
     look::DrawText(painter, QRectF(rect()), caption(), Set(), Ink(), place_.align);
     return;
   }
   const QSizeF size = picture.deviceIndependentSize();
   const double free = width() - size.width();
-  const bool white = BringsItsWhite(place_.look);
+  const bool white = BringsItsWhite(place_.dress);
   const QPointF corner(white ? qRound(free / 2) : 0, qRound((height() - size.height()) / 2));
   if (!white) return painter.drawImage(corner, InInk(picture, Ink()));
   painter.fillRect(rect(), Qt::white);
@@ -362,10 +362,10 @@ void TextWidget::Paint(QPainter& painter) {
   if (image_.kind != PictureId::Kind::kNone) return PaintImage(painter);
   QRectF box(rect());
   if (HasGround()) {
-    const bool mark = place_.look == Look::kMark;
+    const bool mark = place_.dress == Dress::kMark;
     look::DrawPlate(painter, box, *back_, back_->darker(120), Px(mark ? 3 : look::kRadius), Px(1));
     box.adjust(Px(4), 0, -Px(4), 0);
-  } else if (place_.look == Look::kPrimary) {
+  } else if (place_.dress == Dress::kPrimary) {
     look::DrawPlate(painter, box, colors().hover, colors().accent, Px(look::kRadius), Px(1.2));
     box.adjust(Px(4), 0, -Px(4), 0);
   }
@@ -377,7 +377,7 @@ void TextWidget::Paint(QPainter& painter) {
 PlateWidget::PlateWidget(QWidget* parent, const PageStyle& style, const Placement& place)
     : QGroupBox(parent), Dressed(*this, style, place) {
   setFlat(true);
-  if (place.look == Look::kCell) setFocusPolicy(Qt::StrongFocus);
+  if (place.dress == Dress::kCell) setFocusPolicy(Qt::StrongFocus);
 }
 
 void PlateWidget::paintEvent(QPaintEvent*) {
@@ -387,46 +387,46 @@ void PlateWidget::paintEvent(QPaintEvent*) {
 
 void PlateWidget::Paint(QPainter& painter) {
   const QRectF box(rect());
-  switch (place_.look) {
-    case Look::kTile:
+  switch (place_.dress) {
+    case Dress::kTile:
       if (back_) look::DrawPlate(painter, box, *back_, {}, Px(4), 0);
       return;
-    case Look::kCard:
+    case Dress::kCard:
       look::DrawCard(painter, box, colors(), colors().card, style_.factor);
       if (back_) look::DrawCardHead(painter, box, Px(kCardHead), *back_, style_.factor);
       return;
-    case Look::kSmallCard:
+    case Dress::kSmallCard:
       return PaintSmallCard(painter);
-    case Look::kCell:
+    case Dress::kCell:
       return PaintCell(painter);
-    case Look::kNotice:
+    case Dress::kNotice:
       look::DrawPlate(painter, box, back_.value_or(colors().card), colors().accent,
                       Px(look::kCardRadius), Px(2));
       return;
-    case Look::kPlain:
-    case Look::kHeading:
-    case Look::kHint:
-    case Look::kQuiet:
-    case Look::kPrimary:
-    case Look::kLarge:
-    case Look::kMark:
-    case Look::kOnBanner:
+    case Dress::kPlain:
+    case Dress::kHeading:
+    case Dress::kHint:
+    case Dress::kQuiet:
+    case Dress::kPrimary:
+    case Dress::kLarge:
+    case Dress::kMark:
+    case Dress::kOnBanner:
       return;
   }
 }
 
 QColor PlateWidget::GroundAt(const QPoint& point) const {
-  switch (place_.look) {
-    case Look::kTile:
+  switch (place_.dress) {
+    case Dress::kTile:
       return back_.value_or(GroundBelow());
-    case Look::kCard:
+    case Dress::kCard:
       return back_ && point.y() < Px(kCardHead) ? *back_ : colors().card;
-    case Look::kSmallCard:
+    case Dress::kSmallCard:
       if (back_ && point.y() < Px(kSmallCardHead)) return *back_;
       return isEnabled() ? colors().card : colors().locked_card;
-    case Look::kCell:
+    case Dress::kCell:
       return Qt::white;
-    case Look::kNotice:
+    case Dress::kNotice:
       return back_.value_or(colors().card);
     default:
       return GroundBelow();
@@ -455,7 +455,7 @@ void PlateWidget::PaintCell(QPainter& painter) {
 }
 
 void PlateWidget::keyPressEvent(QKeyEvent* event) {
-  const bool moves = place_.look == Look::kCell && LeadsOn(event) && move_focus;
+  const bool moves = place_.dress == Dress::kCell && LeadsOn(event) && move_focus;
   if (!moves || !move_focus(event->key())) event->ignore();
 }
 

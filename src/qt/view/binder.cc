@@ -272,9 +272,9 @@ bool IsShown(const Control& control) {
   return true;
 }
 
-bool IsPlate(const Control& control, Look look) {
+bool IsPlate(const Control& control, Dress dress) {
   if (dynamic_cast<const Frame*>(&control) != nullptr) return true;
-  return dynamic_cast<const Panel*>(&control) != nullptr && look != Look::kMark;
+  return dynamic_cast<const Panel*>(&control) != nullptr && dress != Dress::kMark;
 }
 
 std::unique_ptr<Binding> BindSimple(Control& control, const Placement& place,
@@ -283,7 +283,7 @@ std::unique_ptr<Binding> BindSimple(Control& control, const Placement& place,
     return std::make_unique<PressBinding>(dynamic_cast<Pressable&>(control),
                                           *new PressWidget(parent, site.style, place), site);
   }
-  if (IsPlate(control, place.look)) {
+  if (IsPlate(control, place.dress)) {
     return std::make_unique<PlateBinding>(control, *new PlateWidget(parent, site.style, place),
                                           site);
   }
@@ -377,7 +377,7 @@ std::unique_ptr<Binding> Bind(Control& control, const Placement& place, const Bi
                                            site);
   }
   if (auto* list = dynamic_cast<ItemList*>(&control)) {
-    if (list->look() == ItemList::Look::kDropDown) {
+    if (list->shape() == ItemList::Shape::kDropDown) {
       return std::make_unique<DropDownBinding>(
           *list, *new DropDownWidget(parent, site.style, place), site);
     }

@@ -20,7 +20,7 @@
 namespace vmod17 {
 
 /// How a control is dressed. What does not suit the control's kind is taken as kPlain.
-enum class Look {
+enum class Dress {
   kPlain,      ///< a label without ground, a button like the others, a frame that is not seen
   kCard,       ///< a frame as a white card
   kSmallCard,  ///< the same with a lower head, which tells when the frame is locked
@@ -48,7 +48,7 @@ inline constexpr double kLeastFactor = 0.9;
 
 struct Placement {
   QRectF rect;
-  Look look = Look::kPlain;
+  Dress dress = Dress::kPlain;
   double text = 14;  ///< height of the type
   Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter;
   bool bold = false;

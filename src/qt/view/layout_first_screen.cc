@@ -33,7 +33,7 @@ Layout LayoutFirstScreen(const Form&, const QSizeF& page) {
                            .named_by = "grdeinst_lb(0)"};
   const double choice = y + kBanner + 24;
   places["grdeinst_lb(0)"] = {.rect = QRectF(x + kMargin, choice, inside, 28),
-                              .look = Look::kHeading,
+                              .dress = Dress::kHeading,
                               .text = 17,
                               .bold = true};
   for (int i = 1; i <= 3; ++i) {
@@ -42,19 +42,19 @@ Layout LayoutFirstScreen(const Form&, const QSizeF& page) {
   }
   const double bottom = y + kHeight - 32 - 48;
   places["cmdHilfe"] = {.rect = QRectF(x + kMargin, bottom + 2, 44, 44),
-                        .look = Look::kQuiet,
+                        .dress = Dress::kQuiet,
                         .text = 20,
                         .align = Qt::AlignCenter};
   places["cmdEnde"] = {.rect = QRectF(x + kWidth - kMargin - 180 - 16 - 120, bottom, 120, 48),
                        .text = 16,
                        .align = Qt::AlignCenter};
   places["cmdOK"] = {.rect = QRectF(x + kWidth - kMargin - 180, bottom, 180, 48),
-                     .look = Look::kPrimary,
+                     .dress = Dress::kPrimary,
                      .text = 19,
                      .align = Qt::AlignCenter,
                      .bold = true};
   places["versionszeile"] = {.rect = QRectF(x, y + kHeight + 16, kWidth, 22),
-                             .look = Look::kQuiet,
+                             .dress = Dress::kQuiet,
                              .text = 13,
                              .align = Qt::AlignCenter};
 

@@ -79,11 +79,11 @@ void FillHeader(Layout& layout, const Form& form, const Sheet& sheet) {
   layout.title_align = Qt::AlignLeft | Qt::AlignVCenter;
   layout.places["datum"] = {
       .rect = QRectF(inside.left(), inside.top() + 36, time_up ? 250 : 600, 18),
-      .look = Look::kQuiet,
+      .dress = Dress::kQuiet,
       .text = 13};
   layout.places["zeit_um"] = {
       .rect = QRectF(inside.left() + (dated ? 260 : 0), inside.top() + 35, dated ? 340 : 600, 20),
-      .look = Look::kHint,
+      .dress = Dress::kHint,
       .text = 15,
       .bold = true};
   layout.places["lab_ges"] = {
@@ -92,7 +92,7 @@ void FillHeader(Layout& layout, const Form& form, const Sheet& sheet) {
       .align = Qt::AlignRight | Qt::AlignVCenter,
       .bold = true};
   layout.places["ergebnis(0)"] = {.rect = QRectF(inside.right() - 130, inside.top() + 9, 130, 42),
-                                  .look = Look::kMark,
+                                  .dress = Dress::kMark,
                                   .text = 24,
                                   .align = Qt::AlignCenter,
                                   .bold = true,
@@ -114,7 +114,7 @@ void FillCell(Layout& layout, const Form& form, int e, double left, double top) 
   const double x = left + (kColumn - kCellWidth) / 2;
   auto& places = layout.places;
   places[IdOf("Akkbez", e)] = {.rect = QRectF(x + (kCellWidth - 88) / 2, top, 88, 36),
-                               .look = Look::kTile,
+                               .dress = Dress::kTile,
                                .text = 15,
                                .align = Qt::AlignCenter};
   QRectF panel(x, top, kCellWidth, 80);
@@ -122,9 +122,9 @@ void FillCell(Layout& layout, const Form& form, int e, double left, double top) 
     panel.moveTop(top + control->top.value_or(36));
     panel.setHeight(control->height.value_or(80));
   }
-  places[IdOf("klang_pan", e)] = {.rect = panel, .look = Look::kCell};
+  places[IdOf("klang_pan", e)] = {.rect = panel, .dress = Dress::kCell};
   places[IdOf("jz_kl", e)] = {.rect = panel.adjusted(4, 4, -4, -4),
-                              .look = Look::kTile,
+                              .dress = Dress::kTile,
                               .text = 15,
                               .align = Qt::AlignCenter};
   places[IdOf("akk_group", e)] = {.rect = QRectF(x, top, 96, 20),
@@ -132,7 +132,7 @@ void FillCell(Layout& layout, const Form& form, int e, double left, double top) 
                                   .align = Qt::AlignCenter,
                                   .least_width = kColumn - 2};
   places[IdOf("ergebnis", e)] = {.rect = QRectF(x, top, kCellWidth, 20),
-                                 .look = Look::kMark,
+                                 .dress = Dress::kMark,
                                  .text = 14,
                                  .align = Qt::AlignCenter,
                                  .bold = true};
@@ -197,7 +197,7 @@ void FillTable(Layout& layout, const Form& form, const Table& table) {
     const auto& [name, value] = table.rows[i];
     const QRectF row(table.box.left(), y, table.box.width(), heights[i]);
     layout.places[name] = {.rect = QRectF(row.topLeft(), QSizeF(table.names, heights[i])),
-                           .look = Look::kQuiet,
+                           .dress = Dress::kQuiet,
                            .text = size,
                            .align = Qt::AlignLeft | Qt::AlignTop,
                            .capital = true};
@@ -211,7 +211,7 @@ void FillTable(Layout& layout, const Form& form, const Table& table) {
 
 Placement Headline(const QRectF& card) {
   return {.rect = QRectF(card.left() + kEdge, card.top() + 8, card.width() - 2 * kEdge, 42),
-          .look = Look::kHeading,
+          .dress = Dress::kHeading,
           .text = 18,
           .bold = true};
 }
@@ -244,7 +244,7 @@ void CentreUserLine(Layout& layout, const Form& form, const QRectF& room, int k,
   const double left = room.left() + (room.width() - names - values) / 2;
   const double height = HeightOf(CaptionOf(form, value), values * 1.05, kUserType);
   layout.places[name] = {.rect = QRectF(left, y, names, height),
-                         .look = Look::kQuiet,
+                         .dress = Dress::kQuiet,
                          .text = kUserType,
                          .align = Qt::AlignLeft | Qt::AlignTop};
   layout.places[value] = {.rect = QRectF(left + names, y, values, height),
@@ -292,13 +292,13 @@ void FillButtons(Layout& layout, const Sheet& sheet) {
     places[IdOf("cmdPrint", i)] = {
         .rect = QRectF(right - 342, y, 150, 38), .text = 15, .align = Qt::AlignCenter};
     places[IdOf("cmdOK", i)] = {.rect = QRectF(right - 180, y, 178, 38),
-                                .look = Look::kPrimary,
+                                .dress = Dress::kPrimary,
                                 .text = 16,
                                 .align = Qt::AlignCenter,
                                 .bold = true};
   }
   places["cmdHilfe"] = {.rect = QRectF(sheet.left, y - 1, 40, 40),
-                        .look = Look::kQuiet,
+                        .dress = Dress::kQuiet,
                         .text = 19,
                         .align = Qt::AlignCenter};
 }

@@ -86,10 +86,10 @@ class CardBuilder {
     // The loudness has no caption but that of its slider.
     heading_ = card.frame == 14 ? "lb14(0)" : IdOf("geinst_lb", card.frame);
     layout_.places[IdOf("grdeinst", card.frame)] = {
-        .rect = card_, .look = Look::kSmallCard, .named_by = heading_};
+        .rect = card_, .dress = Dress::kSmallCard, .named_by = heading_};
     layout_.places[heading_] = {
         .rect = QRectF(Left(), card_.top() + 3, Inside() - kLock, kHead - 4),
-        .look = Look::kHeading,
+        .dress = Dress::kHeading,
         .text = 14,
         .bold = true,
         .capital = true};
@@ -134,7 +134,7 @@ class CardBuilder {
     }
     layout_.places[IdOf(labels, 2)] = {
         .rect = QRectF(card_.right() - kMargin - width, top + height + 3, width, kNote),
-        .look = Look::kHint,
+        .dress = Dress::kHint,
         .text = 14,
         .bold = true};
   }
@@ -189,7 +189,7 @@ class CardBuilder {
   void Note(const std::string& id, double left, double width) { Note(id, left, width, next_); }
   void Note(const std::string& id, double left, double width, double top) {
     layout_.places[id] = {
-        .rect = QRectF(left, top, width, kNote), .look = Look::kQuiet, .text = 13};
+        .rect = QRectF(left, top, width, kNote), .dress = Dress::kQuiet, .text = 13};
   }
 
   Layout& layout_;
@@ -254,7 +254,7 @@ void SetHeadings(Layout& layout, const Form& form) {
   double size = kLargest;
   for (const auto& [id, place] : layout.places) {
     const Control* const label = FindControl(form, id);
-    if (place.look != Look::kHeading || label == nullptr) continue;
+    if (place.dress != Dress::kHeading || label == nullptr) continue;
     const QString text = QString::fromStdString(label->caption).trimmed();
     const auto too_wide = [&] {
       const QFontMetricsF metrics(look::Type(size, look::Weight::kBold));
@@ -263,7 +263,7 @@ void SetHeadings(Layout& layout, const Form& form) {
     while (size > kSmallest && too_wide()) size -= 1;
   }
   for (auto& [id, place] : layout.places) {
-    if (place.look == Look::kHeading) place.text = size;
+    if (place.dress == Dress::kHeading) place.text = size;
   }
 }
 
@@ -273,18 +273,18 @@ void FillBar(Layout& layout, const QRectF& bar) {
       .text = 14};
   const double middle = bar.bottom() - kMainButton / 2;
   const auto button = [&](const std::string& id, double left, double width, double height,
-                          Look look, double text) {
+                          Dress dress, double text) {
     layout.places[id] = {.rect = QRectF(left, middle - height / 2, width, height),
-                         .look = look,
+                         .dress = dress,
                          .text = text,
                          .align = Qt::AlignCenter,
-                         .bold = look == Look::kPrimary};
+                         .bold = dress == Dress::kPrimary};
   };
-  button("cmdZurueck", bar.left(), 140, 46, Look::kPlain, 16);
-  button("cmdHilfe", bar.left() + 156, 44, 44, Look::kQuiet, 20);
-  button("cmdOptionRead", bar.right() - 260 - 24 - 210 - 12 - 150, 150, 40, Look::kQuiet, 14);
-  button("cmdOptionSave", bar.right() - 260 - 24 - 210, 210, 40, Look::kQuiet, 14);
-  button("cmdOK", bar.right() - 260, 260, kMainButton, Look::kPrimary, 22);
+  button("cmdZurueck", bar.left(), 140, 46, Dress::kPlain, 16);
+  button("cmdHilfe", bar.left() + 156, 44, 44, Dress::kQuiet, 20);
+  button("cmdOptionRead", bar.right() - 260 - 24 - 210 - 12 - 150, 150, 40, Dress::kQuiet, 14);
+  button("cmdOptionSave", bar.right() - 260 - 24 - 210, 210, 40, Dress::kQuiet, 14);
+  button("cmdOK", bar.right() - 260, 260, kMainButton, Dress::kPrimary, 22);
 }
 
 }  // namespace

@@ -54,7 +54,7 @@ void FillStrip(Layout& layout, const Form& form, const QRectF& strip) {
   const double right = middle + 36;  // of the sign in the middle
   places["PicUebTyp"] = {.rect = strip};
   places["cmdHilfe"] = {.rect = in_row(strip.left() + 10, 40, 40),
-                        .look = Look::kQuiet,
+                        .dress = Dress::kQuiet,
                         .text = 19,
                         .align = Qt::AlignCenter};
   for (int i = 0; i < 2; ++i) {
@@ -65,14 +65,14 @@ void FillStrip(Layout& layout, const Form& form, const QRectF& strip) {
   }
   for (int i = 0; i < 3; ++i) {
     places[IdOf("ergebnis_anz", i)] = {.rect = in_row(right, 320, 44),
-                                       .look = i == 2 ? Look::kHint : Look::kPlain,
+                                       .dress = i == 2 ? Dress::kHint : Dress::kPlain,
                                        .text = 18,
                                        .bold = true};
   }
   places["stop_uhr"] = {.rect = in_row(right, 172, 44), .text = 15};
   places["lab_aufgaben"] = {.rect = in_row(right + 182, 176, 44), .text = 15};
   places["Uhr"] = {.rect = in_row(strip.right() - 92, 76, 36),
-                   .look = Look::kQuiet,
+                   .dress = Dress::kQuiet,
                    .text = 17,
                    .align = Qt::AlignRight | Qt::AlignVCenter};
   if (Visible(form, "PicUetyp(0)")) {
@@ -111,7 +111,7 @@ void FillTiles(Layout& layout, const Form& form, const QRectF& box) {
     const double x = box.left() + kTileMargin + column * (kTileWidth + gap);
     const double y = box.top() + row * 136;
     layout.places[IdOf("klang_pan", i)] = {.rect = QRectF(x, y + kSymbolHeight, kTileWidth, 84),
-                                           .look = Look::kTile};
+                                           .dress = Dress::kTile};
     layout.places[IdOf("Akkbez", i)] = {.rect = QRectF(x + 3, y, 94, kSymbolHeight), .text = 15};
   }
 }
@@ -128,7 +128,7 @@ void FillPictures(Layout& layout, const Form& form) {
     if (panel != nullptr && panel->height) rect.setHeight(*panel->height);
     layout.places[IdOf("jz_kl", i)] = {
         .rect = rect.adjusted(kTileEdge, kTileEdge, -kTileEdge, -kTileEdge),
-        .look = Look::kTile,
+        .dress = Dress::kTile,
         .text = 15,
         .align = Qt::AlignCenter};
   }
@@ -137,7 +137,7 @@ void FillPictures(Layout& layout, const Form& form) {
 void FillGroups(Layout& layout, const QRectF& box) {
   layout.places["LbAkkGrp"] = {
       .rect = QRectF(box.left() + 28, box.top() + 14, box.width() - 56 - kHalfGap, 48),
-      .look = Look::kHeading,
+      .dress = Dress::kHeading,
       .text = 18,
       .bold = true};
   const double gap = 20;
@@ -149,7 +149,7 @@ void FillGroups(Layout& layout, const QRectF& box) {
     layout.places[IdOf("akk_group", g)] = {
         .rect = QRectF(box.left() + 28 + column * (width + gap),
                        box.top() + 82 + row * (height + gap), width, height),
-        .look = Look::kLarge,
+        .dress = Dress::kLarge,
         .text = 21,
         .align = Qt::AlignCenter};
   }
@@ -160,7 +160,7 @@ void FillSlots(Layout& layout, const QRectF& box, const Form& form) {
   const double left = box.left() + kHalfGap + 8;
   const double step = box.height() < kBoxHeight ? 50 : 58;
   layout.places["nrakk(0)"] = {.rect = QRectF(left, box.top() + 8, right - left, 24),
-                               .look = Look::kHeading,
+                               .dress = Dress::kHeading,
                                .text = 15,
                                .bold = true};
   for (int i = 1; i <= kSlots; ++i) {
@@ -174,14 +174,14 @@ void FillSlots(Layout& layout, const QRectF& box, const Form& form) {
         .text = 15,
         .bold = true};
     layout.places[IdOf("akk_lfdnr", i)] = {
-        .rect = QRectF(left, y + 25, label, 18), .look = Look::kQuiet, .text = 12};
+        .rect = QRectF(left, y + 25, label, 18), .dress = Dress::kQuiet, .text = 12};
     layout.places[IdOf("ergebnis", i)] = {.rect = QRectF(right - width, y, width, height),
-                                          .look = Look::kMark,
+                                          .dress = Dress::kMark,
                                           .text = 16,
                                           .align = Qt::AlignCenter,
                                           .bold = true};
     layout.places[IdOf("erg", i)] = {.rect = QRectF(right - width / 2 - 44, y + 3, 88, 40),
-                                     .look = Look::kMark,
+                                     .dress = Dress::kMark,
                                      .text = 15,
                                      .align = Qt::AlignCenter};
   }
@@ -192,7 +192,7 @@ void FillCounters(Layout& layout, const QRectF& box, double middle) {
   for (int i = 0; i < 2; ++i) {
     const double left = i == 0 ? middle - 6 - 74 : middle + 6;
     layout.places[IdOf("true_false", i)] = {.rect = QRectF(left, y, 74, 20),
-                                            .look = Look::kQuiet,
+                                            .dress = Dress::kQuiet,
                                             .text = 14,
                                             .align = Qt::AlignCenter,
                                             .capital = true};
@@ -211,7 +211,7 @@ void FillButtons(Layout& layout, const QRectF& box, double middle) {
   };
   for (const char* id : {"CmdNextAufg", "LbNextAufg"}) {
     layout.places[id] = {.rect = row(198, 52),
-                         .look = Look::kPrimary,
+                         .dress = Dress::kPrimary,
                          .text = 15,
                          .align = Qt::AlignCenter,
                          .bold = true};
@@ -220,7 +220,7 @@ void FillButtons(Layout& layout, const QRectF& box, double middle) {
     layout.places[id] = {.rect = row(134, 42), .text = 15, .align = Qt::AlignCenter};
   }
   layout.places["whlgzaehler"] = {.rect = row(90, 22),
-                                  .look = Look::kQuiet,
+                                  .dress = Dress::kQuiet,
                                   .text = 14,
                                   .align = Qt::AlignCenter,
                                   .named_by = "wieder"};
@@ -284,7 +284,7 @@ Layout LayoutWorksheet(const Form& form, const QSizeF& page) {
   const QPointF centre(page.width() / 2, page.height() / 2);
   // Room for what is said of lost sound in the longest language.
   layout.places["WaitMeldung"] = {.rect = QRectF(centre.x() - 270, centre.y() - 110, 540, 220),
-                                  .look = Look::kNotice,
+                                  .dress = Dress::kNotice,
                                   .named_by = "WaitMeld"};
   layout.places["WaitMeld"] = {.rect = QRectF(centre.x() - 246, centre.y() - 94, 492, 188),
                                .text = 20,

@@ -131,7 +131,7 @@ void Page::Place() {
       rect.translate(-Pixels(PlaceOf(*control.container)).topLeft());
     }
     if (binding->widget().geometry() != rect) binding->widget().setGeometry(rect);
-    if (layout_.places[control.Id()].look == Look::kNotice) binding->widget().raise();
+    if (layout_.places[control.Id()].dress == Dress::kNotice) binding->widget().raise();
   }
   PlaceBackdrops();
 }

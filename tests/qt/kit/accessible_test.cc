@@ -89,7 +89,7 @@ int ActOn(Binding& binding) {
     return acts;
   }
   if (auto* list = dynamic_cast<ItemList*>(&control)) {
-    const bool closed = list->look() == ItemList::Look::kDropDown;
+    const bool closed = list->shape() == ItemList::Shape::kDropDown;
     QAccessibleInterface& entries = closed ? *element.child(0) : element;
     for (int row = 0; row < list->count(); ++row) {
       entries.child(row)->actionInterface()->doAction(Actions::pressAction());

@@ -25,7 +25,7 @@ class TestForm : public Form {
   Label label{*this, "label"};
   OptionGroup options{*this, "options", 1, 2, 1};
   ItemList list{*this, "list"};
-  ItemList box{*this, "box", Control::kNoIndex, ItemList::Look::kBox};
+  ItemList box{*this, "box", Control::kNoIndex, ItemList::Shape::kBox};
   Slider slider{*this, "slider", 0, 100};
   Gauge gauge{*this, "gauge"};
   Frame frame{*this, "frame"};
@@ -44,9 +44,9 @@ class Binder : public testing::Test {
   }
 
   template <typename Widget>
-  Widget& Show(Control& control, Look look = Look::kPlain) {
+  Widget& Show(Control& control, Dress dress = Dress::kPlain) {
     Placement place;
-    place.look = look;
+    place.dress = dress;
     bindings_.push_back(Bind(control, place, site_, &window_));
     QWidget& widget = bindings_.back()->widget();
     widget.setGeometry(10, 10 + 40 * static_cast<int>(bindings_.size()), 200, 34);
@@ -98,13 +98,13 @@ TEST_F(Binder, BringsNoClickOfAButtonThatIsDisabled) {
 TEST_F(Binder, ShowsAPanelAsAButtonOnlyWhenItHasAHandler) {
   form_.panel.Click = [] {};
   EXPECT_NE(dynamic_cast<QAbstractButton*>(&Show<QWidget>(form_.panel)), nullptr);
-  EXPECT_EQ(dynamic_cast<QAbstractButton*>(&Show<QWidget>(form_.mark, Look::kMark)), nullptr);
+  EXPECT_EQ(dynamic_cast<QAbstractButton*>(&Show<QWidget>(form_.mark, Dress::kMark)), nullptr);
 }
 
 TEST_F(Binder, NamesAWidgetForTheProgramAndForTheReaderOfAScreen) {
   form_.mark.caption = "  falsch ";
   form_.mark.description = "Platz 2";
-  auto& widget = Show<QWidget>(form_.mark, Look::kMark);
+  auto& widget = Show<QWidget>(form_.mark, Dress::kMark);
   EXPECT_EQ(widget.objectName(), "mark(2)");
   EXPECT_EQ(widget.accessibleName(), "falsch");
   EXPECT_EQ(widget.accessibleDescription(), "Platz 2");
@@ -132,7 +132,7 @@ TEST_F(Binder, BeginsWhatHeadsSomethingWithACapital) {
   Refresh();
   EXPECT_EQ(bindings_.back()->dressed().caption(), "Übungsart");
   form_.mark.caption = "bestimmen";
-  EXPECT_EQ(Show<TextWidget>(form_.mark, Look::kMark).caption(), "bestimmen");
+  EXPECT_EQ(Show<TextWidget>(form_.mark, Dress::kMark).caption(), "bestimmen");
 }
 
 TEST_F(Binder, NamesAListByTheLabelThatBelongsToIt) {
@@ -146,7 +146,7 @@ TEST_F(Binder, NamesAListByTheLabelThatBelongsToIt) {
 TEST_F(Binder, ExplainsAFigureByTheLabelThatBelongsToIt) {
   form_.label.caption = "Richtig";
   form_.mark.caption = "3";
-  auto& widget = Show<QWidget>(form_.mark, Look::kMark);
+  auto& widget = Show<QWidget>(form_.mark, Dress::kMark);
   bindings_.back()->NameBy(&form_.label);
   Refresh();
   EXPECT_EQ(widget.accessibleName(), "3");
@@ -164,7 +164,7 @@ TEST_F(Binder, TellsTheKeyOfAButtonInItsToolTip) {
 
 TEST_F(Binder, ShowsTheColoursThatTheProgramSets) {
   form_.mark.back_color = Colors::kRed;
-  auto& widget = Show<QWidget>(form_.mark, Look::kMark);
+  auto& widget = Show<QWidget>(form_.mark, Dress::kMark);
   EXPECT_EQ(Middle(widget), QColor(255, 0, 0));
   form_.mark.back_color = Rgb(0, 192, 0);
   Refresh();
@@ -173,8 +173,8 @@ TEST_F(Binder, ShowsTheColoursThatTheProgramSets) {
 
 TEST_F(Binder, DrawsTicksAndCrossesOnWhatWasPressed) {
   form_.panel.Click = [] {};
-  for (const Look look : {Look::kTile, Look::kLarge}) {
-    auto& widget = Show<PressWidget>(form_.panel, look);
+  for (const Dress dress : {Dress::kTile, Dress::kLarge}) {
+    auto& widget = Show<PressWidget>(form_.panel, dress);
     const auto pixels = [&widget](const QColor& color) {
       const QImage image = widget.grab().toImage();
       int found = 0;
@@ -202,7 +202,7 @@ TEST_F(Binder, DrawsTicksAndCrossesOnWhatWasPressed) {
 TEST_F(Binder, WritesItsNumberOnATile) {
   form_.panel.Click = [] {};
   form_.panel.back_color = Colors::kGrey;
-  auto& widget = Show<PressWidget>(form_.panel, Look::kTile);
+  auto& widget = Show<PressWidget>(form_.panel, Dress::kTile);
   const QImage bare = widget.grab().toImage();
   form_.panel.number = 17;
   Refresh();
@@ -330,14 +330,14 @@ TEST_F(Binder, TellsAReaderOfTheScreenWhatEachControlIs) {
   form_.panel.Click = [] {};
   EXPECT_EQ(role(Show<QWidget>(form_.button)), QAccessible::Button);
   EXPECT_EQ(role(Show<QWidget>(form_.panel)), QAccessible::Button);
-  EXPECT_EQ(role(Show<QWidget>(form_.mark, Look::kMark)), QAccessible::StaticText);
+  EXPECT_EQ(role(Show<QWidget>(form_.mark, Dress::kMark)), QAccessible::StaticText);
   EXPECT_EQ(role(Show<QWidget>(form_.label)), QAccessible::StaticText);
   EXPECT_EQ(role(Show<QWidget>(form_.options[1])), QAccessible::RadioButton);
   EXPECT_EQ(role(Show<QWidget>(form_.list)), QAccessible::ComboBox);
   EXPECT_EQ(role(Show<QWidget>(form_.box)), QAccessible::List);
   EXPECT_EQ(role(Show<QWidget>(form_.slider)), QAccessible::Slider);
   EXPECT_EQ(role(Show<QWidget>(form_.gauge)), QAccessible::ProgressBar);
-  EXPECT_EQ(role(Show<QWidget>(form_.frame, Look::kCard)), QAccessible::Grouping);
+  EXPECT_EQ(role(Show<QWidget>(form_.frame, Dress::kCard)), QAccessible::Grouping);
 }
 
 TEST_F(Binder, LetsAnAssistiveTechnologyPressAButton) {
