@@ -10,6 +10,9 @@
 
 #include "forced_palette.h"
 #include "qt/desk/qt_event_loop.h"
+#include "qt/kit/gauge_widget.h"
+#include "qt/kit/list_widget.h"
+#include "qt/kit/plate_widget.h"
 #include "qt/view/page.h"
 #include "shell/text_lookup.h"
 

@@ -14,9 +14,11 @@
 #include "ports/message_box.h"
 #include "programs/host/host.h"
 #include "qt/desk/qt_event_loop.h"
+#include "qt/kit/drop_down_widget.h"
 #include "qt/kit/narrator.h"
 #include "qt/kit/picture_source.h"
-#include "qt/kit/widgets.h"
+#include "qt/kit/press_widget.h"
+#include "qt/kit/text_widget.h"
 
 class QTimer;
 

@@ -7,7 +7,9 @@
 #include <QAccessibleWidget>
 #include <map>
 
-#include "qt/kit/widgets.h"
+#include "qt/kit/drop_down_widget.h"
+#include "qt/kit/option_widget.h"
+#include "qt/kit/plate_widget.h"
 
 namespace vmod17 {
 namespace {

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "qt/kit/picture_source.h"
-#include "qt/kit/widgets.h"
+#include "qt/kit/press_widget.h"
 
 namespace vmod17 {
 

@@ -9,6 +9,14 @@
 
 #include "forms/caption.h"
 #include "ports/timer.h"
+#include "qt/kit/drop_down_widget.h"
+#include "qt/kit/gauge_widget.h"
+#include "qt/kit/list_widget.h"
+#include "qt/kit/option_widget.h"
+#include "qt/kit/plate_widget.h"
+#include "qt/kit/press_widget.h"
+#include "qt/kit/slider_widget.h"
+#include "qt/kit/text_widget.h"
 
 namespace vmod17 {
 namespace {

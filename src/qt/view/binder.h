@@ -12,7 +12,7 @@
 
 #include "forms/controls.h"
 #include "ports/event_loop.h"
-#include "qt/kit/widgets.h"
+#include "qt/kit/dressed.h"
 
 class QButtonGroup;
 

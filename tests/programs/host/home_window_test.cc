@@ -20,6 +20,8 @@
 #include "melvado_testing.h"
 #include "programs/host/log_window.h"
 #include "programs/host/user_dialog.h"
+#include "qt/kit/drop_down_widget.h"
+#include "qt/kit/press_widget.h"
 #include "qt/screen_reader.h"
 
 namespace melvado {

@@ -16,6 +16,7 @@
 
 #include "programs/host/home_window.h"
 #include "programs/host/host.h"
+#include "qt/kit/press_widget.h"
 #include "qt/surroundings.h"
 #include "support/fake_platform.h"
 

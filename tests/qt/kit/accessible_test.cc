@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QRadioButton>
 #include <map>
 #include <set>
 

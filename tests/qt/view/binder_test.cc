@@ -12,6 +12,14 @@
 #include <QTest>
 #include <memory>
 
+#include "qt/kit/drop_down_widget.h"
+#include "qt/kit/gauge_widget.h"
+#include "qt/kit/list_widget.h"
+#include "qt/kit/option_widget.h"
+#include "qt/kit/press_widget.h"
+#include "qt/kit/slider_widget.h"
+#include "qt/kit/text_widget.h"
+
 namespace vmod17 {
 namespace {
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "qt/finished_test.h"
+#include "qt/kit/text_widget.h"
 #include "qt/shown_page.h"
 #include "qt/spoken_program.h"
 #include "results/own_words.h"

@@ -21,6 +21,7 @@
 #include "qt/finished_test.h"
 #include "qt/kit/help_window.h"
 #include "qt/kit/look.h"
+#include "qt/kit/press_widget.h"
 #include "qt/shown_page.h"
 #include "qt/spoken_program.h"
 

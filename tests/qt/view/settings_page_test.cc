@@ -9,6 +9,10 @@
 #include <QTest>
 
 #include "qt/desk/qt_event_loop.h"
+#include "qt/kit/drop_down_widget.h"
+#include "qt/kit/list_widget.h"
+#include "qt/kit/slider_widget.h"
+#include "qt/kit/text_widget.h"
 #include "qt/view/page.h"
 #include "qt/view/qt_view.h"
 #include "support/program_fixture.h"
