@@ -25,6 +25,7 @@
 namespace melvado {
 namespace {
 
+using vmod17::Dress;
 using vmod17::Dressed;
 using vmod17::DropDownWidget;
 using vmod17::FileDialog;
@@ -32,7 +33,6 @@ using vmod17::HelpWindow;
 using vmod17::kVersionMajor;
 using vmod17::kVersionMinor;
 using vmod17::kVersionRevision;
-using vmod17::Look;
 namespace look = vmod17::look;
 using vmod17::MessageBox;
 using vmod17::Notice;
