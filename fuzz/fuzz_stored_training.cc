@@ -156,7 +156,7 @@ class ProgramTry {
   void DemandWarnings(std::size_t count) {
     Demand(p_.messages.warnings.size() == count, "too few or many messages");
     Demand(p_.messages.warnings[0].text == "[196s]", "another message");
-    Demand(p_.messages.warnings[0].title == p_.program.texts().modus_name_ar[kFortsetzung],
+    Demand(p_.messages.warnings[0].title == p_.program.names().modus_name_ar[kFortsetzung],
            "a message with another title");
   }
 

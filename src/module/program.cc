@@ -19,6 +19,7 @@ Program::Program(const Platform& platform, ProgramIdentity identity)
       record_(shell_, platform_.make_document, [this] {
         return grd_einst_ ? grd_einst_->ueb_typ[state_.uebTyp].caption : std::string();
       }) {
+  texts_.WeitereTexte = [this](const TextLookup& texts) { names_.Fuelle(texts); };
   screens_.Unloaded = [this](Form& form) { Retire(form); };
 }
 
@@ -55,7 +56,7 @@ void Program::Leave() {
 void Program::OpenSettings() {
   if (!einstellung1_) {
     Load(einstellung1_, shell_,
-         Einstellung1::Parts{settings_, midi_, platform_.output, counters_, record_,
+         Einstellung1::Parts{settings_, names_, midi_, platform_.output, counters_, record_,
                              platform_.random, platform_.dialog, platform_.test_files});
   }
   einstellung1_->visible = false;
@@ -64,7 +65,7 @@ void Program::OpenSettings() {
 void Program::OpenWorksheet() {
   if (!arbeitsblatt1_) {
     Load(arbeitsblatt1_, shell_,
-         Arbeitsblatt1::Parts{settings_, table_, board_, pictures_, midi_, platform_.random,
+         Arbeitsblatt1::Parts{settings_, names_, table_, board_, pictures_, midi_, platform_.random,
                               counters_, record_, *einstellung1_});
   }
   arbeitsblatt1_->visible = false;
@@ -73,8 +74,8 @@ void Program::OpenWorksheet() {
 void Program::OpenResults(RunEnd end, std::function<void(const std::string&)> closed) {
   if (testergebnis_ || !einstellung1_ || !grd_einst_) return;
   Load(testergebnis_, shell_,
-       Testergebnis::Parts{settings_, board_, pictures_, counters_, *einstellung1_, *grd_einst_,
-                           platform_.printer},
+       Testergebnis::Parts{settings_, names_, board_, pictures_, counters_, *einstellung1_,
+                           *grd_einst_, platform_.printer},
        end, std::move(closed));
 }
 

@@ -10,6 +10,7 @@
 #include "catalogue/chord_board.h"
 #include "catalogue/picture_store.h"
 #include "exercise/counters.h"
+#include "exercise/exercise_names.h"
 #include "exercise/lesson_record.h"
 #include "exercise/settings_record.h"
 #include "ports/form_view.h"
@@ -65,6 +66,7 @@ class Program : private Navigation {
   void Leave();
 
   TextLookup& texts() { return texts_; }
+  const ExerciseNames& names() const { return names_; }
   ModServer& server() { return server_; }
   ErrorReport& errors() { return errors_; }
   ExerciseSettings& settings() { return settings_; }
@@ -96,6 +98,7 @@ class Program : private Navigation {
   ChordTable table_;
   ChordBoard board_{table_};
   PictureStores pictures_;
+  ExerciseNames names_;
   ExerciseSettings settings_;
   RunCounters counters_;
   ModMIDI midi_;

@@ -189,7 +189,7 @@ void Testergebnis::BaueZelle(int e) {
   akk_group[e].height = 20;
   akk_group[e].back_color = kGruppenFarbe;
   const int name = entry.group == kLangerName ? kKurzName : entry.group;
-  akk_group[e].caption = Oder(shell_.texts.grp_name_ar.at(name), EigenerGruppenName(name));
+  akk_group[e].caption = Oder(parts_.names.grp_name_ar.at(name), EigenerGruppenName(name));
   ergebnis[e].top = oben + raster.versatz + 138;
   ergebnis[e].height = 20;
 }

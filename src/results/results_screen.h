@@ -9,6 +9,7 @@
 #include "catalogue/chord_board.h"
 #include "catalogue/picture_store.h"
 #include "exercise/counters.h"
+#include "exercise/exercise_names.h"
 #include "exercise/settings_record.h"
 #include "ports/printer.h"
 #include "ports/timer.h"
@@ -32,6 +33,7 @@ class Testergebnis : public Form {
   /// What the screen works on.
   struct Parts {
     const ExerciseSettings& settings;
+    const ExerciseNames& names;
     const ChordBoard& board;
     PictureStores& pictures;
     const RunCounters& counters;

@@ -51,12 +51,12 @@ void WaehleWert(ItemList& list, int item_data) {
 
 void Einstellung1::FuelleTraining(Fortsetzung fortsetzung) {
   training_Combo.Clear();
-  for (int i = 0; i < static_cast<int>(shell_.texts.modus_name_ar.size()); ++i) {
+  for (int i = 0; i < static_cast<int>(parts_.names.modus_name_ar.size()); ++i) {
     const bool leer = i == kModusFortsetzung && fortsetzung == Fortsetzung::kKeine;
     if (leer) {
       training_Combo.AddEmpty(kKeinTraining, ItemList::kValueIsIndex);
     } else {
-      training_Combo.Add(shell_.texts.modus_name_ar[i], ItemList::kValueIsIndex);
+      training_Combo.Add(parts_.names.modus_name_ar[i], ItemList::kValueIsIndex);
     }
   }
 }
@@ -94,7 +94,7 @@ void Einstellung1::training_Combo_Click() {
     StelleWiederHer();
   } catch (const std::exception&) {
     shell_.messages.Warn(shell_.texts.Sprachtext(196),
-                         shell_.texts.modus_name_ar[kModusFortsetzung]);
+                         parts_.names.modus_name_ar[kModusFortsetzung]);
     training_Combo.Select(kModusNeuesTraining);
     return;
   }

@@ -234,12 +234,12 @@ void Einstellung1::FuelleKlangListen() {
   const auto fill = [](ItemList& list, const auto& names) {
     for (const std::string& name : names) list.Add(name, ItemList::kValueIsIndex);
   };
-  fill(temp_Combo, TextLookup::tempo_name_ar);
+  fill(temp_Combo, ExerciseNames::tempo_name_ar);
   temp_Combo.Select(1);
   HSliderVolume.Set(kLautstaerke);
-  fill(arpeg_cmb, texts.arp_richtung_name_ar);
+  fill(arpeg_cmb, parts_.names.arp_richtung_name_ar);
   arpeg_cmb.Select(kArpOhne);
-  fill(cmb_arpTmp, texts.arp_tempo_name_ar);
+  fill(cmb_arpTmp, parts_.names.arp_tempo_name_ar);
   cmb_arpTmp.Select(2);
   FuelleTraining(GespeichertesTraining());
   training_Combo.Select(0);
@@ -256,7 +256,7 @@ void Einstellung1::FuelleKlangListen() {
 void Einstellung1::FuelleAuswahlListen() {
   const TextLookup& texts = shell_.texts;
   for (int i : {0, 1}) klanglst[i].Clear();
-  for (int k = kTriade; k < kVoicing; ++k) klanglst[0].Add(texts.klang_name_ar[k], k);
+  for (int k = kTriade; k < kVoicing; ++k) klanglst[0].Add(parts_.names.klang_name_ar[k], k);
   klanglst[0].Select(0);
   for (int i = 1; i <= kPruefungen; ++i) {
     prfnr_Comb.Add(texts.Sprachtext(426) + SignedText(i), ItemList::kValueIsIndex);

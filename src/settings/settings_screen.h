@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "exercise/counters.h"
+#include "exercise/exercise_names.h"
 #include "exercise/lesson_record.h"
 #include "exercise/settings_record.h"
 #include "ports/file_dialog.h"
@@ -26,6 +27,7 @@ class Einstellung1 : public Form {
   /// What the screen works on.
   struct Parts {
     ExerciseSettings& settings;
+    const ExerciseNames& names;
     ModMIDI& midi;
     MidiOutput& output;
     RunCounters& counters;

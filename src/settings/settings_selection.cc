@@ -113,7 +113,7 @@ void Einstellung1::klang_alle_Click(int index) {
   lb11[2].visible = false;
   VerlangeGruppen(parts_.settings.best_art == 0 ? kMindestensEine : kMindestensZwei);
   LeereGruppen();
-  for (int g = 1; g <= kGruppen; ++g) grplst[0].Add(shell_.texts.grp_name_ar[g], g);
+  for (int g = 1; g <= kGruppen; ++g) grplst[0].Add(parts_.names.grp_name_ar[g], g);
 }
 
 void Einstellung1::grp_alle_Click(int index) {
@@ -185,14 +185,14 @@ void Einstellung1::LeereGruppen() {
 /// Fills a list with the kinds on offer.
 void Einstellung1::FuelleKlaenge(int list) {
   const int erster = parts_.settings.best_art == 0 ? kTriade : kTriade + 1;
-  for (int k = erster; k < kVoicing; ++k) klanglst[list].Add(shell_.texts.klang_name_ar[k], k);
+  for (int k = erster; k < kVoicing; ++k) klanglst[list].Add(parts_.names.klang_name_ar[k], k);
 }
 
 /// Clears both lists of groups and fills one with the groups on offer.
 void Einstellung1::FuelleGruppen(int list) {
   LeereGruppen();
   for (const int g : GruppenAb(KleinsterKlangtypMitGruppe())) {
-    grplst[list].Add(shell_.texts.grp_name_ar[g], g);
+    grplst[list].Add(parts_.names.grp_name_ar[g], g);
   }
 }
 

@@ -49,8 +49,10 @@ class TextLookup {
   /// The locale of the language in use, such as "de_DE"; "" without one.
   const std::string& Gebietsschema() const { return gebietsschema_; }
 
-  /// Fills the tables below. Must run after `SpracheWaehlen`.
+  /// Fills the tables below, then `WeitereTexte`. Must run after `SpracheWaehlen`.
   void TexteLaden();
+  /// Fills the tables of those that stand above.
+  std::function<void(const TextLookup&)> WeitereTexte;
 
   std::string Rechnername() const { return system_.ComputerName(); }
 
@@ -58,14 +60,6 @@ class TextLookup {
   std::string modul_titel;
   std::array<std::string, 3> titel_ar;         ///< captions of first, settings, results screen
   std::array<std::string, 4> ueb_typ_name_ar;  ///< by `uebTyp`, from 1
-  std::array<std::string, 11> grp_name_ar;     ///< by group; 0 the triads, 10 a short form of 5
-  std::array<std::string, 8> klang_name_ar;    ///< by Klangtyp, 3 to 7
-  std::array<std::string, 5> modus_name_ar;    ///< by `uebmodus`
-  std::array<std::string, 4> arp_richtung_name_ar;
-  std::array<std::string, 5> arp_tempo_name_ar;
-  std::array<std::string, 2> art_name_ar;
-  std::array<std::string, 5> frei_name_ar;
-  static const std::array<std::string, 10> tempo_name_ar;  ///< the same in all languages
 
  private:
   LanguageListFactory make_list_;

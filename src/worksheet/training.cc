@@ -39,7 +39,7 @@ void Arbeitsblatt1::NimmTrainingAuf() {
   } catch (const std::exception&) {
     // Said in its own words, before the error goes its usual way.
     shell_.messages.Warn(shell_.texts.Sprachtext(196),
-                         shell_.texts.modus_name_ar[kModusFortsetzung]);
+                         parts_.names.modus_name_ar[kModusFortsetzung]);
     parts_.einstellung1.training_Combo.Select(kModusNeuesTraining);
     throw;
   }

@@ -317,7 +317,7 @@ void Arbeitsblatt1::BaueGruppen() {
     akk_group[g].visible = parts_.board.grp_aktiv_ar[g] == 1;
     // A continued training has always shown the form's own names, and keeps to it.
     if (akk_group[g].visible && !IstFortsetzung()) {
-      akk_group[g].caption = shell_.texts.grp_name_ar[g];
+      akk_group[g].caption = parts_.names.grp_name_ar[g];
     }
   }
   // The record tells the chord of a task by its Klang number, also where no tile shows it.

@@ -12,6 +12,7 @@
 #include "catalogue/chord_board.h"
 #include "catalogue/picture_store.h"
 #include "exercise/counters.h"
+#include "exercise/exercise_names.h"
 #include "exercise/lesson_record.h"
 #include "exercise/settings_record.h"
 #include "ports/timer.h"
@@ -35,6 +36,7 @@ class Arbeitsblatt1 : public Form {
   /// What the screen works on.
   struct Parts {
     ExerciseSettings& settings;
+    const ExerciseNames& names;
     ChordTable& table;
     ChordBoard& board;
     PictureStores& pictures;

@@ -342,7 +342,7 @@ TEST(SettingsPage, TellsTheSettingsAsTheUserSawThem) {
   const Einstellung1& e = p.settings_screen();
   EXPECT_EQ(p.SettingsLine(0), (Line{"[587s]", "[550s]"}));
   EXPECT_EQ(p.SettingsLine(1), (Line{"[365s]", e.ComboPatch.entry(0).text}));
-  EXPECT_EQ(p.SettingsLine(2), (Line{"[547s]", TextLookup::tempo_name_ar[4]}));
+  EXPECT_EQ(p.SettingsLine(2), (Line{"[547s]", ExerciseNames::tempo_name_ar[4]}));
   EXPECT_EQ(p.SettingsLine(3), (Line{"[78s]", "[142s]"}));
   EXPECT_EQ(p.SettingsLine(4), (Line{"[88s]", " 3"}));
   EXPECT_EQ(p.SettingsLine(5), (Line{"[154s]", "[97s]"}));

@@ -206,14 +206,15 @@ struct SingleScreen : ShellFixture {
   RecordingMidiOutput output;
   ModMIDI midi{loop, server};
   ExerciseSettings settings;
+  ExerciseNames names;
   RunCounters counters;
   MemoryXmlLibrary documents;
   LessonRecord record{shell, documents.Factory(), [] { return "bestimmen"; }};
   ScriptedRandom random;
   ScriptedFileDialog dialog;
   MemoryTestFiles test_files;
-  Einstellung1 screen{shell,
-                      {settings, midi, output, counters, record, random, dialog, test_files}};
+  Einstellung1 screen{
+      shell, {settings, names, midi, output, counters, record, random, dialog, test_files}};
 };
 
 TEST(SettingsScreenSetUp, MakesRoomForTheResultsOf24Chords) {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "exercise/exercise_names.h"
 #include "settings/settings_screen.h"
 #include "shell/shell.h"
 #include "support/fake_platform.h"
@@ -26,6 +27,7 @@ class ShellHarness : public Navigation {
   AppState state;
   TextLookup texts{languages.Factory(), system};
   ModServer server{host.Factory(), {"vmod17", 1, 0, 0}};
+  ExerciseNames names;
   ErrorReport errors{server, texts, messages};
   LoadedScreens screens;
   Shell shell{loop, system, messages, state, texts, server, errors, screens, *this};
@@ -33,6 +35,7 @@ class ShellHarness : public Navigation {
 
   ShellHarness() {
     server.HostVerbinden();
+    texts.WeitereTexte = [this](const TextLookup& all) { names.Fuelle(all); };
     texts.SprachenLaden();
     texts.SpracheWaehlen("Deutsch");
     texts.TexteLaden();
@@ -63,10 +66,11 @@ class Stage : public ShellHarness {
   LessonRecord record{shell, documents.Factory(), [] { return std::string("bestimmen"); }};
   ScriptedFileDialog dialog;
   MemoryTestFiles test_files;
-  Einstellung1 einstellung{shell,
-                           {settings, midi, output, counters, record, random, dialog, test_files}};
+  Einstellung1 einstellung{
+      shell, {settings, names, midi, output, counters, record, random, dialog, test_files}};
   Arbeitsblatt1 sheet{
-      shell, {settings, table, board, pictures, midi, random, counters, record, einstellung}};
+      shell,
+      {settings, names, table, board, pictures, midi, random, counters, record, einstellung}};
 
   /// Sets the settings screen up; the settings can be changed then.
   Stage() {

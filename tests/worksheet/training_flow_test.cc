@@ -695,7 +695,7 @@ TEST(ContinuedTraining, ClosesASlotAtTheStoredPointsInAFreshProcess) {
 TEST(ContinuedTraining, ShowsTheFormsOwnNamesOnTheGroupButtons) {
   ModeFixture p;
   p.BeginMode(kTraining, Groups(1), {4}, {1, 5});
-  EXPECT_EQ(p.worksheet().akk_group[1].caption, p.program.texts().grp_name_ar[1]);
+  EXPECT_EQ(p.worksheet().akk_group[1].caption, p.program.names().grp_name_ar[1]);
   EXPECT_EQ(p.worksheet().aktionsbox.height, 545);
   p.DoTask({1});
   p.SaveAndLeave();

@@ -143,12 +143,12 @@ TEST_P(LayoutIn, ShowsGroupButtonsInPlaceOfTheTiles) {
   sheet.aktionsbox.width = 313;
   for (int g = 1; g <= 8; ++g) {
     sheet.akk_group[g].visible = true;
-    sheet.akk_group[g].caption = p.program.texts().grp_name_ar.at(g);
+    sheet.akk_group[g].caption = p.program.names().grp_name_ar.at(g);
   }
   for (int slot = 1; slot <= 4; ++slot) {
     sheet.ergebnis[slot].width = 169;
     sheet.ergebnis[slot].height = 41;
-    sheet.ergebnis[slot].caption = p.program.texts().grp_name_ar.at(slot);
+    sheet.ergebnis[slot].caption = p.program.names().grp_name_ar.at(slot);
   }
   ExpectWellLaidOut(sheet);
   Shown shown(sheet, kSmall);
