@@ -7,17 +7,17 @@
 
 namespace vmod17 {
 
-PictureId PictureStore::jakk(int klang) { return Get(PictureId::Kind::kNotation, klang); }
+PictureId PictureStore::jakk(int klang) { return Get(kNotation, klang); }
 
-PictureId PictureStore::jbez(int klang) { return Get(PictureId::Kind::kSymbol, klang); }
+PictureId PictureStore::jbez(int klang) { return Get(kSymbol, klang); }
 
-PictureId PictureStore::Get(PictureId::Kind kind, int klang) {
+PictureId PictureStore::Get(std::string_view set, int klang) {
   if (klang < first_ || klang > last_) {
     throw RunTimeError(ErrorNumber::kOutOfRange, "no picture " + std::to_string(klang),
                        "vmod17.PictureStore");
   }
   loaded_ = true;
-  return {kind, klang};
+  return {set, klang};
 }
 
 }  // namespace vmod17

@@ -6,9 +6,13 @@
 #include <array>
 #include <string_view>
 
-#include "forms/controls.h"
+#include "forms/pressable.h"
 
 namespace vmod17 {
+
+/// The sets of the chord pictures, in which a chord has its Klang number.
+inline constexpr std::string_view kNotation = "jakk";
+inline constexpr std::string_view kSymbol = "jbez";
 
 /// One half of the ready-made pictures: for each Klang number the chord in notation and its symbol.
 /// Cells keep what they were given; the store itself is loaded on first use and unloaded when the
@@ -26,7 +30,7 @@ class PictureStore {
   void Unload() { loaded_ = false; }
 
  private:
-  PictureId Get(PictureId::Kind kind, int klang);
+  PictureId Get(std::string_view set, int klang);
 
   int first_;
   int last_;

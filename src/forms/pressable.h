@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 #include <vector>
 
 #include "forms/control.h"
@@ -12,9 +13,8 @@ namespace vmod17 {
 
 /// Which ready-made picture a control shows.
 struct PictureId {
-  enum class Kind { kNone, kNotation, kSymbol, kTraining, kTest };
-  Kind kind = Kind::kNone;
-  int klang = 0;  ///< the Klang number of a kNotation or kSymbol, otherwise 0
+  std::string_view set;  ///< a literal, the name of a set of pictures; empty for no picture
+  int number = 0;        ///< within the set
   bool operator==(const PictureId&) const = default;
 };
 
@@ -54,10 +54,15 @@ class Panel : public Pressable {
   using Pressable::Pressable;
 };
 
+/// A sign that the view draws, in the colour of its texts.
+enum class Sign { kNone, kRisingBars, kStopWatch };
+
+/// Shows a picture or a sign.
 class Picture : public Pressable {
  public:
   using Pressable::Pressable;
   PictureId image;
+  Sign sign = Sign::kNone;
 };
 
 }  // namespace vmod17

@@ -69,8 +69,8 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
   wieder2.visible = false;
   CmdNextAufg.visible = false;
   LbNextAufg.visible = false;
-  PicUetyp[0].image.kind = PictureId::Kind::kTraining;
-  PicUetyp[1].image.kind = PictureId::Kind::kTest;
+  PicUetyp[0].sign = Sign::kRisingBars;
+  PicUetyp[1].sign = Sign::kStopWatch;
   for (Control* control : std::initializer_list<Control*>{
            &PicUetyp[0], &PicUetyp[1], &matboxanz, &ergebnis_anz[0], &ergebnis_anz[1],
            &ergebnis_anz[2], &stop_uhr, &lab_aufgaben, &cmd_test_aus, &cmd_test_ein}) {

@@ -10,8 +10,6 @@
 namespace vmod17 {
 namespace {
 
-using Kind = PictureId::Kind;
-
 int NumberRaised(PictureStore& store, int klang) {
   try {
     store.jakk(klang);
@@ -23,18 +21,18 @@ int NumberRaised(PictureStore& store, int klang) {
 
 TEST(PictureStore, GivesNotationAndSymbolOfAKlang) {
   PictureStores stores;
-  EXPECT_EQ(stores.bilder1.jakk(70), (PictureId{Kind::kNotation, 70}));
-  EXPECT_EQ(stores.bilder1.jbez(1), (PictureId{Kind::kSymbol, 1}));
-  EXPECT_EQ(stores.bilder2.jakk(71), (PictureId{Kind::kNotation, 71}));
-  EXPECT_EQ(stores.bilder2.jbez(134), (PictureId{Kind::kSymbol, 134}));
+  EXPECT_EQ(stores.bilder1.jakk(70), (PictureId{kNotation, 70}));
+  EXPECT_EQ(stores.bilder1.jbez(1), (PictureId{kSymbol, 1}));
+  EXPECT_EQ(stores.bilder2.jakk(71), (PictureId{kNotation, 71}));
+  EXPECT_EQ(stores.bilder2.jbez(134), (PictureId{kSymbol, 134}));
 }
 
 TEST(PictureStore, HasBothPicturesForAllChords) {
   PictureStores stores;
   for (int klang = 1; klang <= 134; ++klang) {
     PictureStore& store = klang <= 70 ? stores.bilder1 : stores.bilder2;
-    EXPECT_EQ(store.jakk(klang), (PictureId{Kind::kNotation, klang}));
-    EXPECT_EQ(store.jbez(klang), (PictureId{Kind::kSymbol, klang}));
+    EXPECT_EQ(store.jakk(klang), (PictureId{kNotation, klang}));
+    EXPECT_EQ(store.jbez(klang), (PictureId{kSymbol, klang}));
   }
 }
 
@@ -67,7 +65,7 @@ TEST(PictureStore, IsLoadedAgainAfterItWasUnloaded) {
   stores.bilder2.jakk(100);
   stores.bilder2.Unload();
   EXPECT_FALSE(stores.bilder2.loaded());
-  EXPECT_EQ(stores.bilder2.jakk(100), (PictureId{Kind::kNotation, 100}));
+  EXPECT_EQ(stores.bilder2.jakk(100), (PictureId{kNotation, 100}));
   EXPECT_TRUE(stores.bilder2.loaded());
 }
 

@@ -177,8 +177,8 @@ void ExpectGrid(ResultsFixture& p, const Grid& grid) {
     EXPECT_EQ(r.akk_group[e].back_color, Bgr(0xFFFFC0));
     EXPECT_FALSE(r.jz_kl[e].enabled);
     const int klang = p.program.board()[e].klang;
-    EXPECT_EQ(r.jz_kl[e].image, (PictureId{PictureId::Kind::kNotation, klang}));
-    EXPECT_EQ(r.Akkbez[e].image, (PictureId{PictureId::Kind::kSymbol, klang}));
+    EXPECT_EQ(r.jz_kl[e].image, (PictureId{kNotation, klang}));
+    EXPECT_EQ(r.Akkbez[e].image, (PictureId{kSymbol, klang}));
     for (const Control* c : std::initializer_list<Control*>{&r.klang_pan[e], &r.Akkbez[e],
                                                             &r.akk_group[e], &r.ergebnis[e]}) {
       EXPECT_TRUE(c->visible) << c->Id();

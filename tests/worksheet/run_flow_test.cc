@@ -240,7 +240,7 @@ TEST(Playing, SoundsWhatTheTilesSay) {
     const auto ons = p.output.PlayedNoteOns();
     std::size_t at = 0;
     for (int slot = 1; slot <= 4; ++slot) {
-      const Chord& chord = ChordOfKlang(p.worksheet().jz_kl[p.Asked(slot)].image.klang);
+      const Chord& chord = ChordOfKlang(p.worksheet().jz_kl[p.Asked(slot)].image.number);
       const int root = ons.at(at).data1;
       EXPECT_NE(root % 12, 0);
       for (const int semitones : chord.semitones) {

@@ -615,14 +615,14 @@ TEST(ContinuedTraining, ShowsItsTilesAndSounds) {
   p.BeginMode(kTraining, {}, {4, 5}, {1, 5});
   const int entries = p.program.board().akk_zahl;
   std::vector<int> klang(1, 0);
-  for (int e = 1; e <= entries; ++e) klang.push_back(p.worksheet().jz_kl[e].image.klang);
+  for (int e = 1; e <= entries; ++e) klang.push_back(p.worksheet().jz_kl[e].image.number);
   p.DoTask({1});
   p.SaveAndLeave();
   ModeFixture q;
   q.Continue(p.host);
   EXPECT_EQ(q.program.board().akk_zahl, entries);
   for (int e = 1; e <= entries; ++e) {
-    EXPECT_EQ(q.worksheet().jz_kl[e].image.klang, klang[e]) << e;
+    EXPECT_EQ(q.worksheet().jz_kl[e].image.number, klang[e]) << e;
     EXPECT_TRUE(q.worksheet().klang_pan[e].visible);
   }
   q.PlayTaskOf({entries});

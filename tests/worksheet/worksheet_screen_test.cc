@@ -18,8 +18,6 @@
 namespace vmod17 {
 namespace {
 
-using Kind = PictureId::Kind;
-
 const Color kGrey = Rgb(192, 192, 192);
 const Color kRed = Rgb(255, 0, 0);
 const Color kBlack = Rgb(0, 0, 0);
@@ -218,8 +216,8 @@ TEST(WorksheetScreen, ShowsNotationAndSymbolOfEachChord) {
   const Arbeitsblatt1& w = p.worksheet();
   for (int e = 1; e <= 11; ++e) {
     const int klang = e <= 10 ? e : 23;  // ten triads, then row 13 of Klangtyp 4
-    EXPECT_EQ(w.jz_kl[e].image, (PictureId{Kind::kNotation, klang})) << e;
-    EXPECT_EQ(w.Akkbez[e].image, (PictureId{Kind::kSymbol, klang})) << e;
+    EXPECT_EQ(w.jz_kl[e].image, (PictureId{kNotation, klang})) << e;
+    EXPECT_EQ(w.Akkbez[e].image, (PictureId{kSymbol, klang})) << e;
   }
   EXPECT_EQ(w.jz_kl[11].caption, "Cø");
 }
@@ -228,7 +226,7 @@ TEST(WorksheetScreen, ShowsSymbolsAloneWhenAskedTo) {
   WorksheetFixture p;
   p.Begin([](ExerciseSettings& s) { s.akk_anzeige = 1; });
   for (int e = 1; e <= 10; ++e) {
-    EXPECT_EQ(p.worksheet().jz_kl[e].image, (PictureId{Kind::kSymbol, e})) << e;
+    EXPECT_EQ(p.worksheet().jz_kl[e].image, (PictureId{kSymbol, e})) << e;
     EXPECT_FALSE(p.worksheet().Akkbez[e].visible) << e;
   }
 }
@@ -240,8 +238,8 @@ TEST(WorksheetScreen, TakesThePicturesOfVoicingsFromTheirOwnStore) {
   int e = 0;
   for (const int klang : {90, 91, 122, 123}) {
     ++e;
-    EXPECT_EQ(w.jz_kl[e].image, (PictureId{Kind::kNotation, klang}));
-    EXPECT_EQ(w.Akkbez[e].image, (PictureId{Kind::kSymbol, klang}));
+    EXPECT_EQ(w.jz_kl[e].image, (PictureId{kNotation, klang}));
+    EXPECT_EQ(w.Akkbez[e].image, (PictureId{kSymbol, klang}));
   }
 }
 
@@ -258,7 +256,7 @@ TEST(WorksheetScreen, UnloadsThePictureStoreOnceTheTilesHaveTheirPictures) {
     stage.Begin();
     EXPECT_FALSE(stage.pictures.For(form).loaded());
     EXPECT_TRUE(stage.pictures.For(1 - form).loaded());
-    EXPECT_EQ(stage.sheet.jz_kl[1].image.kind, Kind::kNotation);
+    EXPECT_EQ(stage.sheet.jz_kl[1].image.set, kNotation);
   }
 }
 
@@ -490,7 +488,7 @@ TEST(WorksheetScreen, LaysTheSolutionOutHiddenWhenATaskIsDrawn) {
       const int e = p.Asked(slot);
       EXPECT_FALSE(w.erg[slot].visible);
       EXPECT_FALSE(w.akk_lfdnr[slot].visible);
-      EXPECT_EQ(w.erg[slot].image, (PictureId{Kind::kSymbol, e}));  // triad e has the number e
+      EXPECT_EQ(w.erg[slot].image, (PictureId{kSymbol, e}));  // triad e has the number e
       EXPECT_EQ(w.akk_lfdnr[slot].caption, "[374s] " + std::to_string(e));
       EXPECT_EQ(w.ergebnis[slot].caption, "");
       EXPECT_EQ(w.ergebnis[slot].back_color, kBlack);
@@ -512,7 +510,7 @@ TEST(WorksheetScreen, UsesNoPictureInGroupMode) {
       for (int slot = 1; slot <= 4; ++slot) {
         EXPECT_FALSE(p.worksheet().erg[slot].visible);
         EXPECT_FALSE(p.worksheet().akk_lfdnr[slot].visible);
-        EXPECT_EQ(p.worksheet().erg[slot].image.kind, Kind::kNone);
+        EXPECT_EQ(p.worksheet().erg[slot].image, PictureId());
       }
       if (task % 2 == 0) {
         p.Right();

@@ -15,14 +15,9 @@ namespace {
 constexpr int kLargest = 3;  // of those for the screen
 constexpr int kPaper = 8;
 
-/// The signs of training and test are no pictures but drawn where they stand.
-bool IsDrawn(const PictureId& id) {
-  return id.kind == PictureId::Kind::kNotation || id.kind == PictureId::Kind::kSymbol;
-}
-
 QImage Load(const PictureId& id, int size) {
-  const char* name = id.kind == PictureId::Kind::kNotation ? "jakk" : "jbez";
-  return QImage(QString(":/pictures/%1x/%2%3.png").arg(size).arg(name).arg(id.klang));
+  const QLatin1StringView set(id.set.data(), static_cast<qsizetype>(id.set.size()));
+  return QImage(QString(":/pictures/%1x/%2%3.png").arg(size).arg(set).arg(id.number));
 }
 
 QPixmap Make(const PictureId& id, double factor) {
@@ -39,7 +34,7 @@ QPixmap Make(const PictureId& id, double factor) {
 PictureSource::PictureSource() { RegisterChordPictures(); }
 
 QImage PictureSource::ForPaper(const PictureId& id) {
-  if (!IsDrawn(id)) return {};
+  if (id.set.empty()) return {};
   // Without colour the file that is printed is smaller.
   return Load(id, kPaper).convertToFormat(QImage::Format_Grayscale8);
 }
@@ -47,18 +42,17 @@ QImage PictureSource::ForPaper(const PictureId& id) {
 QSizeF PictureSource::SizeOnPaper(const QImage& picture) { return QSizeF(picture.size()) / kPaper; }
 
 QPixmap PictureSource::Get(const PictureId& id, double factor, double ratio) {
-  if (!IsDrawn(id)) return {};
+  if (id.set.empty()) return {};
   const double wanted = factor * ratio;
-  const auto key = static_cast<quint64>(std::lround(wanted * 1000)) << 16 |
-                   static_cast<quint64>(id.kind) << 12 | static_cast<quint64>(id.klang);
-  const auto found = made_.constFind(key);
-  if (found != made_.constEnd()) return *found;
+  const Key key(id.set, id.number, std::lround(wanted * 1000));
+  const auto found = made_.find(key);
+  if (found != made_.end()) return found->second;
   QPixmap picture = Make(id, wanted);
   picture.setDevicePixelRatio(ratio);
   // A window that is being resized asks for a new size at each step.
   constexpr int kKept = 600;
   if (made_.size() >= kKept) made_.clear();
-  made_.insert(key, picture);
+  made_.emplace(key, picture);
   return picture;
 }
 

@@ -3,9 +3,11 @@
 
 #pragma once
 
-#include <QHash>
 #include <QImage>
 #include <QPixmap>
+#include <map>
+#include <string_view>
+#include <tuple>
 
 #include "forms/controls.h"
 
@@ -28,7 +30,9 @@ class PictureSource {
   static QSizeF SizeOnPaper(const QImage& picture);
 
  private:
-  QHash<quint64, QPixmap> made_;
+  using Key = std::tuple<std::string_view, int, long>;  // set, number, size in thousandths
+
+  std::map<Key, QPixmap> made_;
 };
 
 }  // namespace vmod17

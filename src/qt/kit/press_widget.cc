@@ -29,6 +29,11 @@ void PressWidget::SetImage(const PictureId& image) {
   update();
 }
 
+void PressWidget::SetSign(Sign sign) {
+  sign_ = sign;
+  update();
+}
+
 void PressWidget::SetNumber(int number) {
   number_ = number;
   update();
@@ -133,10 +138,10 @@ void PressWidget::PaintButton(QPainter& painter) {
   const double radius = round ? box.height() / 2 : Px(look::kRadius);
   look::DrawPlate(painter, box, Ground(), Edge(), radius, Px(1.2));
   const QRectF inside = box.adjusted(Px(10), Px(3), -Px(10), -Px(3));
-  if (image_.kind == PictureId::Kind::kNone) {
+  if (sign_ == Sign::kNone) {
     look::DrawText(painter, inside, caption(), Set(), Ink(), place_.align);
   } else {
-    DrawSign(painter, image_.kind, box, Ink());
+    DrawSign(painter, sign_, box, Ink());
   }
   PaintMarks(painter);
   if (ShowsFocus()) look::DrawFocusRing(painter, box, colors(), radius, style_.factor);

@@ -21,6 +21,7 @@ class PressWidget : public QAbstractButton, public Dressed {
   std::function<bool(int key)> move_focus;
 
   void SetImage(const PictureId& image);
+  void SetSign(Sign sign);
   void SetNumber(int number);
   void SetMarks(const std::vector<AnswerMark>& marks);
   QColor Ground() const override;
@@ -41,6 +42,7 @@ class PressWidget : public QAbstractButton, public Dressed {
   QColor Edge() const;
 
   PictureId image_;
+  Sign sign_ = Sign::kNone;
   int number_ = 0;
   std::vector<AnswerMark> marks_;
 };

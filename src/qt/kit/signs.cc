@@ -44,16 +44,14 @@ void DrawStopWatch(QPainter& painter, const QRectF& box, const QColor& color) {
 
 }  // namespace
 
-void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const QColor& color) {
+void DrawSign(QPainter& painter, Sign sign, const QRectF& box, const QColor& color) {
   painter.setRenderHint(QPainter::Antialiasing);
-  switch (kind) {
-    case PictureId::Kind::kTraining:
+  switch (sign) {
+    case Sign::kRisingBars:
       return DrawBars(painter, Square(box), color);
-    case PictureId::Kind::kTest:
+    case Sign::kStopWatch:
       return DrawStopWatch(painter, Square(box), color);
-    case PictureId::Kind::kNone:
-    case PictureId::Kind::kNotation:
-    case PictureId::Kind::kSymbol:
+    case Sign::kNone:
       return;
   }
 }

@@ -6,14 +6,14 @@
 #include <QColor>
 #include <QRectF>
 
-#include "forms/controls.h"
+#include "forms/pressable.h"
 
 class QPainter;
 
 namespace vmod17 {
 
-/// Draws the sign of training or test, as large as the box allows; nothing for other kinds.
-void DrawSign(QPainter& painter, PictureId::Kind kind, const QRectF& box, const QColor& color);
+/// Draws a sign as large as the box allows.
+void DrawSign(QPainter& painter, Sign sign, const QRectF& box, const QColor& color);
 
 /// A tick or a cross on a ground of its own, so that it is seen on whatever it stands on; in a wide
 /// box with the slot before it.

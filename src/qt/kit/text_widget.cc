@@ -37,6 +37,11 @@ void TextWidget::SetImage(const PictureId& image) {
   update();
 }
 
+void TextWidget::SetSign(Sign sign) {
+  sign_ = sign;
+  update();
+}
+
 QSizeF TextWidget::TextBox() const {
   const double side = place_.dress == Dress::kMark || HasGround() ? 6 : 0;
   return QSizeF(width() - Px(side), height());
@@ -48,9 +53,8 @@ bool TextWidget::HasGround() const {
 }
 
 QColor TextWidget::Ground() const {
-  const bool is_picture =
-      image_.kind == PictureId::Kind::kNotation || image_.kind == PictureId::Kind::kSymbol;
-  if (is_picture) return BringsItsWhite(place_.dress) ? QColor(Qt::white) : GroundBelow();
+  if (image_ != PictureId())
+    return BringsItsWhite(place_.dress) ? QColor(Qt::white) : GroundBelow();
   if (HasGround()) return *back_;
   if (place_.dress == Dress::kOnBanner) return look::kBannerEnd;
   return place_.dress == Dress::kPrimary ? colors().hover : GroundBelow();
@@ -97,7 +101,7 @@ void TextWidget::PaintImage(QPainter& painter) {
   if (style_.paper) return PaintImageOnPaper(painter);
   const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
   if (picture.isNull()) {
-    DrawSign(painter, image_.kind, QRectF(rect()), colors().accent);
+    DrawSign(painter, sign_, QRectF(rect()), colors().accent);
     if (place_.dress == Dress::kMark) painter.fillRect(rect(), Ground());
     look::DrawText(painter, QRectF(rect()), caption(), Set(), Ink(), place_.align);
     return;
@@ -117,7 +121,7 @@ void TextWidget::paintEvent(QPaintEvent*) {
 }
 
 void TextWidget::Paint(QPainter& painter) {
-  if (image_.kind != PictureId::Kind::kNone) return PaintImage(painter);
+  if (image_ != PictureId() || sign_ != Sign::kNone) return PaintImage(painter);
   QRectF box(rect());
   if (HasGround()) {
     const bool mark = place_.dress == Dress::kMark;

@@ -15,6 +15,7 @@ class TextWidget : public QLabel, public Dressed {
  public:
   TextWidget(QWidget* parent, const PageStyle& style, const Placement& place);
   void SetImage(const PictureId& image);
+  void SetSign(Sign sign);
   void Paint(QPainter& painter) override;
   QColor Ground() const override;
   QColor Ink() const override;
@@ -29,6 +30,7 @@ class TextWidget : public QLabel, public Dressed {
   void PaintImageOnPaper(QPainter& painter);
 
   PictureId image_;
+  Sign sign_ = Sign::kNone;
 };
 
 }  // namespace vmod17

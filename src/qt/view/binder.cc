@@ -45,17 +45,21 @@ class PressBinding : public Binding {
   void RefreshKind() override {
     if (control_.number != number_) press_.SetNumber(number_ = control_.number);
     if (control_.marks != marks_) press_.SetMarks(marks_ = control_.marks);
-    if (picture_ == nullptr || picture_->image == image_) return;
-    image_ = picture_->image;
-    press_.SetImage(image_);
+    if (picture_ == nullptr) return;
+    if (picture_->image != image_) press_.SetImage(image_ = picture_->image);
+    if (picture_->sign != sign_) press_.SetSign(sign_ = picture_->sign);
   }
-  void WithdrawKind() override { press_.SetImage(image_ = {}); }
+  void WithdrawKind() override {
+    press_.SetImage(image_ = {});
+    press_.SetSign(sign_ = Sign::kNone);
+  }
 
  private:
   const Pressable& control_;
   PressWidget& press_;
   Picture* picture_;
   PictureId image_;
+  Sign sign_ = Sign::kNone;
   int number_ = 0;
   std::vector<AnswerMark> marks_;
 };
@@ -69,16 +73,20 @@ class TextBinding : public Binding {
 
  protected:
   void RefreshKind() override {
-    if (picture_ == nullptr || picture_->image == image_) return;
-    image_ = picture_->image;
-    text_.SetImage(image_);
+    if (picture_ == nullptr) return;
+    if (picture_->image != image_) text_.SetImage(image_ = picture_->image);
+    if (picture_->sign != sign_) text_.SetSign(sign_ = picture_->sign);
   }
-  void WithdrawKind() override { text_.SetImage(image_ = {}); }
+  void WithdrawKind() override {
+    text_.SetImage(image_ = {});
+    text_.SetSign(sign_ = Sign::kNone);
+  }
 
  private:
   TextWidget& text_;
   Picture* picture_;
   PictureId image_;
+  Sign sign_ = Sign::kNone;
 };
 
 class OptionBinding : public Binding {
