@@ -25,7 +25,7 @@ constexpr int kForPaper = 8;
 constexpr int kScales[] = {1, 2, 3, kForPaper};
 constexpr int kSmallestFile = 0;  // what the writer of the files takes for it
 
-// One picture has always been a little wider than the others.
+// Pixels.
 int SymbolWidth(int klang) { return klang == 82 ? 88 : 85; }
 
 QImage Symbol(int klang, int scale, const Fonts& fonts) {

@@ -20,7 +20,7 @@ struct Row {
   std::array<int, 7> semitones;  // of which the chord uses as many as its Klangtyp has notes
 };
 
-constexpr std::array<Row, kKlangZahl> kRows = {{
+constexpr auto kRows = std::to_array<Row>({
     // clang-format off
     // Klangtyp 3
     {3, 1, 0, "C", {0, 4, 7}},
@@ -163,20 +163,19 @@ constexpr std::array<Row, kKlangZahl> kRows = {{
     {8, 63, 4, "C13sus4", {0, 10, 17, 21, 26}},
     {8, 64, 5, "C13sus4(b9)", {0, 10, 17, 21, 25}},
     // clang-format on
-}};
+});
 
 struct KlangtypFacts {
-  int rows;
   int last_note;
   int headroom;
 };
 
-// By Klangtyp. The headroom is what proved right at the instrument, not the widest chord.
+// By Klangtyp. The headroom is given for each kind, not taken from the rows: some chords reach
+// higher, as two of the triads do.
 constexpr std::array<KlangtypFacts, 9> kFacts = {
-    {{}, {}, {}, {10, 2, 8}, {17, 3, 11}, {23, 4, 21}, {15, 5, 21}, {5, 6, 21}, {64, 4, 29}}};
+    {{}, {}, {}, {2, 8}, {3, 11}, {4, 21}, {5, 21}, {6, 21}, {4, 29}}};
 
-// By group, then Klangtyp 4 to 8. For Klangtyp 4 the cells of groups 7 and 8 are not the counts of
-// the rows above; boards have always been drawn with these numbers and stay comparable.
+// By group, then Klangtyp 4 to 8.
 constexpr std::array<std::array<int, 5>, 9> kGroupSizes = {{{},
                                                             {3, 3, 0, 0, 6},
                                                             {2, 3, 2, 1, 6},
@@ -186,6 +185,76 @@ constexpr std::array<std::array<int, 5>, 9> kGroupSizes = {{{},
                                                             {4, 2, 0, 0, 6},
                                                             {2, 0, 0, 0, 6},
                                                             {1, 0, 0, 0, 4}}};
+
+// --- What holds the table together
+
+constexpr int RowsIn(int klangtyp) {
+  return static_cast<int>(std::ranges::count(kRows, klangtyp, &Row::klangtyp));
+}
+
+constexpr int RowsIn(int klangtyp, int group) {
+  return static_cast<int>(std::ranges::count_if(
+      kRows, [&](const Row& row) { return row.klangtyp == klangtyp && row.group == group; }));
+}
+
+constexpr int FirstKlang(int klangtyp) {
+  return 1 + static_cast<int>(std::ranges::count_if(
+                 kRows, [&](const Row& row) { return row.klangtyp < klangtyp; }));
+}
+
+constexpr bool StandInOrder() {
+  int klangtyp = kKleinsterKlangtyp;
+  int last = 0;
+  for (const Row& row : kRows) {
+    if (row.klangtyp != klangtyp) last = 0;
+    if (row.klangtyp < klangtyp || row.klangtyp > kVoicing || row.row != last + 1) return false;
+    klangtyp = row.klangtyp;
+    last = row.row;
+  }
+  return true;
+}
+
+constexpr bool HaveTheirGroups() {
+  return std::ranges::all_of(kRows, [](const Row& row) {
+    return row.klangtyp == kTriade ? row.group == 0 : row.group >= 1 && row.group <= kGruppen;
+  });
+}
+
+constexpr bool HaveTheirNotes() {
+  return std::ranges::all_of(kRows, [](const Row& row) {
+    const int last = kFacts[row.klangtyp].last_note;
+    for (int i = 1; i < static_cast<int>(row.semitones.size()); ++i) {
+      if (i <= last ? row.semitones[i] <= row.semitones[i - 1] : row.semitones[i] != 0) {
+        return false;
+      }
+    }
+    return row.semitones[0] == 0;
+  });
+}
+
+constexpr bool PoolSizesAreCounts() {
+  for (int k = kTriade + 1; k <= kVoicing; ++k) {
+    for (int g = 1; g <= kGruppen; ++g) {
+      const bool exception = k == 4 && g >= 7;
+      if (!exception && kGroupSizes[g][k - 4] != RowsIn(k, g)) return false;
+    }
+  }
+  return true;
+}
+
+static_assert(kRows.size() == kKlangZahl, "kKlangZahl is the number of rows");
+static_assert(StandInOrder(), "rows ascend by Klangtyp, and are counted from 1 in each");
+static_assert(FirstKlang(3) == 1 && FirstKlang(4) == 11 && FirstKlang(5) == 28 &&
+                  FirstKlang(6) == 51 && FirstKlang(7) == 66 && FirstKlang(8) == kErstesVoicing,
+              "a chord's place is its number, which stands in lesson records and stored runs: a "
+              "new chord is the last voicing, or all numbers behind it change their meaning");
+static_assert(RowsIn(kVoicing) == kMeisteZeilen, "kMeisteZeilen is the number of voicings");
+static_assert(HaveTheirGroups(), "a row has a group of 1 to 8, a triad 0");
+static_assert(HaveTheirNotes(), "notes ascend from 0, as many as the Klangtyp has");
+static_assert(PoolSizesAreCounts(), "kGroupSizes counts the rows of each group");
+// The pools of Klangtyp 4 are as if one of the two rows of group 8 stood in group 7.
+static_assert(kGroupSizes[7][0] == 2 && RowsIn(4, 7) == 1, "a pool size of its own");
+static_assert(kGroupSizes[8][0] == 1 && RowsIn(4, 8) == 2, "a pool size of its own");
 
 bool IsKlangtyp(int value) { return value >= kKleinsterKlangtyp && value <= kVoicing; }
 
@@ -218,7 +287,7 @@ const Chord& ChordOfKlang(int klang) {
 }
 
 void ChordTable::SetzeKlangZahlen() {
-  for (int k = kKleinsterKlangtyp; k <= kVoicing; ++k) akk_je_typ_ar[k] = kFacts[k].rows;
+  for (int k = kKleinsterKlangtyp; k <= kVoicing; ++k) akk_je_typ_ar[k] = RowsIn(k);
 }
 
 void ChordTable::SetzeGruppen(int klangtyp) {

@@ -14,6 +14,8 @@ inline constexpr int kKleinsterKlangtyp = 3;
 inline constexpr int kVoicing = 8;  ///< the Klangtyp of the two-hand voicings
 inline constexpr int kTriade = 3;   ///< the Klangtyp of the triads, which have no group
 inline constexpr int kGruppen = 8;
+inline constexpr int kErstesVoicing = 71;  ///< Klang number; the voicings go on to the last
+inline constexpr int kMeisteZeilen = 64;   ///< rows of the Klangtyp that has most
 
 /// One chord of the catalogue, on the root C.
 struct Chord {
@@ -25,21 +27,22 @@ struct Chord {
   std::span<const int> semitones;  ///< above the root, ascending, the first 0
 };
 
-/// The chord of a Klang number, 1 to 134. Errors: RunTimeError kOutOfRange.
+/// The chord of a Klang number, 1 to kKlangZahl. Errors: RunTimeError kOutOfRange.
 const Chord& ChordOfKlang(int klang);
 
 /// The tables of a run, indexed by Klangtyp (3 to 8). All start at 0; `SetzeKlangZahlen`,
 /// `SetzeGruppen` and `SetzeStruktur` fill what a run needs.
 struct ChordTable {
-  using RowValues = std::array<int, 65>;   ///< by row, 0 unused
-  using Notes = std::array<int, 8>;        ///< by note index
-  using GroupValues = std::array<int, 9>;  ///< by group, 0 unused
+  using RowValues = std::array<int, kMeisteZeilen + 1>;  ///< by row, 0 unused
+  using Notes = std::array<int, 8>;                      ///< by note index
+  using GroupValues = std::array<int, 9>;                ///< by group, 0 unused
 
   std::array<int, 9> akk_je_typ_ar{};    ///< rows of each Klangtyp
   std::array<int, 9> stimmen_ar{};       ///< index of a chord's last note
   std::array<int, 9> klang_spanne_ar{};  ///< semitones that stay free above a root
-  std::array<std::array<Notes, 65>, 9> akk_struktur_ar{};  ///< semitones above the root
-  std::array<RowValues, 9> akk_gruppe_ar{};                ///< group of a row
+  /// Semitones above the root, by Klangtyp and row.
+  std::array<std::array<Notes, kMeisteZeilen + 1>, 9> akk_struktur_ar{};
+  std::array<RowValues, 9> akk_gruppe_ar{};  ///< group of a row
   std::array<GroupValues, 9> grp_zahl_ar{};  ///< pool sizes; settled numbers of their own
 
   /// Fills `akk_je_typ_ar`.

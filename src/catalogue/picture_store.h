@@ -6,6 +6,7 @@
 #include <array>
 #include <string_view>
 
+#include "catalogue/chord_table.h"
 #include "forms/pressable.h"
 
 namespace vmod17 {
@@ -39,8 +40,8 @@ class PictureStore {
 
 /// Both halves.
 struct PictureStores {
-  PictureStore bilder1{1, 70};    ///< chords of 3 to 7 notes
-  PictureStore bilder2{71, 134};  ///< two-hand voicings
+  PictureStore bilder1{1, kErstesVoicing - 1};       ///< chords of 3 to 7 notes
+  PictureStore bilder2{kErstesVoicing, kKlangZahl};  ///< two-hand voicings
 
   /// The half of an `akk_form`.
   PictureStore& For(int akk_form) { return akk_form == 0 ? bilder1 : bilder2; }

@@ -100,7 +100,7 @@ int TaskSelection::Wuerfle(double n) {
 }
 
 void TaskSelection::ZieheGrundton(RunState& run) {
-  // A chord on C would be the chord of the tile to the letter; no root is ever a C.
+  // No root is a C.
   int versuche = 0;
   do {
     if (++versuche > kVersuche) NichtsZuZiehen("no root lies in the range of the notes");
