@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "base/run_time_error.h"
+
 namespace vmod17 {
 
 PictureId PictureStore::jakk(int klang) { return Get(kNotation, klang); }
