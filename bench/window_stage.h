@@ -60,12 +60,12 @@ class WindowStage {
   RecordingMidiOutput output_;
   UniformRandom random_;
   ScriptedFileDialog dialog_;
-  MemoryTestFiles test_files_;
+  MemorySettingsFiles settings_files_;
   FakePrinter printer_;
   MemoryHost host_;
   FakeLanguages languages_;
   MemoryXmlLibrary documents_;
-  Program program_{{loop_, system_, messages_, view_, output_, random_, dialog_, test_files_,
+  Program program_{{loop_, system_, messages_, view_, output_, random_, dialog_, settings_files_,
                     printer_, host_.Factory(), languages_.Factory(), documents_.Factory()},
                    {"vmod17", 1, 0, 0}};
 

@@ -56,8 +56,8 @@ std::string BytesOf(const std::string& path) {
 
 /// Sound files: one with every kind of control, in both encodings, and one without any.
 std::vector<std::string> SoundFiles(const std::string& path) {
-  TestDocument document{"vmod17", "bestimmen", "Prüfung ♭9 <&\"'> ]]>", {}};
-  PugiTestFiles files;
+  FixedSettings document{"vmod17", "bestimmen", "Prüfung ♭9 <&\"'> ]]>", {}};
+  PugiSettingsFiles files;
   std::vector<std::string> sound;
   files.Write(path, document);
   sound.push_back(BytesOf(path));
@@ -183,11 +183,11 @@ class Readings {
  public:
   void Try(const std::string& text) {
     Write(path_, text);
-    std::optional<TestDocument> document;
+    std::optional<FixedSettings> document;
     try {
       document = files_.Read(path_);
       ++read_;
-    } catch (const TestFileError& error) {
+    } catch (const SettingsFileError& error) {
       Demand(!error.reason().english.empty(), "a refusal without a reason");
       Demand(IsIn(text, error.line(), error.column()), "a place outside the file");
       ++refused_[error.reason().text_id];
@@ -202,25 +202,25 @@ class Readings {
 
  private:
   /// What XML forbids is replaced at the first writing.
-  void DemandThatItLasts(const TestDocument& document) {
+  void DemandThatItLasts(const FixedSettings& document) {
     try {
       files_.Write(path_, document);
-    } catch (const TestFileError&) {
+    } catch (const SettingsFileError&) {
       return;  // its references make it larger than a file may be
     }
     try {
-      const TestDocument written = files_.Read(path_);
+      const FixedSettings written = files_.Read(path_);
       Demand(written.controls.size() == document.controls.size(), "a control that was lost");
       files_.Write(path_, written);
       Demand(files_.Read(path_) == written, "a test that changes when written");
-    } catch (const TestFileError& error) {
+    } catch (const SettingsFileError& error) {
       Fault("what was written is refused: " + error.reason().english);
     }
   }
 
   Folder folder_;
   std::string path_ = folder_ / "test.xml";
-  PugiTestFiles files_;
+  PugiSettingsFiles files_;
   int read_ = 0;
   std::map<int, int> refused_;
 };

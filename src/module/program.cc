@@ -57,7 +57,7 @@ void Program::OpenSettings() {
   if (!einstellung1_) {
     Load(einstellung1_, shell_,
          Einstellung1::Parts{settings_, names_, midi_, platform_.output, counters_, record_,
-                             platform_.random, platform_.dialog, platform_.test_files});
+                             platform_.random, platform_.dialog, platform_.settings_files});
   }
   einstellung1_->visible = false;
 }

@@ -37,7 +37,7 @@ struct Platform {
   MidiOutput& output;
   Random& random;
   FileDialog& dialog;
-  TestFiles& test_files;
+  SettingsFiles& settings_files;
   Printer& printer;
   HostServiceFactory make_host_service;
   LanguageListFactory make_language_list;

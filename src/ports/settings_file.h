@@ -13,7 +13,7 @@
 namespace vmod17 {
 
 /// One control of a test. Texts are UTF-8.
-struct TestControl {
+struct FixedControl {
   std::string title;         ///< caption of its frame, for whoever reads the file
   std::string text;          ///< the control's key
   std::string cname;         ///< the control's name
@@ -21,24 +21,24 @@ struct TestControl {
   std::optional<int> value;  ///< of a list whose entries have values of their own
   std::string words;         ///< the chosen entry or option in words, for whoever reads the file
 
-  bool operator==(const TestControl&) const = default;
+  bool operator==(const FixedControl&) const = default;
 };
 
 /// What a teacher has fixed for a test.
-struct TestDocument {
+struct FixedSettings {
   std::string modul;
   std::string type;
   std::string description;
-  std::vector<TestControl> controls;
+  std::vector<FixedControl> controls;
 
-  bool operator==(const TestDocument&) const = default;
+  bool operator==(const FixedSettings&) const = default;
 };
 
 /// A test file that cannot be read or written. Lines and columns count from 1; 0 where there is no
 /// such place.
-class TestFileError : public RunTimeError {
+class SettingsFileError : public RunTimeError {
  public:
-  TestFileError(const Notice& reason, int line, int column)
+  SettingsFileError(const Notice& reason, int line, int column)
       : RunTimeError(ErrorNumber::kFile, WithDetails(reason.english, reason.details),
                      "vmod17.TestFile"),
         reason_(reason),
@@ -75,14 +75,14 @@ class TestFileError : public RunTimeError {
 ///     </test>
 ///
 /// The content of `value` is a list entry's own value, or True where the index says it all.
-class TestFiles {
+class SettingsFiles {
  public:
-  virtual ~TestFiles() = default;
+  virtual ~SettingsFiles() = default;
 
-  /// Writes the whole document, or nothing. Errors: TestFileError.
-  virtual void Write(const std::string& file, const TestDocument& document) = 0;
-  /// Errors: TestFileError with the place of what is wrong.
-  virtual TestDocument Read(const std::string& file) = 0;
+  /// Writes the whole document, or nothing. Errors: SettingsFileError.
+  virtual void Write(const std::string& file, const FixedSettings& document) = 0;
+  /// Errors: SettingsFileError with the place of what is wrong.
+  virtual FixedSettings Read(const std::string& file) = 0;
 };
 
 }  // namespace vmod17

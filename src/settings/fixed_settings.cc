@@ -69,13 +69,13 @@ OptionGroup* Einstellung1::GruppeVon(const Control& control) {
 
 /// Goes through the tagged controls in marked frames and gathers what a test of them would hold. A
 /// group of options counts once, a list without a selection not at all.
-std::vector<TestControl> Einstellung1::SammleMarkierte() {
-  std::vector<TestControl> gesammelt;
+std::vector<FixedControl> Einstellung1::SammleMarkierte() {
+  std::vector<FixedControl> gesammelt;
   std::set<std::string> gesehen;
   for (const Control* control : controls()) {
     if (control->tag.empty() || control->container == nullptr) continue;
     if (control->container->tag != kMarke || !gesehen.insert(control->name()).second) continue;
-    TestControl eintrag;
+    FixedControl eintrag;
     eintrag.title = RahmenTitel(*control->container);
     eintrag.text = control->tag;
     eintrag.cname = control->name();
@@ -105,7 +105,7 @@ std::string Einstellung1::RahmenTitel(const Control& rahmen) const {
 
 void Einstellung1::cmdOptionSave_Click() {
   const TextLookup& texts = shell_.texts;
-  TestDocument dokument;
+  FixedSettings dokument;
   dokument.controls = SammleMarkierte();
   if (dokument.controls.empty()) {
     shell_.messages.Warn(texts.Sprachtext(9011), cmdOptionSave.caption);
@@ -121,8 +121,8 @@ void Einstellung1::cmdOptionSave_Click() {
   dokument.type = DecimalText(shell_.state.uebTyp);
   dokument.description = caption;
   try {
-    parts_.test_files.Write(*file, dokument);
-  } catch (const TestFileError& error) {
+    parts_.settings_files.Write(*file, dokument);
+  } catch (const SettingsFileError& error) {
     shell_.messages.Warn(texts.Sprachtext(9012) + "\n" + texts.Words(error.reason()),
                          cmdOptionSave.caption);
   }
@@ -135,8 +135,8 @@ void Einstellung1::cmdOptionRead_Click() {
     return;
   }
   try {
-    WendeAn(parts_.test_files.Read(*file));
-  } catch (const TestFileError& error) {
+    WendeAn(parts_.settings_files.Read(*file));
+  } catch (const SettingsFileError& error) {
     const TextLookup& texts = shell_.texts;
     std::string text = texts.Sprachtext(9013) + "\n" + texts.Words(error.reason());
     if (error.line() > 0) {
@@ -166,11 +166,11 @@ void Einstellung1::EinlesenTest() {
 /// Applies what a file holds, in its order, and tells what the level holds and what this screen has
 /// no place for. The frames are locked at the end, since one frame may hold several controls of the
 /// file.
-void Einstellung1::WendeAn(const TestDocument& dokument) {
+void Einstellung1::WendeAn(const FixedSettings& dokument) {
   std::string gehalten;
   std::vector<std::string> uebergangen;
   std::vector<Control*> gesetzt;
-  for (const TestControl& eintrag : dokument.controls) {
+  for (const FixedControl& eintrag : dokument.controls) {
     Control* control = SucheTagged(eintrag);
     switch (control == nullptr ? Angewandt::kNein : Setze(*control, eintrag)) {
       case Angewandt::kJa:
@@ -199,7 +199,7 @@ void Einstellung1::WendeAn(const TestDocument& dokument) {
   if (!text.empty()) shell_.messages.Warn(text, cmdOptionRead.caption);
 }
 
-Control* Einstellung1::SucheTagged(const TestControl& eintrag) {
+Control* Einstellung1::SucheTagged(const FixedControl& eintrag) {
   const auto found = std::find_if(controls().begin(), controls().end(), [&](const Control* c) {
     return c->name() == eintrag.cname && c->tag == eintrag.text && !c->tag.empty();
   });
@@ -207,7 +207,7 @@ Control* Einstellung1::SucheTagged(const TestControl& eintrag) {
 }
 
 /// Sets a control as a test says. `kNein` if it has no such option or entry.
-Einstellung1::Angewandt Einstellung1::Setze(Control& control, const TestControl& eintrag) {
+Einstellung1::Angewandt Einstellung1::Setze(Control& control, const FixedControl& eintrag) {
   if (HaeltLevel(control)) return Angewandt::kGehalten;
   // The list of voices says nothing where there is one timbre for all.
   if (&control == &Channel_Combo && parts_.settings.klangfarb_art == 0) return Angewandt::kJa;

@@ -34,7 +34,7 @@ class Einstellung1 : public Form {
     LessonRecord& record;
     Random& random;
     FileDialog& dialog;
-    TestFiles& test_files;
+    SettingsFiles& settings_files;
   };
 
   Einstellung1(Shell& shell, const Parts& parts);
@@ -197,13 +197,13 @@ class Einstellung1 : public Form {
   void BeendeProbe();
 
   OptionGroup* GruppeVon(const Control& control);
-  std::vector<TestControl> SammleMarkierte();
+  std::vector<FixedControl> SammleMarkierte();
   std::string RahmenTitel(const Control& rahmen) const;
   void EinlesenTest();
-  void WendeAn(const TestDocument& dokument);
-  Control* SucheTagged(const TestControl& eintrag);
+  void WendeAn(const FixedSettings& dokument);
+  Control* SucheTagged(const FixedControl& eintrag);
   enum class Angewandt { kJa, kGehalten, kNein };
-  Angewandt Setze(Control& control, const TestControl& eintrag);
+  Angewandt Setze(Control& control, const FixedControl& eintrag);
   std::string InWorten(const Control& control);
   static void SperreVomTest(Control& control);
 

@@ -59,7 +59,7 @@ std::string Encoded(const std::string& text) {
   return encoded;
 }
 
-std::string ControlText(const TestControl& control) {
+std::string ControlText(const FixedControl& control) {
   const std::string value = control.value ? std::to_string(*control.value) : std::string(kTrue);
   return "    <control title=\"" + Encoded(control.title) + "\" text=\"" + Encoded(control.text) +
          "\">\n      <cname>" + Encoded(control.cname) + "</cname>\n      <index>" +
@@ -67,19 +67,19 @@ std::string ControlText(const TestControl& control) {
          "\">" + value + "</value>\n    </control>\n";
 }
 
-std::string DocumentText(const TestDocument& document) {
+std::string DocumentText(const FixedSettings& document) {
   std::string text =
       "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\n<test>\n  <basic>\n    <modul>" +
       Encoded(document.modul) + "</modul>\n    <type>" + Encoded(document.type) +
       "</type>\n    <description>" + Encoded(document.description) +
       "</description>\n  </basic>\n  <setting>\n";
-  for (const TestControl& control : document.controls) text += ControlText(control);
+  for (const FixedControl& control : document.controls) text += ControlText(control);
   return text + "  </setting>\n</test>\n";
 }
 
 // --- reading
 
-[[noreturn]] void Fail(const Notice& reason) { throw TestFileError(reason, 0, 0); }
+[[noreturn]] void Fail(const Notice& reason) { throw SettingsFileError(reason, 0, 0); }
 
 /// What the system says to one of its error numbers, in the program's words where it has some.
 Notice SystemSays(int error) {
@@ -139,8 +139,8 @@ class OpenFile {
 std::string Bytes(const std::string& path) {
   const OpenFile file(path);
   file.NeedRegular();
-  std::string bytes = file.Read(PugiTestFiles::kMaxBytes + 1);
-  if (bytes.size() > PugiTestFiles::kMaxBytes) {
+  std::string bytes = file.Read(PugiSettingsFiles::kMaxBytes + 1);
+  if (bytes.size() > PugiSettingsFiles::kMaxBytes) {
     Fail({9617, "The file is too large for a test.", {}});
   }
   return bytes;
@@ -155,7 +155,7 @@ std::string Bytes(const std::string& path) {
   const auto column = std::count_if(in_line.begin(), in_line.end(),
                                     [](char byte) { return !IsContinuation(byte); }) +
                       1;
-  throw TestFileError(reason, static_cast<int>(line), static_cast<int>(column));
+  throw SettingsFileError(reason, static_cast<int>(line), static_cast<int>(column));
 }
 
 bool SaysLatin1(std::string_view bytes) {
@@ -211,7 +211,7 @@ class Reader {
            {9620, "The text is not well-formed XML.", {}});
   }
 
-  TestDocument Read() const {
+  FixedSettings Read() const {
     const pugi::xml_node root = document_.document_element();
     if (root.name() != std::string_view("test")) {
       FailIn(root, {9621, "The root element is not \"%1\".", {"test"}});
@@ -221,7 +221,7 @@ class Reader {
       FailIn(other, {9622, "There is a second root element.", {}});
     }
     const pugi::xml_node basic = Child(root, "basic");
-    TestDocument test{Text(basic, "modul"), Text(basic, "type"), Text(basic, "description"), {}};
+    FixedSettings test{Text(basic, "modul"), Text(basic, "type"), Text(basic, "description"), {}};
     for (const pugi::xml_node control : Child(root, "setting").children("control")) {
       test.controls.push_back(ReadControl(control));
     }
@@ -229,8 +229,8 @@ class Reader {
   }
 
  private:
-  TestControl ReadControl(pugi::xml_node node) const {
-    TestControl control;
+  FixedControl ReadControl(pugi::xml_node node) const {
+    FixedControl control;
     control.title = Attribute(node, "title");
     control.text = Attribute(node, "text");
     control.cname = Text(node, "cname");
@@ -288,7 +288,7 @@ class Reader {
 
 }  // namespace
 
-void PugiTestFiles::Write(const std::string& file, const TestDocument& document) {
+void PugiSettingsFiles::Write(const std::string& file, const FixedSettings& document) {
   const std::string text = DocumentText(document);
   if (text.size() > kMaxBytes) Fail({9618, "The test is too large for a file.", {}});
   if (const int error = WriteWholeFile(file, text); error != 0) Fail(SystemSays(error));
@@ -296,7 +296,7 @@ void PugiTestFiles::Write(const std::string& file, const TestDocument& document)
   static_cast<void>(::chmod(file.c_str(), 0644));
 }
 
-TestDocument PugiTestFiles::Read(const std::string& file) {
+FixedSettings PugiSettingsFiles::Read(const std::string& file) {
   return Reader(Decoded(Bytes(file))).Read();
 }
 

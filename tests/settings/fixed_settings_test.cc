@@ -59,25 +59,25 @@ class TestFile : public SettingsTest {
     }
   }
   /// Saves and returns what is in the file.
-  TestDocument Save() {
+  FixedSettings Save() {
     dialog.to_save = "test.xml";
     EXPECT_TRUE(screen().cmdOptionSave.Press());
-    return test_files.files["test.xml"];
+    return settings_files.files["test.xml"];
   }
-  void Read(TestDocument document) {
-    test_files.files["read.xml"] = std::move(document);
+  void Read(FixedSettings document) {
+    settings_files.files["read.xml"] = std::move(document);
     dialog.to_open = "read.xml";
     EXPECT_TRUE(screen().cmdOptionRead.Press());
   }
-  static std::vector<std::string> Names(const TestDocument& document) {
+  static std::vector<std::string> Names(const FixedSettings& document) {
     std::vector<std::string> names;
-    for (const TestControl& control : document.controls) names.push_back(control.cname);
+    for (const FixedControl& control : document.controls) names.push_back(control.cname);
     std::ranges::sort(names);
     return names;
   }
-  static const TestControl& Of(const TestDocument& document, const std::string& cname) {
-    static const TestControl none;
-    const auto found = std::ranges::find(document.controls, cname, &TestControl::cname);
+  static const FixedControl& Of(const FixedSettings& document, const std::string& cname) {
+    static const FixedControl none;
+    const auto found = std::ranges::find(document.controls, cname, &FixedControl::cname);
     EXPECT_NE(found, document.controls.end()) << cname;
     return found == document.controls.end() ? none : *found;
   }
@@ -98,14 +98,14 @@ TEST_F(TestFile, IsNotWrittenWhenNoFrameIsMarked) {
   EXPECT_TRUE(screen().cmdOptionSave.Press());
   EXPECT_THAT(messages.warnings, ElementsAre(ScriptedMessageBox::Shown{"[9011s]", "[9602s]"}));
   EXPECT_THAT(dialog.proposals, IsEmpty());
-  EXPECT_THAT(test_files.files, IsEmpty());
+  EXPECT_THAT(settings_files.files, IsEmpty());
 }
 
 TEST_F(TestFile, IsNotWrittenWhenTheUserGivesUp) {
   Mark({3});
   EXPECT_TRUE(screen().cmdOptionSave.Press());
   EXPECT_THAT(dialog.proposals, SizeIs(1));
-  EXPECT_THAT(test_files.files, IsEmpty());
+  EXPECT_THAT(settings_files.files, IsEmpty());
   EXPECT_THAT(messages.warnings, IsEmpty());
 }
 
@@ -113,7 +113,7 @@ TEST_F(TestFile, IsNotWrittenWhenOnlyAFrameWithoutSettingsIsMarked) {
   Mark({8, 11, 14});
   dialog.to_save = "test.xml";
   EXPECT_TRUE(screen().cmdOptionSave.Press());
-  EXPECT_THAT(test_files.files, IsEmpty());
+  EXPECT_THAT(settings_files.files, IsEmpty());
   EXPECT_THAT(messages.warnings, SizeIs(1));
 }
 
@@ -128,9 +128,9 @@ TEST_F(TestFile, IsProposedUnderTheDate) {
 TEST_F(TestFile, HoldsTheChosenOptionOnceForItsGroup) {
   Mark({3, 5});
   screen().akk_grp.Choose(1);
-  const TestDocument document = Save();
+  const FixedSettings document = Save();
   EXPECT_THAT(Names(document), ElementsAre("abfrage", "akk_grp"));
-  const TestControl& akk_grp = Of(document, "akk_grp");
+  const FixedControl& akk_grp = Of(document, "akk_grp");
   EXPECT_EQ(akk_grp.index, 1);
   EXPECT_EQ(akk_grp.text, "Bestimmen");
   EXPECT_EQ(akk_grp.title, Wort(154));
@@ -141,7 +141,7 @@ TEST_F(TestFile, HoldsTheChosenOptionOnceForItsGroup) {
 
 TEST_F(TestFile, HoldsTheModuleAndTheType) {
   Mark({3});
-  const TestDocument document = Save();
+  const FixedSettings document = Save();
   EXPECT_EQ(document.modul, "vmod17");
   EXPECT_EQ(document.type, "1");
 }
@@ -149,9 +149,9 @@ TEST_F(TestFile, HoldsTheModuleAndTheType) {
 TEST_F(TestFile, HoldsAllTaggedControlsUnderTheirKeys) {
   Mark({0, 1, 3, 4, 5, 7, 9, 10, 12, 15, 17});
   screen().kl_farb.Choose(1);
-  const TestDocument document = Save();
+  const FixedSettings document = Save();
   std::vector<std::pair<std::string, std::string>> keys;
-  for (const TestControl& c : document.controls) keys.emplace_back(c.cname, c.text);
+  for (const FixedControl& c : document.controls) keys.emplace_back(c.cname, c.text);
   EXPECT_THAT(
       keys,
       ::testing::UnorderedElementsAre(
@@ -184,7 +184,7 @@ TEST_F(TestFile, TellsTheValueOfAListThatHasValues) {
   screen().aus_w.Choose(1);
   screen().oktav_cmb.Choose(1);
   screen().akkzahl_cmb.Choose(2);
-  const TestDocument document = Save();
+  const FixedSettings document = Save();
   EXPECT_EQ(Of(document, "oktav_cmb").index, 1);
   EXPECT_EQ(Of(document, "oktav_cmb").value, 2);
   EXPECT_EQ(Of(document, "akkzahl_cmb").index, 2);
@@ -200,7 +200,7 @@ TEST_F(TestFile, ForgetsAFrameWhoseMarkIsTakenBack) {
 
 TEST_F(TestFile, TellsWhenItCannotBeWritten) {
   Mark({3});
-  test_files.trouble = TestFileError({9614, "The disk is full.", {}}, 0, 0);
+  settings_files.trouble = SettingsFileError({9614, "The disk is full.", {}}, 0, 0);
   Save();
   ASSERT_THAT(messages.warnings, SizeIs(1));
   EXPECT_THAT(messages.warnings[0].text, AllOf(HasSubstr("[9012s]"), HasSubstr("[9614s]")));
@@ -220,7 +220,7 @@ TEST_F(TestFile, ChangesNothingWhenNoneIsChosen) {
 }
 
 TEST_F(TestFile, AppliesItsValuesThroughTheEventsAndLocksItsFrames) {
-  TestDocument document;
+  FixedSettings document;
   document.controls = {{"", "Bestimmen", "akk_grp", 1, {}, ""},
                        {"", "Tempo#var", "temp_Combo", 9, {}, ""},
                        {"", "Richtung#var", "arpeg_cmb", 0, {}, ""},
@@ -237,7 +237,7 @@ TEST_F(TestFile, AppliesItsValuesThroughTheEventsAndLocksItsFrames) {
 }
 
 TEST_F(TestFile, FindsAnEntryByItsValueAndNotByItsPlaceOrWords) {
-  TestDocument document;
+  FixedSettings document;
   document.controls = {{"", "Akk-Form", "aus_w", 1, {}, ""},
                        {"", "Tonraum#var", "oktav_cmb", 2, 2, " 9 octaves"}};
   Read(document);
@@ -247,7 +247,7 @@ TEST_F(TestFile, FindsAnEntryByItsValueAndNotByItsPlaceOrWords) {
 }
 
 TEST_F(TestFile, ListsWhatTheScreenDoesNotHaveAndAppliesTheRest) {
-  TestDocument document;
+  FixedSettings document;
   document.controls = {{"Ambitus", "Ambitus", "ambitus_cmb", 1, {}, "breit"},
                        {"Abfolge", "Abfolge", "abfrage", 1, {}, "automatisch"},
                        {"Tempo", "Tempo#var", "temp_Combo", 10, {}, "250"},
@@ -269,7 +269,7 @@ TEST_F(TestFile, ListsWhatTheScreenDoesNotHaveAndAppliesTheRest) {
 }
 
 TEST_F(TestFile, ListsTheFirstOfManyThatTheScreenDoesNotHave) {
-  TestDocument document;
+  FixedSettings document;
   for (int i = 1; i <= 60; ++i) {
     document.controls.push_back({"Frage " + std::to_string(i), "Nie", "nie_cmb", 0, {}, ""});
   }
@@ -283,7 +283,7 @@ TEST_F(TestFile, ListsTheFirstOfManyThatTheScreenDoesNotHave) {
 }
 
 TEST_F(TestFile, ListsTheBeginningOfALongName) {
-  TestDocument document;
+  FixedSettings document;
   std::string name;
   for (int i = 0; i < 100; ++i) name += "ü";
   document.controls = {{name, "Nie", "nie_cmb", 0, {}, ""}};
@@ -293,7 +293,7 @@ TEST_F(TestFile, ListsTheBeginningOfALongName) {
 }
 
 TEST_F(TestFile, DoesNotReachControlsThatArePartOfNoTest) {
-  TestDocument document;
+  FixedSettings document;
   document.controls = {{"", "", "training_Combo", 4, {}, ""},
                        {"", "", "klanglst", 0, {}, ""},
                        {"", "", "HSliderVolume", 5, {}, ""},
@@ -306,7 +306,7 @@ TEST_F(TestFile, DoesNotReachControlsThatArePartOfNoTest) {
 }
 
 TEST_F(TestFile, ChangesNothingWhenItIsBrokenAndTellsTheLineAndTheColumn) {
-  test_files.trouble = TestFileError({9620, "The text is not well-formed XML.", {}}, 7, 12);
+  settings_files.trouble = SettingsFileError({9620, "The text is not well-formed XML.", {}}, 7, 12);
   dialog.to_open = "broken.xml";
   EXPECT_TRUE(screen().cmdOptionRead.Press());
   EXPECT_THAT(FramesLockedByTest(), IsEmpty());
@@ -326,7 +326,7 @@ TEST_F(TestFile, TellsNoPlaceWhenThereIsNone) {
 // --- At a level that holds settings ------------------------------------------------------------
 
 /// A test of all that can be part of one, with no value that a screen or the stored training has.
-TestDocument TestOfEverything() {
+FixedSettings TestOfEverything() {
   return {"",
           "",
           "",
@@ -419,7 +419,7 @@ TEST_F(TestFileAtALevel, SaysInWordsWhatOfATrainingItLeavesAlone) {
 
 TEST_F(TestFileAtALevel, SaysWhatIsHeldAndWhatDoesNotExistApart) {
   TakeUpATraining();
-  TestDocument document;
+  FixedSettings document;
   document.controls = {{"Abfolge", "Abfolge", "abfrage", 0, {}, "manuell"},
                        {"Ambitus", "Ambitus", "ambitus_cmb", 1, {}, "breit"}};
   Read(document);
@@ -511,7 +511,7 @@ TEST_F(TestFileAtALevel, DoesNotSpoilATrainingThatIsSavedAgain) {
   };
   run_one_task();
   TakeUpATraining();
-  TestDocument document;
+  FixedSettings document;
   document.controls = {{"", "Akkord-Anzahl#var", "akkzahl_cmb", 0, 1, " 1"}};
   Mark({4});  // in another colour than that of the lock
   Read(document);
@@ -542,12 +542,12 @@ TEST_F(TestFile, WrittenInGermanIsReadInEnglishWithTheSameSettings) {
   screen().kl_farb.Choose(1);
   screen().Channel_Combo.Choose(2);
   screen().ComboPatch.Choose(40);
-  const TestDocument document = Save();
+  const FixedSettings document = Save();
 
   ProgramFixture english;
   english.host.language = "English";
   english.languages.languages[1].second.words = {{"41s", "octaves"}, {"97s", "chord"}};
-  english.test_files.files["german.xml"] = document;
+  english.settings_files.files["german.xml"] = document;
   english.dialog.to_open = "german.xml";
   english.ToSettings();
   english.settings_screen().cmdOptionRead.Press();
@@ -561,11 +561,11 @@ TEST_F(TestFile, GivesTheSameSettingsAfterTheTimbreOfAVoiceWasLookedAt) {
   screen().Channel_Combo.Choose(4);
   screen().kl_farb.Choose(0);
   screen().ComboPatch.Choose(21);
-  const TestDocument document = Save();
+  const FixedSettings document = Save();
   ASSERT_EQ(settings().patch_ar[0], 21);
 
   ProgramFixture reader;
-  reader.test_files.files["t.xml"] = document;
+  reader.settings_files.files["t.xml"] = document;
   reader.dialog.to_open = "t.xml";
   reader.ToSettings();
   reader.settings_screen().cmdOptionRead.Press();

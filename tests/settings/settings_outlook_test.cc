@@ -127,7 +127,7 @@ TEST_F(Outlook, DoesNotSpeakOfAMixtureWhereATrainingKeepsItsBoard) {
 }
 
 TEST_F(Outlook, FollowsATestFile) {
-  test_files.files["t.xml"] = {
+  settings_files.files["t.xml"] = {
       "",
       "",
       "",

@@ -212,9 +212,9 @@ struct SingleScreen : ShellFixture {
   LessonRecord record{shell, documents.Factory(), [] { return "bestimmen"; }};
   ScriptedRandom random;
   ScriptedFileDialog dialog;
-  MemoryTestFiles test_files;
+  MemorySettingsFiles settings_files;
   Einstellung1 screen{
-      shell, {settings, names, midi, output, counters, record, random, dialog, test_files}};
+      shell, {settings, names, midi, output, counters, record, random, dialog, settings_files}};
 };
 
 TEST(SettingsScreenSetUp, MakesRoomForTheResultsOf24Chords) {
@@ -796,7 +796,7 @@ TEST_F(SettingsScreen, HasATestTimerThatPressesTheButton) {
 class WithDocuments : public ProgramFixture {
  public:
   std::function<void()> on_document;
-  Program hooked{{loop, system, messages, view, output, random, dialog, test_files, printer,
+  Program hooked{{loop, system, messages, view, output, random, dialog, settings_files, printer,
                   host.Factory(), languages.Factory(),
                   [this, make = documents.Factory()] {
                     on_document();

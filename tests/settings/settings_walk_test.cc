@@ -88,7 +88,7 @@ class Walk : public SettingsTest {
     const ExerciseSettings before = settings();
     const std::vector<int> kinds = Kinds();
     const std::vector<int> groups = Groups();
-    const bool file = Below(4) == 0 && test_files.files.contains("walk.xml");
+    const bool file = Below(4) == 0 && settings_files.files.contains("walk.xml");
     dialog.to_open = file ? std::optional<std::string>("walk.xml") : std::nullopt;
     if (!screen().cmdOptionRead.Press()) return false;
     messages.warnings.clear();

@@ -89,19 +89,19 @@ class ScriptedFileDialog : public FileDialog {
 };
 
 /// Test files in memory, by name.
-class MemoryTestFiles : public TestFiles {
+class MemorySettingsFiles : public SettingsFiles {
  public:
-  std::map<std::string, TestDocument> files;
-  std::optional<TestFileError> trouble;  ///< raised by each call while it is set
+  std::map<std::string, FixedSettings> files;
+  std::optional<SettingsFileError> trouble;  ///< raised by each call while it is set
 
-  void Write(const std::string& file, const TestDocument& document) override {
+  void Write(const std::string& file, const FixedSettings& document) override {
     if (trouble) throw *trouble;
     files[file] = document;
   }
-  TestDocument Read(const std::string& file) override {
+  FixedSettings Read(const std::string& file) override {
     if (trouble) throw *trouble;
     const auto found = files.find(file);
-    if (found == files.end()) throw TestFileError({9611, "The file does not exist.", {}}, 0, 0);
+    if (found == files.end()) throw SettingsFileError({9611, "The file does not exist.", {}}, 0, 0);
     return found->second;
   }
 };

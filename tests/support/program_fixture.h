@@ -24,7 +24,7 @@ class ProgramFixture {
   /// With documents or a host of another kind in place of the fixture's own.
   ProgramFixture(double clock, XmlDocumentFactory make_document, HostServiceFactory make_host)
       : loop(clock),
-        program({loop, system, messages, view, output, random, dialog, test_files, printer,
+        program({loop, system, messages, view, output, random, dialog, settings_files, printer,
                  make_host ? std::move(make_host) : host.Factory(), languages.Factory(),
                  make_document ? std::move(make_document) : documents.Factory()},
                 {"vmod17", 1, 0, 0}) {}
@@ -36,7 +36,7 @@ class ProgramFixture {
   RecordingMidiOutput output{&loop};
   ScriptedRandom random;
   ScriptedFileDialog dialog;
-  MemoryTestFiles test_files;
+  MemorySettingsFiles settings_files;
   FakePrinter printer;
   MemoryHost host;
   FakeLanguages languages;

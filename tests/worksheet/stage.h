@@ -65,9 +65,9 @@ class Stage : public ShellHarness {
   MemoryXmlLibrary documents;
   LessonRecord record{shell, documents.Factory(), [] { return std::string("bestimmen"); }};
   ScriptedFileDialog dialog;
-  MemoryTestFiles test_files;
+  MemorySettingsFiles settings_files;
   Einstellung1 einstellung{
-      shell, {settings, names, midi, output, counters, record, random, dialog, test_files}};
+      shell, {settings, names, midi, output, counters, record, random, dialog, settings_files}};
   Arbeitsblatt1 sheet{
       shell,
       {settings, names, table, board, pictures, midi, random, counters, record, einstellung}};

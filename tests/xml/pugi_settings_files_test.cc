@@ -45,18 +45,18 @@ std::string Content(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-TestControl Bestimmen() { return {"Bestimmen", "Bestimmen", "akk_grp", 1, {}, "Gruppe"}; }
+FixedControl Bestimmen() { return {"Bestimmen", "Bestimmen", "akk_grp", 1, {}, "Gruppe"}; }
 
-TestDocument Example() {
+FixedSettings Example() {
   return {"vmod17",
           "1",
           "Prüfung ♭9",
           {Bestimmen(), {"Tonraum", "Tonraum#var", "oktav_cmb", 1, 3, "3 Oktaven"}}};
 }
 
-class PugiTestFilesTest : public testing::Test {
+class PugiSettingsFilesTest : public testing::Test {
  protected:
-  TestDocument ReadText(const std::string& text) {
+  FixedSettings ReadText(const std::string& text) {
     std::ofstream(folder_ / "a.xml", std::ios::binary) << text;
     return files_.Read(folder_ / "a.xml");
   }
@@ -64,7 +64,7 @@ class PugiTestFilesTest : public testing::Test {
   std::string PlaceOfError(const std::string& text) {
     try {
       ReadText(text);
-    } catch (const TestFileError& error) {
+    } catch (const SettingsFileError& error) {
       EXPECT_STRNE(error.what(), "");
       return std::to_string(error.line()) + ":" + std::to_string(error.column());
     }
@@ -81,7 +81,7 @@ class PugiTestFilesTest : public testing::Test {
   static std::string ReasonOf(const std::function<void()>& call) {
     try {
       call();
-    } catch (const TestFileError& error) {
+    } catch (const SettingsFileError& error) {
       std::string reason = std::to_string(error.reason().text_id);
       for (const std::string& detail : error.reason().details) reason += " " + detail;
       return reason;
@@ -91,7 +91,7 @@ class PugiTestFilesTest : public testing::Test {
   std::string PlaceOfErrorIn(const std::string& file) {
     try {
       files_.Read(file);
-    } catch (const TestFileError& error) {
+    } catch (const SettingsFileError& error) {
       EXPECT_STRNE(error.what(), "");
       return std::to_string(error.line()) + ":" + std::to_string(error.column());
     }
@@ -105,10 +105,10 @@ class PugiTestFilesTest : public testing::Test {
   }
 
   TestFolder folder_;
-  PugiTestFiles files_;
+  PugiSettingsFiles files_;
 };
 
-TEST_F(PugiTestFilesTest, WritesTheDocumentInItsFixedFormAndEncoding) {
+TEST_F(PugiSettingsFilesTest, WritesTheDocumentInItsFixedFormAndEncoding) {
   files_.Write(folder_ / "test.xml", Example());
   EXPECT_EQ(Content(folder_ / "test.xml"),
             "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\n"
@@ -134,37 +134,37 @@ TEST_F(PugiTestFilesTest, WritesTheDocumentInItsFixedFormAndEncoding) {
             "</test>\n");
 }
 
-TEST_F(PugiTestFilesTest, ReadsWhatItHasWritten) {
+TEST_F(PugiSettingsFilesTest, ReadsWhatItHasWritten) {
   files_.Write(folder_ / "test.xml", Example());
   EXPECT_EQ(files_.Read(folder_ / "test.xml"), Example());
   EXPECT_EQ(folder_.Entries(), 1);
 }
 
-TEST_F(PugiTestFilesTest, LetsOthersReadWhatATeacherWrites) {
+TEST_F(PugiSettingsFilesTest, LetsOthersReadWhatATeacherWrites) {
   files_.Write(folder_ / "test.xml", Example());
   const auto rights = fs::status(folder_ / "test.xml").permissions();
   EXPECT_NE(rights & fs::perms::others_read, fs::perms::none);
   EXPECT_EQ(rights & fs::perms::others_write, fs::perms::none);
 }
 
-TEST_F(PugiTestFilesTest, ReadsUtf8WithAndWithoutAMark) {
+TEST_F(PugiSettingsFilesTest, ReadsUtf8WithAndWithoutAMark) {
   const std::string text = Around(
       "<control title='Prüfung' text='Bestimmen'><cname>akk_grp</cname><index>1</index>"
       "<value text='♭9'>True</value></control>");
   for (const std::string before : {"", "\xEF\xBB\xBF", "<?xml version='1.0' encoding='utf-8'?>"}) {
-    const TestDocument test = ReadText(before + text);
+    const FixedSettings test = ReadText(before + text);
     ASSERT_EQ(test.controls.size(), 1U);
     EXPECT_EQ(test.controls[0].title, "Prüfung");
     EXPECT_EQ(test.controls[0].words, "♭9");
   }
 }
 
-TEST_F(PugiTestFilesTest, ReadsItsOwnEncodingHoweverItIsNamed) {
+TEST_F(PugiSettingsFilesTest, ReadsItsOwnEncodingHoweverItIsNamed) {
   for (const std::string declaration :
        {"<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>",
         "<?xml version='1.0' encoding='ISO-8859-1' standalone='yes' ?>",
         "<?xml version='1.0' encoding='Latin1'?>"}) {
-    const TestDocument test =
+    const FixedSettings test =
         ReadText(declaration +
                  "<test><basic><modul>m</modul><type>1</type><description>\xFC</description>"
                  "</basic><setting/></test>");
@@ -172,21 +172,21 @@ TEST_F(PugiTestFilesTest, ReadsItsOwnEncodingHoweverItIsNamed) {
   }
 }
 
-TEST_F(PugiTestFilesTest, TakesBlanksAroundNumbersAndPassesOverWhatItDoesNotKnow) {
-  const TestDocument test = ReadText(
+TEST_F(PugiSettingsFilesTest, TakesBlanksAroundNumbersAndPassesOverWhatItDoesNotKnow) {
+  const FixedSettings test = ReadText(
       Around("<!-- by hand --><other/><control title='a' text='b' new='c'><more/>"
              "<cname>n</cname><index> 2 </index><value text='w'>\n-3\n</value></control>"));
-  EXPECT_EQ(test.controls, (std::vector<TestControl>{{"a", "b", "n", 2, -3, "w"}}));
+  EXPECT_EQ(test.controls, (std::vector<FixedControl>{{"a", "b", "n", 2, -3, "w"}}));
 }
 
-TEST_F(PugiTestFilesTest, TellsWhereATextIsNotWellFormed) {
+TEST_F(PugiSettingsFilesTest, TellsWhereATextIsNotWellFormed) {
   EXPECT_EQ(PlaceOfError("<test>\n  <basic>\n  </setting>\n</test>\n"), "3:5");
   EXPECT_NE(PlaceOfError("<test>\n<basic"), "none");
   EXPECT_NE(PlaceOfError("not a test at all"), "none");
   EXPECT_EQ(PlaceOfError(""), "1:1");
 }
 
-TEST_F(PugiTestFilesTest, CountsColumnsInCharactersAndNotInBytes) {
+TEST_F(PugiSettingsFilesTest, CountsColumnsInCharactersAndNotInBytes) {
   const std::string german = "<basic><modul>üü</modul></oops>";
   const std::string plain = "<basic><modul>uu</modul></oops>";
   EXPECT_EQ(PlaceOfError("<test>\n" + german), PlaceOfError("<test>\n" + plain));
@@ -195,7 +195,7 @@ TEST_F(PugiTestFilesTest, CountsColumnsInCharactersAndNotInBytes) {
             PlaceOfError("<test>\n" + plain));
 }
 
-TEST_F(PugiTestFilesTest, TellsWhichElementLacksAnother) {
+TEST_F(PugiSettingsFilesTest, TellsWhichElementLacksAnother) {
   EXPECT_EQ(PlaceOfError("<test>\n  <setting/>\n</test>"), "1:1");
   EXPECT_EQ(PlaceOfError("<test>\n  <basic><modul/><type/></basic><setting/></test>"), "2:3");
   EXPECT_EQ(PlaceOfError("<test><basic><modul/><type/><description/></basic></test>"), "1:1");
@@ -209,7 +209,7 @@ TEST_F(PugiTestFilesTest, TellsWhichElementLacksAnother) {
             "4:1");
 }
 
-TEST_F(PugiTestFilesTest, TellsWhichElementLacksAnAttribute) {
+TEST_F(PugiSettingsFilesTest, TellsWhichElementLacksAnAttribute) {
   EXPECT_EQ(PlaceOfError(Around("<control text='b'/>")), "4:1");
   EXPECT_EQ(PlaceOfError(Around("<control title='b'/>")), "4:1");
   EXPECT_EQ(PlaceOfError(Around("<control title='a' text='b'><cname/>\n  <index>1</index>\n"
@@ -217,7 +217,7 @@ TEST_F(PugiTestFilesTest, TellsWhichElementLacksAnAttribute) {
             "6:4");
 }
 
-TEST_F(PugiTestFilesTest, TellsWhereAWordStandsForANumber) {
+TEST_F(PugiSettingsFilesTest, TellsWhereAWordStandsForANumber) {
   const auto with = [](const std::string& index, const std::string& value) {
     return Around("<control title='a' text='b'><cname/>\n <index>" + index + "</index>\n  <value " +
                   "text='c'>" + value + "</value></control>");
@@ -230,17 +230,17 @@ TEST_F(PugiTestFilesTest, TellsWhereAWordStandsForANumber) {
   EXPECT_EQ(PlaceOfError(with("1", "true")), "6:3");
 }
 
-TEST_F(PugiTestFilesTest, TakesNoOtherRootAndNoSecondOne) {
+TEST_F(PugiSettingsFilesTest, TakesNoOtherRootAndNoSecondOne) {
   EXPECT_EQ(PlaceOfError("\n <exercise/>"), "2:2");
   EXPECT_EQ(PlaceOfError(Around("") + "<test/>"), "7:1");
 }
 
-TEST_F(PugiTestFilesTest, TellsWhereAByteIsNoCharacter) {
+TEST_F(PugiSettingsFilesTest, TellsWhereAByteIsNoCharacter) {
   EXPECT_EQ(PlaceOfError("<test>\n ü\xFC</test>"), "2:3");
   EXPECT_EQ(PlaceOfError(std::string("<test>\0</test>", 14)), "1:7");
 }
 
-TEST_F(PugiTestFilesTest, RefusesWhatIsNoFileOrCannotBeOpened) {
+TEST_F(PugiSettingsFilesTest, RefusesWhatIsNoFileOrCannotBeOpened) {
   EXPECT_EQ(PlaceOfErrorIn(folder_ / "missing.xml"), "0:0");
   EXPECT_EQ(PlaceOfErrorIn(folder_ / ""), "0:0");
   EXPECT_EQ(PlaceOfErrorIn(""), "0:0");
@@ -248,13 +248,13 @@ TEST_F(PugiTestFilesTest, RefusesWhatIsNoFileOrCannotBeOpened) {
   EXPECT_EQ(PlaceOfErrorIn(folder_ / "pipe"), "0:0");
 }
 
-TEST_F(PugiTestFilesTest, GivesEachReasonAsATextWithItsDetails) {
+TEST_F(PugiSettingsFilesTest, GivesEachReasonAsATextWithItsDetails) {
   EXPECT_EQ(ReasonIn(folder_ / "missing.xml"), "9611");
   fs::create_directory(folder_ / "folder");
   EXPECT_EQ(ReasonIn(folder_ / "folder"), "9613");
   ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
   EXPECT_EQ(ReasonIn(folder_ / "pipe"), "9616");
-  EXPECT_EQ(ReasonOfError(std::string(PugiTestFiles::kMaxBytes + 1, ' ')), "9617");
+  EXPECT_EQ(ReasonOfError(std::string(PugiSettingsFiles::kMaxBytes + 1, ' ')), "9617");
   EXPECT_EQ(ReasonOfError("<test>\n ü\xFC</test>"), "9619");
   EXPECT_EQ(ReasonOfError("<test>"), "9620");
   EXPECT_EQ(ReasonOfError("<exercise/>"), "9621 test");
@@ -266,9 +266,9 @@ TEST_F(PugiTestFilesTest, GivesEachReasonAsATextWithItsDetails) {
             "9625 index");
 }
 
-TEST_F(PugiTestFilesTest, GivesTheReasonsWhyItCannotWrite) {
-  TestDocument large = Example();
-  large.description.assign(PugiTestFiles::kMaxBytes, 'x');
+TEST_F(PugiSettingsFilesTest, GivesTheReasonsWhyItCannotWrite) {
+  FixedSettings large = Example();
+  large.description.assign(PugiSettingsFiles::kMaxBytes, 'x');
   EXPECT_EQ(ReasonOf([&] { files_.Write(folder_ / "test.xml", large); }), "9618");
   EXPECT_EQ(ReasonOf([&] { files_.Write(folder_ / "missing/test.xml", Example()); }), "9611");
   fs::create_directory(folder_ / "folder");
@@ -278,28 +278,28 @@ TEST_F(PugiTestFilesTest, GivesTheReasonsWhyItCannotWrite) {
               testing::StartsWith("9615 "));
 }
 
-TEST_F(PugiTestFilesTest, RefusesAFileThatIsTooLargeForATest) {
+TEST_F(PugiSettingsFilesTest, RefusesAFileThatIsTooLargeForATest) {
   const std::string test = Around("");
-  const std::string blanks(PugiTestFiles::kMaxBytes - test.size(), ' ');
+  const std::string blanks(PugiSettingsFiles::kMaxBytes - test.size(), ' ');
   EXPECT_EQ(PlaceOfError(test + blanks), "none");
   EXPECT_EQ(PlaceOfError(test + blanks + " "), "0:0");
 }
 
-TEST_F(PugiTestFilesTest, StandsDeepNesting) {
+TEST_F(PugiSettingsFilesTest, StandsDeepNesting) {
   std::string deep;
   while (deep.size() < 500'000) deep += "<control>";
   EXPECT_NE(PlaceOfError(deep), "none");
 }
 
-TEST_F(PugiTestFilesTest, LeavesAFileAsItWasWhenItCannotBeWritten) {
+TEST_F(PugiSettingsFilesTest, LeavesAFileAsItWasWhenItCannotBeWritten) {
   files_.Write(folder_ / "test.xml", Example());
-  TestDocument large = Example();
-  large.description.assign(PugiTestFiles::kMaxBytes, 'x');
-  EXPECT_THROW(files_.Write(folder_ / "test.xml", large), TestFileError);
+  FixedSettings large = Example();
+  large.description.assign(PugiSettingsFiles::kMaxBytes, 'x');
+  EXPECT_THROW(files_.Write(folder_ / "test.xml", large), SettingsFileError);
   EXPECT_EQ(files_.Read(folder_ / "test.xml"), Example());
   fs::create_directory(folder_ / "folder");
-  EXPECT_THROW(files_.Write(folder_ / "folder", Example()), TestFileError);
-  EXPECT_THROW(files_.Write(folder_ / "missing/test.xml", Example()), TestFileError);
+  EXPECT_THROW(files_.Write(folder_ / "folder", Example()), SettingsFileError);
+  EXPECT_THROW(files_.Write(folder_ / "missing/test.xml", Example()), SettingsFileError);
   EXPECT_EQ(folder_.Entries(), 2);
 }
 
@@ -320,29 +320,30 @@ rc::Gen<std::string> AnyText() {
                       });
 }
 
-rc::Gen<TestDocument> AnyDocument() {
-  const auto control = rc::gen::build<TestControl>(
-      rc::gen::set(&TestControl::title, AnyText()), rc::gen::set(&TestControl::text, AnyText()),
-      rc::gen::set(&TestControl::cname, AnyText()),
-      rc::gen::set(&TestControl::index, rc::gen::arbitrary<int>()),
-      rc::gen::set(&TestControl::value,
+rc::Gen<FixedSettings> AnyDocument() {
+  const auto control = rc::gen::build<FixedControl>(
+      rc::gen::set(&FixedControl::title, AnyText()), rc::gen::set(&FixedControl::text, AnyText()),
+      rc::gen::set(&FixedControl::cname, AnyText()),
+      rc::gen::set(&FixedControl::index, rc::gen::arbitrary<int>()),
+      rc::gen::set(&FixedControl::value,
                    rc::gen::oneOf(rc::gen::just(std::optional<int>()),
                                   rc::gen::map(rc::gen::arbitrary<int>(),
                                                [](int n) { return std::optional(n); }))),
-      rc::gen::set(&TestControl::words, AnyText()));
-  return rc::gen::build<TestDocument>(
-      rc::gen::set(&TestDocument::modul, AnyText()), rc::gen::set(&TestDocument::type, AnyText()),
-      rc::gen::set(&TestDocument::description, AnyText()),
-      rc::gen::set(&TestDocument::controls, rc::gen::container<std::vector<TestControl>>(control)));
+      rc::gen::set(&FixedControl::words, AnyText()));
+  return rc::gen::build<FixedSettings>(
+      rc::gen::set(&FixedSettings::modul, AnyText()), rc::gen::set(&FixedSettings::type, AnyText()),
+      rc::gen::set(&FixedSettings::description, AnyText()),
+      rc::gen::set(&FixedSettings::controls,
+                   rc::gen::container<std::vector<FixedControl>>(control)));
 }
 
-RC_GTEST_FIXTURE_PROP(PugiTestFilesTest, ReadsEveryDocumentAsItWasWritten, ()) {
-  const TestDocument document = *AnyDocument();
+RC_GTEST_FIXTURE_PROP(PugiSettingsFilesTest, ReadsEveryDocumentAsItWasWritten, ()) {
+  const FixedSettings document = *AnyDocument();
   files_.Write(folder_ / "any.xml", document);
   RC_ASSERT(files_.Read(folder_ / "any.xml") == document);
 }
 
-RC_GTEST_FIXTURE_PROP(PugiTestFilesTest, ReadsAnySpoiledFileOrSaysThatItCannot, ()) {
+RC_GTEST_FIXTURE_PROP(PugiSettingsFilesTest, ReadsAnySpoiledFileOrSaysThatItCannot, ()) {
   files_.Write(folder_ / "any.xml", Example());
   std::string text = Content(folder_ / "any.xml");
   const int blows = *rc::gen::inRange(1, 6);
@@ -355,7 +356,7 @@ RC_GTEST_FIXTURE_PROP(PugiTestFilesTest, ReadsAnySpoiledFileOrSaysThatItCannot, 
   std::ofstream(folder_ / "any.xml", std::ios::binary) << text;
   try {
     files_.Read(folder_ / "any.xml");
-  } catch (const TestFileError& error) {
+  } catch (const SettingsFileError& error) {
     const auto lines = std::count(text.begin(), text.end(), '\n') + 1;
     RC_ASSERT(error.line() >= 1 && error.line() <= lines && error.column() >= 1);
   }

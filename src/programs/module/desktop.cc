@@ -200,7 +200,7 @@ Platform Desktop::MakePlatform() {
           *output_,
           random_,
           dialog_,
-          test_files_,
+          settings_files_,
           printer_,
           [this] { return store_.Service(); },
           [this] { return std::make_unique<SharedLanguages>(languages_); },

@@ -76,7 +76,7 @@ class Desktop {
   QtMessageBox messages_{[this] { return view_.Window(); }};
   HelpWindow help_;
   QtFileDialog dialog_{[this] { return view_.Window(); }};
-  PugiTestFiles test_files_;
+  PugiSettingsFiles settings_files_;
   QtPrinter printer_{loop_, SystemPrintTargets(loop_)};
   std::unique_ptr<Notices> notices_;  // before those that tell, so that it goes after them
   std::unique_ptr<UnsavedRecords> unsaved_records_;
