@@ -24,7 +24,7 @@ enum Uebmodus {
 /// fields are the index of the control that sets them.
 struct ExerciseSettings {
   int uebmodus = 0;          ///< a `Uebmodus`
-  int pruef_nr = 0;          ///< 1 to 5, the exam
+  int pruef_nr = 0;          ///< the exam, from 1
   int tempo_idx = 0;         ///< index into `tempo_dauer_ar`
   int arp_richtung = 0;      ///< an `ArpRichtung`
   int arp_tempo_idx = 0;     ///< index into `arp_teiler_ar`

@@ -10,6 +10,7 @@
 #include "base/numbers.h"
 #include "base/record_reader.h"
 #include "catalogue/chord_table.h"
+#include "settings/exams.h"
 #include "settings/settings_screen.h"
 
 namespace vmod17 {
@@ -19,16 +20,6 @@ constexpr const char* kKeinTraining = "---------------";
 
 constexpr std::array kRahmenDesTrainings = {5, 4, 10, 7, 3, 12, 9, 11, 2, 1, 0, 17};
 constexpr std::array kRahmenDerPruefung = {5, 7, 3, 11, 2};
-
-struct Pruefung {
-  int akk_form;
-  int best_art;
-  std::array<int, 2> klangtypen;  // 0 for none
-};
-
-// By number, from 1.
-constexpr std::array<Pruefung, 6> kPruefungen = {
-    {{}, {0, 0, {3, 0}}, {0, 0, {4, 5}}, {0, 0, {6, 7}}, {1, 0, {}}, {1, 1, {}}}};
 
 /// Selects the first entry with that text, if there is one.
 void WaehleText(ItemList& list, const std::string& text) {
@@ -190,14 +181,12 @@ void Einstellung1::prfnr_Comb_Click() {
 void Einstellung1::SetzePruefung() {
   ExerciseSettings& settings = parts_.settings;
   settings.pruef_seed = 0;
-  const Pruefung& pruefung = kPruefungen.at(settings.pruef_nr);
+  const Pruefung& pruefung = kPruefungen.at(settings.pruef_nr - 1);
   abfrage.Check(1);
   aus_w.Check(pruefung.akk_form);
   akk_grp.Check(pruefung.best_art);
-  if (pruefung.best_art == 0) {
-    for (const int k : pruefung.klangtypen) WaehleWert(klanglst[0], k);
-  }
-  if (settings.pruef_nr > 1) grp_alle_Click(0);
+  for (const int k : pruefung.klangtypen) WaehleWert(klanglst[0], k);
+  if (pruefung.gruppen == Pruefung::Gruppen::kAlle) grp_alle_Click(0);
   for (const int i : kRahmenDerPruefung) SperreRahmen(i);
 }
 

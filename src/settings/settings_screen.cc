@@ -9,6 +9,7 @@
 
 #include "base/numbers.h"
 #include "catalogue/chord_table.h"
+#include "settings/exams.h"
 #include "shell/delay.h"
 #include "sound/instrument_list.h"
 
@@ -18,7 +19,6 @@ namespace {
 constexpr int kStartIntervall = 200;
 constexpr int kTestIntervall = 2000;
 constexpr int kBestimmen = 1;
-constexpr int kPruefungen = 5;
 constexpr int kLautstaerke = 100;
 
 constexpr Color kRahmenLevel = Bgr(0xC0FFC0);
@@ -258,8 +258,8 @@ void Einstellung1::FuelleAuswahlListen() {
   for (int i : {0, 1}) klanglst[i].Clear();
   for (int k = kTriade; k < kVoicing; ++k) klanglst[0].Add(parts_.names.klang_name_ar[k], k);
   klanglst[0].Select(0);
-  for (int i = 1; i <= kPruefungen; ++i) {
-    prfnr_Comb.Add(texts.Sprachtext(426) + SignedText(i), ItemList::kValueIsIndex);
+  for (const Pruefung& pruefung : kPruefungen) {
+    prfnr_Comb.Add(texts.Sprachtext(426) + SignedText(pruefung.nummer), ItemList::kValueIsIndex);
   }
   prfnr_Comb.Select(0);
   grdeinst[2].visible = false;

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "settings/exams.h"
 #include "settings/settings_screen.h"
 
 namespace vmod17 {
@@ -19,7 +20,7 @@ inline std::string RangeTrouble(const ExerciseSettings& s) {
   const auto in = [](int value, int low, int high) { return low <= value && value <= high; };
   const auto option = [&](int value) { return in(value, 0, 1); };
   if (!in(s.uebmodus, 0, 4)) return "uebmodus";
-  if (!in(s.pruef_nr, 1, 5)) return "pruef_nr";
+  if (!in(s.pruef_nr, 1, static_cast<int>(kPruefungen.size()))) return "pruef_nr";
   if (!in(s.tempo_idx, 0, 9)) return "tempo_idx";
   if (!in(s.arp_richtung, 0, 3)) return "arp_richtung";
   if (!in(s.arp_tempo_idx, 0, 4)) return "arp_tempo_idx";
