@@ -12,15 +12,9 @@
 namespace vmod17 {
 namespace {
 
-constexpr int kSoll = 4;
-constexpr int kKlaengeMindestens = 30;
 constexpr int kVolleTasche = 8;  // times the entries: above it the bag is left as it is
 
 }  // namespace
-
-int Material::SollFuer(int posten) {
-  return posten * kSoll >= kKlaengeMindestens ? kSoll : kKlaengeMindestens / posten;
-}
 
 void Material::BeginneTraining(Auswertung& auswertung) {
   mat_soll = SollFuer(mat_posten);

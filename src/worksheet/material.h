@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "exercise/counters.h"
+#include "exercise/training_weights.h"
 #include "ports/random.h"
 
 namespace vmod17 {
@@ -21,10 +22,6 @@ struct Material {
   int mat_anzahl = 0;                       ///< last index of `mat_ar`
   int mat_index = 0;                        ///< place drawn last
   int mat_rest = 0;                         ///< sum of the positive weights
-
-  /// The starting weight with so many entries: a training holds about 30 chords at the least.
-  /// `posten` is 1 or more.
-  static int SollFuer(int posten);
 
   /// Begins a training: every one of the `mat_posten` entries gets the same weight.
   void BeginneTraining(Auswertung& auswertung);
@@ -46,7 +43,7 @@ struct Material {
   /// The weight of a board entry; null when it is not in the material.
   int* Gewicht(int entry);
   /// What is left at twice the starting weight: there a training is too hard.
-  int Grenze() const { return mat_posten * mat_soll * 2; }
+  int Grenze() const { return GrenzeFuer(mat_posten, mat_soll); }
   /// What is left, in whole per cent of `Grenze`; 50 at the start.
   int Prozent() const;
 };

@@ -9,7 +9,7 @@
 
 #include "base/numbers.h"
 #include "base/record_reader.h"
-#include "worksheet/material.h"
+#include "exercise/training_weights.h"
 
 namespace vmod17 {
 namespace {
@@ -50,21 +50,21 @@ class Pruefer {
   }
 
   void PruefeGewichte(const StoredTraining& training) const {
-    Material material;
-    material.mat_posten = static_cast<int>(training.mat_tab.size());
-    material.mat_soll = Material::SollFuer(material.mat_posten);
+    const int posten = static_cast<int>(training.mat_tab.size());
+    const int soll = SollFuer(posten);
+    int rest = 0;
     for (std::size_t i = 0; i < training.mat_tab.size(); ++i) {
       const int gewicht = training.mat_tab[i][1];
       const auto [gefragt, noten, gewaehlt] = training.auswertung[i];
       const auto a0 = static_cast<int>(gefragt);
-      const int mitte = material.mat_soll + static_cast<int>(gewaehlt);
+      const int mitte = soll + static_cast<int>(gewaehlt);
       if (gewicht < mitte - kAbnahmeJeFrage * a0 || gewicht > mitte + training.fehl_max * a0) {
         reader_.Unusable("a weight that no answers give");
       }
       if (i > 0 && gewicht > training.mat_tab[i - 1][1]) reader_.Unusable("weights out of order");
-      material.mat_rest += std::max(0, gewicht);
+      rest += std::max(0, gewicht);
     }
-    if (material.mat_rest < 1 || material.mat_rest > material.Grenze() - 1) {
+    if (rest < 1 || rest >= GrenzeFuer(posten, soll)) {
       reader_.Unusable("a training that has ended");
     }
   }

@@ -38,7 +38,7 @@ class MaterialTest : public ::testing::Test {
   /// Gives the material these rows of entry and weight, in this order.
   void Rows(const std::vector<Row>& rows) {
     material.mat_posten = static_cast<int>(rows.size());
-    material.mat_soll = Material::SollFuer(material.mat_posten);
+    material.mat_soll = SollFuer(material.mat_posten);
     material.mat_tab.assign(1, {0, 0});
     material.mat_tab.insert(material.mat_tab.end(), rows.begin(), rows.end());
   }
@@ -65,25 +65,12 @@ class MaterialTest : public ::testing::Test {
 
 // ---- The start of a training ------------------------------------------------------------------
 
-TEST_F(MaterialTest, GivesFewChordsAGreaterWeight) {
-  EXPECT_EQ(Material::SollFuer(24), 4);
-  EXPECT_EQ(Material::SollFuer(10), 4);
-  EXPECT_EQ(Material::SollFuer(8), 4);
-  EXPECT_EQ(Material::SollFuer(7), 4);
-  EXPECT_EQ(Material::SollFuer(6), 5);
-  EXPECT_EQ(Material::SollFuer(5), 6);
-  EXPECT_EQ(Material::SollFuer(4), 7);
-  EXPECT_EQ(Material::SollFuer(3), 10);
-  EXPECT_EQ(Material::SollFuer(2), 15);
-  EXPECT_EQ(Material::SollFuer(1), 30);
-}
-
 TEST_F(MaterialTest, BeginsATrainingHalfWayWithEveryChordAlike) {
   for (int n = 1; n <= 24; ++n) {
     SCOPED_TRACE(n);
     auswertung.Clear();
     Begin(n);
-    const int soll = Material::SollFuer(n);
+    const int soll = SollFuer(n);
     EXPECT_EQ(material.mat_soll, soll);
     EXPECT_EQ(material.mat_anzahl, n * soll);
     EXPECT_EQ(material.mat_rest, n * soll);

@@ -357,7 +357,7 @@ void ExpectStands(int posten, std::initializer_list<Stand> stands) {
   for (const Stand& s : stands) {
     Material material;
     material.mat_posten = posten;
-    material.mat_soll = Material::SollFuer(posten);
+    material.mat_soll = SollFuer(posten);
     material.mat_rest = s.rest;
     EXPECT_EQ(PruefeTraining(material), s.stand) << s.rest;
     EXPECT_EQ(material.mat_rest, s.rest_after) << s.rest;
@@ -382,7 +382,7 @@ TEST(TrainingStand, StandsAtTheEndsOfTheScaleAfterwards) {
   for (const int posten : {1, 5, 10, 24}) {
     Material material;
     material.mat_posten = posten;
-    material.mat_soll = Material::SollFuer(posten);
+    material.mat_soll = SollFuer(posten);
     material.mat_rest = 0;
     PruefeTraining(material);
     EXPECT_LE(material.Prozent(), 2);
