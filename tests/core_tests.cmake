@@ -55,6 +55,7 @@ target_sources(
           module/lesson_record_golden_test.cc
           exercise/counters_test.cc
           exercise/exercise_names_test.cc
+          exercise/stored_training_test.cc
           exercise/training_weights_test.cc
           results/percentages_test.cc
           results/results_print_test.cc
@@ -67,7 +68,6 @@ target_sources(
           worksheet/run_state_test.cc
           worksheet/scoring_test.cc
           worksheet/spoken_test.cc
-          worksheet/stored_training_test.cc
           worksheet/task_selection_test.cc
           worksheet/timed_flow_test.cc
           worksheet/training_flow_test.cc

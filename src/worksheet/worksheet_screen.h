@@ -15,6 +15,7 @@
 #include "exercise/exercise_names.h"
 #include "exercise/lesson_record.h"
 #include "exercise/settings_record.h"
+#include "exercise/stored_training.h"
 #include "ports/timer.h"
 #include "settings/settings_screen.h"
 #include "shell/shell.h"
@@ -22,7 +23,6 @@
 #include "sound/mod_midi.h"
 #include "worksheet/run_state.h"
 #include "worksheet/scoring.h"
-#include "worksheet/stored_training.h"
 #include "worksheet/task_selection.h"
 
 namespace vmod17 {

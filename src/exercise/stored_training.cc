@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "worksheet/stored_training.h"
+#include "exercise/stored_training.h"
 
 #include <algorithm>
 #include <cmath>
