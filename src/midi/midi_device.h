@@ -8,7 +8,7 @@
 #include <span>
 
 #include "midi/midi_message.h"
-#include "midi/sequencer_queue.h"
+#include "midi/midi_queue.h"
 
 namespace vmod17 {
 

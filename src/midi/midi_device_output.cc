@@ -265,7 +265,7 @@ void MidiDeviceOutput::Start() {
       if (generation == generation_) Take(stand);
     });
   };
-  auto queue = std::make_shared<SequencerQueue>(messages, tell);
+  auto queue = std::make_shared<MidiQueue>(messages, tell);
   started_ = queue;
   Do([this, queue] { player_->Start(queue); });
 }

@@ -22,7 +22,7 @@
 namespace vmod17 {
 
 class Player;
-class SequencerQueue;
+class MidiQueue;
 class SoundThread;
 class ProgramLink;
 struct DeviceChoice;
@@ -102,7 +102,7 @@ class MidiDeviceOutput : public MidiOutput {
   mutable std::optional<std::pair<int, std::string>> number_told_;  // by `NumberOf`
 
   MidiKlangStand klang_stand_ = MidiKlangStand::kUnbekannt;
-  std::shared_ptr<const SequencerQueue> started_;
+  std::shared_ptr<const MidiQueue> started_;
   MidiQueueStand queue_stand_ = MidiQueueStand::kRuht;
   // Tells what the queue that runs says from what one said that was dropped while the word was
   // under way.

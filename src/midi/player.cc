@@ -93,7 +93,7 @@ void Player::GivePortItsVolume() {
   if (port_) port_->SetVolume((volume_.left + volume_.right) / 2.0);
 }
 
-void Player::Start(std::shared_ptr<SequencerQueue> queue) {
+void Player::Start(std::shared_ptr<MidiQueue> queue) {
   Stop();
   if (device_ != &synth_ || !open_) {
     RunInStep(std::move(queue));
@@ -104,13 +104,13 @@ void Player::Start(std::shared_ptr<SequencerQueue> queue) {
   }
 }
 
-void Player::RunInStep(std::shared_ptr<SequencerQueue> queue) {
+void Player::RunInStep(std::shared_ptr<MidiQueue> queue) {
   start_ = hooks_.now();
   if (!open_ || !device_->IsAudible()) queue->Mute();
   paced_ = std::move(queue);
 }
 
-void Player::RunOnSynth(std::shared_ptr<SequencerQueue> queue) {
+void Player::RunOnSynth(std::shared_ptr<MidiQueue> queue) {
   if (!synth_.IsAudible()) {
     RunInStep(std::move(queue));
     return;

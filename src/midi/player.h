@@ -61,7 +61,7 @@ class Player {
   void ChangeVolume();
   /// A queue begins when its device is ready: a synthesiser that still loads is waited for, and so
   /// are the timbres of the channels that the queue uses.
-  void Start(std::shared_ptr<SequencerQueue> queue);
+  void Start(std::shared_ptr<MidiQueue> queue);
   void Stop();
 
   /// Sends what is due. Returns the milliseconds until the next call is wanted, or infinity.
@@ -75,8 +75,8 @@ class Player {
   void GivePortItsVolume();
   void OnSynthLoaded();
   void OnPortVanished();
-  void RunOnSynth(std::shared_ptr<SequencerQueue> queue);
-  void RunInStep(std::shared_ptr<SequencerQueue> queue);
+  void RunOnSynth(std::shared_ptr<MidiQueue> queue);
+  void RunInStep(std::shared_ptr<MidiQueue> queue);
   double Pace(double now);
   /// Looks after the device that is open, whether or not it plays.
   double Watch(double now);
@@ -94,12 +94,12 @@ class Player {
   MidiDevice* device_ = &silent_;
   DeviceChoice choice_;
   bool open_ = false;
-  const SequencerQueue::Sink sink_;
+  const MidiQueue::Sink sink_;
 
-  double start_ = 0;                         // of the queue that is paced
-  std::shared_ptr<SequencerQueue> waiting_;  // for the synthesiser to be loaded
-  std::shared_ptr<SequencerQueue> paced_;    // by the clock of the system
-  std::shared_ptr<SequencerQueue> on_synth_;
+  double start_ = 0;                    // of the queue that is paced
+  std::shared_ptr<MidiQueue> waiting_;  // for the synthesiser to be loaded
+  std::shared_ptr<MidiQueue> paced_;    // by the clock of the system
+  std::shared_ptr<MidiQueue> on_synth_;
   double volume_due_;  // when a port gets its volume; never while it has the newest
   double looked_ = 0;  // when `Watch` last looked
   double still_ = 0;   // ms that the audio thread has been seen to stand still

@@ -112,7 +112,7 @@ void SynthDevice::Send(std::span<const MidiBytes> messages) {
   if (!rest.empty()) engine_->renderer().Send(rest);
 }
 
-void SynthDevice::Run(std::shared_ptr<SequencerQueue> queue) {
+void SynthDevice::Run(std::shared_ptr<MidiQueue> queue) {
   playing_ = queue->Channels();
   for (const int channel : playing_) LoadTimbre(channel);
   engine_->renderer().Run(std::move(queue));

@@ -62,7 +62,7 @@ class SynthDevice : public MidiDevice {
 
   /// Runs a queue by the clock of the sound card, once the timbres of its channels are loaded. Only
   /// in kReady.
-  void Run(std::shared_ptr<SequencerQueue> queue);
+  void Run(std::shared_ptr<MidiQueue> queue);
   void Stop();
   /// Counts the blocks that were played.
   std::uint64_t blocks() const { return engine_ ? engine_->renderer().blocks() : 0; }

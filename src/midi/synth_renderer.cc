@@ -174,7 +174,7 @@ void SynthRenderer::Silence() {
   silence_ = true;
 }
 
-void SynthRenderer::Run(std::shared_ptr<SequencerQueue> queue) {
+void SynthRenderer::Run(std::shared_ptr<MidiQueue> queue) {
   {
     const std::lock_guard lock(mutex_);
     std::swap(queue_, queue);

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "midi/midi_message.h"
-#include "midi/sequencer_queue.h"
+#include "midi/midi_queue.h"
 
 namespace vmod17 {
 
@@ -50,7 +50,7 @@ class SynthRenderer {
   /// this call waits for the end of the fade.
   void Silence();
   /// Runs `queue` from the next block, which is its time 0.
-  void Run(std::shared_ptr<SequencerQueue> queue);
+  void Run(std::shared_ptr<MidiQueue> queue);
   /// Drops what runs, without its end being told.
   void Stop();
 
@@ -75,7 +75,7 @@ class SynthRenderer {
   fluid_synth_t* const synth_;
   const double sample_rate_;
   const SynthVolume& volume_;
-  const SequencerQueue::Sink emit_;
+  const MidiQueue::Sink emit_;
 
   // Of the audio thread alone.
   struct Gain {
@@ -93,7 +93,7 @@ class SynthRenderer {
   std::mutex mutex_;  // guards what follows
   bool silence_ = false;
   std::vector<MidiBytes> pending_;
-  std::shared_ptr<SequencerQueue> queue_;
+  std::shared_ptr<MidiQueue> queue_;
   double queue_start_ = -1;  // below 0 until the first block of the queue
 
   fluid_sequencer_t* ticks_ = nullptr;

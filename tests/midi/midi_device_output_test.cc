@@ -294,7 +294,7 @@ class TimbresOfAPlayer : public ::testing::Test {
     return setup;
   }
   void Start() {
-    player_.Start(std::make_shared<SequencerQueue>(
+    player_.Start(std::make_shared<MidiQueue>(
         std::vector<TimedMessage>{{0, {0x90, 60, 100}}, {0, {0x92, 64, 100}}, {20, {0x80, 60, 0}}},
         [](MidiQueueStand) {}));
   }

@@ -64,7 +64,7 @@ class SoundCard : public ::testing::Test {
     Open();
   }
   void Start(double ms) {
-    player_.Start(std::make_shared<SequencerQueue>(
+    player_.Start(std::make_shared<MidiQueue>(
         std::vector<TimedMessage>{{0, {0x90, 60, 100}}, {ms, {0x80, 60, 0}}},
         [this](MidiQueueStand stand) {
           queue_.push_back(stand);

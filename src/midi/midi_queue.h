@@ -25,7 +25,7 @@ namespace vmod17 {
 /// they leave in one call, in the order in which they were queued.
 ///
 /// Not synchronised but for `IsOver` and `Time`: one thread at a time.
-class SequencerQueue {
+class MidiQueue {
  public:
   using Sink = std::function<void(std::span<const MidiBytes>)>;
   using Tell = std::function<void(MidiQueueStand)>;
@@ -33,7 +33,7 @@ class SequencerQueue {
   /// `tell` is called once for each stand: kLaeuft inside the first `Advance`, unless the queue is
   /// mute, and kRuht inside the one that sent the last message; for a queue without messages inside
   /// the first one. It may run on the audio thread.
-  SequencerQueue(std::vector<TimedMessage> messages, Tell tell);
+  MidiQueue(std::vector<TimedMessage> messages, Tell tell);
 
   /// The queue goes on, but cannot be heard any more.
   void Mute();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "midi/sequencer_queue.h"
+#include "midi/midi_queue.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,7 +24,7 @@ unsigned int TickOf(double ms) {
 
 }  // namespace
 
-SequencerQueue::SequencerQueue(std::vector<TimedMessage> messages, Tell tell)
+MidiQueue::MidiQueue(std::vector<TimedMessage> messages, Tell tell)
     : tell_(std::move(tell)), sequencer_(new_fluid_sequencer2(0)) {
   std::ranges::stable_sort(messages, {},
                            [](const TimedMessage& message) { return TickOf(message.zeit); });
@@ -36,7 +36,7 @@ SequencerQueue::SequencerQueue(std::vector<TimedMessage> messages, Tell tell)
   FillSequencer();
 }
 
-void SequencerQueue::FillSequencer() {
+void MidiQueue::FillSequencer() {
   const fluid_seq_id_t client =
       fluid_sequencer_register_client(sequencer_.get(), "queue", &OnEvent, this);
   std::unique_ptr<fluid_event_t, void (*)(fluid_event_t*)> event(new_fluid_event(),
@@ -49,19 +49,19 @@ void SequencerQueue::FillSequencer() {
   }
 }
 
-void SequencerQueue::OnEvent(unsigned int, fluid_event_t* event, fluid_sequencer_t*, void* self) {
+void MidiQueue::OnEvent(unsigned int, fluid_event_t* event, fluid_sequencer_t*, void* self) {
   if (fluid_event_get_type(event) != FLUID_SEQ_TIMER) return;
-  auto* queue = static_cast<SequencerQueue*>(self);
+  auto* queue = static_cast<MidiQueue*>(self);
   const auto index = reinterpret_cast<std::uintptr_t>(fluid_event_get_data(event));
   (*queue->sink_)(queue->groups_[index].messages);
   ++queue->sent_;
 }
 
-void SequencerQueue::Mute() {
+void MidiQueue::Mute() {
   if (!std::exchange(mute_, true)) tell_(MidiQueueStand::kStumm);
 }
 
-void SequencerQueue::Advance(double ms, const Sink& sink) {
+void MidiQueue::Advance(double ms, const Sink& sink) {
   sink_ = &sink;
   fluid_sequencer_process(sequencer_.get(), TickOf(ms));
   sink_ = nullptr;
@@ -70,12 +70,12 @@ void SequencerQueue::Advance(double ms, const Sink& sink) {
   if (sent_ == groups_.size() && !over_.exchange(true)) tell_(MidiQueueStand::kRuht);
 }
 
-double SequencerQueue::NextTime() const {
+double MidiQueue::NextTime() const {
   if (groups_.empty()) return 0;
   return groups_[std::min(sent_, groups_.size() - 1)].tick / kTicksPerMs;
 }
 
-std::set<int> SequencerQueue::Channels() const {
+std::set<int> MidiQueue::Channels() const {
   std::set<int> channels;
   for (const Group& group : groups_) {
     for (const MidiBytes& message : group.messages) channels.insert(message.channel());

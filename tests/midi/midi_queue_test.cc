@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "midi/sequencer_queue.h"
+#include "midi/midi_queue.h"
 
 #include <gmock/gmock.h>
 
@@ -20,16 +20,15 @@ void TellNobody(MidiQueueStand) {}
 /// Notes sent, one inner list for each call of the sink.
 class Listener {
  public:
-  SequencerQueue::Sink sink = [this](std::span<const MidiBytes> messages) {
+  MidiQueue::Sink sink = [this](std::span<const MidiBytes> messages) {
     std::vector<int>& call = calls.emplace_back();
     for (const MidiBytes& message : messages) call.push_back(message.data1);
   };
   std::vector<std::vector<int>> calls;
 };
 
-TEST(SequencerQueue, SendsTheMessagesOfOneTimeInOneGoInTheOrderOfQueueing) {
-  SequencerQueue queue({NoteOn(100, 60), NoteOn(0, 50), NoteOn(100, 64), NoteOn(100, 55)},
-                       &TellNobody);
+TEST(MidiQueue, SendsTheMessagesOfOneTimeInOneGoInTheOrderOfQueueing) {
+  MidiQueue queue({NoteOn(100, 60), NoteOn(0, 50), NoteOn(100, 64), NoteOn(100, 55)}, &TellNobody);
   Listener listener;
   queue.Advance(0, listener.sink);
   EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(50)));
@@ -39,8 +38,8 @@ TEST(SequencerQueue, SendsTheMessagesOfOneTimeInOneGoInTheOrderOfQueueing) {
   EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(50), ElementsAre(60, 64, 55)));
 }
 
-TEST(SequencerQueue, KeepsFractionsOfAMillisecond) {
-  SequencerQueue queue({NoteOn(0.25, 60), NoteOn(0.5, 61)}, &TellNobody);
+TEST(MidiQueue, KeepsFractionsOfAMillisecond) {
+  MidiQueue queue({NoteOn(0.25, 60), NoteOn(0.5, 61)}, &TellNobody);
   Listener listener;
   queue.Advance(0.24, listener.sink);
   EXPECT_THAT(listener.calls, IsEmpty());
@@ -49,17 +48,17 @@ TEST(SequencerQueue, KeepsFractionsOfAMillisecond) {
   EXPECT_DOUBLE_EQ(queue.NextTime(), 0.5);
 }
 
-TEST(SequencerQueue, CatchesUpInTheOrderOfTheTimes) {
-  SequencerQueue queue({NoteOn(30, 62), NoteOn(10, 60), NoteOn(20, 61)}, &TellNobody);
+TEST(MidiQueue, CatchesUpInTheOrderOfTheTimes) {
+  MidiQueue queue({NoteOn(30, 62), NoteOn(10, 60), NoteOn(20, 61)}, &TellNobody);
   Listener listener;
   queue.Advance(1000, listener.sink);
   EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(60), ElementsAre(61), ElementsAre(62)));
 }
 
-TEST(SequencerQueue, TellsItsBeginningAndItsEndOnce) {
+TEST(MidiQueue, TellsItsBeginningAndItsEndOnce) {
   std::vector<MidiQueueStand> told;
-  SequencerQueue queue({NoteOn(0, 60), NoteOn(50, 61)},
-                       [&](MidiQueueStand stand) { told.push_back(stand); });
+  MidiQueue queue({NoteOn(0, 60), NoteOn(50, 61)},
+                  [&](MidiQueueStand stand) { told.push_back(stand); });
   Listener listener;
   EXPECT_THAT(told, IsEmpty());
   queue.Advance(0, listener.sink);
@@ -72,8 +71,8 @@ TEST(SequencerQueue, TellsItsBeginningAndItsEndOnce) {
   EXPECT_TRUE(queue.IsOver());
 }
 
-TEST(SequencerQueue, TellsHowFarItIsBetweenItsMessagesToo) {
-  SequencerQueue queue({NoteOn(0, 60), NoteOn(4000, 61)}, &TellNobody);
+TEST(MidiQueue, TellsHowFarItIsBetweenItsMessagesToo) {
+  MidiQueue queue({NoteOn(0, 60), NoteOn(4000, 61)}, &TellNobody);
   Listener listener;
   EXPECT_EQ(queue.Time(), 0);
   for (const double ms : {10, 1500, 4000}) {
@@ -82,38 +81,38 @@ TEST(SequencerQueue, TellsHowFarItIsBetweenItsMessagesToo) {
   }
 }
 
-TEST(SequencerQueue, NeverSaysThatItSoundsWhenItIsMute) {
+TEST(MidiQueue, NeverSaysThatItSoundsWhenItIsMute) {
   std::vector<MidiQueueStand> told;
-  SequencerQueue queue({NoteOn(0, 60)}, [&](MidiQueueStand stand) { told.push_back(stand); });
+  MidiQueue queue({NoteOn(0, 60)}, [&](MidiQueueStand stand) { told.push_back(stand); });
   queue.Mute();
   queue.Mute();
   queue.Advance(0, [](std::span<const MidiBytes>) {});
   EXPECT_THAT(told, ElementsAre(MidiQueueStand::kStumm, MidiQueueStand::kRuht));
 }
 
-TEST(SequencerQueue, IsMuteFromTheStartWhenItsFirstMessageIsLost) {
+TEST(MidiQueue, IsMuteFromTheStartWhenItsFirstMessageIsLost) {
   std::vector<MidiQueueStand> told;
-  SequencerQueue queue({NoteOn(0, 60), NoteOn(50, 61)},
-                       [&](MidiQueueStand stand) { told.push_back(stand); });
+  MidiQueue queue({NoteOn(0, 60), NoteOn(50, 61)},
+                  [&](MidiQueueStand stand) { told.push_back(stand); });
   queue.Advance(0, [&](std::span<const MidiBytes>) { queue.Mute(); });
   EXPECT_THAT(told, ElementsAre(MidiQueueStand::kStumm));
 }
 
-TEST(SequencerQueue, KnowsTheChannelsThatItUses) {
-  const SequencerQueue queue({{0, {0x93, 60, 100}}, {9, {0x83, 60, 0}}, {0, {0x90, 64, 100}}},
-                             &TellNobody);
+TEST(MidiQueue, KnowsTheChannelsThatItUses) {
+  const MidiQueue queue({{0, {0x93, 60, 100}}, {9, {0x83, 60, 0}}, {0, {0x90, 64, 100}}},
+                        &TellNobody);
   EXPECT_THAT(queue.Channels(), ElementsAre(0, 3));
 }
 
-TEST(SequencerQueue, CountsATimeBelowZeroAsZero) {
-  SequencerQueue queue({NoteOn(-5, 60)}, &TellNobody);
+TEST(MidiQueue, CountsATimeBelowZeroAsZero) {
+  MidiQueue queue({NoteOn(-5, 60)}, &TellNobody);
   Listener listener;
   queue.Advance(0, listener.sink);
   EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(60)));
 }
 
-TEST(SequencerQueue, HoldsAPlayingOfAnHour) {
-  SequencerQueue queue({NoteOn(3'600'000, 60)}, &TellNobody);
+TEST(MidiQueue, HoldsAPlayingOfAnHour) {
+  MidiQueue queue({NoteOn(3'600'000, 60)}, &TellNobody);
   Listener listener;
   queue.Advance(3'599'999, listener.sink);
   EXPECT_THAT(listener.calls, IsEmpty());
