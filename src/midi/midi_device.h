@@ -4,11 +4,9 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <span>
 
 #include "midi/midi_message.h"
-#include "midi/midi_queue.h"
 
 namespace vmod17 {
 

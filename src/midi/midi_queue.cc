@@ -5,56 +5,26 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <limits>
+#include <iterator>
 #include <utility>
 
 namespace vmod17 {
 namespace {
 
-// The sequencer counts what it is told; left at its scale of one tick for each step of its clock,
-// the ticks can be finer than the milliseconds for which it was made. 32 bits last for 11 hours.
+// Fine enough for the frames of a sound card, and coarse enough to take two times for one that
+// differ in their last digits alone.
 constexpr double kTicksPerMs = 100;
 
-unsigned int TickOf(double ms) {
-  const double tick = std::round(ms * kTicksPerMs);
-  return static_cast<unsigned int>(
-      std::clamp(tick, 0.0, double{std::numeric_limits<unsigned int>::max()}));
-}
+/// What is no number counts as 0, like what is below it.
+double TickOf(double ms) { return std::round(std::max(0.0, ms) * kTicksPerMs); }
 
 }  // namespace
 
-MidiQueue::MidiQueue(std::vector<TimedMessage> messages, Tell tell)
-    : tell_(std::move(tell)), sequencer_(new_fluid_sequencer2(0)) {
-  std::ranges::stable_sort(messages, {},
-                           [](const TimedMessage& message) { return TickOf(message.zeit); });
-  for (const TimedMessage& message : messages) {
-    const unsigned int tick = TickOf(message.zeit);
-    if (groups_.empty() || groups_.back().tick != tick) groups_.push_back({tick, {}});
-    groups_.back().messages.push_back(message.bytes);
-  }
-  FillSequencer();
-}
-
-void MidiQueue::FillSequencer() {
-  const fluid_seq_id_t client =
-      fluid_sequencer_register_client(sequencer_.get(), "queue", &OnEvent, this);
-  std::unique_ptr<fluid_event_t, void (*)(fluid_event_t*)> event(new_fluid_event(),
-                                                                 &delete_fluid_event);
-  fluid_event_set_source(event.get(), -1);
-  fluid_event_set_dest(event.get(), client);
-  for (std::size_t i = 0; i < groups_.size(); ++i) {
-    fluid_event_timer(event.get(), reinterpret_cast<void*>(static_cast<std::uintptr_t>(i)));
-    fluid_sequencer_send_at(sequencer_.get(), event.get(), groups_[i].tick, 1);
-  }
-}
-
-void MidiQueue::OnEvent(unsigned int, fluid_event_t* event, fluid_sequencer_t*, void* self) {
-  if (fluid_event_get_type(event) != FLUID_SEQ_TIMER) return;
-  auto* queue = static_cast<MidiQueue*>(self);
-  const auto index = reinterpret_cast<std::uintptr_t>(fluid_event_get_data(event));
-  (*queue->sink_)(queue->groups_[index].messages);
-  ++queue->sent_;
+MidiQueue::MidiQueue(std::vector<TimedMessage> messages, Tell tell) : tell_(std::move(tell)) {
+  const auto tick_of = [](const TimedMessage& message) { return TickOf(message.zeit); };
+  std::ranges::stable_sort(messages, {}, tick_of);
+  std::ranges::transform(messages, std::back_inserter(ticks_), tick_of);
+  std::ranges::transform(messages, std::back_inserter(messages_), &TimedMessage::bytes);
 }
 
 void MidiQueue::Mute() {
@@ -62,24 +32,26 @@ void MidiQueue::Mute() {
 }
 
 void MidiQueue::Advance(double ms, const Sink& sink) {
-  sink_ = &sink;
-  fluid_sequencer_process(sequencer_.get(), TickOf(ms));
-  sink_ = nullptr;
-  time_ = ms;
+  const double now = std::max(time_.load(), ms);
+  while (sent_ < ticks_.size() && ticks_[sent_] <= TickOf(now)) {
+    const auto first = ticks_.begin() + static_cast<std::ptrdiff_t>(sent_);
+    const auto together = std::upper_bound(first, ticks_.end(), *first) - first;
+    sink(std::span(messages_).subspan(sent_, static_cast<std::size_t>(together)));
+    sent_ += static_cast<std::size_t>(together);
+  }
+  time_ = now;
   if (!std::exchange(begun_, true) && !mute_) tell_(MidiQueueStand::kLaeuft);
-  if (sent_ == groups_.size() && !over_.exchange(true)) tell_(MidiQueueStand::kRuht);
+  if (sent_ == messages_.size() && !over_.exchange(true)) tell_(MidiQueueStand::kRuht);
 }
 
 double MidiQueue::NextTime() const {
-  if (groups_.empty()) return 0;
-  return groups_[std::min(sent_, groups_.size() - 1)].tick / kTicksPerMs;
+  if (ticks_.empty()) return 0;
+  return ticks_[std::min(sent_, ticks_.size() - 1)] / kTicksPerMs;
 }
 
 std::set<int> MidiQueue::Channels() const {
   std::set<int> channels;
-  for (const Group& group : groups_) {
-    for (const MidiBytes& message : group.messages) channels.insert(message.channel());
-  }
+  for (const MidiBytes& message : messages_) channels.insert(message.channel());
   return channels;
 }
 

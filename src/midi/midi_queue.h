@@ -3,11 +3,9 @@
 
 #pragma once
 
-#include <fluidsynth.h>
-
 #include <atomic>
+#include <cstddef>
 #include <functional>
-#include <memory>
 #include <set>
 #include <span>
 #include <vector>
@@ -17,12 +15,12 @@
 
 namespace vmod17 {
 
-/// One playing of the time-stamped queue, in a sequencer of FluidSynth that stands at time 0 until
-/// `Advance` moves it. Whoever owns the clock advances it: the audio callback of the synthesiser,
-/// counting frames, or the sound thread.
+/// One playing of the time-stamped queue, which stands at time 0 until `Advance` moves it. Whoever
+/// owns the clock advances it: the audio callback of the synthesiser, counting frames, or the sound
+/// thread.
 ///
-/// Messages whose times agree to a hundredth of a millisecond are one event of the sequencer, so
-/// they leave in one call, in the order in which they were queued.
+/// Messages whose times agree to a hundredth of a millisecond leave in one call, in the order in
+/// which they were queued.
 ///
 /// Not synchronised but for `IsOver` and `Time`: one thread at a time.
 class MidiQueue {
@@ -38,7 +36,8 @@ class MidiQueue {
   /// The queue goes on, but cannot be heard any more.
   void Mute();
 
-  /// Gives `sink` everything up to `ms` after the start. Time never runs backwards.
+  /// Gives `sink` everything up to `ms` after the start. Time never runs backwards: a queue that
+  /// has been further stays where it is.
   void Advance(double ms, const Sink& sink);
 
   /// Any thread.
@@ -51,27 +50,14 @@ class MidiQueue {
   std::set<int> Channels() const;
 
  private:
-  struct Group {
-    unsigned int tick;
-    std::vector<MidiBytes> messages;
-  };
-  struct DeleteSequencer {
-    void operator()(fluid_sequencer_t* sequencer) const { delete_fluid_sequencer(sequencer); }
-  };
-
-  static void OnEvent(unsigned int time, fluid_event_t* event, fluid_sequencer_t* sequencer,
-                      void* self);
-  void FillSequencer();
-
-  std::vector<Group> groups_;
+  std::vector<double> ticks_;        // when each leaves, the earliest first
+  std::vector<MidiBytes> messages_;  // in the order of `ticks_`
   std::size_t sent_ = 0;
   bool begun_ = false;
   bool mute_ = false;
   std::atomic<bool> over_ = false;
   std::atomic<double> time_ = 0;
   const Tell tell_;
-  const Sink* sink_ = nullptr;  // only inside Advance
-  std::unique_ptr<fluid_sequencer_t, DeleteSequencer> sequencer_;
 };
 
 }  // namespace vmod17

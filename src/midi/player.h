@@ -11,6 +11,7 @@
 #include "base/notice.h"
 #include "midi/midi_device.h"
 #include "midi/midi_ports.h"
+#include "midi/midi_queue.h"
 #include "midi/port_device.h"
 #include "midi/sound_facts.h"
 #include "midi/synth_device.h"

@@ -13,6 +13,7 @@
 
 #include "base/notice.h"
 #include "midi/midi_device.h"
+#include "midi/midi_queue.h"
 #include "midi/sound_facts.h"
 #include "midi/synth_engine.h"
 

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <limits>
 #include <vector>
 
 namespace vmod17 {
@@ -53,6 +54,37 @@ TEST(MidiQueue, CatchesUpInTheOrderOfTheTimes) {
   Listener listener;
   queue.Advance(1000, listener.sink);
   EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(60), ElementsAre(61), ElementsAre(62)));
+}
+
+TEST(MidiQueue, StaysWhereItIsWhenItsClockJumpsBack) {
+  MidiQueue queue({NoteOn(10, 60), NoteOn(20, 61), NoteOn(30, 62)}, &TellNobody);
+  Listener listener;
+  queue.Advance(20, listener.sink);
+  for (const double ms : {5.0, -1000.0, std::numeric_limits<double>::quiet_NaN(), 20.0}) {
+    queue.Advance(ms, listener.sink);
+    EXPECT_EQ(queue.Time(), 20);
+    EXPECT_EQ(queue.NextTime(), 30);
+  }
+  EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(60), ElementsAre(61)));
+  queue.Advance(30, listener.sink);
+  EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(60), ElementsAre(61), ElementsAre(62)));
+}
+
+TEST(MidiQueue, TakesTimesForOneThatDifferByLessThanAnybodyCanHear) {
+  MidiQueue queue({NoteOn(0.1 + 0.2, 60), NoteOn(0.3, 64)}, &TellNobody);
+  Listener listener;
+  queue.Advance(0.3, listener.sink);
+  EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(60, 64)));
+}
+
+TEST(MidiQueue, IsOverAtOnceWithoutMessages) {
+  std::vector<MidiQueueStand> told;
+  MidiQueue queue({}, [&](MidiQueueStand stand) { told.push_back(stand); });
+  EXPECT_EQ(queue.NextTime(), 0);
+  EXPECT_FALSE(queue.IsOver());
+  queue.Advance(0, [](std::span<const MidiBytes>) { ADD_FAILURE() << "nothing to send"; });
+  EXPECT_TRUE(queue.IsOver());
+  EXPECT_THAT(told, ElementsAre(MidiQueueStand::kLaeuft, MidiQueueStand::kRuht));
 }
 
 TEST(MidiQueue, TellsItsBeginningAndItsEndOnce) {
@@ -105,10 +137,11 @@ TEST(MidiQueue, KnowsTheChannelsThatItUses) {
 }
 
 TEST(MidiQueue, CountsATimeBelowZeroAsZero) {
-  MidiQueue queue({NoteOn(-5, 60)}, &TellNobody);
+  MidiQueue queue({NoteOn(-5, 60), NoteOn(std::numeric_limits<double>::quiet_NaN(), 61)},
+                  &TellNobody);
   Listener listener;
   queue.Advance(0, listener.sink);
-  EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(60)));
+  EXPECT_THAT(listener.calls, ElementsAre(ElementsAre(60, 61)));
 }
 
 TEST(MidiQueue, HoldsAPlayingOfAnHour) {
