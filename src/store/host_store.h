@@ -20,6 +20,7 @@
 #include "ports/host_service.h"
 #include "store/log_entry.h"
 #include "store/log_queue.h"
+#include "store/store_options.h"
 #include "store/store_user.h"
 
 class QTimer;
@@ -35,43 +36,6 @@ struct OutboxEntry;
 struct OutboxPiece;
 struct RecordKey;
 struct StoreAddress;
-
-/// What a `HostStore` is made with. A function that is not given never has an answer.
-struct StoreOptions {
-  /// See `ParseStoreAddress`; "" is the user's own file.
-  std::string address;
-  /// Whose settings these are among those of one store. "" stands for the one user of a file, and
-  /// on a server for this machine and the name under which the user is logged in on it.
-  std::string seat;
-  /// The settings of another process, from its `Session()`, which go before those of the store; ""
-  /// for none.
-  std::string session;
-  /// The language of the desktop, if it is installed.
-  std::function<std::optional<std::string>()> desktop_language;
-  /// Whether a language is installed. Without it, the language of the settings is trusted.
-  std::function<bool(const std::string&)> language_installed;
-  /// The number that the MIDI output of this name has at present.
-  std::function<std::optional<int>(const std::string&)> midi_number;
-  /// Returns to the host. Returns false when no host started the program.
-  std::function<bool()> menue;
-  Notify notify;
-  /// Date and time for log lines and for the names of what is put aside. By default the system's.
-  std::function<DateTime()> clock;
-  /// How long a store that another process holds is waited for.
-  int busy_timeout_ms = 5000;
-  /// How long a call may keep the program waiting for a server, all in all.
-  int server_patience_ms = 4000;
-  /// How often a server that is away is looked for, for what waits for it.
-  int retry_ms = 5000;
-  /// After how long without use a server gets its connection back.
-  int idle_ms = 30'000;
-  /// Folder for what this machine keeps of a user; "" for `UserDataFolder()`.
-  std::string data_folder;
-  /// Whether the users will be asked for at once: they come with the settings then.
-  bool users_at_start = false;
-  /// Size above which the oldest lines of the log go. The tables add a quarter to it at most.
-  std::int64_t log_limit_bytes = 7'500'000;
-};
 
 /// The host's services over an SQL database: the store by user, program and key, the log, the user,
 /// the language, the MIDI output. One object a process; it is used on the program's one thread and
@@ -172,13 +136,30 @@ class HostStore {
 
  private:
   class Front;
-  class OneCall;
   enum class State { kClosed, kOpen, kMemoryOnly };
   enum class Patience { kWait, kOnlyOnce };
   using Settings = std::map<std::string, std::string>;
   using Records = std::map<RecordKey, std::string>;
   using Work = std::function<void(StoreTables&)>;
   using UserChange = std::optional<StoreUser>;  // no value: removed
+
+  /// A call from outside. All that it asks of a server has one deadline, that of the outermost
+  /// call.
+  class OneCall {
+   public:
+    explicit OneCall(HostStore& store) : store_(store) {
+      if (store_.calls_++ > 0) return;
+      store_.deadline_ = std::chrono::steady_clock::now() +
+                         std::chrono::milliseconds(store_.options_.server_patience_ms);
+      store_.OpenOutbox();
+    }
+    ~OneCall() { --store_.calls_; }
+    OneCall(const OneCall&) = delete;
+    OneCall& operator=(const OneCall&) = delete;
+
+   private:
+    HostStore& store_;
+  };
 
   bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result);
   void Together(const std::function<void()>& stores);
