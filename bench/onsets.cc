@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "midi/midi_device_output.h"
@@ -24,17 +25,22 @@ constexpr int kVoices = 7;
 constexpr int kTempi[] = {4000, 3000, 2000, 1500, 1200, 1000, 856, 750, 666, 600};
 constexpr int kDivisors[] = {8, 12, 16, 24, 32};
 
-/// A loop of one thread, on which all happens at once.
-class NoLoop : public EventLoop {
+/// A loop with nothing but posted handlers, which wait for `Yield`: who posts may hold a lock.
+class PostingLoop : public EventLoop {
  public:
   int StartTimer(int, Repeat, Handler) override { return 1; }
   void StopTimer(int) override {}
-  void Post(Handler handler) override { handler(); }
+  void Post(Handler handler) override { posted_.push_back(std::move(handler)); }
   void WhenIdle(Handler) override {}
-  void Yield() override {}
+  void Yield() override {
+    for (const Handler& handler : std::exchange(posted_, {})) handler();
+  }
   void WaitForEvent(double) override {}
   float Clock() const override { return 0; }
   DateTime Now() const override { return {}; }
+
+ private:
+  std::vector<Handler> posted_;
 };
 
 class NoPorts : public MidiPorts {
@@ -49,7 +55,7 @@ struct Note {
 };
 
 std::vector<float> Render(const std::vector<Note>& notes, double ms) {
-  NoLoop loop;
+  PostingLoop loop;
   MidiOptions options;
   options.audio = SynthAudio::kRendered;
   options.sample_rate = kRate;
@@ -66,6 +72,7 @@ std::vector<float> Render(const std::vector<Note>& notes, double ms) {
     output->Set(MidiMember::Befehl, static_cast<int>(MidiBefehl::kEinreihen));
   };
   output->Set(MidiMember::Befehl, static_cast<int>(MidiBefehl::kOeffnen));
+  loop.Yield();
   for (const Note& note : notes) queue(note.start, 0x90, note.note);
   queue(2 * ms, 0x80, 0);
   const auto frames = static_cast<std::size_t>(ms * kRate / 1000);
