@@ -113,8 +113,8 @@ class AwayServer : public ::testing::Test {
   QStringList Files() const { return QDir(data_ / "melvado").entryList(QDir::Files); }
 
   ScratchFolder data_;
-  std::string address_ = kServer->NewDatabase();
-  QString database_ = kServer->LatestDatabase();
+  std::string address_ = kPostgres->NewDatabase();
+  QString database_ = kPostgres->LatestDatabase();
   std::vector<Notice> notices_;
 };
 
@@ -141,8 +141,8 @@ class Hand {
 
 class Frozen {
  public:
-  Frozen() { kServer->Freeze(); }
-  ~Frozen() { kServer->Thaw(); }
+  Frozen() { kPostgres->Freeze(); }
+  ~Frozen() { kPostgres->Thaw(); }
 };
 
 void AwayServer::LeaveInOutbox(const char* text) {
@@ -345,7 +345,7 @@ TEST_F(AwayServer, IsToldOfInOtherWordsWhereNothingCanBeKept) {
 }
 
 TEST_F(AwayServer, KeepsNobodyWaitingWhenAnAttemptEndsWithoutAConnection) {
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   proxy.SwallowAfter(0);
   // The least that the client library takes.
   StoreOptions options = OptionsFor(Through(proxy) + "?connect_timeout=2");
@@ -366,7 +366,7 @@ TEST_F(AwayServer, KeepsNobodyWaitingWhenAnAttemptEndsWithoutAConnection) {
 }
 
 TEST_F(AwayServer, IsWaitedForOnceWhenItRefusesAfterSomeTime) {
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   proxy.HangUpAfter(std::chrono::seconds(1));
   StoreOptions options = OptionsFor(Through(proxy));
   options.server_patience_ms = 4000;
@@ -434,19 +434,20 @@ TEST_F(AwayServer, GetsTheNewestAfterOneThatItHasRefused) {
   HostStore store(Options());
   EXPECT_TRUE(StoreValue(store, "E1", Array{"old"}));
   for (const char* errcode : {"lock_not_available", "raise_exception"}) {
-    kServer->Run(database_,
-                 QString("CREATE OR REPLACE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS "
-                         "$$ BEGIN RAISE EXCEPTION 'not now' USING ERRCODE = '%1'; END $$")
-                     .arg(errcode));
-    kServer->Run(database_,
-                 "CREATE TRIGGER refusal BEFORE INSERT OR UPDATE ON melvado_record "
-                 "FOR EACH ROW EXECUTE FUNCTION refuse()");
+    kPostgres->Run(
+        database_,
+        QString("CREATE OR REPLACE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS "
+                "$$ BEGIN RAISE EXCEPTION 'not now' USING ERRCODE = '%1'; END $$")
+            .arg(errcode));
+    kPostgres->Run(database_,
+                   "CREATE TRIGGER refusal BEFORE INSERT OR UPDATE ON melvado_record "
+                   "FOR EACH ROW EXECUTE FUNCTION refuse()");
     try {
       StoreValue(store, "E1", Array{"refused"});
     } catch (const RunTimeError&) {
       EXPECT_EQ(errcode, std::string("lock_not_available"));
     }
-    kServer->Run(database_, "DROP TRIGGER refusal ON melvado_record");
+    kPostgres->Run(database_, "DROP TRIGGER refusal ON melvado_record");
     {
       const Frozen frozen;
       StoreValue(store, "E1", Array{errcode});
@@ -463,7 +464,7 @@ TEST_F(AwayServer, GetsARecordInItsPlaceWhereItHoldsNoneAnyMore) {
     const Frozen frozen;
     EXPECT_TRUE(StoreValue(store, "E1", Array{"only copy"}));
   }
-  kServer->Run(database_, "DELETE FROM melvado_record");
+  kPostgres->Run(database_, "DELETE FROM melvado_record");
   EXPECT_TRUE(ComesTrue([&] { return Elsewhere("E1") == TaggedValue(Array{"only copy"}); }));
   EXPECT_EQ(std::ranges::count(Ids(notices_), 9112), 0);
 }
@@ -624,7 +625,7 @@ TEST_F(AwayServer, HasTheUserToldOfALateRecordByTheNextProcessWhereThisOneCanTel
 TEST_F(AwayServer, LosesNothingOnARoadThatSwallowsEverythingFromAnyByteOn) {
   Elsewhere("E1");
   for (const long bytes : {0L, 8L, 100L, 400L, 700L, 1000L, 1300L, 1600L, 2000L, 3000L}) {
-    ServerProxy proxy(kServer->Socket());
+    ServerProxy proxy(kPostgres->Socket());
     proxy.SwallowAfter(bytes);
     const std::string text = std::to_string(bytes);
     {
@@ -648,7 +649,7 @@ TEST_F(AwayServer, LosesNothingOnARoadThatSwallowsEverythingFromAnyByteOn) {
 }
 
 TEST_F(AwayServer, TakesNothingOfALongValueThatTheRoadHasSwallowedInTheMiddle) {
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   HostStore store(OptionsFor(Through(proxy)));
   EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
   proxy.SwallowAfter(200'000);
@@ -665,11 +666,11 @@ TEST_F(AwayServer, LosesNothingWhenItIsKilledWhileAProcessStores) {
   process.Say("loop E1 0");
   int said = 0;
   for (int i = 0; i < 5; ++i) said = process.Hear().toInt();
-  kServer->Kill();
+  kPostgres->Kill();
   for (int i = 0; i < 5; ++i) said = process.Hear().toInt();
   const QStringList rest = process.Kill().split('\n', Qt::SkipEmptyParts);
   if (!rest.isEmpty()) said = rest.last().toInt();
-  kServer->Start();
+  kPostgres->Start();
   HostStore next(TestOptions(address_));
   const std::optional<TaggedValue> value = ReadValue(next, "E1");
   ASSERT_TRUE(value.has_value());
@@ -685,7 +686,7 @@ TEST_F(AwayServer, IsAskedNoMoreOftenThanNeededOnALongRoad) {
     StoreValue(store, "E1", Array{"old"});
   }
   HostStore(Options()).SaveUser({"4711", "Berg", "Anna"}, HostStore::UserIs::kNew);
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   StoreOptions options = OptionsFor(Through(proxy));
   options.server_patience_ms = 30'000;
   options.users_at_start = true;
@@ -707,7 +708,7 @@ TEST_F(AwayServer, IsAskedNoMoreOftenThanNeededOnALongRoad) {
 }
 
 TEST_F(AwayServer, IsNotWaitedForByAProcessThatAnotherOneHasTold) {
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   proxy.SwallowAfter(0);
   StoreOptions options = OptionsFor(Through(proxy));
   {
@@ -729,7 +730,7 @@ TEST_F(AwayServer, IsNotWaitedForByAProcessThatAnotherOneHasTold) {
 
 TEST_F(AwayServer, GetsAllThatWaitsOnALongRoadWithoutBeingTakenForSilent) {
   EXPECT_EQ(Elsewhere("E0"), NothingStored());
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   const auto options = [&] {
     StoreOptions all = OptionsFor(Through(proxy));
     all.server_patience_ms = 4000;
@@ -774,8 +775,8 @@ TEST_F(AwayServer, KeepsNobodyWaitingLongForWhatIsKeptAlready) {
 // ---- Too many guests
 
 TEST_F(AwayServer, IsTriedAgainWhenItHadTooManyGuestsAndToldOfOnce) {
-  kServer->Stop();
-  kServer->Start({"max_connections=6"});
+  kPostgres->Stop();
+  kPostgres->Start({"max_connections=6"});
   {
     HostStore store(Options());
     {
@@ -788,8 +789,8 @@ TEST_F(AwayServer, IsTriedAgainWhenItHadTooManyGuestsAndToldOfOnce) {
     EXPECT_TRUE(ComesTrue([&] { return Elsewhere("A1") == TaggedValue(Array{"new A"}); }));
     EXPECT_EQ(Ids(notices_), std::vector<int>{9108});
   }
-  kServer->Stop();
-  kServer->Start();
+  kPostgres->Stop();
+  kPostgres->Start();
 }
 
 TEST_F(AwayServer, HasNoGuestOfAStoreThatIsNotUsed) {
@@ -804,7 +805,7 @@ TEST_F(AwayServer, HasNoGuestOfAStoreThatIsNotUsed) {
 }
 
 TEST_F(AwayServer, HasNoGuestOfAStoreOnALongRoadThatHasLoggedALine) {
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   proxy.Delay(std::chrono::milliseconds(100));
   StoreOptions options = OptionsFor(Through(proxy));
   options.server_patience_ms = 30'000;
@@ -818,7 +819,7 @@ TEST_F(AwayServer, HasNoGuestOfAStoreOnALongRoadThatHasLoggedALine) {
 }
 
 TEST_F(AwayServer, GetsAnErrorAtOnceAlsoOnALongRoad) {
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   proxy.Delay(std::chrono::milliseconds(100));
   StoreOptions options = OptionsFor(Through(proxy));
   options.server_patience_ms = 30'000;
@@ -837,7 +838,7 @@ TEST_F(AwayServer, GetsAnErrorAtOnceAlsoOnALongRoad) {
 }
 
 TEST_F(AwayServer, HasALineOnceThatWasStillUnderWayWhenTheProgramEnded) {
-  ServerProxy proxy(kServer->Socket());
+  ServerProxy proxy(kPostgres->Socket());
   {
     StoreOptions options = OptionsFor(Through(proxy));
     options.server_patience_ms = 6000;
@@ -859,10 +860,10 @@ TEST_F(AwayServer, KeepsTheLinesThatWaitForItUntilItHasThem) {
   {
     HostStore store(TestOptions(address_));
     EXPECT_TRUE(StoreValue(store, "E1", Array{"one"}));
-    kServer->Stop();
+    kPostgres->Stop();
     LogLine(store, "line");
   }
-  kServer->Start();
+  kPostgres->Start();
   {
     const Crowd crowd(address_, 1);
     QSqlDatabase hand = QSqlDatabase::cloneDatabase("crowd 0", "hand");

@@ -14,11 +14,11 @@ namespace vmod17 {
 namespace {
 
 TEST(PostgresConnectionTest, OpensAgainAlthoughTheLogIsStillUnderWayOnARoadThatSwallowedIt) {
-  kServer->NewDatabase();
-  ServerProxy proxy(kServer->Socket());
+  kPostgres->NewDatabase();
+  ServerProxy proxy(kPostgres->Socket());
   PostgresConnection connection(
       QUrl("postgresql://melvado@127.0.0.1:" + QString::number(proxy.port()) + '/' +
-           kServer->LatestDatabase()));
+           kPostgres->LatestDatabase()));
   const auto in = [](int seconds) {
     return std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
   };

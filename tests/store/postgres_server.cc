@@ -43,7 +43,7 @@ const passwd* ServerAccount() {
 
 }  // namespace
 
-PostgresServer* const kServer =
+PostgresServer* const kPostgres =
     static_cast<PostgresServer*>(::testing::AddGlobalTestEnvironment(new PostgresServer));
 
 void PostgresServer::SetUp() {

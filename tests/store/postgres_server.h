@@ -54,6 +54,6 @@ class PostgresServer : public ::testing::Environment {
 };
 
 /// That of the test program.
-extern PostgresServer* const kServer;
+extern PostgresServer* const kPostgres;
 
 }  // namespace vmod17

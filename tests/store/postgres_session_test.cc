@@ -15,11 +15,11 @@ namespace {
 class Session : public ::testing::Test {
  protected:
   void SetUp() override {
-    kServer->NewDatabase();
+    kPostgres->NewDatabase();
     session_.Connect(
-        {{"host", QFileInfo(QString::fromStdString(kServer->Socket())).path().toUtf8()},
+        {{"host", QFileInfo(QString::fromStdString(kPostgres->Socket())).path().toUtf8()},
          {"user", "melvado"},
-         {"dbname", kServer->LatestDatabase().toUtf8()}});
+         {"dbname", kPostgres->LatestDatabase().toUtf8()}});
   }
   SqlFailure FailureOf(const SqlStatements& greeting, const SqlStatements& statements) {
     try {

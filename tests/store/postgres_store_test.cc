@@ -26,7 +26,7 @@ namespace {
 using Array = TaggedValue::Array;
 
 INSTANTIATE_TEST_SUITE_P(PostgresStore, HostContract, ::testing::Values([] {
-                           return std::make_unique<HostStoreUnderTest>(kServer->NewDatabase());
+                           return std::make_unique<HostStoreUnderTest>(kPostgres->NewDatabase());
                          }));
 
 class ServerStoreForUsers : public StoreForUsers {
@@ -34,7 +34,7 @@ class ServerStoreForUsers : public StoreForUsers {
   StoreOptions Options() override { return TestOptions(address_); }
 
  private:
-  std::string address_ = kServer->NewDatabase();
+  std::string address_ = kPostgres->NewDatabase();
 };
 
 INSTANTIATE_TEST_SUITE_P(PostgresStore, UserListContract,
@@ -43,11 +43,11 @@ INSTANTIATE_TEST_SUITE_P(PostgresStore, UserListContract,
 class ServerStoreForUpgrade : public StoreForUpgrade {
  public:
   std::string Address() override { return address_; }
-  void Run(const QString& statement) override { kServer->Run(database_, statement); }
+  void Run(const QString& statement) override { kPostgres->Run(database_, statement); }
 
  private:
-  std::string address_ = kServer->NewDatabase();
-  QString database_ = kServer->LatestDatabase();
+  std::string address_ = kPostgres->NewDatabase();
+  QString database_ = kPostgres->LatestDatabase();
 };
 
 INSTANTIATE_TEST_SUITE_P(PostgresStore, StoreUpgradeContract, ::testing::Values([] {
@@ -70,15 +70,15 @@ class PostgresStore : public ::testing::Test {
     return options;
   }
 
-  void Run(const QString& statement) { kServer->Run(database_, statement); }
+  void Run(const QString& statement) { kPostgres->Run(database_, statement); }
 
   void EndAllOtherConnections() {
     Run("SELECT pg_terminate_backend(pid) FROM pg_stat_activity "
         "WHERE datname = current_database() AND pid <> pg_backend_pid()");
   }
 
-  std::string address_ = kServer->NewDatabase();
-  QString database_ = kServer->LatestDatabase();
+  std::string address_ = kPostgres->NewDatabase();
+  QString database_ = kPostgres->LatestDatabase();
   std::vector<Notice> notices_;
 };
 
@@ -230,11 +230,11 @@ TEST_F(PostgresStore, StoresAPairAlthoughItsConnectionIsCutBetweenTheTwo) {
 TEST_F(PostgresStore, KeepsAPairInMemoryAsAWholeUntilAllOfItIsTaken) {
   HostStore store(Options());
   EXPECT_EQ(StorePair(store, Array{"old E"}, Array{"old A"}), 0);
-  kServer->Stop();
+  kPostgres->Stop();
   EXPECT_EQ(StorePair(store, Array{"new E"}, Array{"new A"}), 0);
   ExpectPair(store, "new E", "new A");
   EXPECT_EQ(Ids(notices_), std::vector<int>{9108});
-  kServer->Start();
+  kPostgres->Start();
   HostStore other(OptionsElsewhere());
   {
     OtherHand hand(address_,
@@ -262,13 +262,13 @@ TEST_F(PostgresStore, ComesBackWhenItsConnectionIsCut) {
 TEST_F(PostgresStore, KeepsInMemoryWhatAStoppedServerDoesNotTakeAndStoresItLater) {
   HostStore store(Options());
   StoreValue(store, "E1", Array{"old"});
-  kServer->Stop();
+  kPostgres->Stop();
   EXPECT_TRUE(StoreValue(store, "E1", Array{"new"}));
   EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"new"}));
   EXPECT_EQ(ReadValue(store, "A1"), std::nullopt);
   EXPECT_FALSE(LogLine(store, "line"));
   EXPECT_EQ(Ids(notices_), std::vector<int>{9108});
-  kServer->Start();
+  kPostgres->Start();
   EXPECT_TRUE(StoreValue(store, "A1", Array{"training"}));
   HostStore next(Options());
   EXPECT_EQ(ReadValue(next, "E1"), TaggedValue(Array{"new"}));
@@ -337,7 +337,7 @@ TEST_F(PostgresStore, ReadsWithARoleThatMayNotWriteAndKeepsTheRestInMemory) {
   }
   Run("CREATE ROLE guest LOGIN");
   Run("GRANT SELECT ON ALL TABLES IN SCHEMA public TO guest");
-  HostStore store(OptionsFor(kServer->Address(database_, "guest")));
+  HostStore store(OptionsFor(kPostgres->Address(database_, "guest")));
   EXPECT_EQ(ReadValue(store, "E1"), TaggedValue(Array{"old"}));
   EXPECT_FALSE(LogLine(store, "line"));
   EXPECT_TRUE(StoreValue(store, "E1", Array{"new"}));
