@@ -4,23 +4,25 @@
 #include "store/host_store.h"
 
 #include <QDateTime>
-#include <QTimer>
+#include <algorithm>
+#include <map>
+#include <utility>
 
-#include "store/date_text.h"
-#include "store/outbox.h"
-#include "store/outbox_entries.h"
+#include "base/run_time_error.h"
+#include "store/pending_writes.h"
 #include "store/seat.h"
 #include "store/seat_settings.h"
 #include "store/sql_connection.h"
 #include "store/store_address.h"
 #include "store/store_backup.h"
-#include "store/store_file.h"
-#include "store/store_notices.h"
-#include "store/store_tables.h"
-#include "store/tagged_value_codec.h"
+#include "store/store_commands.h"
+#include "store/store_connection.h"
+#include "store/trouble_report.h"
 
 namespace vmod17 {
 namespace {
+
+using Patience = StoreConnection::Patience;
 
 DateTime SystemTime() {
   const QDateTime now = QDateTime::currentDateTime();
@@ -29,148 +31,131 @@ DateTime SystemTime() {
   return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
 }
 
-std::map<std::string, std::string> SettingsOf(const std::string& session) {
-  std::map<std::string, std::string> settings;
-  if (session.empty()) return settings;
-  try {
-    const TaggedValue value = DecodeTaggedValue(session);
-    const TaggedValue::Array& pairs = value.Elements();
-    for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
-      settings[pairs[i].String()] = pairs[i + 1].String();
-    }
-  } catch (const RunTimeError&) {
-    // Not from a process of this version: the store knows the settings, too.
-    return {};
+StoreOptions Completed(StoreOptions options) {
+  if (!options.clock) options.clock = SystemTime;
+  if (options.data_folder.empty()) options.data_folder = UserDataFolder();
+  // As of a file, see `StoreAddress::Kind::kNotUtf8`.
+  if (!QByteArrayView(options.data_folder).isValidUtf8()) options.data_folder.clear();
+  return options;
+}
+
+Seat SeatOf(const StoreOptions& options, const StoreAddress& address) {
+  if (options.seat.empty() && address.kind == StoreAddress::Kind::kServer) {
+    return SeatIn(QString::fromStdString(options.data_folder));
   }
-  return settings;
+  return {options.seat, ""};
 }
 
 }  // namespace
 
-HostStore::HostStore(StoreOptions options)
-    : options_(std::move(options)),
-      address_(std::make_unique<StoreAddress>(ParseStoreAddress(options_.address))),
-      session_(SettingsOf(options_.session)),
-      settings_(session_),
-      log_(options_.log_limit_bytes) {
-  if (!options_.clock) options_.clock = SystemTime;
-  if (options_.data_folder.empty()) options_.data_folder = UserDataFolder();
-  // As of a file, see `StoreAddress::Kind::kNotUtf8`.
-  if (!QByteArrayView(options_.data_folder).isValidUtf8()) options_.data_folder.clear();
-  if (options_.seat.empty() && IsServer()) {
-    const Seat seat = SeatIn(QString::fromStdString(options_.data_folder));
-    options_.seat = seat.name;
-    former_seat_ = seat.former;
+/// In the order in which they are made: each knows those above it. What a lower one has to tell a
+/// higher one goes through a hook, which is not called before all are there.
+struct HostStore::Parts {
+  explicit Parts(StoreOptions asked)
+      : options(Completed(std::move(asked))),
+        address(ParseStoreAddress(options.address)),
+        seat(SeatOf(options, address)),
+        settings(options.session, [this] { return pending.SettingsThatWait(); }),
+        trouble(options.notify, address, [this] { return pending.CanKeep(); }),
+        connection(options, address, seat, settings, trouble,
+                   {.opened = [this] { pending.LookLaterForTheRest(); },
+                    .away = [this] { pending.LookLater(); }}),
+        pending(options, address, seat.name, connection, settings, trouble) {}
+
+  const StoreOptions options;
+  const StoreAddress address;
+  const Seat seat;
+  SeatSettings settings;
+  TroubleReport trouble;
+  StoreConnection connection;
+  PendingWrites pending;
+};
+
+HostStore::HostStore(StoreOptions options) : parts_(std::make_unique<Parts>(std::move(options))) {}
+
+HostStore::~HostStore() = default;
+
+std::unique_ptr<HostService> HostStore::Service() {
+  return std::make_unique<StoreCommands>(*this, parts_->options, parts_->connection,
+                                         parts_->pending, parts_->settings, parts_->trouble);
+}
+
+void HostStore::TellAnew() { parts_->trouble.TellAnew(); }
+
+void HostStore::LookForTheRest() { parts_->pending.LookSoon(); }
+
+// ---- Settings
+
+/// As far as they can be had.
+SeatSettings& HostStore::Settings() {
+  try {
+    parts_->connection.NeedSettings(Patience::kOnlyOnce);
+  } catch (const SqlError& error) {
+    parts_->trouble.TellUnreadable(error);
   }
+  return parts_->settings;
 }
-
-HostStore::~HostStore() {
-  is_ending_ = true;
-  const OneCall call(*this);
-  // Without an outbox this is the last chance of the log's lines.
-  BringWhatWaits(outbox_ ? Patience::kOnlyOnce : Patience::kWait);
-  if (log_.IsEmpty()) return;
-  std::vector<OutboxEntry> lines;
-  for (const LogEntry& line : log_.Take(deadline_)) lines.push_back({kLogKind, ContentOf(line)});
-  if (!lines.empty()) Post(lines);
-}
-
-// ---- Settings and the log, for the host's window
 
 std::optional<StoreUser> HostStore::User() {
-  const OneCall call(*this);
-  StoreUser user{Setting(kUserId), Setting(kUserName), Setting(kUserFirstName)};
+  const StoreConnection::Call call(parts_->connection);
+  StoreUser user{Settings().Get(kUserId), Settings().Get(kUserName),
+                 Settings().Get(kUserFirstName)};
   if (user.id.empty()) return {};
   return user;
 }
 
 void HostStore::SetUser(const StoreUser& user) {
-  ChangeSettings({{kUserId, user.id}, {kUserName, user.name}, {kUserFirstName, user.first_name}});
+  parts_->pending.ChangeSettings(
+      {{kUserId, user.id}, {kUserName, user.name}, {kUserFirstName, user.first_name}});
 }
 
-std::string HostStore::Language() { return Setting(kLanguage); }
+std::string HostStore::Language() { return Settings().Get(kLanguage); }
 void HostStore::SetLanguage(const std::string& language) {
-  ChangeSettings({{kLanguage, language}});
+  parts_->pending.ChangeSettings({{kLanguage, language}});
 }
-std::string HostStore::MidiDevice() { return Setting(kMidiDevice); }
-void HostStore::SetMidiDevice(const std::string& name) { ChangeSettings({{kMidiDevice, name}}); }
-std::string HostStore::Soundfont() { return Setting(kSoundfont); }
-void HostStore::SetSoundfont(const std::string& path) { ChangeSettings({{kSoundfont, path}}); }
+std::string HostStore::MidiDevice() { return Settings().Get(kMidiDevice); }
+void HostStore::SetMidiDevice(const std::string& name) {
+  parts_->pending.ChangeSettings({{kMidiDevice, name}});
+}
+std::string HostStore::Soundfont() { return Settings().Get(kSoundfont); }
+void HostStore::SetSoundfont(const std::string& path) {
+  parts_->pending.ChangeSettings({{kSoundfont, path}});
+}
+
+std::string HostStore::Session() { return Settings().Session(); }
+
+// ---- The log
 
 std::vector<LogEntry> HostStore::Log(int count) {
-  const OneCall call(*this);
+  const StoreConnection::Call call(parts_->connection);
   std::vector<LogEntry> entries;
-  BringLog();
+  parts_->pending.BringLog();
   try {
-    WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) { entries = tables.Log(count); });
+    parts_->connection.With(Patience::kOnlyOnce,
+                            [&](StoreTables& tables) { entries = tables.Log(count); });
   } catch (const SqlError& error) {
-    TellUnreadable(error);
+    parts_->trouble.TellUnreadable(error);
   }
   return entries;
-}
-
-std::string HostStore::Session() {
-  TaggedValue::Array pairs;
-  for (const auto& [name, value] : CurrentSettings()) {
-    pairs.emplace_back(name);
-    pairs.emplace_back(value);
-  }
-  return EncodeTaggedValue(pairs);
-}
-
-void HostStore::ChangeSettings(const Settings& changes) {
-  const OneCall call(*this);
-  Settings all = changes;
-  all.insert(pending_settings_.begin(), pending_settings_.end());
-  bool written = false;
-  try {
-    written = EmptyOutbox() && WithStore(Patience::kWait, [&](StoreTables& tables) {
-                if (read_only_) throw SqlError(SqlFailure::kReadOnly, "the store is read-only");
-                tables.SetSettings(options_.seat, all);
-              });
-  } catch (const SqlError& error) {
-    WriteFailed(error);
-  }
-  std::vector<OutboxEntry> entries;
-  for (const auto& [name, value] : changes) {
-    entries.push_back({kSettingKind, TaggedValue::Array{name, value}});
-  }
-  if (!written && Post(entries)) {
-    LookForServerLater();
-    all = pending_settings_;
-  }
-  pending_settings_ = written ? Settings() : all;
-  if (written) TellAnew();
-  for (const auto& [name, value] : changes) SetHere(name, value);
-}
-
-/// A setting that the store knows already, or will be told.
-void HostStore::SetHere(const std::string& name, const std::string& value) {
-  settings_[name] = value;
-  if (pending_settings_.contains(name)) pending_settings_[name] = value;
 }
 
 // ---- Users
 
 std::vector<StoreUser> HostStore::Users() {
-  const OneCall call(*this);
+  StoreConnection& connection = parts_->connection;
+  const StoreConnection::Call call(connection);
   std::map<std::string, StoreUser> users;
   try {
-    WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
-      if (!has_user_table_) return;
-      std::vector<StoreUser> all = users_ ? *std::exchange(users_, std::nullopt) : tables.Users();
-      for (StoreUser& user : all) users[user.id] = std::move(user);
+    connection.With(Patience::kOnlyOnce, [&](StoreTables& tables) {
+      if (!connection.HasUsers()) return;
+      std::optional<std::vector<StoreUser>> all = connection.TakeUsers();
+      if (!all) all = tables.Users();
+      for (StoreUser& user : *all) users[user.id] = std::move(user);
     });
   } catch (const SqlError& error) {
-    TellUnreadable(error);
+    parts_->trouble.TellUnreadable(error);
   }
-  std::map<std::string, UserChange> changes = pending_users_;
-  for (const auto& [kind, content] : Kept()) {
-    if (!IsUserKind(kind)) continue;
-    changes[content[0].String()] =
-        kind == kUserGoneKind ? UserChange() : UserChange(UserIn(content));
-  }
-  for (const auto& [id, change] : changes) {
+  for (const auto& [id, change] : parts_->pending.Users()) {
     if (change) {
       users[id] = *change;
     } else {
@@ -183,21 +168,18 @@ std::vector<StoreUser> HostStore::Users() {
 }
 
 bool HostStore::IsUser(const std::string& id) {
-  for (const StoreUser& user : Users()) {
-    if (user.id == id) return true;
-  }
-  return false;
+  return std::ranges::any_of(Users(), [&](const StoreUser& user) { return user.id == id; });
 }
 
 bool HostStore::SaveUser(const StoreUser& user, UserIs is) {
   if (user.id.empty()) {
     throw RunTimeError(ErrorNumber::kInvalidCall, "a user without a number", "vmod17.HostStore");
   }
-  const OneCall call(*this);
-  const auto pending = pending_users_.find(user.id);
-  if (is == UserIs::kNew && pending != pending_users_.end() && pending->second) return false;
+  PendingWrites& pending = parts_->pending;
+  const StoreConnection::Call call(parts_->connection);
+  if (is == UserIs::kNew && pending.KeepsUser(user.id)) return false;
   bool added = true;
-  const bool written = WriteUser([&](StoreTables& tables) {
+  const bool written = pending.WriteUser([&](StoreTables& tables) {
     if (is == UserIs::kNew) {
       added = tables.AddUser(user);
     } else {
@@ -207,70 +189,44 @@ bool HostStore::SaveUser(const StoreUser& user, UserIs is) {
   if (!written && is == UserIs::kNew && IsUser(user.id)) added = false;
   if (!added) return false;
   if (written) {
-    pending_users_.erase(user.id);
+    pending.ForgetUser(user.id);
   } else {
-    KeepUser(user.id, user, is);
+    pending.KeepUser(user.id, user, is);
   }
-  if (Setting(kUserId) == user.id) {
-    SetHere(kUserName, user.name);
-    SetHere(kUserFirstName, user.first_name);
+  if (Settings().Get(kUserId) == user.id) {
+    pending.SetHere(kUserName, user.name);
+    pending.SetHere(kUserFirstName, user.first_name);
   }
   return true;
 }
 
 void HostStore::RemoveUser(const std::string& id) {
-  const OneCall call(*this);
-  if (WriteUser([&](StoreTables& tables) { tables.RemoveUser(id); })) {
-    pending_users_.erase(id);
+  PendingWrites& pending = parts_->pending;
+  const StoreConnection::Call call(parts_->connection);
+  if (pending.WriteUser([&](StoreTables& tables) { tables.RemoveUser(id); })) {
+    pending.ForgetUser(id);
   } else {
-    KeepUser(id, std::nullopt, UserIs::kKnown);
+    pending.KeepUser(id, std::nullopt, UserIs::kKnown);
   }
-  if (Setting(kUserId) == id) SetHere(kUserId, "");
+  if (Settings().Get(kUserId) == id) pending.SetHere(kUserId, "");
 }
 
-// ---- Settings
-
-const HostStore::Settings& HostStore::CurrentSettings() {
-  // What another process has handed on is all that this one needs to know.
-  if (was_open_ || !session_.empty()) return settings_;
-  try {
-    WithStore(Patience::kOnlyOnce, [](StoreTables&) {});
-  } catch (const SqlError& error) {
-    TellUnreadable(error);
-  }
-  return settings_;
-}
-
-std::string HostStore::Setting(const std::string& name) {
-  const Settings& settings = CurrentSettings();
-  const auto found = settings.find(name);
-  return found == settings.end() ? std::string() : found->second;
-}
-
-RecordKey HostStore::KeyOf(const TaggedValue& args, Patience patience) {
-  // Whose record it is, is known once the store is open.
-  if (!was_open_ && session_.empty()) WithStore(patience, [](StoreTables&) {});
-  return {Setting(kUserId), args[0].String(), args[1].String()};
-}
+// ---- The backup
 
 std::optional<Notice> HostStore::Restore(StoreBackup& backup) {
+  StoreConnection& connection = parts_->connection;
   // What waits in memory belongs to the store that is kept aside.
   try {
-    if (state_ == State::kOpen && !read_only_) WritePending();
+    if (connection.IsOpen() && !connection.IsReadOnly()) parts_->pending.WritePending();
   } catch (const SqlError&) {
     // The user was told when it could not be written the first time.
   }
-  if (connection_) connection_->Close();
-  if (state_ == State::kOpen) state_ = State::kClosed;
-  if (auto refusal = backup.PutInPlace(options_.clock())) return refusal;
-  state_ = State::kClosed;
-  was_open_ = false;
-  settings_.clear();
-  pending_.clear();
-  pending_users_.clear();
-  pending_settings_.clear();
-  in_memory_.reset();
-  TellAnew();
+  connection.Close();
+  if (auto refusal = backup.PutInPlace(parts_->options.clock())) return refusal;
+  connection.StartAnew();
+  parts_->settings.Clear();
+  parts_->pending.Clear();
+  parts_->trouble.Clear();
   return std::nullopt;
 }
 

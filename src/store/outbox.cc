@@ -92,6 +92,7 @@ void Outbox::OpenAnew() {
 }
 
 std::optional<std::int64_t> Outbox::Add(const std::vector<OutboxEntry>& entries) {
+  has_refused_ = true;
   if (!Open()) return {};
   SqlStatements statements = {{"INSERT INTO piece (at, owner) VALUES (?, ?)",
                                {QString::fromStdString(TextOf(clock_())), OwnMark()}}};
@@ -104,7 +105,9 @@ std::optional<std::int64_t> Outbox::Add(const std::vector<OutboxEntry>& entries)
   }
   statements.push_back({"SELECT MAX(number) FROM piece", {}});
   try {
-    return connection_->RunTogether(std::move(statements)).rows.value(0).value(0).toLongLong();
+    const SqlResult added = connection_->RunTogether(std::move(statements));
+    has_refused_ = false;
+    return added.rows.value(0).value(0).toLongLong();
   } catch (const SqlError&) {
     return {};
   }

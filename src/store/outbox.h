@@ -46,8 +46,8 @@ class Outbox {
   Outbox(QString path, std::function<DateTime()> clock, PutAsideHandler put_aside = {});
   ~Outbox();
 
-  /// Whether it is there to be written; makes it where it is not.
-  bool IsReady() { return Open(); }
+  /// Whether it is there to be written, and has taken the last piece; makes it where it is not.
+  bool IsReady() { return !has_refused_ && Open(); }
   /// Adds one piece. Returns its number, or none when it could not be written.
   std::optional<std::int64_t> Add(const std::vector<OutboxEntry>& entries);
   /// The oldest first. An entry that is damaged is left out.
@@ -65,6 +65,7 @@ class Outbox {
   std::function<DateTime()> clock_;
   PutAsideHandler put_aside_;
   std::unique_ptr<SqliteConnection> connection_;
+  bool has_refused_ = false;  // the last piece
 };
 
 }  // namespace vmod17

@@ -4,17 +4,55 @@
 #include "store/outbox_entries.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace vmod17 {
 
-TaggedValue ContentOf(const LogEntry& line) {
-  return TaggedValue::Array{line.kind == LogEntry::Kind::kError ? 1 : 0,
-                            line.at,
-                            line.user,
-                            line.place,
-                            line.number,
-                            line.text,
-                            line.source};
+OutboxEntry RecordEntry(const RecordKey& key, const LateRecord& record) {
+  return {kRecordKind,
+          TaggedValue::Array{key.user, key.program, key.key, record.value, record.seen}};
+}
+
+OutboxEntry SettingEntry(const std::string& name, const std::string& value) {
+  return {kSettingKind, TaggedValue::Array{name, value}};
+}
+
+OutboxEntry UserEntry(const StoreUser& user) {
+  return {kUserKind, NewUserEntry(user, user).content};
+}
+
+OutboxEntry NewUserEntry(const StoreUser& user, const StoreUser& first) {
+  return {kNewUserKind,
+          TaggedValue::Array{user.id, user.name, user.first_name, first.name, first.first_name}};
+}
+
+OutboxEntry UserGoneEntry(const std::string& id) { return {kUserGoneKind, TaggedValue::Array{id}}; }
+
+OutboxEntry LogLineEntry(const LogEntry& line) {
+  return {kLogKind, TaggedValue::Array{line.kind == LogEntry::Kind::kError ? 1 : 0, line.at,
+                                       line.user, line.place, line.number, line.text, line.source}};
+}
+
+OutboxEntry NoticeEntry(const Notice& notice) {
+  TaggedValue::Array content = {notice.text_id, notice.english};
+  content.insert(content.end(), notice.details.begin(), notice.details.end());
+  return {kNoticeKind, content};
+}
+
+RecordKey KeyIn(const TaggedValue& content) {
+  return {content[0].String(), content[1].String(), content[2].String()};
+}
+
+LateRecord RecordIn(const TaggedValue& content) {
+  return {content[3].String(), content[4].String()};
+}
+
+StoreUser UserIn(const TaggedValue& content) {
+  return {content[0].String(), content[1].String(), content[2].String()};
+}
+
+StoreUser FirstNamesIn(const TaggedValue& content) {
+  return {content[0].String(), content[3].String(), content[4].String()};
 }
 
 LogEntry LineIn(const TaggedValue& content) {
@@ -29,20 +67,6 @@ LogEntry LineIn(const TaggedValue& content) {
   return line;
 }
 
-StoreUser UserIn(const TaggedValue& content) {
-  return {content[0].String(), content[1].String(), content[2].String()};
-}
-
-bool IsUserKind(const std::string& kind) {
-  return kind == kUserKind || kind == kNewUserKind || kind == kUserGoneKind;
-}
-
-TaggedValue ContentOf(const Notice& notice) {
-  TaggedValue::Array content = {notice.text_id, notice.english};
-  content.insert(content.end(), notice.details.begin(), notice.details.end());
-  return content;
-}
-
 Notice NoticeIn(const TaggedValue& content) {
   Notice notice{static_cast<int>(content[0].Integer()), content[1].String(), {}};
   for (std::size_t i = 2; i < content.Elements().size(); ++i) {
@@ -51,17 +75,13 @@ Notice NoticeIn(const TaggedValue& content) {
   return notice;
 }
 
-StoreUser FirstNamesIn(const TaggedValue& content) {
-  return {content[0].String(), content[3].String(), content[4].String()};
-}
-
-RecordKey KeyIn(const TaggedValue& content) {
-  return {content[0].String(), content[1].String(), content[2].String()};
+bool IsUserKind(const std::string& kind) {
+  return kind == kUserKind || kind == kNewUserKind || kind == kUserGoneKind;
 }
 
 bool IsOfLog(const OutboxPiece& piece) {
-  return std::any_of(piece.entries.begin(), piece.entries.end(),
-                     [](const OutboxEntry& entry) { return entry.kind == kLogKind; });
+  return std::ranges::any_of(piece.entries,
+                             [](const OutboxEntry& entry) { return entry.kind == kLogKind; });
 }
 
 bool IsNotice(const OutboxPiece& piece) {

@@ -1,17 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "store/store_commands.h"
+
 #include <array>
 #include <charconv>
+#include <cstddef>
+#include <utility>
 
+#include "base/run_time_error.h"
+#include "store/date_text.h"
 #include "store/host_store.h"
-#include "store/outbox.h"
-#include "store/seat_settings.h"
 #include "store/sql_connection.h"
-#include "store/store_address.h"
 #include "store/store_file.h"
 #include "store/store_notices.h"
-#include "store/store_tables.h"
 #include "store/tagged_value_codec.h"
 
 namespace vmod17 {
@@ -52,31 +54,18 @@ LogEntry MessageEntry(const TaggedValue& args) {
 
 }  // namespace
 
-class HostStore::Front : public HostService {
- public:
-  explicit Front(HostStore& store) : store_(store) {}
+StoreCommands::StoreCommands(HostStore& store, const StoreOptions& options,
+                             StoreConnection& connection, PendingWrites& pending,
+                             SeatSettings& settings, TroubleReport& trouble)
+    : store_(store),
+      options_(options),
+      connection_(connection),
+      pending_(pending),
+      settings_(settings),
+      trouble_(trouble) {}
 
-  bool Action(std::string_view command, const TaggedValue& args, TaggedValue& result) override {
-    return store_.Action(command, args, result);
-  }
-  void Together(const std::function<void()>& stores) override { store_.Together(stores); }
-
- private:
-  HostStore& store_;
-};
-
-/// The next module may read what this one has stored as soon as the host has its word.
-bool HostStore::Menue() {
-  BringWhatWaits(Patience::kOnlyOnce);
-  return options_.menue && options_.menue();
-}
-
-std::unique_ptr<HostService> HostStore::Service() { return std::make_unique<Front>(*this); }
-
-// ---- The commands
-
-bool HostStore::Action(std::string_view command, const TaggedValue& args, TaggedValue& result) {
-  const OneCall call(*this);
+bool StoreCommands::Action(std::string_view command, const TaggedValue& args, TaggedValue& result) {
+  const StoreConnection::Call call(connection_);
   if (command == "READ") return Read(args, result);
   if (command == "STORE") return Store(args);
   if (command == "LOGMESS") return AppendLog(MessageEntry(args));
@@ -89,41 +78,24 @@ bool HostStore::Action(std::string_view command, const TaggedValue& args, Tagged
   return false;
 }
 
-void HostStore::Together(const std::function<void()>& stores) {
-  if (together_) {
-    throw RunTimeError(ErrorNumber::kInvalidCall, "what is stored together is begun already",
-                       "vmod17.HostStore");
-  }
-  // The transaction is begun when all of it is there: no other process waits for `stores`, and a
-  // log line in it is no part of what a lock or a full disk takes back.
-  together_.emplace();
-  try {
-    stores();
-  } catch (...) {
-    together_.reset();
-    throw;
-  }
-  const Records records = *std::exchange(together_, std::nullopt);
-  const OneCall call(*this);
-  if (!records.empty()) Keep(records);
-}
+void StoreCommands::Together(const std::function<void()>& stores) { pending_.Together(stores); }
 
-bool HostStore::Midi(TaggedValue& result) {
-  const std::string name = MidiDevice();
+bool StoreCommands::Midi(TaggedValue& result) {
+  const std::string name = store_.MidiDevice();
   if (name.empty() || !options_.midi_number) return false;
   const std::optional<int> number = options_.midi_number(name);
   if (number) result = TextOf(*number);
   return number.has_value();
 }
 
-bool HostStore::Login(TaggedValue& result) {
-  const std::optional<StoreUser> user = User();
+bool StoreCommands::Login(TaggedValue& result) {
+  const std::optional<StoreUser> user = store_.User();
   if (user) result = TaggedValue::Array{user->id, user->name, user->first_name};
   return user.has_value();
 }
 
-bool HostStore::Lang(TaggedValue& result) {
-  const std::string chosen = Language();
+bool StoreCommands::Lang(TaggedValue& result) {
+  const std::string chosen = store_.Language();
   if (!chosen.empty() && (!options_.language_installed || options_.language_installed(chosen))) {
     result = chosen;
     return true;
@@ -134,24 +106,37 @@ bool HostStore::Lang(TaggedValue& result) {
   return desktop.has_value();
 }
 
-bool HostStore::Read(const TaggedValue& args, TaggedValue& result) {
+/// The next module may read what this one has stored as soon as the host has its word.
+bool StoreCommands::Menue() {
+  pending_.BringWhatWaits(Patience::kOnlyOnce);
+  return options_.menue && options_.menue();
+}
+
+RecordKey StoreCommands::KeyOf(const TaggedValue& args, Patience patience) {
+  // Whose record it is, is known once the store is open.
+  connection_.NeedSettings(patience);
+  return {settings_.Get(kUserId), args[0].String(), args[1].String()};
+}
+
+std::optional<std::string> StoreCommands::Find(const RecordKey& key) {
+  std::optional<std::string> found = pending_.Find(key);
+  if (found) return found;
+  connection_.With(Patience::kOnlyOnce, [&](StoreTables& tables) {
+    found = tables.Read(key);
+    pending_.SetSeen(key, found);
+  });
+  return found;
+}
+
+bool StoreCommands::Read(const TaggedValue& args, TaggedValue& result) {
   CheckCount(args, 2);
   RecordKey key;
   std::optional<std::string> stored;
   try {
     key = KeyOf(args, Patience::kOnlyOnce);
-    stored = InMemory(key);
-    if (!stored && (stored = InOutbox(key)) && !GoesPastAnother({{key, *stored}})) {
-      SetSeen({{key, *stored}});
-    }
-    if (!stored) {
-      WithStore(Patience::kOnlyOnce, [&](StoreTables& tables) {
-        stored = tables.Read(key);
-        if (outbox_) seen_[key] = FingerprintOf(stored);
-      });
-    }
+    stored = Find(key);
   } catch (const SqlError& error) {
-    TellUnreadable(error);
+    trouble_.TellUnreadable(error);
     return false;
   }
   try {
@@ -163,29 +148,31 @@ bool HostStore::Read(const TaggedValue& args, TaggedValue& result) {
   return true;
 }
 
-bool HostStore::Store(const TaggedValue& args) {
+bool StoreCommands::Store(const TaggedValue& args) {
   CheckCount(args, 3);
   RecordKey key{"", args[0].String(), args[1].String()};
   const std::string value = EncodeTaggedValue(args[2]);
   try {
     key = KeyOf(args, Patience::kWait);
   } catch (const SqlError& error) {
-    WriteFailed(error);
+    pending_.WriteFailed(error);
   }
-  if (together_) {
-    together_->insert_or_assign(key, value);
-  } else {
-    Keep({{key, value}});
-  }
+  pending_.Store(key, value);
   return true;
 }
 
-void HostStore::PutAside(const RecordKey& key, const std::string& value) {
+bool StoreCommands::AppendLog(LogEntry entry) {
+  entry.at = TextOf(options_.clock());
+  if (const std::optional<StoreUser> user = store_.User()) entry.user = user->id;
+  return pending_.AppendLog(std::move(entry));
+}
+
+void StoreCommands::PutAside(const RecordKey& key, const std::string& value) {
   const std::string aside = key.key + BrokenSuffix(options_.clock()).toStdString();
   bool renamed = false;
   try {
-    renamed = WithStore(Patience::kOnlyOnce,
-                        [&](StoreTables& tables) { tables.Rename(key, value, aside); });
+    renamed = connection_.With(Patience::kOnlyOnce,
+                               [&](StoreTables& tables) { tables.Rename(key, value, aside); });
   } catch (const SqlError&) {
     // It stays where it is and is found damaged again.
   }
@@ -195,8 +182,8 @@ void HostStore::PutAside(const RecordKey& key, const std::string& value) {
   entry.number = ErrorNumber::kStore;
   entry.text = "the record " + key.key + " of " + key.program + " is damaged";
   entry.source = "vmod17.HostStore";
-  AppendLog(entry);
-  Tell(DamagedRecordNotice(key.key, renamed ? aside : key.key));
+  AppendLog(std::move(entry));
+  trouble_.Tell(DamagedRecordNotice(key.key, renamed ? aside : key.key));
 }
 
 }  // namespace vmod17

@@ -15,4 +15,7 @@ struct StoreUser {
   bool operator==(const StoreUser&) const = default;
 };
 
+/// Whether a user is added, or the names of one are changed.
+enum class UserIs { kNew, kKnown };
+
 }  // namespace vmod17

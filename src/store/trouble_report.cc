@@ -1,41 +1,42 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "store/host_store.h"
-#include "store/outbox.h"
-#include "store/sql_connection.h"
-#include "store/store_address.h"
+#include "store/trouble_report.h"
+
+#include <string>
+#include <utility>
+
+#include "base/run_time_error.h"
 #include "store/store_notices.h"
 
 namespace vmod17 {
 
-// ---- Telling the user
+TroubleReport::TroubleReport(Notify notify, const StoreAddress& address,
+                             std::function<bool()> can_keep)
+    : notify_(std::move(notify)), address_(address), can_keep_(std::move(can_keep)) {}
 
-void HostStore::Tell(const Notice& notice) {
-  if (told_.insert(notice.text_id).second && options_.notify) options_.notify(notice);
+void TroubleReport::Tell(const Notice& notice) {
+  if (told_.insert(notice.text_id).second && notify_) notify_(notice);
 }
 
-/// Told again with what is stored in later runs, since all of it is lost.
-void HostStore::TellInMemory(const Notice& notice) {
+void TroubleReport::TellInMemory(const Notice& notice) {
   in_memory_ = notice;
   Tell(notice);
 }
 
-Notice HostStore::ServerNotice(const SqlError& error) const {
-  return outbox_fails_ || !outbox_ || !outbox_->IsReady()
-             ? UnusableServerNotice(address_->Display(), error.what())
-             : UnreachableServerNotice(address_->Display(), error.what());
+void TroubleReport::RemindOfMemory() {
+  if (in_memory_) Tell(*in_memory_);
 }
 
-void HostStore::TellUnreadable(const SqlError& error) {
-  const std::string place = address_->Display();
+void TroubleReport::TellUnreadable(const SqlError& error) {
+  const std::string place = address_.Display();
   switch (error.failure()) {
     case SqlFailure::kLocked:
       return Tell(LockedStoreNotice(place));
     case SqlFailure::kUnreachable:
       return Tell(IsFile() ? UnreadableStoreNotice(place, error.what()) : ServerNotice(error));
     case SqlFailure::kBroken:
-      // `Repair` has told what became of a broken file.
+      // What became of a broken file was told when it was put aside.
       if (IsFile()) return;
       [[fallthrough]];
     case SqlFailure::kReadOnly:
@@ -45,18 +46,14 @@ void HostStore::TellUnreadable(const SqlError& error) {
   }
 }
 
-void HostStore::WriteFailed(const SqlError& error, bool is_kept) {
-  const std::string place = address_->Display();
-  if (is_kept && error.failure() != SqlFailure::kUnreachable) {
-    return Tell(WaitingStoreNotice(place, error.what()));
-  }
+void TroubleReport::TellUnwritten(const SqlError& error) {
+  const std::string place = address_.Display();
   switch (error.failure()) {
     case SqlFailure::kLocked:
       Tell(LockedStoreNotice(place));
       throw RunTimeError(ErrorNumber::kStore, std::string("the store is locked: ") + error.what(),
                          "vmod17.HostStore");
     case SqlFailure::kReadOnly:
-      read_only_ = true;
       return Tell(ReadOnlyStoreNotice(place));
     case SqlFailure::kUnreachable:
       return Tell(IsFile() ? FullStoreNotice(place, error.what()) : ServerNotice(error));
@@ -67,6 +64,20 @@ void HostStore::WriteFailed(const SqlError& error, bool is_kept) {
     case SqlFailure::kOther:
       return Tell(FullStoreNotice(place, error.what()));
   }
+}
+
+void TroubleReport::TellWaiting(const SqlError& error) {
+  Tell(WaitingStoreNotice(address_.Display(), error.what()));
+}
+
+void TroubleReport::Clear() {
+  in_memory_.reset();
+  TellAnew();
+}
+
+Notice TroubleReport::ServerNotice(const SqlError& error) const {
+  return can_keep_() ? UnreachableServerNotice(address_.Display(), error.what())
+                     : UnusableServerNotice(address_.Display(), error.what());
 }
 
 }  // namespace vmod17
