@@ -333,12 +333,5 @@ TEST_F(TimbresOfAPlayer, LetAQueueWaitForThoseOfItsChannelsAlone) {
   EXPECT_EQ(LoadedWhenAlone(), 6);
 }
 
-TEST(MidiDeviceOutput, FindsEachSoundfontOnce) {
-  const auto existing = ExistingSoundfonts(UsualSoundfonts());
-  std::vector<std::string> twice = existing;
-  twice.insert(twice.end(), existing.begin(), existing.end());
-  EXPECT_EQ(ExistingSoundfonts(twice), existing);
-}
-
 }  // namespace
 }  // namespace vmod17
