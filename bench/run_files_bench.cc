@@ -48,9 +48,10 @@ class Records {
   QTemporaryDir folder_;
 
  public:
-  ProgramFixture p{10 * 3600,
-                   PugiDocumentFactory((folder_.filePath(QStringLiteral("own"))).toStdString(), {}),
-                   {}};
+  ProgramFixture p{
+      10 * 3600,
+      PugiDocumentFactory(folder_.filePath(QStringLiteral("own")).toStdString(), {}, {}),
+      {}};
 };
 
 void PlayTestWithRecord(benchmark::State& state) {
