@@ -5,16 +5,15 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <QDateTime>
 #include <QSqlDatabase>
 #include <QSqlQuery>
-#include <csignal>
 #include <filesystem>
 #include <map>
 
+#include "small_files.h"
 #include "store_process.h"
 #include "store_testing.h"
 
@@ -287,26 +286,6 @@ TEST_F(StoreBackupTest, LeavesAllAsItWasWhereTheCopyDoesNotGetItsName) {
   EXPECT_EQ(Content(Path() + "-wal"), "left");
   EXPECT_THAT(folder_.Names().join(' ').toStdString(), ::testing::Not(::testing::HasSubstr(".re")));
 }
-
-/// Files can become so large while it lives, as on a disk that is nearly full.
-class SmallFiles {
- public:
-  explicit SmallFiles(qint64 bytes) : ignored_(::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit small{static_cast<rlim_t>(bytes), before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~SmallFiles() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    ::signal(SIGXFSZ, ignored_);
-  }
-  SmallFiles(const SmallFiles&) = delete;
-  SmallFiles& operator=(const SmallFiles&) = delete;
-
- private:
-  rlimit before_{};
-  sighandler_t ignored_;
-};
 
 TEST_F(StoreBackupTest, IsNotTakenForDamagedWhereItsCopyHasNoRoom) {
   StoreBackup backup(Backup(), Path());

@@ -5,18 +5,18 @@
 // answers each with a line. Tests start it to have a second process at a store, one without rights,
 // one on a full disk, and one to kill.
 
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
-#include <csignal>
 #include <functional>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "small_files.h"
 #include "store/host_store.h"
 #include "store/outbox.h"
 #include "store/seat.h"
@@ -192,15 +192,13 @@ class Helper {
     return done ? "nobody" : "refused";
   }
 
-  // A file that may not grow refuses like a disk that is full.
-  static std::string LimitFiles(std::istringstream& words) {
-    rlim_t bytes = 0;
+  // A file that may not grow refuses like a disk that is full; 0 lifts the limit.
+  std::string LimitFiles(std::istringstream& words) {
+    std::int64_t bytes = 0;
     words >> bytes;
-    rlimit limit{};
-    ::getrlimit(RLIMIT_FSIZE, &limit);
-    limit.rlim_cur = bytes == 0 ? limit.rlim_max : bytes;
-    std::signal(SIGXFSZ, SIG_IGN);
-    return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 ? "limited" : "refused";
+    small_files_.reset();
+    if (bytes > 0) small_files_.emplace(bytes);
+    return "limited";
   }
 
   // Stores arrays of one number repeated, counting up, and says each number once it is stored.
@@ -215,6 +213,7 @@ class Helper {
     }
   }
 
+  std::optional<SmallFiles> small_files_;  // longer than the store, which writes at its end
   std::unique_ptr<HostStore> store_;
   std::vector<int> notices_;
 };
