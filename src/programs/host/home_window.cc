@@ -17,10 +17,10 @@
 
 #include "programs/host/log_window.h"
 #include "programs/host/user_dialog.h"
+#include "programs/shared/version.h"
 #include "qt/kit/help_window.h"
 #include "qt/kit/look.h"
 #include "qt/kit/signs.h"
-#include "version.h"
 
 namespace melvado {
 namespace {

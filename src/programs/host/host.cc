@@ -15,11 +15,11 @@
 #include "midi/midi_ports.h"
 #include "midi/soundfonts.h"
 #include "programs/shared/places.h"
+#include "programs/shared/version.h"
 #include "qt/desk/single_instance.h"
 #include "store/store_address.h"
 #include "store/store_backup.h"
 #include "store/store_notices.h"
-#include "version.h"
 
 namespace melvado {
 namespace {

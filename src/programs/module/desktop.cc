@@ -15,9 +15,9 @@
 #include <utility>
 
 #include "programs/shared/places.h"
+#include "programs/shared/version.h"
 #include "qt/desk/application_setup.h"
 #include "store/store_address.h"
-#include "version.h"
 #include "xml/pugi_document.h"
 
 namespace vmod17 {
