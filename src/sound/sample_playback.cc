@@ -11,16 +11,16 @@
 namespace vmod17 {
 namespace {
 
-constexpr int kAkzent = 15;
+constexpr int kAkzentDerProbe = 15;
 constexpr int kRandOben = 10;  // semitones below the upper bound that stay free
 constexpr std::array kTerzen = {4, 3, 4, 3, 4, 3, 4};
-constexpr int kVersuche = 100000;
+constexpr int kVersucheDerProbe = 100000;
 
 }  // namespace
 
 SamplePlayback::SamplePlayback(ModMIDI& midi, const AppState& state,
                                const ExerciseSettings& settings, Random& random)
-    : settings_(settings), random_(random), queue_(midi, state, settings, kAkzent) {}
+    : settings_(settings), random_(random), queue_(midi, state, settings, kAkzentDerProbe) {}
 
 void SamplePlayback::Baue(int noten) {
   const int schritt =
@@ -50,7 +50,7 @@ void SamplePlayback::ReiheEin() {
 std::vector<int> SamplePlayback::WuerfleFolge(int noten) {
   std::vector<int> folge;
   for (int versuche = 0; static_cast<int>(folge.size()) < noten; ++versuche) {
-    if (versuche > kVersuche) {
+    if (versuche > kVersucheDerProbe) {
       throw RunTimeError(ErrorNumber::kNothingToDraw, "no order of the notes can be drawn",
                          "vmod17.SamplePlayback");
     }

@@ -15,7 +15,7 @@ namespace {
 
 namespace look = vmod17::look;
 
-constexpr double kText = 15;
+constexpr double kDialogText = 15;
 constexpr char kDresser[] = "dresser";
 
 constexpr const char* kStyle =
@@ -61,7 +61,7 @@ QString StyleFor(const look::Palette& colors, const QString& family, double fact
       {"LOCKED", colors.disabled_fill.name()},
       {"FAINT", colors.disabled_text.name()},
       {"FAMILY", family},
-      {"SIZE", px(kText)},
+      {"SIZE", px(kDialogText)},
       {"EDGE", px(6)},
       {"INSIDE", px(6, 1)},
       {"SIDE", px(18)},
@@ -97,8 +97,8 @@ class Dresser : public QObject {
 
 }  // namespace
 
-void Dress(QDialog& dialog, double factor) {
-  dialog.setFont(look::Type(kText * factor, look::Weight::kNormal));
+void DressDialog(QDialog& dialog, double factor) {
+  dialog.setFont(look::Type(kDialogText * factor, look::Weight::kNormal));
   delete dialog.findChild<QObject*>(kDresser, Qt::FindDirectChildrenOnly);
   new Dresser(dialog, factor);
 }

@@ -8,6 +8,6 @@ class QDialog;
 namespace melvado {
 
 /// Gives a dialog the program's colours and type. `factor` is the number of pixels of a unit.
-void Dress(QDialog& dialog, double factor);
+void DressDialog(QDialog& dialog, double factor);
 
 }  // namespace melvado

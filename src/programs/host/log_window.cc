@@ -84,7 +84,7 @@ QPushButton* LogWindow::MakeButton(const char* name, std::function<void()> act) 
 }
 
 void LogWindow::Open(double factor) {
-  Dress(*this, factor);
+  DressDialog(*this, factor);
   ShowWords();
   resize(qRound(920 * factor), qRound(600 * factor));
   lines_->horizontalHeader()->setFont(font());

@@ -30,7 +30,7 @@ UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& use
       fault_(MakeLine("fault")) {
   const bool known = !user.id.empty();
   const double factor = parent->font().pixelSize() / 14.0;
-  Dress(*this, factor);
+  DressDialog(*this, factor);
   setWindowTitle(known ? words.Say(9424, "Change a user") : words.Say(9423, "Add a user"));
   // What is stored stands under the number.
   number_->setReadOnly(known);
