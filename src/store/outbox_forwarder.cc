@@ -25,7 +25,6 @@ using Clock = std::chrono::steady_clock;
 // How long what waits is brought at a time.
 constexpr std::chrono::milliseconds kTimeToBring(1000);
 constexpr int kPatienceForOutboxMs = 250;
-constexpr int kPatienceForLogMs = 250;
 
 /// The file of what waits for a server: one for each database, role and seat. The password is no
 /// part of it.

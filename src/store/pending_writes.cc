@@ -22,9 +22,8 @@ constexpr int kGlanceMs = 500;
 constexpr int kSoonMs = 1000;
 // What no road takes long for. A training is a few thousand bytes.
 constexpr std::size_t kShortBytes = 100'000;
-// How long a log that somebody holds keeps a line waiting. On a server all get it in turn; of a
-// file whoever asks at the right moment gets it, and may have to ask often.
-constexpr int kPatienceForLogMs = 250;
+// The log of a file keeps it waiting for longer: whoever asks at the right moment gets it, and may
+// have to ask often.
 constexpr int kPatienceForFileMs = 1500;
 
 std::size_t SizeOf(const Records& records) {
@@ -256,17 +255,17 @@ PendingWrites::UserChanges PendingWrites::Users() const {
 
 void PendingWrites::WritePendingUsers() {
   while (!users_.empty()) {
-    const auto& [id, change] = *users_.begin();
+    const auto user = users_.begin();
     const bool written = connection_.With(Patience::kOnlyOnce, [&](StoreTables& tables) {
       connection_.NeedUsers();
-      if (change) {
-        tables.SaveUser(*change);
+      if (user->second) {
+        tables.SaveUser(*user->second);
       } else {
-        tables.RemoveUser(id);
+        tables.RemoveUser(user->first);
       }
     });
     if (!written) return;
-    users_.erase(users_.begin());
+    users_.erase(user);
   }
 }
 

@@ -19,6 +19,9 @@ namespace vmod17 {
 /// older one into it; it leaves a newer one as it is.
 inline constexpr std::int64_t kStoreVersion = 2;
 
+/// How long a log that somebody holds keeps a line waiting on a server, where all get it in turn.
+inline constexpr int kPatienceForLogMs = 250;
+
 /// Whose record it is, and which. `user` is "" for the records of nobody.
 struct RecordKey {
   std::string user;
