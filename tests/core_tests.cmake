@@ -55,6 +55,7 @@ target_sources(
           module/lesson_record_golden_test.cc
           exercise/counters_test.cc
           exercise/exercise_names_test.cc
+          exercise/stored_settings_test.cc
           exercise/stored_training_test.cc
           exercise/training_weights_test.cc
           results/percentages_test.cc

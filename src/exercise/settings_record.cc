@@ -13,6 +13,7 @@ void ExerciseSettings::RechneArpDauer(const AppState& state) {
 }
 
 void ExerciseSettings::SetzeTonraum(int j) {
+  tonraum_idx = j;
   ton_unten = 36 + 12 * j;
   ton_oben = ton_unten + 24 + 12 * oktav_ber;
 }

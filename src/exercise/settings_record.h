@@ -31,6 +31,7 @@ struct ExerciseSettings {
   int arp_dauer = 0;         ///< ms between two notes of an arpeggio
   int akk_anzahl = 0;        ///< chords a task, 1 to 4
   int oktav_ber = 0;         ///< octaves of the Tonraum less 2
+  int tonraum_idx = 0;       ///< place of the Tonraum in its list
   int ton_unten = 0;         ///< MIDI note
   int ton_oben = 0;          ///< MIDI note
   int abfolge = 0;           ///< 0 the user asks for the next task, 1 it follows by itself
@@ -80,6 +81,11 @@ struct ExerciseSettings {
   /// Sets the bounds of the Tonraum for entry `j` of its list.
   void SetzeTonraum(int j);
 };
+
+/// The channels of the timbres by `klangfarb_art`: that of the one, or those of a chord's notes
+/// from the lowest up.
+constexpr int ErsterKanal(int klangfarb_art) { return klangfarb_art == 0 ? 0 : 1; }
+constexpr int LetzterKanal(int klangfarb_art) { return klangfarb_art == 0 ? 0 : 7; }
 
 /// Values of `arp_richtung`.
 enum ArpRichtung { kArpAufwaerts = 0, kArpAbwaerts = 1, kArpZufall = 2, kArpOhne = 3 };
