@@ -35,6 +35,7 @@ vmod17_test(
           settings/settings_selection_test.cc
           settings/settings_spoken_test.cc
           settings/settings_summary_test.cc
+          settings/settings_table_test.cc
           settings/fixed_settings_test.cc
           settings/settings_walk_test.cc
           settings/sound_check_test.cc

@@ -3,12 +3,14 @@
 
 // The second face: the settings in force and the user's data.
 
+#include <algorithm>
 #include <array>
 #include <span>
 
 #include "base/numbers.h"
 #include "results/own_words.h"
 #include "results/results_screen.h"
+#include "settings/settings_table.h"
 
 namespace vmod17 {
 namespace {
@@ -46,6 +48,31 @@ std::string EigenerTonraum(int j, int oktav_ber) {
 }
 
 std::string EigeneStimme(int i) { return EigenesWort(499) + " " + SignedText(i + 1); }
+
+/// The lines that the page fills by itself. All others are those of two options.
+constexpr std::array kEigeneZeilen = {0, 1, 2, 4, 9, 10, 13, 14};
+
+constexpr bool HatZeile(const Merkmal& merkmal) {
+  return merkmal.gruppe != nullptr && merkmal.zeile != Merkmal::kKeineZeile;
+}
+
+constexpr bool HatEinen(int zeile) {
+  return std::ranges::count(kEigeneZeilen, zeile) +
+             std::ranges::count_if(
+                 kMerkmale, [&](const Merkmal& m) { return HatZeile(m) && m.zeile == zeile; }) ==
+         1;
+}
+
+constexpr bool HabenAlleEinen() {
+  for (int zeile = 0; zeile < Testergebnis::kEinstZeilen; ++zeile) {
+    if (!HatEinen(zeile)) return false;
+  }
+  return kEigeneZeilen.size() + std::ranges::count_if(kMerkmale, HatZeile) ==
+         Testergebnis::kEinstZeilen;
+}
+
+static_assert(HabenAlleEinen(),
+              "a line is filled twice or not at all, or lies beyond kEinstZeilen");
 
 /// "21.11.2026 14:03", in every language.
 std::string Zeitpunkt(const DateTime& t) {
@@ -94,35 +121,28 @@ void Testergebnis::LbEinst() {
       [this] {
         const ExerciseSettings& s = parts_.settings;
         const Einstellung1& e = parts_.einstellung1;
-        const auto rahmen = [&](int i, int id) { return Gesehen(e.geinst_lb[i].caption, id); };
+        const auto rahmen = [&](int i) { return Gesehen(e.geinst_lb[i].caption, RahmenTitel(i)); };
         for (int k = 0; k < kEinstZeilen; ++k) {
           einst_lab[k].visible = einst_Inh[k].visible = false;
         }
         einst_head.caption = Gesehen(shell_.texts.titel_ar[1], 221);
-        ZeigeZeile(0, rahmen(8, 587), ModusMitNummer());
+        for (const Merkmal& merkmal : kMerkmale) {
+          if (!HatZeile(merkmal) || !merkmal.Gilt(s)) continue;
+          ZeigeZeile(merkmal.zeile, rahmen(merkmal.rahmen),
+                     Gesehen(e.*merkmal.gruppe, s.*merkmal.feld, merkmal.texte));
+        }
+        ZeigeZeile(0, rahmen(8), ModusMitNummer());
         KlangfarbenZeile();
         ZeigeZeile(2, Gesehen(e.lb15[0].caption, 547), e.temp_Combo.text());
-        ZeigeZeile(3, rahmen(5, 78), Gesehen(e.abfrage, s.abfolge, {383, 142}));
-        ZeigeZeile(4, rahmen(4, 88), e.akkzahl_cmb.text());
-        ZeigeZeile(5, rahmen(3, 154), Gesehen(e.akk_grp, s.best_art, {97, 301}));
-        if (s.best_art == 0) {
-          ZeigeZeile(6, rahmen(12, 114), Gesehen(e.akk_anzg, s.akk_anzeige, {507, 429}));
-        }
-        ZeigeZeile(7, rahmen(17, 87), Gesehen(e.betonung, s.grundton_betont, {588, 156}));
-        ZeigeZeile(8, rahmen(0, 243), Gesehen(e.frequenz, s.frequenz_art, {238, 603}));
-        ZeigeZeile(9, rahmen(1, 107), Oder(e.oktav_cmb.text(), EigeneOktaven(s.oktav_ber)));
+        ZeigeZeile(4, rahmen(4), e.akkzahl_cmb.text());
+        ZeigeZeile(9, rahmen(1), Oder(e.oktav_cmb.text(), EigeneOktaven(s.oktav_ber)));
         ZeigeZeile(10, Gesehen(e.lb1.caption, 153),
-                   Oder(e.Combo_tonraum.text(),
-                        EigenerTonraum(e.Combo_tonraum.list_index(), s.oktav_ber)));
-        ZeigeZeile(11, rahmen(9, 297), Gesehen(e.Tonart, s.grundton_art, {623, 277}));
-        ZeigeZeile(12, rahmen(7, 138), Gesehen(e.aus_w, s.akk_form, {49, 45}));
+                   Oder(e.Combo_tonraum.text(), EigenerTonraum(s.tonraum_idx, s.oktav_ber)));
         if (s.akk_form == 0) {
-          ZeigeZeile(13, rahmen(11, 364),
-                     Verbunden(e.klanglst[1].entries(), ", ", EigenerKlangName));
+          ZeigeZeile(13, rahmen(11), Verbunden(e.klanglst[1].entries(), ", ", EigenerKlangName));
         }
         if (e.grplst[1].count() > 0) {
-          ZeigeZeile(14, rahmen(2, 302),
-                     Verbunden(e.grplst[1].entries(), "; ", EigenerGruppenName));
+          ZeigeZeile(14, rahmen(2), Verbunden(e.grplst[1].entries(), "; ", EigenerGruppenName));
         }
       },
       [this] { SchliesseMitFehler(); });
@@ -151,7 +171,7 @@ void Testergebnis::KlangfarbenZeile() {
   const ExerciseSettings& s = parts_.settings;
   const Einstellung1& e = parts_.einstellung1;
   if (s.klangfarb_art == 0) {
-    ZeigeZeile(1, Gesehen(e.geinst_lb[15].caption, 365), e.ComboPatch.text());
+    ZeigeZeile(1, Gesehen(e.geinst_lb[15].caption, RahmenTitel(15)), e.ComboPatch.text());
     return;
   }
   // Names and programs both begin at their entry 0, which for the programs is that of the one

@@ -48,6 +48,12 @@ std::string Aufgelistet(const std::vector<std::string>& zeilen, const TextLookup
          texts.Words({9633, "… and %1 more", {std::to_string(zeilen.size() - anzahl)}});
 }
 
+/// The options of the group that a control belongs to; null for a control of another kind.
+OptionGroup* GruppeVon(const Control& control) {
+  const auto* option = dynamic_cast<const Option*>(&control);
+  return option == nullptr ? nullptr : &option->group();
+}
+
 /// The values that are applied where no file is chosen, by the tags of their controls in lower
 /// case.
 const std::map<std::string, int>& EinleseAr() {
@@ -57,15 +63,6 @@ const std::map<std::string, int>& EinleseAr() {
 }
 
 }  // namespace
-
-/// The options of the group that a control belongs to; null for a control of another kind.
-OptionGroup* Einstellung1::GruppeVon(const Control& control) {
-  for (OptionGroup* group :
-       {&akk_grp, &aus_w, &akk_anzg, &Tonart, &betonung, &frequenz, &abfrage, &kl_farb}) {
-    if ((*group)[group->first()].name() == control.name()) return group;
-  }
-  return nullptr;
-}
 
 /// Goes through the tagged controls in marked frames and gathers what a test of them would hold. A
 /// group of options counts once, a list without a selection not at all.

@@ -4,22 +4,20 @@
 // The training level: what it frees and locks, the training that is taken up again, the exams.
 
 #include <algorithm>
-#include <array>
 #include <exception>
 
 #include "base/numbers.h"
-#include "base/record_reader.h"
 #include "catalogue/chord_table.h"
 #include "settings/exams.h"
 #include "settings/settings_screen.h"
+#include "settings/settings_table.h"
 
 namespace vmod17 {
 namespace {
 
 constexpr const char* kKeinTraining = "---------------";
 
-constexpr std::array kRahmenDesTrainings = {5, 4, 10, 7, 3, 12, 9, 11, 2, 1, 0, 17};
-constexpr std::array kRahmenDerPruefung = {5, 7, 3, 11, 2};
+static_assert(StoredSettings::kHoechsteStaerke == ModMIDI::kHoechsteStaerke);
 
 /// Selects the first entry with that text, if there is one.
 void WaehleText(ItemList& list, const std::string& text) {
@@ -89,15 +87,16 @@ void Einstellung1::training_Combo_Click() {
     training_Combo.Select(kModusNeuesTraining);
     return;
   }
-  for (const int i : kRahmenDesTrainings) SperreRahmen(i);
+  SperreRahmen(kModusFortsetzung);
   temp_Combo.enabled = false;
   temp_Combo.fore_color = kGesperrterRahmen;
 }
 
 void Einstellung1::GibRahmenFrei() {
-  for (const int i : kRahmenDesTrainings) {
-    grdeinst[i].enabled = true;
-    grdeinst[i].back_color = kRahmenFarbe;
+  for (const Rahmen& rahmen : kRahmen) {
+    if (rahmen.gesperrt == Rahmen::Gesperrt::kNie) continue;
+    grdeinst[rahmen.nummer].enabled = true;
+    grdeinst[rahmen.nummer].back_color = rahmen.farbe;
   }
   temp_Combo.enabled = true;
   temp_Combo.fore_color = kTempoFarbe;
@@ -111,66 +110,58 @@ void Einstellung1::GibVomTestFrei() {
   grdeinst[15].back_color = kKlangRahmen;
 }
 
-void Einstellung1::SperreRahmen(int rahmen) {
-  grdeinst[rahmen].enabled = false;
-  grdeinst[rahmen].back_color = kGesperrterRahmen;
+/// Locks what a level settles.
+void Einstellung1::SperreRahmen(int uebmodus) {
+  for (const Rahmen& rahmen : kRahmen) {
+    if (!Sperrt(uebmodus, rahmen)) continue;
+    grdeinst[rahmen.nummer].enabled = false;
+    grdeinst[rahmen.nummer].back_color = kGesperrterRahmen;
+  }
 }
 
 /// Whether the level settles what a control sets: a training that was taken up all of its settings
 /// but the timbre, an exam what it asks for. The colour of a frame does not tell; the mark of the
 /// popup takes its place.
 bool Einstellung1::HaeltLevel(const Control& control) const {
-  const auto steht_in = [&](const auto& rahmen) {
-    return std::any_of(rahmen.begin(), rahmen.end(),
-                       [&](int i) { return control.container == &grdeinst[i]; });
-  };
-  switch (parts_.settings.uebmodus) {
-    case kModusFortsetzung:
-      return &control == &temp_Combo || steht_in(kRahmenDesTrainings);
-    case kModusPruefung:
-      return steht_in(kRahmenDerPruefung);
-    default:
-      return false;
-  }
+  const int uebmodus = parts_.settings.uebmodus;
+  if (&control == &temp_Combo) return uebmodus == kModusFortsetzung;
+  return std::ranges::any_of(kRahmen, [&](const Rahmen& rahmen) {
+    return control.container == &grdeinst[rahmen.nummer] && Sperrt(uebmodus, rahmen);
+  });
 }
+
+/// Takes stored settings up through the events of the controls.
+class Einstellung1::Aufnahme : public StoredSettings::Nehmer {
+ public:
+  explicit Aufnahme(Einstellung1& screen) : screen_(screen) {}
+
+  void NimmZahl(int ExerciseSettings::*feld, int wert) override {
+    const auto merkmal = std::ranges::find(kMerkmale, feld, &Merkmal::feld);
+    if (merkmal == kMerkmale.end()) {
+      screen_.parts_.settings.*feld = wert;  // a number of kinds or groups
+    } else if (merkmal->gruppe != nullptr) {
+      (screen_.*merkmal->gruppe).Check(wert);
+    } else {
+      (screen_.*merkmal->liste).Select(wert - merkmal->erster);
+    }
+  }
+  void NimmKlang(const std::string& name) override { WaehleText(screen_.klanglst[0], name); }
+  void NimmProgramm(int kanal, int programm) override {
+    screen_.parts_.settings.patch_ar.at(kanal) = programm;
+  }
+  void NimmStaerke(int staerke) override { screen_.HSliderVolume.Set(staerke); }
+  void NimmGruppe(const std::string& name) override { WaehleText(screen_.grplst[0], name); }
+
+ private:
+  Einstellung1& screen_;
+};
 
 void Einstellung1::StelleWiederHer() {
   shell_.server.LeseEinstellung("E" + DecimalText(shell_.state.uebTyp));
   if (shell_.state.uebTyp != 1) return;
   const TaggedValue::Array satz = shell_.server.einst_satz;
-  RecordReader leser(satz, "E1");
-  constexpr int kMaxIndex = 32767;  // the lists know their own bounds
-  abfrage.Check(leser.Number(0, 1));
-  temp_Combo.Select(leser.Number(0, kMaxIndex));
-  akkzahl_cmb.Select(leser.Number(1, kMaxIndex) - 1);
-  arpeg_cmb.Select(leser.Number(0, kMaxIndex));
-  aus_w.Check(leser.Number(0, 1));
-  akk_grp.Check(leser.Number(0, 1));
-  akk_anzg.Check(leser.Number(0, 1));
-  Tonart.Check(leser.Number(0, 1));
-  // The stored value is the width and not the place in the list, which begins one octave wider for
-  // voicings.
-  oktav_cmb.Select(leser.Number(0, kMaxIndex));
-  Combo_tonraum.Select(leser.Number(0, kMaxIndex));
-  frequenz.Check(leser.Number(0, 1));
-  leser.Next();
-  betonung.Check(leser.Number(0, 1));
-  cmb_arpTmp.Select(leser.Number(0, kMaxIndex));
-
-  const int klaenge = leser.Number(0, 5);
-  for (int i = 0; i < klaenge; ++i) WaehleText(klanglst[0], leser.Text());
-  parts_.settings.klang_anzahl = klaenge;
-
-  const int klangfarb_art = leser.Number(0, 1);
-  const int erste = klangfarb_art == 0 ? 0 : 1;
-  const int letzte = klangfarb_art == 0 ? 0 : 7;
-  for (int i = erste; i <= letzte; ++i) parts_.settings.patch_ar[i] = leser.Number(0, 127);
-  kl_farb.Check(klangfarb_art);
-  HSliderVolume.Set(leser.Number(HSliderVolume.low(), HSliderVolume.high()));
-
-  const int gruppen = leser.Number(0, kGruppen);
-  parts_.settings.grp_anzahl = gruppen;
-  for (int i = 0; i < gruppen; ++i) WaehleText(grplst[0], leser.Text());
+  Aufnahme aufnahme(*this);
+  StoredSettings::Read(satz, aufnahme);
 }
 
 void Einstellung1::prfnr_Comb_Click() {
@@ -187,7 +178,7 @@ void Einstellung1::SetzePruefung() {
   akk_grp.Check(pruefung.best_art);
   for (const int k : pruefung.klangtypen) WaehleWert(klanglst[0], k);
   if (pruefung.gruppen == Pruefung::Gruppen::kAlle) grp_alle_Click(0);
-  for (const int i : kRahmenDerPruefung) SperreRahmen(i);
+  SperreRahmen(kModusPruefung);
 }
 
 void Einstellung1::grdeinst_RechteTaste(int rahmen) {

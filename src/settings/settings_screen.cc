@@ -10,6 +10,7 @@
 #include "base/numbers.h"
 #include "catalogue/chord_table.h"
 #include "settings/exams.h"
+#include "settings/settings_table.h"
 #include "shell/delay.h"
 #include "sound/instrument_list.h"
 
@@ -21,14 +22,8 @@ constexpr int kTestIntervall = 2000;
 constexpr int kBestimmen = 1;
 constexpr int kLautstaerke = 100;
 
-constexpr Color kRahmenLevel = Bgr(0xC0FFC0);
-
 void SetzeContainer(Control& frame, std::initializer_list<Control*> controls) {
   for (Control* control : controls) control->container = &frame;
-}
-
-void SetzeContainer(Control& frame, const OptionGroup& group) {
-  for (int i = group.first(); i <= group.last(); ++i) group[i].container = &frame;
 }
 
 }  // namespace
@@ -42,7 +37,7 @@ Einstellung1::Einstellung1(Shell& shell, const Parts& parts)
       parts_(parts) {
   caption = "Grundeinstellung : Jazz-Akkorde bestimmen";
   StelleInRahmen();
-  SetzeMarken();
+  BindeMerkmale();
   Verdrahte();
   cmdHilfe.caption = "?";
   prfnr_Comb.enabled = false;
@@ -51,55 +46,44 @@ Einstellung1::Einstellung1(Shell& shell, const Parts& parts)
 }
 
 void Einstellung1::StelleInRahmen() {
-  for (const int i : grdeinst.indexes()) {
-    grdeinst[i].container = &aktionsbox;
-    grdeinst[i].back_color = i == 8               ? kRahmenLevel
-                             : i == 14 || i == 15 ? kKlangRahmen
-                                                  : kRahmenFarbe;
+  for (const Rahmen& rahmen : kRahmen) {
+    grdeinst[rahmen.nummer].container = &aktionsbox;
+    grdeinst[rahmen.nummer].back_color = rahmen.farbe;
+    if (rahmen.titel != 0) geinst_lb[rahmen.nummer].container = &grdeinst[rahmen.nummer];
   }
-  for (const int i : geinst_lb.indexes()) geinst_lb[i].container = &grdeinst[i];
-  SetzeContainer(grdeinst[0], frequenz);
-  SetzeContainer(grdeinst[1], {&oktav_cmb, &lb1, &Combo_tonraum});
+  SetzeContainer(grdeinst[1], {&lb1});
   SetzeContainer(grdeinst[2], {&grplst[0], &grplst[1], &lb2[0], &lb2[1], &lb2[2], &lb2[3],
                                &grp_alle[0], &grp_alle[1]});
-  SetzeContainer(grdeinst[3], akk_grp);
-  SetzeContainer(grdeinst[4], {&akkzahl_cmb});
-  SetzeContainer(grdeinst[5], abfrage);
-  SetzeContainer(grdeinst[7], aus_w);
   SetzeContainer(grdeinst[8], {&training_Combo, &prfnr_Comb});
-  SetzeContainer(grdeinst[9], Tonart);
-  SetzeContainer(grdeinst[10], {&arpeg_cmb, &lb10, &cmb_arpTmp});
+  SetzeContainer(grdeinst[10], {&lb10});
   SetzeContainer(grdeinst[11], {&klanglst[0], &klanglst[1], &lb11[0], &lb11[1], &lb11[2],
                                 &klang_alle[0], &klang_alle[1]});
-  SetzeContainer(grdeinst[12], akk_anzg);
   SetzeContainer(grdeinst[14], {&klang_contr, &HSliderVolume, &lb14[0], &lb14[1]});
-  SetzeContainer(grdeinst[15], kl_farb);
-  SetzeContainer(grdeinst[15],
-                 {&Channel_Combo, &ComboPatch, &temp_Combo, &lb15[0], &lb15[1], &lb15[2]});
-  SetzeContainer(grdeinst[17], betonung);
+  SetzeContainer(grdeinst[15], {&Channel_Combo, &ComboPatch, &lb15[0], &lb15[1], &lb15[2]});
 }
 
-/// The keys under which the controls stand in a test.
-void Einstellung1::SetzeMarken() {
-  const auto marke = [](const OptionGroup& group, const char* tag) {
-    for (int i = group.first(); i <= group.last(); ++i) group[i].tag = tag;
-  };
-  marke(akk_grp, "Bestimmen");
-  marke(Tonart, "Grundton");
-  marke(aus_w, "Akk-Form");
-  marke(akk_anzg, "Akk.-Anzeige");
-  marke(betonung, "Akkord-Grundton");
-  marke(abfrage, "Abfolge");
-  marke(frequenz, "Frequenz");
-  kl_farb[0].tag = "Klangfarbe";
-  cmb_arpTmp.tag = "Arpeggio-Tempo#var";
-  arpeg_cmb.tag = "Richtung#var";
-  akkzahl_cmb.tag = "Akkord-Anzahl#var";
-  oktav_cmb.tag = "Tonraum#var";
-  Combo_tonraum.tag = "Oktav-Bereichvar#";
+/// Puts the controls of the settings into their frames, and gives them the keys under which they
+/// stand in a test. An option sets its field.
+void Einstellung1::BindeMerkmale() {
+  for (const Merkmal& merkmal : kMerkmale) {
+    const auto binde = [&](Control& control) {
+      control.container = &grdeinst[merkmal.rahmen];
+      control.tag = merkmal.marke;
+    };
+    if (merkmal.liste != nullptr) {
+      binde(this->*merkmal.liste);
+      continue;
+    }
+    OptionGroup& gruppe = this->*merkmal.gruppe;
+    for (int i = gruppe.first(); i <= gruppe.last(); ++i) binde(gruppe[i]);
+    int& feld = parts_.settings.*merkmal.feld;
+    gruppe.field = &feld;
+    gruppe.Click = [&feld](int index) { feld = index; };
+  }
+  // The first option of the timbres stands for both. What it chooses from has no field.
+  kl_farb[1].tag.clear();
   Channel_Combo.tag = "channel#var";
   ComboPatch.tag = "cmbPatch#var";
-  temp_Combo.tag = "Tempo#var";
 }
 
 void Einstellung1::Verdrahte() {
@@ -112,16 +96,6 @@ void Einstellung1::Verdrahte() {
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdZurueck.Click = [this] { cmdZurueck_Click(); };
   cmdHilfe.Click = [this] { cmdHilfe_Click(); };
-  const auto setze_feld = [](OptionGroup& group, int& field) {
-    group.field = &field;
-    group.Click = [&field](int index) { field = index; };
-  };
-  setze_feld(abfrage, settings.abfolge);
-  setze_feld(akk_anzg, settings.akk_anzeige);
-  setze_feld(betonung, settings.grundton_betont);
-  setze_feld(frequenz, settings.frequenz_art);
-  setze_feld(Tonart, settings.grundton_art);
-  kl_farb.field = &settings.klangfarb_art;
   arpeg_cmb.Click = [this] { arpeg_cmb_Click(); };
   temp_Combo.Click = [this] { temp_Combo_Click(); };
   cmb_arpTmp.Click = [this] { cmb_arpTmp_Click(); };
@@ -219,8 +193,10 @@ void Einstellung1::BaueAuf() {
   parts_.midi.MidiOeffnen(parts_.output);
   KlangNamen(ComboPatch);
   settings.tempo_idx = 1;
-  settings.abfolge = settings.uebmodus = settings.grundton_art = 0;
-  settings.best_art = settings.akk_anzeige = settings.akk_form = 0;
+  settings.uebmodus = 0;
+  for (const Merkmal& merkmal : kMerkmale) {
+    if (merkmal.beim_oeffnen == Merkmal::BeimOeffnen::kNull) settings.*merkmal.feld = 0;
+  }
   FuelleKlangListen();
   FuelleAuswahlListen();
   form_bereit = true;
@@ -279,34 +255,13 @@ void Einstellung1::FuelleOktaven(int von) {
 
 void Einstellung1::SetzeTexte() {
   const auto text = [this](int id) { return shell_.texts.Sprachtext(id); };
-  const auto options = [&](const OptionGroup& group, int first, int second) {
-    group[0].caption = text(first);
-    group[1].caption = text(second);
-  };
-  for (const auto& [frame, id] : std::initializer_list<std::pair<int, int>>{{0, 243},
-                                                                            {1, 107},
-                                                                            {2, 302},
-                                                                            {3, 154},
-                                                                            {4, 88},
-                                                                            {5, 78},
-                                                                            {7, 138},
-                                                                            {8, 587},
-                                                                            {9, 297},
-                                                                            {10, 469},
-                                                                            {11, 364},
-                                                                            {12, 114},
-                                                                            {15, 365},
-                                                                            {17, 87}}) {
-    geinst_lb[frame].caption = text(id);
+  for (const Rahmen& rahmen : kRahmen) {
+    if (rahmen.titel != 0) geinst_lb[rahmen.nummer].caption = text(rahmen.titel);
   }
-  options(abfrage, 383, 142);
-  options(frequenz, 238, 603);
-  options(akk_grp, 97, 301);
-  options(akk_anzg, 507, 429);
-  options(aus_w, 49, 45);
-  options(Tonart, 623, 277);
-  options(betonung, 588, 156);
-  options(kl_farb, 277, 589);
+  for (const Merkmal& merkmal : kMerkmale) {
+    if (merkmal.gruppe == nullptr) continue;
+    for (const int i : {0, 1}) (this->*merkmal.gruppe)[i].caption = text(merkmal.texte[i]);
+  }
   lb1.caption = text(153);
   lb10.caption = text(116);
   lb11[0].caption = lb2[0].caption = text(140);

@@ -15,10 +15,13 @@
 #include "ports/random.h"
 #include "ports/settings_file.h"
 #include "ports/timer.h"
+#include "settings/settings_frames.h"
 #include "shell/shell.h"
 #include "sound/mod_midi.h"
 
 namespace vmod17 {
+
+struct Merkmal;
 
 /// `einstellung1`, the settings screen: what a run is made of and how it sounds. It opens
 /// the output for the whole program, and waits hidden while a run goes on.
@@ -39,15 +42,9 @@ class Einstellung1 : public Form {
 
   Einstellung1(Shell& shell, const Parts& parts);
 
-  // The frames, by number:
-  //  0 tuning      1 Tonraum       2 groups       3 what is named  4 chords a task  5 sequence
-  //  7 material    8 level         9 root        10 direction     11 kinds         12 display
-  // 14 loudness   15 timbre, tempo               17 accent
   Panel aktionsbox{*this, "aktionsbox"};
-  ControlArray<Frame> grdeinst{
-      *this, "grdeinst", {0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 14, 15, 17}};
-  ControlArray<Label> geinst_lb{
-      *this, "geinst_lb", {0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 15, 17}};
+  ControlArray<Frame> grdeinst{*this, "grdeinst", RahmenNummern()};
+  ControlArray<Label> geinst_lb{*this, "geinst_lb", RahmenMitTitel()};
 
   ItemList training_Combo{*this, "training_Combo"};
   ItemList prfnr_Comb{*this, "prfnr_Comb"};
@@ -145,17 +142,15 @@ class Einstellung1 : public Form {
   void SetzeKlangfarbe(int patch, int kanal) { parts_.midi.SetzeKlangfarbe(patch, kanal); }
 
  private:
-  static constexpr Color kRahmenFarbe = Bgr(0xC0FFFF);
-  static constexpr Color kKlangRahmen = Bgr(0xFFFFC0);
   static constexpr Color kGesperrterRahmen = Bgr(0xC0C0FF);
   static constexpr Color kBereitFarbe = Bgr(0x80FF80);
   static constexpr Color kTempoFarbe = Bgr(0xFF0000);
   /// The tag of a frame that is marked for a test.
   static constexpr const char* kMarke = "Prüfung";
 
-  void Verdrahte();
   void StelleInRahmen();
-  void SetzeMarken();
+  void BindeMerkmale();
+  void Verdrahte();
   void SetzeTexte();
   void BaueAuf();
   void FuelleKlangListen();
@@ -182,8 +177,9 @@ class Einstellung1 : public Form {
   Fortsetzung GespeichertesTraining();
   void GibRahmenFrei();
   void GibVomTestFrei();
-  void SperreRahmen(int rahmen);
+  void SperreRahmen(int uebmodus);
   bool HaeltLevel(const Control& control) const;
+  class Aufnahme;
   void StelleWiederHer();
   void SetzePruefung();
 
@@ -196,7 +192,6 @@ class Einstellung1 : public Form {
   void ErlaubeProbe(bool erlaubt);
   void BeendeProbe();
 
-  OptionGroup* GruppeVon(const Control& control);
   std::vector<FixedControl> SammleMarkierte();
   std::string RahmenTitel(const Control& rahmen) const;
   void EinlesenTest();
@@ -209,6 +204,7 @@ class Einstellung1 : public Form {
 
   void BaueEinstSatz();
   void EinstEintrag(const std::string& key, const std::string& value);
+  void TrageEin(const Merkmal& merkmal);
   void TrageKlangfarbenEin();
   void TrageAuswahlEin();
 

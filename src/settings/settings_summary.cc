@@ -4,8 +4,13 @@
 // The settings of a run as they are kept: in words for the record and the results, and as the
 // stored record of a training.
 
+#include <string>
+#include <vector>
+
 #include "base/numbers.h"
+#include "exercise/stored_settings.h"
 #include "settings/settings_screen.h"
+#include "settings/settings_table.h"
 #include "sound/instrument_list.h"
 
 namespace vmod17 {
@@ -28,29 +33,27 @@ void Einstellung1::EinstDatSave() {
         parts_.settings.einst_liste = {""};
         EinstEintrag("Übungsmodus", training_Combo.text());
         if (s.uebmodus == kModusPruefung) EinstEintrag("Nr.:", prfnr_Comb.text());
-        TrageKlangfarbenEin();
-        EinstEintrag("Tempo", temp_Combo.text());
-        EinstEintrag("Frequenz", OhneApostroph(frequenz[s.frequenz_art].caption));
-        EinstEintrag("Abfolge", abfrage[s.abfolge].caption);
-        EinstEintrag("Bestimmen", akk_grp[s.best_art].caption);
-        if (s.best_art == 0) EinstEintrag("Akk-Anzeige", akk_anzg[s.akk_anzeige].caption);
-        TrageAuswahlEin();
-        EinstEintrag("Akk-Anzahl", akkzahl_cmb.text());
-        EinstEintrag("Tonraum", oktav_cmb.text());
-        EinstEintrag("Oktavbereich", Combo_tonraum.text());
-        EinstEintrag("Richtung", arpeg_cmb.text());
-        if (s.arp_richtung < kArpOhne) EinstEintrag("Arp.-Tempo", cmb_arpTmp.text());
-        EinstEintrag("Akk-Grdton", betonung[s.grundton_betont].caption);
-        EinstEintrag("Grdton", Tonart[s.grundton_art].caption);
+        for (const Merkmal& merkmal : kMerkmale) TrageEin(merkmal);
         TaggedValue::Array& liste = parts_.settings.einst_liste;
         liste[0] = DecimalText(static_cast<int>(liste.size()) - 1);
       },
       [this] { cmdZurueck_Click(); });
 }
 
+/// Enters a setting, and behind it what belongs to it.
+void Einstellung1::TrageEin(const Merkmal& merkmal) {
+  const ExerciseSettings& s = parts_.settings;
+  if (!merkmal.Gilt(s)) return;
+  std::string wert = merkmal.gruppe != nullptr ? (this->*merkmal.gruppe)[s.*merkmal.feld].caption
+                                               : (this->*merkmal.liste).text();
+  if (merkmal.gruppe == &Einstellung1::frequenz) wert = OhneApostroph(wert);
+  EinstEintrag(std::string(merkmal.schluessel), wert);
+  if (merkmal.gruppe == &Einstellung1::kl_farb) TrageKlangfarbenEin();
+  if (merkmal.gruppe == &Einstellung1::aus_w) TrageAuswahlEin();
+}
+
 void Einstellung1::TrageKlangfarbenEin() {
   const ExerciseSettings& s = parts_.settings;
-  EinstEintrag("Klangfarbe", kl_farb[s.klangfarb_art].caption);
   if (s.klangfarb_art == 0) {
     EinstEintrag("Klangfarbe", ComboPatch.text());
     return;
@@ -65,7 +68,6 @@ void Einstellung1::TrageKlangfarbenEin() {
 
 void Einstellung1::TrageAuswahlEin() {
   const ExerciseSettings& s = parts_.settings;
-  EinstEintrag("Auswahl", aus_w[s.akk_form].caption);
   if (s.akk_form == 0) {
     EinstEintrag("Klang-Auswahl Anzahl", DecimalText(klanglst[1].count()));
     for (int i = 1; i <= s.klang_anzahl; ++i) {
@@ -86,33 +88,16 @@ void Einstellung1::EinstEintrag(const std::string& key, const std::string& value
 }
 
 void Einstellung1::BaueEinstSatz() {
+  const auto namen = [](const ItemList& list) {
+    std::vector<std::string> texte;
+    for (const ItemList::Entry& entry : list.entries()) texte.push_back(entry.text);
+    return texte;
+  };
   const ExerciseSettings& s = parts_.settings;
-  const int n = s.klang_anzahl;
-  const int g = s.grp_anzahl;
-  TaggedValue::Array satz;
-  const auto zahl = [&](int value) { satz.emplace_back(DecimalText(value)); };
-  for (const int value :
-       {s.abfolge, s.tempo_idx, s.akk_anzahl, s.arp_richtung, s.akk_form, s.best_art, s.akk_anzeige,
-        s.grundton_art, s.oktav_ber, Combo_tonraum.list_index(), s.frequenz_art}) {
-    zahl(value);
-  }
-  satz.emplace_back();
-  zahl(s.grundton_betont);
-  zahl(cmb_arpTmp.list_index());
-  zahl(n);
-  for (int i = 0; i < n; ++i) {
-    // The list of kinds is out of sight for voicings, and may hold what was chosen before.
-    const bool gewaehlt = s.akk_form == 0 && i < klanglst[1].count();
-    satz.emplace_back(gewaehlt ? klanglst[1].entry(i).text : "");
-  }
-  zahl(s.klangfarb_art);
-  const int erster = s.klangfarb_art == 0 ? 0 : 1;
-  const int letzter = s.klangfarb_art == 0 ? 0 : 7;
-  for (int i = erster; i <= letzter; ++i) zahl(s.patch_ar[i]);
-  zahl(HSliderVolume.value());
-  zahl(g);
-  for (int i = 0; i < g; ++i) satz.emplace_back(grplst[1].entry(i).text);
-  shell_.server.einst_satz = std::move(satz);
+  StoredSettings stored{s, {}, HSliderVolume.value(), namen(grplst[1])};
+  // The list of kinds is out of sight for voicings, and may hold what was chosen before.
+  if (s.akk_form == 0) stored.klaenge = namen(klanglst[1]);
+  shell_.server.einst_satz = stored.Write();
 }
 
 }  // namespace vmod17

@@ -114,8 +114,8 @@ int Einstellung1::ProbenNoten() const {
 bool Einstellung1::ProbeGilt() const { return !delay_abbruch && visible && probe_laeuft_; }
 
 void Einstellung1::SendeKlangfarben() {
-  const bool eine = parts_.settings.klangfarb_art == 0;
-  for (int i = eine ? 0 : 1; i <= (eine ? 0 : 7); ++i) {
+  const int art = parts_.settings.klangfarb_art;
+  for (int i = ErsterKanal(art); i <= LetzterKanal(art); ++i) {
     SetzeKlangfarbe(parts_.settings.patch_ar[i], i);
   }
 }

@@ -186,7 +186,7 @@ std::set<int> UsedTextIds(const Tree& tree) {
     // Where texts are looked up there may be short forms of the look-up, and tables of ids.
     if (text->find("Sprachtext(") == text->npos) continue;
     AddNumbersInCalls(*text, "text", ids);
-    AddNumbersInCalls(*text, "options", ids);
+    AddNumbersInCalls(*text, "Texte", ids);
     AddSecondOfPairs(*text, ids);
   }
   return ids;

@@ -23,13 +23,12 @@ std::string Message(const std::string& key, const std::string& word) {
 
 TEST(TextIds, AreFoundInCallsTablesAndNotices) {
   EXPECT_THAT(
-      UsedTextIds(
-          {{"src/shell/a.cc", "x = texts.Sprachtext(586) + Sprachtext(671 + j);"},
-           {"src/shell/b.cc", "Sprachtext(ready ? 432 : 139); text(640); Context(12)"},
-           {"src/shell/c.cc", "{t, {{0, 51},\n {10, 199}}}; Sprachtext(id); options(a, 49, 45)"},
-           {"src/shell/d.cc", "{1, 70}; text(71)"},
-           {"src/platform/store/s.cc", "notify({9101, \"text\", {}}); int x19102;"},
-           {"tests/a.cc", "Sprachtext(1)"}}),
+      UsedTextIds({{"src/shell/a.cc", "x = texts.Sprachtext(586) + Sprachtext(671 + j);"},
+                   {"src/shell/b.cc", "Sprachtext(ready ? 432 : 139); text(640); Context(12)"},
+                   {"src/shell/c.cc", "{t, {{0, 51},\n {10, 199}}}; Sprachtext(id); Texte(49, 45)"},
+                   {"src/shell/d.cc", "{1, 70}; text(71)"},
+                   {"src/platform/store/s.cc", "notify({9101, \"text\", {}}); int x19102;"},
+                   {"tests/a.cc", "Sprachtext(1)"}}),
       ElementsAre(45, 49, 51, 139, 199, 432, 586, 640, 671, 9101));
 }
 

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Melvado authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "exercise/settings_record.h"
+#include "forms/color.h"
+
+namespace vmod17 {
+
+/// The colours of the frames that are free.
+inline constexpr Color kRahmenFarbe = Bgr(0xC0FFFF);
+inline constexpr Color kLevelRahmen = Bgr(0xC0FFC0);
+inline constexpr Color kKlangRahmen = Bgr(0xFFFFC0);
+
+/// A frame of the settings screen.
+struct Rahmen {
+  /// The levels that settle what stands in it, and lock it.
+  enum class Gesperrt { kNie, kFortsetzung, kFortsetzungUndPruefung };
+
+  int nummer;  ///< its index in `grdeinst`
+  int titel;   ///< the text id of its caption for `Sprachtext()`; 0 for none
+  Color farbe;
+  Gesperrt gesperrt;
+};
+
+inline constexpr std::array kRahmen = {
+    Rahmen{0, 243, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},              // tuning
+    Rahmen{1, 107, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},              // Tonraum
+    Rahmen{2, 302, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},   // groups
+    Rahmen{3, 154, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},   // what is named
+    Rahmen{4, 88, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},               // chords a task
+    Rahmen{5, 78, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},    // sequence
+    Rahmen{7, 138, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},   // material
+    Rahmen{8, 587, kLevelRahmen, Rahmen::Gesperrt::kNie},                      // level
+    Rahmen{9, 297, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},              // root
+    Rahmen{10, 469, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},             // direction
+    Rahmen{11, 364, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},  // kinds
+    Rahmen{12, 114, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},             // display
+    Rahmen{14, 0, kKlangRahmen, Rahmen::Gesperrt::kNie},                       // loudness
+    Rahmen{15, 365, kKlangRahmen, Rahmen::Gesperrt::kNie},                     // timbre, tempo
+    Rahmen{17, 87, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},              // accent
+};
+
+static_assert(std::ranges::is_sorted(kRahmen, {}, &Rahmen::nummer) &&
+                  std::ranges::adjacent_find(kRahmen, {}, &Rahmen::nummer) == kRahmen.end(),
+              "the frames ascend");
+
+constexpr bool GibtRahmen(int nummer) {
+  return std::ranges::find(kRahmen, nummer, &Rahmen::nummer) != kRahmen.end();
+}
+
+/// The text id of a frame's caption. The frame must be one of the table.
+constexpr int RahmenTitel(int nummer) {
+  return std::ranges::find(kRahmen, nummer, &Rahmen::nummer)->titel;
+}
+
+/// Whether the level settles what stands in a frame.
+constexpr bool Sperrt(int uebmodus, const Rahmen& rahmen) {
+  switch (rahmen.gesperrt) {
+    case Rahmen::Gesperrt::kNie:
+      return false;
+    case Rahmen::Gesperrt::kFortsetzung:
+      return uebmodus == kModusFortsetzung;
+    case Rahmen::Gesperrt::kFortsetzungUndPruefung:
+      return uebmodus == kModusFortsetzung || uebmodus == kModusPruefung;
+  }
+  return false;
+}
+
+inline std::vector<int> RahmenNummern() {
+  std::vector<int> nummern;
+  for (const Rahmen& rahmen : kRahmen) nummern.push_back(rahmen.nummer);
+  return nummern;
+}
+
+/// The numbers of the frames that have a caption.
+inline std::vector<int> RahmenMitTitel() {
+  std::vector<int> nummern;
+  for (const Rahmen& rahmen : kRahmen) {
+    if (rahmen.titel != 0) nummern.push_back(rahmen.nummer);
+  }
+  return nummern;
+}
+
+}  // namespace vmod17
