@@ -697,10 +697,11 @@ class OpenedResults : public Stage {
   GrdEinst first_screen{shell};
   FakePrinter printer;
   std::vector<std::string> told;
-  Testergebnis results{shell,
-                       {settings, board, pictures, counters, einstellung, first_screen, printer},
-                       RunEnd::kLeft,
-                       [this](const std::string& tag) { told.push_back(tag); }};
+  Testergebnis results{
+      shell,
+      {settings, names, board, pictures, counters, einstellung, first_screen, printer},
+      RunEnd::kLeft,
+      [this](const std::string& tag) { told.push_back(tag); }};
 };
 
 TEST(ResultsErrors, AreToldToTheOpener) {
