@@ -76,7 +76,7 @@ class ProgramLink : public std::enable_shared_from_this<ProgramLink> {
   EventLoop* loop_;
 };
 
-MidiDeviceOutput::MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify notify)
+MidiDeviceOutput::MidiDeviceOutput(const MidiOptions& options, EventLoop& loop, Notify notify)
     : program_(std::make_shared<ProgramLink>(loop)),
       notify_(std::move(notify)),
       audio_(options.audio),

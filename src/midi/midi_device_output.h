@@ -34,7 +34,7 @@ class MidiDeviceOutput : public MidiOutput {
  public:
   /// `loop` outlives the output. `notify` is called on the program's thread, about a damaged or
   /// missing soundfont, missing or lost audio, a port that vanished, a number that names no device.
-  MidiDeviceOutput(MidiOptions options, EventLoop& loop, Notify notify);
+  MidiDeviceOutput(const MidiOptions& options, EventLoop& loop, Notify notify);
   ~MidiDeviceOutput() override;
 
   /// From now on the program hears nothing of this output, not even what is under way. It may then

@@ -163,6 +163,7 @@ std::vector<StoreUser> HostStore::Users() {
     }
   }
   std::vector<StoreUser> list;
+  list.reserve(users.size());
   for (auto& [id, user] : users) list.push_back(std::move(user));
   return list;
 }

@@ -220,12 +220,12 @@ SqlResult PostgresSession::Answers(std::size_t count) {
     } catch (const SqlError& failure) {
       // What follows it is answered too: that it was not run.
       if (!error) error = failure;
-      if (pq.status(connection_) != kConnectionOk) throw *error;
+      if (pq.status(connection_) != kConnectionOk) throw SqlError(*error);
     }
   }
   // The end of them.
   pq.clear(pq.result(connection_));
-  if (error) throw *error;
+  if (error) throw SqlError(*error);
   return last;
 }
 

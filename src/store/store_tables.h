@@ -28,7 +28,8 @@ struct RecordKey {
   std::string program;
   std::string key;
 
-  auto operator<=>(const RecordKey&) const = default;
+  // What the compiler writes for it compares with 0.
+  auto operator<=>(const RecordKey&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 using Records = std::map<RecordKey, std::string>;

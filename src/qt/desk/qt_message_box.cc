@@ -111,6 +111,7 @@ std::optional<int> QtMessageBox::Choose(const std::string& text, const std::stri
   QuestionBox box(QMessageBox::Question, QString::fromStdString(title),
                   QString::fromStdString(text), QMessageBox::NoButton, Window());
   std::vector<QAbstractButton*> buttons;
+  buttons.reserve(answers.size());
   for (const std::string& answer : answers) {
     // Of one role, so that they stand in their order.
     buttons.push_back(box.addButton(QString::fromStdString(answer), QMessageBox::ActionRole));
