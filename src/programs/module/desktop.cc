@@ -59,7 +59,7 @@ Desktop::Desktop()
   unsaved_records_ =
       std::make_unique<UnsavedRecords>(*notices_, messages_, dialog_, program_->texts());
   loop_.after_event = [this] { AfterEvent(); };
-  loop_.on_error = [this](std::exception_ptr error) { RunTimeReport(error); };
+  loop_.on_error = [this](const std::exception_ptr& error) { RunTimeReport(error); };
   messages_.words = [this] {
     return QtMessageBox::Words{Word(432, "OK"), Word(9001, "Yes"), Word(9002, "No")};
   };
