@@ -108,7 +108,7 @@ void DropDownEntries::keyboardSearch(const QString& text) {
 void DropDownEntries::TakeEntry(int row) {
   if (!closed_.isEnabled()) return;
   closed_.setCurrentIndex(row);
-  emit closed_.activated(row);
+  Q_EMIT closed_.activated(row);
   closed_.hidePopup();
 }
 
