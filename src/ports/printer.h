@@ -11,7 +11,7 @@
 namespace vmod17 {
 
 /// What became of a print.
-struct PrintResult {
+struct [[nodiscard]] PrintResult {
   bool printed = false;          ///< it went to the printer or stands in a file
   std::optional<Notice> notice;  ///< what the user has to know of it
 };

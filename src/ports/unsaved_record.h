@@ -24,7 +24,7 @@ class UnsavedRecord {
   /// Tries all folders again. True when it stands in a file.
   virtual bool Save() = 0;
   /// Writes it to `path`, in place of what is there. Returns why it cannot be done.
-  virtual std::optional<Notice> SaveAs(const std::string& path) = 0;
+  [[nodiscard]] virtual std::optional<Notice> SaveAs(const std::string& path) = 0;
 };
 
 using KeepUnsaved = std::function<void(std::shared_ptr<UnsavedRecord>)>;

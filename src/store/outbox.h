@@ -57,7 +57,7 @@ class Outbox {
   const QString& Path() const { return path_; }
 
  private:
-  bool Open();
+  [[nodiscard]] bool Open();
   void OpenAnew();
   bool PutAside();
 

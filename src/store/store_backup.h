@@ -40,7 +40,7 @@ class StoreBackup {
   std::optional<Notice> MakeCopy();
   std::optional<Notice> CheckCopy() const;
   std::optional<Notice> ReplaceStore(const DateTime& now);
-  bool KeepStore(const DateTime& now);
+  [[nodiscard]] bool KeepStore(const DateTime& now);
   std::optional<Notice> Exchange();
   void Undo();
   Notice Failed(const QString& reason) const;

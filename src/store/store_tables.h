@@ -86,7 +86,7 @@ class StoreTables {
   /// are written under their keys with `suffix`. Where nobody knew, the late one holds and the
   /// other gets the suffix; where there is none any more, the late one holds, too. Nobody can store
   /// another one between the look and the writing. Returns false when a newer one stays.
-  bool WriteLate(const LateRecords& records, const std::string& suffix);
+  [[nodiscard]] bool WriteLate(const LateRecords& records, const std::string& suffix);
   /// Gives a record another key, unless its value is another one by now.
   void Rename(const RecordKey& key, const std::string& value, const std::string& new_key);
 
@@ -96,7 +96,7 @@ class StoreTables {
 
   std::vector<StoreUser> Users();
   /// False, and nothing is done, when there is a user of this number.
-  bool AddUser(const StoreUser& user);
+  [[nodiscard]] bool AddUser(const StoreUser& user);
   /// Writes the user's names into the list and into the settings of every seat that has chosen him.
   void SaveUser(const StoreUser& user);
   /// Takes the user off the list and from the seats that have chosen him. His records stay.

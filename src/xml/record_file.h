@@ -19,10 +19,10 @@ class RecordFile {
   enum class Saved { kWhereItBelongs, kElsewhere, kNowhere };
   /// Writes the record as a whole. Under a name that is taken lies somebody else's: "-2" and so on
   /// goes before the extension then. What was saved before is replaced.
-  Saved Save(std::string_view bytes);
+  [[nodiscard]] Saved Save(std::string_view bytes);
   /// Writes it to `path`, in place of what is there, and from now on there. Returns 0 or the
   /// system's error number.
-  int SaveAs(const std::string& path, std::string_view bytes);
+  [[nodiscard]] int SaveAs(const std::string& path, std::string_view bytes);
 
   const std::string& folder() const { return folder_; }
   const std::string& base() const { return base_; }

@@ -49,7 +49,7 @@ class SingleInstance {
 
   /// Asks the process that works under `key` to come to the front; false when there is none, or it
   /// does not answer within `kPatience`.
-  static bool BringToFront(const std::string& key);
+  [[nodiscard]] static bool BringToFront(const std::string& key);
 
  private:
   class Call;
