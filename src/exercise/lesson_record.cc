@@ -32,6 +32,19 @@ std::unique_ptr<XmlElement> Child(XmlElement& parent, const char* name) {
   return parent.Children()->ByName(name)->Item(1);
 }
 
+/// Begins an answer, the one with number `lfd` of its slot, which stands in the attribute `name`.
+void Begin(XmlElement& answers, int lfd, const char* name, int slot) {
+  const auto attributes = Append(answers, "answer")->Attributes();
+  attributes->Add(DecimalText(lfd), "lfd");
+  attributes->Add(DecimalText(slot), name);
+}
+
+void LessonEigenschaft(XmlElement& element, const std::string& key, const std::string& value) {
+  const auto property = Append(element, "property");
+  Append(*property, "key", key);
+  Append(*property, "value", value);
+}
+
 }  // namespace
 
 LessonRecord::LessonRecord(Shell& shell, XmlDocumentFactory make_document,
@@ -54,22 +67,21 @@ void LessonRecord::LessonNeu() {
   root->Add(std::nullopt, "lessons");
 }
 
-void LessonRecord::LessonAufgabe(int count, std::span<const int> aufg_akk_ar,
-                                 const ChordBoard& akk_tab) {
+void LessonRecord::LessonAufgabe(const TaskAsked& aufgabe) {
   try {
     xml_lesson = Append(*RootChild("lessons"), "lesson");
     const auto properties = Append(*xml_lesson, "properties");
     Append(*xml_lesson, "answers");
-    for (int i = 1; i <= count; ++i) {
-      const BoardEntry& entry = akk_tab[aufg_akk_ar[i]];
+    int number = 0;
+    for (const auto& [eintrag, akkord, ton] : aufgabe.akkorde) {
       const auto property = Append(*properties, "property");
-      property->Attributes()->Add(DecimalText(i), "number");
-      Append(*property, "AkkTyp", DecimalText(entry.klangtyp));
-      Append(*property, "AkklNr", DecimalText(entry.row));
-      Append(*property, "GrpNr", DecimalText(entry.group));
-      Append(*property, "GeslNr", DecimalText(entry.klang));
+      property->Attributes()->Add(DecimalText(++number), "number");
+      Append(*property, "AkkTyp", DecimalText(akkord.klangtyp));
+      Append(*property, "AkklNr", DecimalText(akkord.row));
+      Append(*property, "GrpNr", DecimalText(akkord.group));
+      Append(*property, "GeslNr", DecimalText(akkord.klang));
     }
-    LessonAntwort(1)->Attributes()->Add("1", "Akk");
+    Begin(*Answers(), 1, "Akk", 1);
   } catch (const std::exception&) {
     // The lesson stays as far as it has come: a record is no reason to stop a run.
   }
@@ -86,27 +98,25 @@ void LessonRecord::LessonOhneKlang() {
   }
 }
 
-std::unique_ptr<XmlElement> LessonRecord::LessonAntwort(int lfd) {
-  NeedLesson();
-  auto answer = Append(*Child(*xml_lesson, "answers"), "answer");
-  answer->Attributes()->Add(DecimalText(lfd), "lfd");
-  return answer;
-}
-
-std::unique_ptr<XmlElement> LessonRecord::LessonLetzteAntwort(float antw_dauer, int anz_whlg) {
-  NeedLesson();
-  const auto answers = Child(*xml_lesson, "answers")->Children()->ByName("answer");
-  auto answer = answers->Item(answers->Count());
-  LessonEigenschaft(*answer, "Dauer Antwort", SingleText(antw_dauer));
-  LessonEigenschaft(*answer, "Anz Whlg", DecimalText(anz_whlg));
-  return answer;
-}
-
-void LessonRecord::LessonEigenschaft(XmlElement& element, const std::string& key,
-                                     const std::string& value) {
-  const auto property = Append(element, "property");
-  Append(*property, "key", key);
-  Append(*property, "value", value);
+void LessonRecord::LessonAntwort(const AnswerGiven& antwort) {
+  const auto answers = Answers();
+  const auto begun = answers->Children()->ByName("answer");
+  const auto answer = begun->Item(begun->Count());
+  LessonEigenschaft(*answer, "Dauer Antwort", SingleText(antwort.antw_dauer));
+  LessonEigenschaft(*answer, "Anz Whlg", DecimalText(antwort.anz_whlg));
+  LessonEigenschaft(*answer, "Antwort", antwort.richtig ? "true" : "false");
+  // The slot stands under one name on its first answer and under another on the later ones.
+  switch (antwort.danach) {
+    case LaufStatus::kWeitererVersuch:
+      return Begin(*answers, antwort.antw_lfd + 1, "Akkord", antwort.slot);
+    case LaufStatus::kNaechsterSlot:
+      return Begin(*answers, 1, "interval", antwort.slot + 1);
+    case LaufStatus::kAufgabeFertig:
+    case LaufStatus::kNochKeine:
+    case LaufStatus::kTrainingZuEnde:
+    case LaufStatus::kTestZuEnde:
+      return;
+  }
 }
 
 void LessonRecord::LessonEnde(Form& form, Control& WaitMeldung,
@@ -152,10 +162,11 @@ std::unique_ptr<XmlElement> LessonRecord::RootChild(const char* name) const {
   return xml_dok->RootChildren()->ByName(name)->Item(1);
 }
 
-void LessonRecord::NeedLesson() const {
+std::unique_ptr<XmlElement> LessonRecord::Answers() const {
   if (!xml_lesson) {
     throw RunTimeError(ErrorNumber::kInvalidCall, "no lesson was begun", "vmod17.LessonRecord");
   }
+  return Child(*xml_lesson, "answers");
 }
 
 }  // namespace vmod17

@@ -3,13 +3,11 @@
 
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
-#include <span>
 #include <string>
 
-#include "catalogue/chord_board.h"
+#include "exercise/run_events.h"
 #include "forms/controls.h"
 #include "ports/system.h"
 #include "ports/xml_document.h"
@@ -28,17 +26,14 @@ class LessonRecord {
 
   /// Begins a new record, whose file name holds the present time.
   void LessonNeu();
-  /// Enters a task: its chords, slots 1 to `count` with their board entries, and its first answer.
-  /// An error ends it silently; the run goes on.
-  void LessonAufgabe(int count, std::span<const int> aufg_akk_ar, const ChordBoard& akk_tab);
+  /// Enters a task: its chords, and the answer that its first slot waits for. An error ends it
+  /// silently; the run goes on.
+  void LessonAufgabe(const TaskAsked& aufgabe);
+  /// Completes the answer that was waited for, and begins the next one unless the task is over.
+  void LessonAntwort(const AnswerGiven& antwort);
   /// Marks, each time, that the sound was lost: with the present time, and the number of the lesson
   /// that was begun last, 0 before the first. An error ends it silently; the run goes on.
   void LessonOhneKlang();
-  /// Appends an answer to the present lesson; the caller adds the attribute that tells the slot.
-  std::unique_ptr<XmlElement> LessonAntwort(int lfd);
-  /// Enters answer time (tenths of a second) and repeats in the last answer, and gives it.
-  std::unique_ptr<XmlElement> LessonLetzteAntwort(float antw_dauer, int anz_whlg);
-  void LessonEigenschaft(XmlElement& element, const std::string& key, const std::string& value);
   /// Completes the record with the settings in words, and saves it. The form is disabled for good,
   /// and shows `WaitMeldung` meanwhile.
   void LessonEnde(Form& form, Control& WaitMeldung, const TaggedValue::Array& einst_liste);
@@ -48,7 +43,7 @@ class LessonRecord {
 
  private:
   std::unique_ptr<XmlElement> RootChild(const char* name) const;
-  void NeedLesson() const;
+  std::unique_ptr<XmlElement> Answers() const;
 
   Shell& shell_;
   XmlDocumentFactory make_document_;

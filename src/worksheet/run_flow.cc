@@ -3,7 +3,6 @@
 
 // From task to task: drawing, playing, repeating, and leaving.
 
-#include <algorithm>
 #include <utility>
 
 #include "base/numbers.h"
@@ -15,7 +14,6 @@ namespace vmod17 {
 namespace {
 
 constexpr float kRuheVorWiederholung = 50;  // ms
-constexpr int kHoechsteZahl = 32767;        // of a stored Integer
 
 }  // namespace
 
@@ -39,8 +37,6 @@ void Arbeitsblatt1::Bewache(const std::string& tag, const std::function<void()>&
     zurueck_Click();
   });
 }
-
-void Arbeitsblatt1::Erhoehe(int& zahl) { zahl = std::min(zahl + 1, kHoechsteZahl); }
 
 void Arbeitsblatt1::ZeigeZaehler() {
   zaehler[0].caption = DecimalText(run_.count.richtig);
@@ -118,9 +114,9 @@ void Arbeitsblatt1::WahlAutomat_Timer() {
 void Arbeitsblatt1::mat_wahl() {
   Bewache("mat_wahl.", [this] {
     selection_.Ziehe(run_);
-    BereiteAufgabeVor();
-    parts_.record.LessonAufgabe(parts_.settings.akk_anzahl, run_.task.aufg_akk_ar, parts_.board);
-    run_.clock.antw_lfd = 1;
+    const TaskAsked aufgabe = judging_.AufgabeStellen(run_);
+    ZeigeAufgabe();
+    parts_.record.LessonAufgabe(aufgabe);
     if (parts_.settings.frequenz_art == 1) {
       ChordPlayback::TonhoeheWuerfeln(run_.task, parts_.random);
     }
@@ -145,18 +141,14 @@ void Arbeitsblatt1::BieteUngehoerteAn() {
   CmdNextAufg.enabled = true;
 }
 
-void Arbeitsblatt1::BereiteAufgabeVor() {
-  run_.answers = TaskAnswers();
+void Arbeitsblatt1::ZeigeAufgabe() {
   for (int slot = 1; slot <= parts_.settings.akk_anzahl; ++slot) LegeLoesungBereit(slot);
   LoescheMarken();
-  run_.akk_nr = 1;
   nrakk[1].enabled = true;
   CmdNextAufg.enabled = false;
   wieder2.visible = false;
   wieder.visible = true;
   wieder.enabled = false;
-  run_.clock.anz_whlg = 0;
-  run_.clock.antw_dauer = 0;
 }
 
 void Arbeitsblatt1::LegeLoesungBereit(int slot) {
@@ -272,7 +264,7 @@ void Arbeitsblatt1::wieder_Click() {
   Delay(shell_.loop, kRuheVorWiederholung, run_.abbruch);
   if (run_.abbruch) return;
   const RunCount zuvor = run_.count;
-  Erhoehe(run_.count.wiederholt);
+  RunCount::Erhoehe(run_.count.wiederholt);
   ZeigeZaehler();
   ++run_.answers.whlg_ar.at(run_.akk_nr);
   ++run_.clock.anz_whlg;

@@ -3,24 +3,16 @@
 
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
+#include "exercise/run_events.h"
 #include "settings/time_limit.h"
 #include "sound/chord_playback.h"
 #include "worksheet/material.h"
 
 namespace vmod17 {
-
-/// Where a run stands.
-enum class LaufStatus {
-  kNochKeine = 0,        ///< no slot answered yet
-  kAufgabeFertig = 1,    ///< the next task may be called
-  kNaechsterSlot = 2,    ///< the next slot of the task is open
-  kWeitererVersuch = 3,  ///< a wrong click was made, the slot stays open
-  kTrainingZuEnde = 4,   ///< solved, or too hard
-  kTestZuEnde = 5,       ///< no tasks left
-};
 
 /// What a playing is.
 enum class SpielArt { kAufgabe = 0, kWiederholung = 1, kKontrolle = 2 };
@@ -53,9 +45,14 @@ struct AnswerClock {
 
 /// The counters of the run, as the student sees them.
 struct RunCount {
+  static constexpr int kHoechsteZahl = 32767;  ///< of a stored Integer
+
   int richtig = 0;
   int falsch = 0;
   int wiederholt = 0;
+
+  /// Adds 1 to one of them, which stops at the highest number that can be stored.
+  static void Erhoehe(int& zahl) { zahl = std::min(zahl + 1, kHoechsteZahl); }
 };
 
 /// Which chord opened a task; -1 before the first one.

@@ -5,6 +5,7 @@
 
 #include "catalogue/chord_board.h"
 #include "exercise/counters.h"
+#include "exercise/run_events.h"
 #include "exercise/settings_record.h"
 #include "worksheet/run_state.h"
 
@@ -40,9 +41,6 @@ class Scoring {
   const ChordBoard& board_;
   Auswertung& auswertung_;
 };
-
-/// How a training stands after a task.
-enum class TrainingStand { kGehtWeiter, kGeloest, kZuSchwer };
 
 /// Tells how the training stands, and brings `mat_rest` of one that has ended to the end of its
 /// scale.

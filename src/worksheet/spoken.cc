@@ -8,28 +8,25 @@
 
 namespace vmod17 {
 
-void Arbeitsblatt1::SageUrteil(int slot, bool right) {
+void Arbeitsblatt1::SageUrteil(const AnswerGiven& antwort) {
   const TextLookup& texts = shell_.texts;
-  const bool entschieden = run_.akk_nr != slot;
-  if (right) {
-    Say(texts.Sprachtext(468) + texts.Sprachtext(700) + " " + Loesung(slot));
+  if (antwort.richtig) {
+    Say(texts.Sprachtext(468) + texts.Sprachtext(700) + " " + Loesung(antwort));
   } else {
     Say(texts.Sprachtext(232));
-    if (entschieden) Say(texts.Words({9721, "Solution: %1", {Loesung(slot)}}));
+    if (antwort.Verloren()) Say(texts.Words({9721, "Solution: %1", {Loesung(antwort)}}));
   }
-  if (run_.lauf_status == LaufStatus::kNaechsterSlot) Say(OffenerAkkord());
-  if (run_.akk_nr > parts_.settings.akk_anzahl) SageAufgabenende();
+  if (antwort.danach == LaufStatus::kNaechsterSlot) Say(OffenerAkkord());
 }
 
-void Arbeitsblatt1::SageAufgabenende() {
+void Arbeitsblatt1::SageAufgabenende(const TaskClosed& ende) {
   const TextLookup& texts = shell_.texts;
   Say(texts.Words({9724,
                    "End of the task, %1 of %2 solved",
-                   {DecimalText(run_.answers.geloest), DecimalText(parts_.settings.akk_anzahl)}}));
-  if (run_.lauf_status == LaufStatus::kTrainingZuEnde) {
-    const Label& ausgang = ergebnis_anz[ergebnis_anz[1].visible ? 1 : 2];
-    Say(texts.Words({9726, "End of the training: %1", {ausgang.caption}}));
-  } else if (run_.lauf_status == LaufStatus::kTestZuEnde) {
+                   {DecimalText(ende.geloest), DecimalText(parts_.settings.akk_anzahl)}}));
+  if (ende.danach == LaufStatus::kTrainingZuEnde) {
+    Say(texts.Words({9726, "End of the training: %1", {Trainingsanzeige(ende.training).caption}}));
+  } else if (ende.danach == LaufStatus::kTestZuEnde) {
     Say(texts.Words({9727, "End of the test", {}}));
   } else {
     Say(Stand());
@@ -41,10 +38,9 @@ void Arbeitsblatt1::SageAntwortbereit() {
   if (parts_.settings.akk_anzahl > 1) Say(OffenerAkkord());
 }
 
-std::string Arbeitsblatt1::Loesung(int slot) const {
-  if (!NachAkkorden()) return akk_group[Gefragt(slot).group].caption;
-  const int kachel = run_.task.aufg_akk_ar.at(slot);
-  return jz_kl[kachel].caption + ", " + akk_lfdnr[slot].caption;
+std::string Arbeitsblatt1::Loesung(const AnswerGiven& antwort) const {
+  const std::string& symbol = Wahl(antwort.gefragt).caption;
+  return NachAkkorden() ? symbol + ", " + akk_lfdnr[antwort.slot].caption : symbol;
 }
 
 std::string Arbeitsblatt1::OffenerAkkord() const {

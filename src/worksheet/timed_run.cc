@@ -26,16 +26,15 @@ void Arbeitsblatt1::BeginneTest() {
   ZeigeTeststand(true);
 }
 
-void Arbeitsblatt1::ZaehleTestaufgabe() {
-  TestRest& test = run_.test;
-  --test.rest_aufgaben;
-  if (test.rest_aufgaben == 0) {
-    MeldeEnde();
-    run_.lauf_status = LaufStatus::kTestZuEnde;
-  } else if (test.rest_aufgaben == test.test_aufgaben / 2) {
-    run_.material.MaterialTest(parts_.counters.auswertung_obj, parts_.random);
-  }
-  lab_aufgaben.caption = shell_.texts.Sprachtext(462) + " " + SignedText(test.rest_aufgaben);
+void Arbeitsblatt1::ZeigeRestaufgaben() {
+  lab_aufgaben.caption = shell_.texts.Sprachtext(462) + " " + SignedText(run_.test.rest_aufgaben);
+}
+
+void Arbeitsblatt1::BeendeTest() {
+  Uhrzeit.Disable();
+  WahlAutomat.Disable();
+  CmdNextAufg.enabled = false;
+  MeldeEnde();
 }
 
 void Arbeitsblatt1::HalteTestzeitAn(float seit) {

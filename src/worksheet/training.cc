@@ -70,19 +70,26 @@ void Arbeitsblatt1::ZeigeTraining() {
 
 void Arbeitsblatt1::ZeigeMaterial() { matboxanz.percent = run_.material.Prozent(); }
 
-void Arbeitsblatt1::WerteTraining() {
-  const TrainingStand stand = PruefeTraining(run_.material);
-  if (stand != TrainingStand::kGehtWeiter) {
-    ergebnis_anz[0].visible = false;
-    ergebnis_anz[stand == TrainingStand::kGeloest ? 1 : 2].visible = true;
-    run_.lauf_status = LaufStatus::kTrainingZuEnde;
+Label& Arbeitsblatt1::Trainingsanzeige(TrainingStand stand) const {
+  switch (stand) {
+    case TrainingStand::kGehtWeiter:
+      break;
+    case TrainingStand::kGeloest:
+      return ergebnis_anz[1];
+    case TrainingStand::kZuSchwer:
+      return ergebnis_anz[2];
   }
+  return ergebnis_anz[0];
+}
+
+void Arbeitsblatt1::ZeigeTrainingsstand(TrainingStand stand) {
+  ergebnis_anz[0].visible = false;
+  Trainingsanzeige(stand).visible = true;
   ZeigeMaterial();
 }
 
 void Arbeitsblatt1::BeendeTraining() {
   if (parts_.settings.abfolge == 0) CmdNextAufg.enabled = false;
-  BieteKontrolleAn();
   MeldeEnde();
   pointer = Pointer::kHourglass;
   shell_.server.Speichere("A1", KeinTraining());

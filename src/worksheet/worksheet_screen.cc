@@ -61,7 +61,7 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
       parts_(parts),
       selection_(parts.settings, parts.board, parts.random),
       playback_(shell.loop, parts.midi, shell.state, parts.settings, parts.board),
-      scoring_(parts.settings, parts.board, parts.counters.auswertung_obj) {
+      judging_(parts.settings, parts.board, parts.counters.auswertung_obj, parts.random) {
   StelleInRahmen();
   Verdrahte();
   cmdHilfe.caption = "?";

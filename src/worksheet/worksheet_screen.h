@@ -21,16 +21,17 @@
 #include "shell/shell.h"
 #include "sound/chord_playback.h"
 #include "sound/mod_midi.h"
+#include "worksheet/judging.h"
 #include "worksheet/run_state.h"
-#include "worksheet/scoring.h"
 #include "worksheet/task_selection.h"
 
 namespace vmod17 {
 
 /// `arbeitsblatt1`, the worksheet: the screen of a run, and the run itself. Its routines stand in
 /// several files: worksheet_screen.cc builds it, run_flow.cc leads from task to task and out,
-/// lost_sound.cc stops it while nothing can be heard, answers.cc judges the clicks, spoken.cc tells
-/// of them to whom does not see, training.cc and timed_run.cc hold what is theirs alone.
+/// lost_sound.cc stops it while nothing can be heard, answers.cc shows how the clicks were judged,
+/// spoken.cc tells of them to whom does not see, training.cc and timed_run.cc hold what is theirs
+/// alone.
 class Arbeitsblatt1 : public Form {
  public:
   /// What the screen works on.
@@ -118,7 +119,7 @@ class Arbeitsblatt1 : public Form {
   /// Draws the next task, enters it in the record and plays it. One that cannot be heard is offered
   /// again.
   void mat_wahl();
-  /// Judges a click: on tile `index` of the board, or on group `index`.
+  /// A click: on tile `index` of the board, or on group `index`.
   void akk_antw(int index);
 
  private:
@@ -138,7 +139,7 @@ class Arbeitsblatt1 : public Form {
   void ZeigeTeststand(bool sichtbar);
 
   // run_flow.cc
-  void BereiteAufgabeVor();
+  void ZeigeAufgabe();
   void LegeLoesungBereit(int slot);
   /// Plays the task. False when it cannot be heard. The student has been told then, unless
   /// `KlangIstVerloren`.
@@ -162,8 +163,6 @@ class Arbeitsblatt1 : public Form {
   void BeendeAufzeichnung();
   void Verlasse();
   void MeldeEnde();
-  /// Adds 1 to a counter of the run, which stops at the highest number that can be stored.
-  static void Erhoehe(int& zahl);
   void ZeigeZaehler();
   /// The finished task can be heard again.
   void BieteKontrolleAn();
@@ -192,36 +191,31 @@ class Arbeitsblatt1 : public Form {
 
   // answers.cc
   void AntwortenFreigeben();
-  void AntwortSetzen(int clicked, bool right, XmlElement& record);
-  void Richtig(int clicked, XmlElement& record);
-  void Falsch(int clicked, XmlElement& record);
-  void Verloren(int slot);
-  void ZeigeLoesung(int slot, Color rahmen);
+  void ZeigeAntwort(const AnswerGiven& antwort);
+  void ZeigeRichtig(const AnswerGiven& antwort);
+  void ZeigeFalsch(const AnswerGiven& antwort);
+  void ZeigeAufgabenende(const TaskClosed& ende);
+  void ZeigeLoesung(const AnswerGiven& antwort, Color rahmen);
   /// Has a reader of the screen call a slot by how it stands: the words of `wie`, whose first
   /// detail is the slot.
   void BenenneSlot(int slot, Notice wie);
-  /// The solution as its tile or group is called.
-  std::string Loesungsname(int slot) const;
-  void Markiere(int choice, AnswerMark::Kind kind);
+  /// What a reader of the screen calls a tile or group.
+  std::string Name(int choice) const;
+  void Markiere(int choice, AnswerMark::Kind kind, int slot);
   void LoescheMarken();
   void Streiche(int clicked);
-  void NaechsterAkkord();
-  void BeendeAufgabe();
-  void FolgeDemStand();
   void OeffneAlle();
   void SperreAntworten();
   void Oeffne(int kachel);
   void Schliesse(int kachel);
-  /// Appends an answer to the record, with the attribute that tells the slot.
-  void NeueAntwort(int lfd, const char* slot_attribute);
 
   // spoken.cc
   /// What a student who does not see the screen is told of a click.
-  void SageUrteil(int slot, bool right);
-  void SageAufgabenende();
+  void SageUrteil(const AnswerGiven& antwort);
+  void SageAufgabenende(const TaskClosed& ende);
   /// That the answers are open, once it is quiet again.
   void SageAntwortbereit();
-  std::string Loesung(int slot) const;
+  std::string Loesung(const AnswerGiven& antwort) const;
   std::string OffenerAkkord() const;
   std::string Stand() const;
 
@@ -231,7 +225,9 @@ class Arbeitsblatt1 : public Form {
   void SetzeTrainingFort();
   void ZeigeTraining();
   void ZeigeMaterial();
-  void WerteTraining();
+  /// The words for how a training stands.
+  Label& Trainingsanzeige(TrainingStand stand) const;
+  void ZeigeTrainingsstand(TrainingStand stand);
   void BeendeTraining();
   bool IstZuSichern() const;
   void BieteSichernAn();
@@ -243,7 +239,8 @@ class Arbeitsblatt1 : public Form {
 
   // timed_run.cc
   void BeginneTest();
-  void ZaehleTestaufgabe();
+  void ZeigeRestaufgaben();
+  void BeendeTest();
   void ZaehleTestzeit();
   /// The time of a test stands while nothing can be heard; `seit` by the clock.
   void HalteTestzeitAn(float seit);
@@ -261,14 +258,13 @@ class Arbeitsblatt1 : public Form {
   Pressable& Wahl(int i) const {
     return NachAkkorden() ? static_cast<Pressable&>(jz_kl[i]) : akk_group[i];
   }
-  const BoardEntry& Gefragt(int slot) const { return parts_.board[run_.task.aufg_akk_ar.at(slot)]; }
 
   Shell& shell_;
   Parts parts_;
   RunState run_;
   TaskSelection selection_;
   ChordPlayback playback_;
-  Scoring scoring_;
+  Judging judging_;
   StoredTraining fortsetzung_;      ///< what a continued training was stored as
   bool sichern_gefragt_ = false;    ///< the question whether to save stands
   bool ende_gefragt_ = false;       ///< the question whether to end the test stands

@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
+#include <initializer_list>
+#include <memory>
+#include <string>
 
 #include "worksheet/stage.h"
 
@@ -30,7 +32,11 @@ class LessonRecordTest : public ::testing::Test, protected ShellHarness {
   }
 
   MemoryXmlNode& root() { return *documents.Latest().root; }
-  void Task(int count, std::array<int, 5> slots) { record.LessonAufgabe(count, slots, board); }
+  void Task(std::initializer_list<int> entries) {
+    TaskAsked task;
+    for (const int e : entries) task.akkorde.push_back({e, board[e], 60});
+    record.LessonAufgabe(task);
+  }
   void End(const TaggedValue::Array& list = {"0"}) {
     record.LessonEnde(sheet, sheet.WaitMeldung, list);
   }
@@ -41,6 +47,18 @@ class LessonRecordTest : public ::testing::Test, protected ShellHarness {
   Sheet sheet;
   LessonRecord record{shell, documents.Factory(), [] { return std::string("bestimmen"); }};
 };
+
+/// A click in slot 1, after which the run stands as `danach` says.
+AnswerGiven Click(bool richtig, LaufStatus danach) {
+  AnswerGiven answer;
+  answer.slot = 1;
+  answer.antw_lfd = 1;
+  answer.richtig = richtig;
+  answer.danach = danach;
+  return answer;
+}
+const AnswerGiven kOpenStill = Click(false, LaufStatus::kWeitererVersuch);
+const AnswerGiven kLastSlot = Click(true, LaufStatus::kAufgabeFertig);
 
 template <typename Call>
 int ErrorOf(const Call& call) {
@@ -110,7 +128,7 @@ TEST_F(LessonRecordTest, GivesTwoRecordsOfOneSecondTheSameName) {
 
 TEST_F(LessonRecordTest, EntersTheChordsOfATaskAndItsFirstAnswer) {
   record.LessonNeu();
-  Task(3, {0, 3, 1, 2, 0});
+  Task({3, 1, 2});
   EXPECT_EQ(root().Find("lessons")->Outline(),
             "lessons\n"
             "  lesson\n"
@@ -136,73 +154,110 @@ TEST_F(LessonRecordTest, EntersTheChordsOfATaskAndItsFirstAnswer) {
 
 TEST_F(LessonRecordTest, EntersAsManyChordsAsTheTaskHas) {
   record.LessonNeu();
-  for (int count : {1, 2, 3, 4}) {
-    Task(count, {0, 1, 2, 3, 1});
+  for (const auto& entries : {std::initializer_list<int>{1}, {1, 2}, {1, 2, 3}, {1, 2, 3, 1}}) {
+    Task(entries);
     const auto& lesson = *root().Find("lessons")->children.back();
-    EXPECT_EQ(static_cast<int>(lesson.Find("properties")->children.size()), count);
+    EXPECT_EQ(lesson.Find("properties")->children.size(), entries.size());
     EXPECT_EQ(lesson.Find("answers")->children.size(), 1u);
   }
 }
 
 TEST_F(LessonRecordTest, AppendsAnswersToTheLatestLesson) {
   record.LessonNeu();
-  Task(1, {0, 1, 0, 0, 0});
-  Task(1, {0, 2, 0, 0, 0});
-  record.LessonAntwort(2)->Attributes()->Add("1", "Akkord");
+  Task({1});
+  Task({2});
+  record.LessonAntwort(kOpenStill);
   const auto lessons = root().Find("lessons")->All("lesson");
   ASSERT_EQ(lessons.size(), 2u);
   EXPECT_EQ(lessons[0]->Find("answers")->children.size(), 1u);
   EXPECT_EQ(lessons[1]->Find("answers")->Outline(),
             "answers\n"
             "  answer lfd=\"1\" Akk=\"1\"\n"
+            "    property\n"
+            "      key: Dauer Antwort\n"
+            "      value: 0\n"
+            "    property\n"
+            "      key: Anz Whlg\n"
+            "      value: 0\n"
+            "    property\n"
+            "      key: Antwort\n"
+            "      value: false\n"
             "  answer lfd=\"2\" Akkord=\"1\"\n");
 }
 
-TEST_F(LessonRecordTest, EntersTimeAndRepeatsInTheLastAnswerAndGivesIt) {
+TEST_F(LessonRecordTest, EntersTimeRepeatsAndJudgementInTheLastAnswer) {
   record.LessonNeu();
-  Task(1, {0, 1, 0, 0, 0});
-  record.LessonAntwort(2);
-  const auto answer = record.LessonLetzteAntwort(23, 4);
-  record.LessonEigenschaft(*answer, "Antwort", "true");
-  EXPECT_EQ(root().Find("lessons/lesson/answers")->Outline(),
-            "answers\n"
-            "  answer lfd=\"1\" Akk=\"1\"\n"
-            "  answer lfd=\"2\"\n"
-            "    property\n"
-            "      key: Dauer Antwort\n"
-            "      value: 23\n"
-            "    property\n"
-            "      key: Anz Whlg\n"
-            "      value: 4\n"
-            "    property\n"
-            "      key: Antwort\n"
-            "      value: true\n");
+  Task({1});
+  record.LessonAntwort(kOpenStill);
+  AnswerGiven answer = kLastSlot;
+  answer.antw_lfd = 2;
+  answer.antw_dauer = 23;
+  answer.anz_whlg = 4;
+  record.LessonAntwort(answer);
+  EXPECT_EQ(root().Find("lessons/lesson/answers")->children.back()->Outline(),
+            "answer lfd=\"2\" Akkord=\"1\"\n"
+            "  property\n"
+            "    key: Dauer Antwort\n"
+            "    value: 23\n"
+            "  property\n"
+            "    key: Anz Whlg\n"
+            "    value: 4\n"
+            "  property\n"
+            "    key: Antwort\n"
+            "    value: true\n");
+}
+
+TEST_F(LessonRecordTest, BeginsTheAnswerThatIsWaitedForNext) {
+  struct Case {
+    int slot, antw_lfd;
+    bool richtig;
+    LaufStatus danach;
+    const char* next;  // none after the last slot
+  };
+  for (const Case& c : {
+           Case{1, 1, false, LaufStatus::kWeitererVersuch, "answer lfd=\"2\" Akkord=\"1\"\n"},
+           Case{3, 2, false, LaufStatus::kWeitererVersuch, "answer lfd=\"3\" Akkord=\"3\"\n"},
+           Case{1, 1, true, LaufStatus::kNaechsterSlot, "answer lfd=\"1\" interval=\"2\"\n"},
+           Case{2, 4, false, LaufStatus::kNaechsterSlot, "answer lfd=\"1\" interval=\"3\"\n"},
+           Case{1, 1, true, LaufStatus::kAufgabeFertig, nullptr},
+           Case{4, 4, false, LaufStatus::kAufgabeFertig, nullptr},
+       }) {
+    record.LessonNeu();
+    Task({1, 2, 3, 1});
+    AnswerGiven answer = Click(c.richtig, c.danach);
+    answer.slot = c.slot;
+    answer.antw_lfd = c.antw_lfd;
+    record.LessonAntwort(answer);
+    const auto& answers = root().Find("lessons/lesson/answers")->children;
+    ASSERT_EQ(answers.size(), c.next == nullptr ? 1u : 2u) << c.slot;
+    if (c.next == nullptr) continue;
+    EXPECT_EQ(answers.back()->Outline(), c.next) << c.slot;
+  }
 }
 
 TEST_F(LessonRecordTest, WritesASingleWithAFullStop) {
   record.LessonNeu();
-  Task(1, {0, 1, 0, 0, 0});
-  record.LessonLetzteAntwort(2.5f, 0);
+  Task({1});
+  AnswerGiven answer = kLastSlot;
+  answer.antw_dauer = 2.5f;
+  record.LessonAntwort(answer);
   EXPECT_EQ(root().Find("lessons/lesson/answers/answer/property/value")->text, "2.5");
 }
 
 TEST_F(LessonRecordTest, KeepsAnEmptyValueAsAnElementWithoutText) {
   record.LessonNeu();
-  Task(1, {0, 1, 0, 0, 0});
-  const auto answer = record.LessonAntwort(2);
-  record.LessonEigenschaft(*answer, "Antwort", "");
-  const MemoryXmlNode& property = *root().Find("lessons/lesson/answers")->children.back();
-  EXPECT_EQ(property.Outline(),
-            "answer lfd=\"2\"\n"
-            "  property\n"
-            "    key: Antwort\n"
+  End({"2", "Abfolge", ""});
+  EXPECT_EQ(root().Find("settings")->Outline(),
+            "settings\n"
+            "  setting\n"
+            "    key: Abfolge\n"
             "    value\n");
 }
 
 TEST_F(LessonRecordTest, CompletesTheRecordAndSavesItAtTheEnd) {
   loop.date = {2026, 11, 21, 14, 3, 22};
   record.LessonNeu();
-  Task(1, {0, 1, 0, 0, 0});
+  Task({1});
   loop.date = {2026, 11, 21, 15, 4, 9};
   End({"4", "Tempo", " 40 (Largo)      ", "Abfolge", "manuell"});
   EXPECT_EQ(documents.Latest().saved,
@@ -278,30 +333,29 @@ TEST_F(LessonRecordTest, DoesNotLookAtWhetherTheSavingWorked) {
 }
 
 TEST_F(LessonRecordTest, RaisesForACallBeforeTheFirstRecord) {
-  EXPECT_EQ(ErrorOf([&] { record.LessonAntwort(1); }), ErrorNumber::kInvalidCall);
-  EXPECT_EQ(ErrorOf([&] { record.LessonLetzteAntwort(1, 0); }), ErrorNumber::kInvalidCall);
+  EXPECT_EQ(ErrorOf([&] { record.LessonAntwort(kLastSlot); }), ErrorNumber::kInvalidCall);
   EXPECT_EQ(ErrorOf([&] { End(); }), ErrorNumber::kInvalidCall);
   EXPECT_TRUE(documents.documents.empty());
 }
 
 TEST_F(LessonRecordTest, RaisesForAnAnswerBeforeTheFirstLesson) {
   record.LessonNeu();
-  EXPECT_EQ(ErrorOf([&] { record.LessonAntwort(1); }), ErrorNumber::kInvalidCall);
-  EXPECT_EQ(ErrorOf([&] { record.LessonLetzteAntwort(1, 0); }), ErrorNumber::kInvalidCall);
+  EXPECT_EQ(ErrorOf([&] { record.LessonAntwort(kLastSlot); }), ErrorNumber::kInvalidCall);
 }
 
 TEST_F(LessonRecordTest, ForgetsTheLessonOfTheRecordBefore) {
   record.LessonNeu();
-  Task(1, {0, 1, 0, 0, 0});
+  Task({1});
   record.LessonNeu();
-  EXPECT_EQ(ErrorOf([&] { record.LessonAntwort(2); }), ErrorNumber::kInvalidCall);
+  EXPECT_EQ(ErrorOf([&] { record.LessonAntwort(kOpenStill); }), ErrorNumber::kInvalidCall);
   EXPECT_EQ(documents.documents[0]->root->Find("lessons/lesson/answers")->children.size(), 1u);
 }
 
 TEST_F(LessonRecordTest, PassesSilentlyOverAnErrorInATask) {
-  EXPECT_NO_THROW(Task(1, {0, 1, 0, 0, 0})) << "before the first record";
+  EXPECT_NO_THROW(Task({1})) << "before the first record";
   record.LessonNeu();
-  EXPECT_NO_THROW(Task(2, {0, 1, 99, 0, 0})) << "an entry that no board has";
+  root().children.back()->nodes_left = std::make_shared<int>(9);
+  EXPECT_NO_THROW(Task({1, 2})) << "a document that takes one chord and no more";
   EXPECT_EQ(root().Find("lessons")->Outline(),
             "lessons\n"
             "  lesson\n"
@@ -313,7 +367,7 @@ TEST_F(LessonRecordTest, PassesSilentlyOverAnErrorInATask) {
             "        GeslNr: 1\n"
             "    answers\n");
   root().children.clear();
-  EXPECT_NO_THROW(Task(1, {0, 1, 0, 0, 0})) << "a document without its elements";
+  EXPECT_NO_THROW(Task({1})) << "a document without its elements";
   EXPECT_TRUE(messages.warnings.empty());
   EXPECT_TRUE(host.errors.empty());
 }
@@ -321,7 +375,7 @@ TEST_F(LessonRecordTest, PassesSilentlyOverAnErrorInATask) {
 TEST_F(LessonRecordTest, MarksEachLossOfTheSoundWithItsTimeAndTheTaskBeforeIt) {
   record.LessonNeu();
   record.LessonOhneKlang();
-  Task(1, {0, 2, 0, 0, 0});
+  Task({2});
   loop.date = {2026, 11, 21, 14, 5, 7};
   record.LessonOhneKlang();
   EXPECT_EQ(root().Find("properties")->Outline(),
@@ -338,11 +392,11 @@ TEST_F(LessonRecordTest, LeavesTheRunAloneWhenALossCannotBeMarked) {
 
 TEST_F(LessonRecordTest, LeavesTheFirstRecordAsItIsWhenASecondBegins) {
   record.LessonNeu();
-  Task(1, {0, 1, 0, 0, 0});
+  Task({1});
   End();
   const std::string first = documents.documents[0]->saved;
   record.LessonNeu();
-  Task(1, {0, 2, 0, 0, 0});
+  Task({2});
   End();
   EXPECT_EQ(documents.documents[0]->root->Outline(), first);
   EXPECT_EQ(documents.documents[0]->saves, 1);

@@ -22,6 +22,8 @@ struct MemoryXmlNode {
   std::vector<std::shared_ptr<MemoryXmlNode>> attributes;
   std::vector<std::shared_ptr<MemoryXmlNode>> children;
   bool is_attribute = false;
+  /// How many more nodes, attributes included, can be added below; none: any number.
+  std::shared_ptr<int> nodes_left;
 
   /// The child at the end of a path of names with slashes between them, the first of each name;
   /// nullptr when there is none. `Find("lessons/lesson")`
@@ -165,9 +167,13 @@ class List : public XmlNodeList {
         if (node->name == name) return node;
       }
     }
+    if (parent_->nodes_left && (*parent_->nodes_left)-- <= 0) {
+      throw RunTimeError(ErrorNumber::kOutOfRange, "no room for a node", "vmod17.MemoryXml");
+    }
     auto node = std::make_shared<MemoryXmlNode>();
     node->name = name;
     node->is_attribute = is_attribute;
+    node->nodes_left = parent_->nodes_left;
     (parent_.get()->*nodes_).push_back(node);
     return node;
   }
