@@ -15,8 +15,8 @@ void Arbeitsblatt1::KlangWechsel() {
   MerkeKlang();
   Bewache("spieltimer_timer.", [this] {
     if (KlangIstVerloren()) {
-      if (const auto bei = WasLaeuft()) VerliereKlang(*bei);
-    } else if (parts_.midi.KlangStand() == MidiKlangStand::kDa && run_.ohne_klang) {
+      if (const auto bei = WasLaeuft(run_)) VerliereKlang(*bei);
+    } else if (parts_.midi.KlangStand() == MidiKlangStand::kDa && run_.phase == Phase::kOhneKlang) {
       NimmWiederAuf();
     }
   });
@@ -24,14 +24,6 @@ void Arbeitsblatt1::KlangWechsel() {
 
 void Arbeitsblatt1::MerkeKlang() {
   if (parts_.midi.KlangStand() == MidiKlangStand::kDa) run_.klang_war_da = true;
-}
-
-std::optional<KlangVerlust> Arbeitsblatt1::WasLaeuft() const {
-  if (spieltimer.enabled) return VerlustDesSpiels();
-  if (wieder.enabled) return KlangVerlust::kAntwort;
-  const bool schalter = CmdNextAufg.visible && CmdNextAufg.enabled && !run_.ungehoert;
-  if (WahlAutomat.enabled || schalter) return KlangVerlust::kAngebot;
-  return std::nullopt;
 }
 
 void Arbeitsblatt1::VerliereKlang(KlangVerlust bei) {
@@ -57,7 +49,6 @@ void Arbeitsblatt1::VerliereKlang(KlangVerlust bei) {
   WaitMeld.caption = shell_.texts.Words(kKlangVerloren);
   WaitMeldung.visible = true;
   Say(WaitMeld.caption);
-  run_.nachgespielt.reset();
   SucheKlang(bei);
 }
 
@@ -65,9 +56,9 @@ void Arbeitsblatt1::VerliereKlang(KlangVerlust bei) {
 /// the student is told, and goes on by hand.
 void Arbeitsblatt1::VerliereSpiel() {
   const bool erneut = std::exchange(run_.stockte, !KlangIstVerloren());
-  if (!erneut || KlangIstVerloren()) return VerliereKlang(VerlustDesSpiels());
+  if (!erneut || KlangIstVerloren()) return VerliereKlang(VerlustDesSpiels(run_));
   run_.stockte = false;
-  run_.nachgespielt.reset();
+  run_.verlust.reset();
   listening = false;
   HalteTestzeitAn(run_.spiel_start);
   MeldeStumm();
@@ -77,7 +68,8 @@ void Arbeitsblatt1::VerliereSpiel() {
 }
 
 void Arbeitsblatt1::SucheKlang(KlangVerlust bei) {
-  run_.ohne_klang = bei;
+  run_.phase = Phase::kOhneKlang;
+  run_.verlust = bei;
   klangsuche.Enable();
 }
 
@@ -94,9 +86,9 @@ void Arbeitsblatt1::klangsuche_Timer() {
 }
 
 void Arbeitsblatt1::NimmWiederAuf() {
-  const KlangVerlust bei = *std::exchange(run_.ohne_klang, std::nullopt);
   klangsuche.Disable();
-  if (bei != KlangVerlust::kAngebot) return SpieleNach(bei);
+  if (run_.verlust != KlangVerlust::kAngebot) return SpieleNach(*run_.verlust);
+  run_.verlust.reset();
   BeendeWarten();
   SetzeTestzeitFort();
   BieteWiederAn();
@@ -111,7 +103,6 @@ void Arbeitsblatt1::SpieleNach(KlangVerlust bei) {
   // What was told holds until it sounds.
   switch (BeginneSpiel([] {})) {
     case Spielstand::kKlingt:
-      run_.nachgespielt = bei;
       // It is heard for the first time, or once more than the time of a test reckons with.
       if (bei == KlangVerlust::kSpiel) SetzeTestzeitFort();
       return;

@@ -44,15 +44,8 @@ void Arbeitsblatt1::ZeigeZaehler() {
   whlgzaehler.caption = DecimalText(run_.count.wiederholt);
 }
 
-bool Arbeitsblatt1::Wartet() const {
-  const bool aufgabe_offen =
-      run_.akk_nr >= 1 && run_.akk_nr <= parts_.settings.akk_anzahl && !run_.ungehoert;
-  const bool testzeit_laeuft = IstTest() && Uhrzeit.enabled && !run_.test.halt_seit;
-  const bool zeit_laeuft = WahlAutomat.enabled || testzeit_laeuft;
-  return loaded() && !aufgabe_offen && !spieltimer.enabled && !zeit_laeuft;
-}
-
 void Arbeitsblatt1::BieteErsteAufgabeAn() {
+  run_.phase = Phase::kAngebot;
   const bool automatisch = parts_.settings.abfolge == 1;
   CmdNextAufg.visible = !automatisch;
   CmdNextAufg.enabled = !automatisch;
@@ -72,6 +65,7 @@ void Arbeitsblatt1::NaechsteAufgabeAnbieten() {
 }
 
 void Arbeitsblatt1::BieteWeiterAn() {
+  run_.phase = Phase::kAngebot;
   if (parts_.settings.abfolge == 1) {
     LbNextAufg.visible = true;
     WahlAutomat.Enable();
@@ -97,7 +91,7 @@ void Arbeitsblatt1::NimmAngebotZurueck() {
 
 void Arbeitsblatt1::CmdNextAufg_Click() {
   CmdNextAufg.enabled = false;
-  if (run_.ungehoert) {
+  if (run_.phase == Phase::kUngehoert) {
     SpieleUngehoerte();
   } else {
     mat_wahl();
@@ -126,7 +120,6 @@ void Arbeitsblatt1::mat_wahl() {
 
 void Arbeitsblatt1::SpieleUngehoerte() {
   Bewache("mat_wahl.", [this] {
-    run_.ungehoert = false;
     CmdNextAufg.visible = parts_.settings.abfolge == 0;
     if (!Spiele(SpielArt::kAufgabe)) BieteUngehoerteAn();
   });
@@ -136,7 +129,7 @@ void Arbeitsblatt1::SpieleUngehoerte() {
 /// was lost, its return is waited for.
 void Arbeitsblatt1::BieteUngehoerteAn() {
   if (KlangIstVerloren()) return VerliereKlang(KlangVerlust::kSpiel);
-  run_.ungehoert = true;
+  run_.phase = Phase::kUngehoert;
   CmdNextAufg.visible = true;
   CmdNextAufg.enabled = true;
 }
@@ -183,12 +176,14 @@ bool Arbeitsblatt1::Spiele(SpielArt art) {
 }
 
 Spielstand Arbeitsblatt1::BeginneSpiel(const std::function<void()>& dauert) {
+  run_.phase = Phase::kUebergang;
   listening = true;
   const Spielstand beginn = playback_.SpieleAufgabe(run_.task, run_.abbruch, dauert);
   if (beginn == Spielstand::kAbgebrochen) return beginn;
   listening = beginn == Spielstand::kKlingt;
   if (!listening) return beginn;
   BeendeWarten();
+  run_.phase = Phase::kSpiel;
   run_.spiel_start = shell_.loop.Clock();
   spieltimer.Enable();
   return beginn;
@@ -215,6 +210,7 @@ void Arbeitsblatt1::spieltimer_Timer() {
   Bewache("spieltimer_timer.", [this] {
     spieltimer.Disable();
     if (run_.abbruch) return;
+    run_.phase = Phase::kUebergang;
     // What has not sounded to its end by now is late, or was cut off.
     switch (parts_.midi.WarteAufEnde([this] { return run_.abbruch; })) {
       case Spielstand::kKlingt:
@@ -230,7 +226,7 @@ void Arbeitsblatt1::spieltimer_Timer() {
 void Arbeitsblatt1::BeendeSpiel() {
   listening = false;
   run_.stockte = false;
-  run_.nachgespielt.reset();
+  run_.verlust.reset();
   const bool kontrolle = run_.spiel_art == SpielArt::kKontrolle;
   if (!kontrolle) run_.clock.antw_start = shell_.loop.Clock();
   if (KlangIstVerloren()) {
@@ -238,6 +234,7 @@ void Arbeitsblatt1::BeendeSpiel() {
   }
   SetzeTestzeitFort();
   if (kontrolle) return BieteWiederAn();
+  run_.phase = Phase::kAntwort;
   AntwortenFreigeben();
   wieder.enabled = true;
   SageAntwortbereit();
@@ -245,8 +242,9 @@ void Arbeitsblatt1::BeendeSpiel() {
 
 void Arbeitsblatt1::BieteWiederAn() {
   wieder2.enabled = true;
-  if (run_.lauf_status != LaufStatus::kTrainingZuEnde &&
-      run_.lauf_status != LaufStatus::kTestZuEnde) {
+  if (IstZuEnde()) {
+    run_.phase = Phase::kZuEnde;
+  } else {
     BieteWeiterAn();
   }
 }
@@ -254,6 +252,7 @@ void Arbeitsblatt1::BieteWiederAn() {
 // The repeats are no routines of weight: an error in them goes to the run-time report, since what
 // they play has sounded before.
 void Arbeitsblatt1::wieder_Click() {
+  run_.phase = Phase::kUebergang;
   wieder.enabled = false;
   // The tiles close before the pause and not after it: an answer that came in the pause would end
   // the task that is about to be repeated.
@@ -280,6 +279,7 @@ void Arbeitsblatt1::wieder_Click() {
 }
 
 void Arbeitsblatt1::wieder2_Click() {
+  run_.phase = Phase::kUebergang;
   wieder2.enabled = false;
   // Withdrawn before the pause for the same reason: the next task must not begin in it.
   NimmAngebotZurueck();
@@ -308,8 +308,7 @@ void Arbeitsblatt1::zurueck_Click() {
   // record that is completed twice is none.
   if (!loaded() || run_.abbruch) return;
   HalteAn();
-  if (run_.lauf_status == LaufStatus::kTrainingZuEnde ||
-      run_.lauf_status == LaufStatus::kTestZuEnde) {
+  if (IstZuEnde()) {
     wieder2.enabled = false;
     zurueck.back_color = Colors::kMagenta;
     zurueck.fore_color = Colors::kBlack;
@@ -324,13 +323,13 @@ void Arbeitsblatt1::zurueck_Click() {
 /// Ends the run: nothing sounds or happens by itself any more.
 void Arbeitsblatt1::HalteAn() {
   zurueck.enabled = false;
+  run_.phase = Phase::kVerlassen;
   run_.abbruch = true;
   BeendeWarten();
   Uhrzeit.Disable();
   spieltimer.Disable();
   WahlAutomat.Disable();
   klangsuche.Disable();
-  run_.ohne_klang.reset();
   listening = false;
   parts_.midi.MidiReset();
   if (ende_gefragt_) shell_.messages.Withdraw();
@@ -361,6 +360,7 @@ void Arbeitsblatt1::BeendeAufzeichnung() {
 
 /// The way out tells that the run is over and waits for the click.
 void Arbeitsblatt1::MeldeEnde() {
+  run_.phase = Phase::kZuEnde;
   zurueck.back_color = Colors::kYellow;
   zurueck.fore_color = Colors::kRed;
   zurueck.caption = shell_.texts.Sprachtext(625);

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "exercise/run_events.h"
+#include "exercise/settings_record.h"
 #include "settings/time_limit.h"
 #include "sound/chord_playback.h"
 #include "worksheet/material.h"
@@ -16,6 +17,19 @@ namespace vmod17 {
 
 /// What a playing is.
 enum class SpielArt { kAufgabe = 0, kWiederholung = 1, kKontrolle = 2 };
+
+/// What a run is at.
+enum class Phase {
+  kAufbau,     ///< the worksheet is being built
+  kAngebot,    ///< the next task is offered, by the button or by itself
+  kUebergang,  ///< a playing is to begin or to end, and is waited for
+  kSpiel,      ///< a playing sounds
+  kAntwort,    ///< the open slot can be answered
+  kUngehoert,  ///< the task could not be played, and waits to be asked for again
+  kOhneKlang,  ///< the sound was lost, and is being looked for
+  kZuEnde,     ///< the training or test is over
+  kVerlassen,  ///< the worksheet is being left
+};
 
 /// What went on when the sound was lost.
 enum class KlangVerlust {
@@ -80,15 +94,23 @@ struct RunState {
 
   int akk_nr = 0;  ///< the open slot; one more than `akk_anzahl` when the task is finished
   LaufStatus lauf_status = LaufStatus::kNochKeine;
+  Phase phase = Phase::kAufbau;
   SpielArt spiel_art = SpielArt::kAufgabe;
-  bool ungehoert = false;     ///< the task could not be played, and waits to be asked for again
   float spiel_start = 0;      ///< seconds since midnight at which the last playing began to sound
   bool klang_war_da = false;  ///< there was sound in this run
-  std::optional<KlangVerlust> ohne_klang;    ///< the run stands since the sound was lost
-  std::optional<KlangVerlust> nachgespielt;  ///< what the present playing makes up for
+  std::optional<KlangVerlust> verlust;  ///< what the loss cut off, until that is made up for
   bool stockte = false;      ///< the last playing came to a standstill on an output that is there
-  bool abbruch = false;      ///< the worksheet is being left
+  bool abbruch = false;      ///< set with `Phase::kVerlassen`, for what waits
   int schalter_zaehler = 0;  ///< 1 from the first finished task on
 };
+
+/// True between two tasks: none is being played or answered, and none comes by itself or costs
+/// time.
+bool Wartet(const RunState& run, const ExerciseSettings& settings);
+/// What a loss of the sound would cut off now; none where that is dealt with otherwise, or nothing
+/// goes on.
+std::optional<KlangVerlust> WasLaeuft(const RunState& run);
+/// What the loss of the present playing is: of a replay, the same as the loss before it.
+KlangVerlust VerlustDesSpiels(const RunState& run);
 
 }  // namespace vmod17

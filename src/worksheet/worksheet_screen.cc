@@ -135,6 +135,7 @@ void Arbeitsblatt1::Form_Load() {
 }
 
 void Arbeitsblatt1::Form_Unload() {
+  run_.phase = Phase::kVerlassen;
   run_.abbruch = true;
   parts_.midi.KlangWechsel = nullptr;
   parts_.midi.MidiReset();

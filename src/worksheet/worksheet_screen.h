@@ -90,8 +90,8 @@ class Arbeitsblatt1 : public Form {
   Timer klangsuche;  ///< looks for the sound that was lost
 
   const RunState& run() const { return run_; }
-  /// True between two tasks: none is being played or answered.
-  bool Wartet() const;
+  /// Between two tasks, where there is time to tell the student something.
+  bool Wartet() const { return loaded() && vmod17::Wartet(run_, parts_.settings); }
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -163,6 +163,11 @@ class Arbeitsblatt1 : public Form {
   void BeendeAufzeichnung();
   void Verlasse();
   void MeldeEnde();
+  /// Whether the training or test is over; what was asked last may still be heard again.
+  bool IstZuEnde() const {
+    return run_.lauf_status == LaufStatus::kTrainingZuEnde ||
+           run_.lauf_status == LaufStatus::kTestZuEnde;
+  }
   void ZeigeZaehler();
   /// The finished task can be heard again.
   void BieteKontrolleAn();
@@ -177,14 +182,10 @@ class Arbeitsblatt1 : public Form {
   bool KlangIstVerloren() const {
     return run_.klang_war_da && parts_.midi.KlangStand() == MidiKlangStand::kWeg;
   }
-  /// What a loss would cut off now; none where that is dealt with otherwise, or nothing goes on.
-  std::optional<KlangVerlust> WasLaeuft() const;
   /// Stops the clock and closes the answers until there is sound again.
   void VerliereKlang(KlangVerlust bei);
   /// The playing has not come to its end.
   void VerliereSpiel();
-  /// What the loss of the present playing is: of a replay, the same as the loss before it.
-  KlangVerlust VerlustDesSpiels() const { return run_.nachgespielt.value_or(KlangVerlust::kSpiel); }
   void SucheKlang(KlangVerlust bei);
   void NimmWiederAuf();
   void SpieleNach(KlangVerlust bei);

@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <vector>
 
+#include "worksheet/mode_fixture.h"
 #include "worksheet/stage.h"
 #include "worksheet/worksheet_fixture.h"
 
@@ -132,6 +134,125 @@ TEST(RunState, HasNoMaterialInFreePractice) {
     EXPECT_TRUE(p.run().material.mat_tab.empty());
     EXPECT_FALSE(p.worksheet().matboxanz.visible);
     EXPECT_EQ(p.worksheet().matboxanz.percent, 0);
+  }
+}
+
+// ---- The phase of a run -------------------------------------------------------------------------
+
+/// A run of two chords a task, in one phase.
+struct PhasedRun {
+  explicit PhasedRun(Phase phase, int akk_nr = 3) {
+    state.phase = phase;
+    state.akk_nr = akk_nr;
+    settings.akk_anzahl = 2;
+  }
+  bool Waits() const { return Wartet(state, settings); }
+
+  RunState state;
+  ExerciseSettings settings;
+};
+
+TEST(Wartet, IsTrueWhereNothingHappensUntilTheStudentActs) {
+  for (const Phase phase : {Phase::kAufbau, Phase::kAngebot, Phase::kUngehoert, Phase::kZuEnde}) {
+    EXPECT_TRUE(PhasedRun(phase).Waits()) << static_cast<int>(phase);
+  }
+}
+
+TEST(Wartet, IsFalseWhileATaskIsPlayedOrAnswered) {
+  for (const Phase phase : {Phase::kUebergang, Phase::kSpiel, Phase::kAntwort}) {
+    for (const int akk_nr : {1, 2, 3}) {
+      EXPECT_FALSE(PhasedRun(phase, akk_nr).Waits()) << static_cast<int>(phase);
+    }
+  }
+}
+
+TEST(Wartet, IsFalseWhereTheNextTaskComesByItself) {
+  PhasedRun run(Phase::kAngebot);
+  run.settings.abfolge = 1;
+  EXPECT_FALSE(run.Waits());
+}
+
+TEST(Wartet, IsFalseWhileTheTimeOfATestGoesOn) {
+  for (const int uebmodus : {kModusTest, kModusPruefung}) {
+    PhasedRun run(Phase::kAngebot);
+    run.settings.uebmodus = uebmodus;
+    EXPECT_FALSE(run.Waits());
+    run.state.phase = Phase::kUngehoert;
+    EXPECT_TRUE(run.Waits()) << "it stands until the task is heard";
+    run.state.phase = Phase::kZuEnde;
+    EXPECT_TRUE(run.Waits());
+  }
+}
+
+TEST(Wartet, AsksInALossAndOnTheWayOutWhetherATaskIsOpen) {
+  for (const Phase phase : {Phase::kOhneKlang, Phase::kVerlassen}) {
+    for (const int between : {0, 3}) EXPECT_TRUE(PhasedRun(phase, between).Waits()) << between;
+    for (const int open : {1, 2}) EXPECT_FALSE(PhasedRun(phase, open).Waits()) << open;
+  }
+}
+
+TEST(WasLaeuft, IsWhatALossWouldCutOff) {
+  struct Case {
+    Phase phase;
+    std::optional<KlangVerlust> cut_off;
+  };
+  for (const auto& [phase, cut_off] :
+       {Case{Phase::kAufbau, {}}, Case{Phase::kAngebot, KlangVerlust::kAngebot},
+        Case{Phase::kUebergang, {}}, Case{Phase::kSpiel, KlangVerlust::kSpiel},
+        Case{Phase::kAntwort, KlangVerlust::kAntwort}, Case{Phase::kUngehoert, {}},
+        Case{Phase::kOhneKlang, {}}, Case{Phase::kZuEnde, {}}, Case{Phase::kVerlassen, {}}}) {
+    EXPECT_EQ(WasLaeuft(PhasedRun(phase).state), cut_off) << static_cast<int>(phase);
+  }
+}
+
+TEST(WasLaeuft, IsOfAReplayWhatTheLossBeforeItWas) {
+  PhasedRun run(Phase::kSpiel);
+  run.state.verlust = KlangVerlust::kAntwort;
+  EXPECT_EQ(WasLaeuft(run.state), KlangVerlust::kAntwort);
+}
+
+TEST(RunState, TellsWhatTheRunIsAt) {
+  WorksheetFixture p;
+  p.ToSettings();
+  p.Select({kTriade}, {});
+  p.settings_screen().cmdOK.Press();
+  EXPECT_EQ(p.run().phase, Phase::kAufbau);
+  p.loop.Advance(200);
+  EXPECT_EQ(p.run().phase, Phase::kAngebot);
+  EXPECT_TRUE(p.worksheet().Wartet());
+  p.loop.meanwhile = [&] { EXPECT_EQ(p.run().phase, Phase::kUebergang); };
+  p.worksheet().CmdNextAufg.Press();
+  p.loop.meanwhile = nullptr;
+  EXPECT_EQ(p.run().phase, Phase::kSpiel);
+  p.loop.Advance(p.PlayingTime());
+  EXPECT_EQ(p.run().phase, Phase::kAntwort);
+  EXPECT_FALSE(p.worksheet().Wartet());
+  p.Wrong();
+  EXPECT_EQ(p.run().phase, Phase::kAntwort);
+  p.worksheet().wieder.Press();
+  EXPECT_EQ(p.run().phase, Phase::kSpiel);
+  p.loop.Advance(p.PlayingTime());
+  p.Right();
+  EXPECT_EQ(p.run().phase, Phase::kAngebot);
+  p.worksheet().wieder2.Press();
+  EXPECT_EQ(p.run().phase, Phase::kSpiel);
+  EXPECT_FALSE(p.worksheet().Wartet());
+  p.loop.Advance(p.PlayingTime());
+  EXPECT_EQ(p.run().phase, Phase::kAngebot);
+  const Arbeitsblatt1& sheet = p.worksheet();
+  p.loop.meanwhile = [&] { EXPECT_EQ(sheet.run().phase, Phase::kVerlassen); };
+  p.worksheet().zurueck.Press();
+}
+
+TEST(RunState, TellsThatATrainingOrTestIsOverAlsoAfterItWasHeardAgain) {
+  for (const int modus : {kTraining, kTest}) {
+    ModeFixture p;
+    p.BeginMode(modus);
+    modus == kTraining ? p.Solve() : p.FinishTest();
+    EXPECT_EQ(p.run().phase, Phase::kZuEnde);
+    EXPECT_TRUE(p.ControlRepeat());
+    EXPECT_EQ(p.run().phase, Phase::kZuEnde);
+    EXPECT_TRUE(p.worksheet().Wartet());
   }
 }
 
