@@ -33,9 +33,14 @@ void Arbeitsblatt1::Bewache(const std::string& tag, const std::function<void()>&
   };
   shell_.errors.Guard(tag, *this, angehalten, [this] {
     pointer = Pointer::kDefault;
-    zurueck.tag = "ERROR";
+    Scheitere();
     zurueck_Click();
   });
+}
+
+void Arbeitsblatt1::Scheitere() {
+  run_.gescheitert = true;
+  zurueck.tag = "ERROR";
 }
 
 void Arbeitsblatt1::ZeigeZaehler() {
@@ -332,7 +337,7 @@ void Arbeitsblatt1::HalteAn() {
   klangsuche.Disable();
   listening = false;
   parts_.midi.MidiReset();
-  if (ende_gefragt_) shell_.messages.Withdraw();
+  if (frage_ == Frage::kTestende) shell_.messages.Withdraw();
 }
 
 /// The results stand in front of the worksheet, which is out of reach meanwhile and leaves with
@@ -340,7 +345,7 @@ void Arbeitsblatt1::HalteAn() {
 void Arbeitsblatt1::OeffneErgebnisse(RunEnd end) {
   enabled = false;
   shell_.navigation.OpenResults(end, [this](const std::string& tag) {
-    if (tag != "OK") zurueck.tag = "ERROR";
+    if (tag != "OK") Scheitere();
     Verlasse();
   });
 }
@@ -354,7 +359,7 @@ void Arbeitsblatt1::Verlasse() {
 
 /// Completes and saves the record, once for each run.
 void Arbeitsblatt1::BeendeAufzeichnung() {
-  if (!std::exchange(aufzeichnung_offen_, false)) return;
+  if (std::exchange(run_.aufgezeichnet, true)) return;
   parts_.record.LessonEnde(*this, WaitMeldung, parts_.settings.einst_liste);
 }
 

@@ -99,9 +99,11 @@ struct RunState {
   float spiel_start = 0;      ///< seconds since midnight at which the last playing began to sound
   bool klang_war_da = false;  ///< there was sound in this run
   std::optional<KlangVerlust> verlust;  ///< what the loss cut off, until that is made up for
-  bool stockte = false;      ///< the last playing came to a standstill on an output that is there
-  bool abbruch = false;      ///< set with `Phase::kVerlassen`, for what waits
-  int schalter_zaehler = 0;  ///< 1 from the first finished task on
+  bool stockte = false;        ///< the last playing came to a standstill on an output that is there
+  bool abbruch = false;        ///< set with `Phase::kVerlassen`, for what waits
+  bool gescheitert = false;    ///< an error has ended the run: nothing of it is to be saved
+  bool aufgezeichnet = false;  ///< the record has its end
+  int schalter_zaehler = 0;    ///< 1 from the first finished task on
 };
 
 /// True between two tasks: none is being played or answered, and none comes by itself or costs

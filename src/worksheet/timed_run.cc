@@ -4,7 +4,6 @@
 // A test and an exam: a fixed number of tasks in a limited time.
 
 #include <string>
-#include <utility>
 
 #include "base/numbers.h"
 #include "worksheet/worksheet_screen.h"
@@ -85,11 +84,12 @@ bool Arbeitsblatt1::TestLaeuft() const {
 /// A key or the window's cross is pressed by mistake more easily than a button, and a test that is
 /// left has no results. The time goes on meanwhile.
 bool Arbeitsblatt1::WillTestBeenden() {
-  if (std::exchange(ende_gefragt_, true)) return false;
+  if (frage_ != Frage::kKeine) return false;
+  frage_ = Frage::kTestende;
   const std::string frage =
       shell_.texts.Words({9502, "The test is not over yet. End it without results?", {}});
   const MessageBox::Answer answer = shell_.messages.Ask(frage, caption, MessageBox::Answer::kNo);
-  ende_gefragt_ = false;
+  frage_ = Frage::kKeine;
   return answer == MessageBox::Answer::kYes;
 }
 

@@ -116,10 +116,11 @@ void Arbeitsblatt1::BieteSichernAn() {
 }
 
 bool Arbeitsblatt1::WillSichern(const std::string& frage) {
-  sichern_gefragt_ = true;
+  frage_ = Frage::kSichern;
   const MessageBox::Answer answer = shell_.messages.Ask(frage, caption, MessageBox::Answer::kYes);
   // The program may have been ended while the question stood.
-  return std::exchange(sichern_gefragt_, false) && answer == MessageBox::Answer::kYes;
+  return std::exchange(frage_, Frage::kKeine) == Frage::kSichern &&
+         answer == MessageBox::Answer::kYes;
 }
 
 void Arbeitsblatt1::MeldeSicherungsfehler(const std::exception_ptr& error) {
@@ -132,9 +133,11 @@ void Arbeitsblatt1::MeldeSicherungsfehler(const std::exception_ptr& error) {
 }
 
 void Arbeitsblatt1::Abbrechen() {
-  const bool laeuft = loaded() && !run_.abbruch;
-  if (!laeuft && !std::exchange(sichern_gefragt_, false)) return;
-  if (laeuft) HalteAn();
+  if (loaded() && !run_.abbruch) {
+    HalteAn();
+  } else if (std::exchange(frage_, Frage::kKeine) != Frage::kSichern) {
+    return;
+  }
   const bool ersetzt_nichts = IstFortsetzung() || !parts_.einstellung1.BietetFortsetzung();
   if (IstZuSichern() && ersetzt_nichts) {
     try {
@@ -147,8 +150,7 @@ void Arbeitsblatt1::Abbrechen() {
 }
 
 bool Arbeitsblatt1::IstZuSichern() const {
-  return zurueck.tag == "OK" && IstTraining() && run_.schalter_zaehler > 0 &&
-         run_.lauf_status != LaufStatus::kTrainingZuEnde;
+  return !run_.gescheitert && IstTraining() && run_.schalter_zaehler > 0 && !IstZuEnde();
 }
 
 void Arbeitsblatt1::SichereTraining() {

@@ -123,6 +123,9 @@ class Arbeitsblatt1 : public Form {
   void akk_antw(int index);
 
  private:
+  /// The question that stands before the student, whether to save the training or to end the test.
+  enum class Frage { kKeine, kSichern, kTestende };
+
   // worksheet_screen.cc
   void Verdrahte();
   void StelleInRahmen();
@@ -173,6 +176,7 @@ class Arbeitsblatt1 : public Form {
   void BieteKontrolleAn();
   /// Runs a routine of weight; an error in it ends the run.
   void Bewache(const std::string& tag, const std::function<void()>& body);
+  void Scheitere();
 
   // lost_sound.cc
   /// The output has fallen silent, or can be heard again.
@@ -266,10 +270,8 @@ class Arbeitsblatt1 : public Form {
   TaskSelection selection_;
   ChordPlayback playback_;
   Judging judging_;
-  StoredTraining fortsetzung_;      ///< what a continued training was stored as
-  bool sichern_gefragt_ = false;    ///< the question whether to save stands
-  bool ende_gefragt_ = false;       ///< the question whether to end the test stands
-  bool aufzeichnung_offen_ = true;  ///< the record still waits for its end
+  StoredTraining fortsetzung_;  ///< what a continued training was stored as
+  Frage frage_ = Frage::kKeine;
   std::unique_ptr<MidiEvent> midi_ereignis;
 };
 
