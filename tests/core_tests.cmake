@@ -27,6 +27,7 @@ vmod17_test(
           sound/mod_midi_test.cc
           sound/note_queue_test.cc
           sound/sample_playback_test.cc
+          sound/wait_sign_test.cc
           exercise/settings_record_test.cc
           settings/restoring_test.cc
           settings/settings_levels_test.cc

@@ -34,7 +34,8 @@ Einstellung1::Einstellung1(Shell& shell, const Parts& parts)
       testtimer(*this, shell.loop, "testtimer", kTestIntervall),
       klangprobe(*this, shell.loop, "klangprobe", 0),
       shell_(shell),
-      parts_(parts) {
+      parts_(parts),
+      warten_(*this, shell.texts, klang_contr, 366) {
   caption = "Grundeinstellung : Jazz-Akkorde bestimmen";
   StelleInRahmen();
   BindeMerkmale();

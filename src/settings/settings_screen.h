@@ -18,6 +18,7 @@
 #include "settings/settings_frames.h"
 #include "shell/shell.h"
 #include "sound/mod_midi.h"
+#include "sound/wait_sign.h"
 
 namespace vmod17 {
 
@@ -186,8 +187,6 @@ class Einstellung1 : public Form {
   void SpieleProbe();
   int ProbenNoten() const;
   bool ProbeGilt() const;
-  void ZeigeWarten();
-  void BeendeWarten();
   void SendeKlangfarben();
   void ErlaubeProbe(bool erlaubt);
   void BeendeProbe();
@@ -210,6 +209,7 @@ class Einstellung1 : public Form {
 
   Shell& shell_;
   Parts parts_;
+  WaitSign warten_;
   bool form_bereit = false;
   bool delay_abbruch = false;
   int popup_rahmen = 0;

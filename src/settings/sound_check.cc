@@ -77,10 +77,10 @@ void Einstellung1::SpieleProbe() {
   Delay(kRuheVorDemStart);
   if (!ProbeGilt()) return;
   parts_.midi.MidiStart();
-  const Spielstand beginn =
-      parts_.midi.WarteAufBeginn([this] { return !ProbeGilt(); }, [this] { ZeigeWarten(); });
+  const Spielstand beginn = parts_.midi.WarteAufBeginn([this] { return !ProbeGilt(); },
+                                                       [this] { warten_.ZeigeWarten(); });
   if (!ProbeGilt()) return;
-  BeendeWarten();
+  warten_.Beende();
   if (beginn == Spielstand::kStumm) {
     BeendeProbe();
     shell_.messages.Warn(shell_.texts.Words(kKlangFehlt), caption);
@@ -90,18 +90,6 @@ void Einstellung1::SpieleProbe() {
   // Should the output never tell that its queue is empty, the buttons come back all the same.
   klangprobe.interval = settings.SpielDauer(shell_.state) + kNachfrist;
   klangprobe.Enable();
-}
-
-void Einstellung1::ZeigeWarten() {
-  listening = false;
-  pointer = Pointer::kHourglass;
-  klang_contr.caption = shell_.texts.Words(kKlangKommt);
-  Say(klang_contr.caption);
-}
-
-void Einstellung1::BeendeWarten() {
-  pointer = Pointer::kDefault;
-  klang_contr.caption = shell_.texts.Sprachtext(366);
 }
 
 /// Notes of a sample chord: as many as the largest chosen kind has.
@@ -131,7 +119,7 @@ void Einstellung1::BeendeProbe() {
   if (!probe_laeuft_) return;
   probe_laeuft_ = false;
   listening = false;
-  BeendeWarten();
+  warten_.Beende();
   klangprobe.Disable();
   // Both come back in the state that the selection has by now.
   cmdOK.enabled = auswahl_vollstaendig_;

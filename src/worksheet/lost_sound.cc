@@ -46,9 +46,7 @@ void Arbeitsblatt1::VerliereKlang(KlangVerlust bei) {
   wieder2.enabled = false;
   NimmAngebotZurueck();
   parts_.record.LessonOhneKlang();
-  WaitMeld.caption = shell_.texts.Words(kKlangVerloren);
-  WaitMeldung.visible = true;
-  Say(WaitMeld.caption);
+  warten_.Zeige(kKlangVerloren);
   SucheKlang(bei);
 }
 
@@ -89,7 +87,7 @@ void Arbeitsblatt1::NimmWiederAuf() {
   klangsuche.Disable();
   if (run_.verlust != KlangVerlust::kAngebot) return SpieleNach(*run_.verlust);
   run_.verlust.reset();
-  BeendeWarten();
+  warten_.Beende();
   SetzeTestzeitFort();
   BieteWiederAn();
   // Seen at once, and heard by nobody: nothing else tells that there is sound again.

@@ -168,10 +168,10 @@ bool Arbeitsblatt1::Spiele(SpielArt art) {
   const float seit = shell_.loop.Clock();
   const Spielstand beginn = BeginneSpiel([&] {
     HalteTestzeitAn(seit);
-    ZeigeWarten();
+    warten_.ZeigeWarten();
   });
   if (beginn == Spielstand::kStumm) {
-    BeendeWarten();
+    warten_.Beende();
     HalteTestzeitAn(seit);
     if (!KlangIstVerloren()) MeldeStumm();
     return run_.abbruch;
@@ -187,26 +187,11 @@ Spielstand Arbeitsblatt1::BeginneSpiel(const std::function<void()>& dauert) {
   if (beginn == Spielstand::kAbgebrochen) return beginn;
   listening = beginn == Spielstand::kKlingt;
   if (!listening) return beginn;
-  BeendeWarten();
+  warten_.Beende();
   run_.phase = Phase::kSpiel;
   run_.spiel_start = shell_.loop.Clock();
   spieltimer.Enable();
   return beginn;
-}
-
-/// The output is not ready yet: the student learns what the task waits for, and can leave.
-void Arbeitsblatt1::ZeigeWarten() {
-  listening = false;
-  pointer = Pointer::kHourglass;
-  WaitMeld.caption = shell_.texts.Words(kKlangKommt);
-  WaitMeldung.visible = true;
-  Say(WaitMeld.caption);
-}
-
-void Arbeitsblatt1::BeendeWarten() {
-  pointer = Pointer::kDefault;
-  WaitMeldung.visible = false;
-  WaitMeld.caption = shell_.texts.Sprachtext(726);
 }
 
 void Arbeitsblatt1::MeldeStumm() { shell_.messages.Warn(shell_.texts.Words(kKlangFehlt), caption); }
@@ -330,7 +315,7 @@ void Arbeitsblatt1::HalteAn() {
   zurueck.enabled = false;
   run_.phase = Phase::kVerlassen;
   run_.abbruch = true;
-  BeendeWarten();
+  warten_.Beende();
   Uhrzeit.Disable();
   spieltimer.Disable();
   WahlAutomat.Disable();

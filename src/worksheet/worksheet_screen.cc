@@ -61,7 +61,8 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
       parts_(parts),
       selection_(parts.settings, parts.board, parts.random),
       playback_(shell.loop, parts.midi, shell.state, parts.settings, parts.board),
-      judging_(parts.settings, parts.board, parts.counters.auswertung_obj, parts.random) {
+      judging_(parts.settings, parts.board, parts.counters.auswertung_obj, parts.random),
+      warten_(*this, shell.texts, WaitMeld, 726, &WaitMeldung) {
   StelleInRahmen();
   Verdrahte();
   cmdHilfe.caption = "?";

@@ -21,6 +21,7 @@
 #include "shell/shell.h"
 #include "sound/chord_playback.h"
 #include "sound/mod_midi.h"
+#include "sound/wait_sign.h"
 #include "worksheet/judging.h"
 #include "worksheet/run_state.h"
 #include "worksheet/task_selection.h"
@@ -150,8 +151,6 @@ class Arbeitsblatt1 : public Form {
   /// Starts the playing of `spiel_art`. `dauert` is called when the output keeps it waiting.
   Spielstand BeginneSpiel(const std::function<void()>& dauert);
   void BeendeSpiel();
-  void ZeigeWarten();
-  void BeendeWarten();
   void MeldeStumm();
   void BieteUngehoerteAn();
   void SpieleUngehoerte();
@@ -271,6 +270,7 @@ class Arbeitsblatt1 : public Form {
   ChordPlayback playback_;
   Judging judging_;
   StoredTraining fortsetzung_;  ///< what a continued training was stored as
+  WaitSign warten_;
   Frage frage_ = Frage::kKeine;
   std::unique_ptr<MidiEvent> midi_ereignis;
 };
