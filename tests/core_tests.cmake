@@ -64,6 +64,7 @@ target_sources(
           results/results_print_test.cc
           results/results_screen_test.cc
           exercise/lesson_record_test.cc
+          worksheet/answer_field_test.cc
           worksheet/answers_test.cc
           worksheet/judging_test.cc
           worksheet/lost_sound_test.cc

@@ -8,7 +8,6 @@
 namespace vmod17 {
 namespace {
 
-constexpr Color kOffen = Rgb(128, 255, 128);
 constexpr Color kGeloest = Rgb(0, 192, 0);
 constexpr Color kRichtigText = Rgb(0, 255, 0);
 
@@ -20,26 +19,6 @@ void TauscheFarben(Panel& panel) {
 }
 
 }  // namespace
-
-void Arbeitsblatt1::AntwortenFreigeben() {
-  if (NachAkkorden()) {
-    for (int e = 1; e <= parts_.board.akk_zahl; ++e) {
-      if (run_.aus_ar[e] == 0) Oeffne(e);
-    }
-  } else {
-    for (const int g : parts_.settings.Gruppen()) {
-      if (run_.aus_ar.at(g) == 0) akk_group[g].enabled = true;
-    }
-  }
-}
-
-void Arbeitsblatt1::SperreAntworten() {
-  if (NachAkkorden()) {
-    for (int e = 1; e <= parts_.board.akk_zahl; ++e) Schliesse(e);
-  } else {
-    for (int g = 1; g <= kGruppen; ++g) akk_group[g].enabled = false;
-  }
-}
 
 void Arbeitsblatt1::akk_antw(int index) {
   Bewache("akk_antw.", [this, index] {
@@ -65,37 +44,37 @@ void Arbeitsblatt1::ZeigeAntwort(const AnswerGiven& antwort) {
   nrakk[antwort.slot].enabled = false;
   if (antwort.danach != LaufStatus::kNaechsterSlot) return;
   nrakk[antwort.slot + 1].enabled = true;
-  OeffneAlle();
+  antwortfeld_.OeffneAlle();
 }
 
 void Arbeitsblatt1::ZeigeRichtig(const AnswerGiven& antwort) {
   const int slot = antwort.slot;
-  Markiere(antwort.gewaehlt, AnswerMark::Kind::kTick, slot);
+  antwortfeld_.Markiere(antwort.gewaehlt, AnswerMark::Kind::kTick, slot);
   ergebnis[slot].back_color = Colors::kBlack;
   ergebnis[slot].fore_color = kRichtigText;
   ZeigeLoesung(antwort, kGeloest);
-  BenenneSlot(slot, {9683, "%1: right, %2", {Name(antwort.gefragt)}});
+  BenenneSlot(slot, {9683, "%1: right, %2", {antwortfeld_.Name(antwort.gefragt)}});
 }
 
 void Arbeitsblatt1::ZeigeFalsch(const AnswerGiven& antwort) {
   const int slot = antwort.slot;
-  Markiere(antwort.gewaehlt, AnswerMark::Kind::kCross, slot);
+  antwortfeld_.Markiere(antwort.gewaehlt, AnswerMark::Kind::kCross, slot);
   TauscheFarben(ergebnis[slot]);
   if (antwort.Verloren()) {
-    Markiere(antwort.gefragt, AnswerMark::Kind::kTick, slot);
+    antwortfeld_.Markiere(antwort.gefragt, AnswerMark::Kind::kTick, slot);
     ZeigeLoesung(antwort, Colors::kRed);
-    BenenneSlot(slot, {9685, "%1: lost, the solution is %2", {Name(antwort.gefragt)}});
+    BenenneSlot(slot, {9685, "%1: lost, the solution is %2", {antwortfeld_.Name(antwort.gefragt)}});
   } else {
     ergebnis[slot].caption = shell_.texts.Sprachtext(232);
     BenenneSlot(slot, {9684, "%1: wrong, still open", {}});
-    Streiche(antwort.gewaehlt);
+    antwortfeld_.Streiche(antwort.gewaehlt);
   }
 }
 
 void Arbeitsblatt1::ZeigeAufgabenende(const TaskClosed& ende) {
   if (IstTraining()) ZeigeTrainingsstand(ende.training);
   if (IstTest()) ZeigeRestaufgaben();
-  SperreAntworten();
+  antwortfeld_.Sperre();
   BieteKontrolleAn();
   switch (ende.danach) {
     case LaufStatus::kTrainingZuEnde:
@@ -114,7 +93,7 @@ void Arbeitsblatt1::ZeigeAufgabenende(const TaskClosed& ende) {
 void Arbeitsblatt1::ZeigeLoesung(const AnswerGiven& antwort, Color rahmen) {
   const int slot = antwort.slot;
   if (!NachAkkorden()) {
-    ergebnis[slot].caption = Wahl(antwort.gefragt).caption;
+    ergebnis[slot].caption = antwortfeld_[antwort.gefragt].caption;
     return;
   }
   erg[slot].visible = true;
@@ -126,49 +105,6 @@ void Arbeitsblatt1::ZeigeLoesung(const AnswerGiven& antwort, Color rahmen) {
 void Arbeitsblatt1::BenenneSlot(int slot, Notice wie) {
   wie.details.insert(wie.details.begin(), nrakk[slot].caption);
   ergebnis[slot].spoken = shell_.texts.Words(wie);
-}
-
-std::string Arbeitsblatt1::Name(int choice) const {
-  return NachAkkorden() ? jz_kl[choice].spoken : akk_group[choice].caption;
-}
-
-/// What is marked stays so until the next task. Where a task has several chords a mark tells which
-/// of them it is about, since all choices open again for each.
-void Arbeitsblatt1::Markiere(int choice, AnswerMark::Kind kind, int slot) {
-  Wahl(choice).marks.push_back({kind, parts_.settings.akk_anzahl > 1 ? slot : 0});
-}
-
-void Arbeitsblatt1::LoescheMarken() {
-  for (int e = 1; e <= kBrettGroesse; ++e) jz_kl[e].marks.clear();
-  for (int g = 1; g <= kGruppen; ++g) akk_group[g].marks.clear();
-}
-
-void Arbeitsblatt1::Streiche(int clicked) {
-  if (NachAkkorden()) {
-    Schliesse(clicked);
-  } else {
-    akk_group[clicked].enabled = false;
-  }
-}
-
-void Arbeitsblatt1::OeffneAlle() {
-  if (NachAkkorden()) {
-    for (int e = 1; e <= parts_.board.akk_zahl; ++e) Oeffne(e);
-  } else {
-    for (int g = 1; g <= kGruppen; ++g) akk_group[g].enabled = true;
-  }
-}
-
-void Arbeitsblatt1::Oeffne(int kachel) {
-  jz_kl[kachel].back_color = Colors::kWhite;
-  jz_kl[kachel].enabled = true;
-  klang_pan[kachel].back_color = kOffen;
-}
-
-void Arbeitsblatt1::Schliesse(int kachel) {
-  jz_kl[kachel].back_color = Colors::kGrey;
-  jz_kl[kachel].enabled = false;
-  klang_pan[kachel].back_color = Colors::kRed;
 }
 
 }  // namespace vmod17

@@ -41,7 +41,7 @@ void Arbeitsblatt1::VerliereKlang(KlangVerlust bei) {
   }
   spieltimer.Disable();
   listening = false;
-  SperreAntworten();
+  antwortfeld_.Sperre();
   wieder.enabled = false;
   wieder2.enabled = false;
   NimmAngebotZurueck();

@@ -141,7 +141,7 @@ void Arbeitsblatt1::BieteUngehoerteAn() {
 
 void Arbeitsblatt1::ZeigeAufgabe() {
   for (int slot = 1; slot <= parts_.settings.akk_anzahl; ++slot) LegeLoesungBereit(slot);
-  LoescheMarken();
+  antwortfeld_.LoescheMarken();
   nrakk[1].enabled = true;
   CmdNextAufg.enabled = false;
   wieder2.visible = false;
@@ -225,7 +225,7 @@ void Arbeitsblatt1::BeendeSpiel() {
   SetzeTestzeitFort();
   if (kontrolle) return BieteWiederAn();
   run_.phase = Phase::kAntwort;
-  AntwortenFreigeben();
+  antwortfeld_.AntwortenFreigeben(run_.aus_ar);
   wieder.enabled = true;
   SageAntwortbereit();
 }
@@ -246,7 +246,7 @@ void Arbeitsblatt1::wieder_Click() {
   wieder.enabled = false;
   // The tiles close before the pause and not after it: an answer that came in the pause would end
   // the task that is about to be repeated.
-  SperreAntworten();
+  antwortfeld_.Sperre();
   listening = true;
   run_.spiel_art = SpielArt::kWiederholung;
   parts_.midi.MidiReset();

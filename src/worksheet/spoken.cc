@@ -39,7 +39,7 @@ void Arbeitsblatt1::SageAntwortbereit() {
 }
 
 std::string Arbeitsblatt1::Loesung(const AnswerGiven& antwort) const {
-  const std::string& symbol = Wahl(antwort.gefragt).caption;
+  const std::string& symbol = antwortfeld_[antwort.gefragt].caption;
   return NachAkkorden() ? symbol + ", " + akk_lfdnr[antwort.slot].caption : symbol;
 }
 

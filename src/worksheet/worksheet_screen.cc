@@ -62,6 +62,7 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
       selection_(parts.settings, parts.board, parts.random),
       playback_(shell.loop, parts.midi, shell.state, parts.settings, parts.board),
       judging_(parts.settings, parts.board, parts.counters.auswertung_obj, parts.random),
+      antwortfeld_(parts.settings, parts.board, klang_pan, jz_kl, akk_group),
       warten_(*this, shell.texts, WaitMeld, 726, &WaitMeldung) {
   StelleInRahmen();
   Verdrahte();
@@ -269,6 +270,7 @@ void Arbeitsblatt1::BaueAntwortfeld() {
   } else {
     BaueGruppen();
   }
+  antwortfeld_.Sperre();
 }
 
 void Arbeitsblatt1::BaueKacheln() {
@@ -284,7 +286,6 @@ void Arbeitsblatt1::BaueKacheln() {
     klang_pan[e].top = zeile * raster.zeilenschritt + kSymbolHoehe;
     klang_pan[e].height = raster.kachelhoehe;
     Akkbez[e].top = zeile * raster.zeilenschritt;
-    Schliesse(e);
 
     const int n = parts_.board.KlangNummer(e);
     jz_kl[e].image = settings.akk_anzeige == 0 ? store.jakk(n) : store.jbez(n);
@@ -315,7 +316,6 @@ void Arbeitsblatt1::BenenneKacheln() {
 
 void Arbeitsblatt1::BaueGruppen() {
   for (int g = 1; g <= kGruppen; ++g) {
-    akk_group[g].enabled = false;
     akk_group[g].visible = parts_.board.grp_aktiv_ar[g] == 1;
     // A continued training has always shown the form's own names, and keeps to it.
     if (akk_group[g].visible && !IstFortsetzung()) {

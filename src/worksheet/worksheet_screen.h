@@ -22,6 +22,7 @@
 #include "sound/chord_playback.h"
 #include "sound/mod_midi.h"
 #include "sound/wait_sign.h"
+#include "worksheet/answer_field.h"
 #include "worksheet/judging.h"
 #include "worksheet/run_state.h"
 #include "worksheet/task_selection.h"
@@ -194,7 +195,6 @@ class Arbeitsblatt1 : public Form {
   void SpieleNach(KlangVerlust bei);
 
   // answers.cc
-  void AntwortenFreigeben();
   void ZeigeAntwort(const AnswerGiven& antwort);
   void ZeigeRichtig(const AnswerGiven& antwort);
   void ZeigeFalsch(const AnswerGiven& antwort);
@@ -203,15 +203,6 @@ class Arbeitsblatt1 : public Form {
   /// Has a reader of the screen call a slot by how it stands: the words of `wie`, whose first
   /// detail is the slot.
   void BenenneSlot(int slot, Notice wie);
-  /// What a reader of the screen calls a tile or group.
-  std::string Name(int choice) const;
-  void Markiere(int choice, AnswerMark::Kind kind, int slot);
-  void LoescheMarken();
-  void Streiche(int clicked);
-  void OeffneAlle();
-  void SperreAntworten();
-  void Oeffne(int kachel);
-  void Schliesse(int kachel);
 
   // spoken.cc
   /// What a student who does not see the screen is told of a click.
@@ -258,10 +249,6 @@ class Arbeitsblatt1 : public Form {
   bool IstFortsetzung() const { return parts_.settings.uebmodus == kModusFortsetzung; }
   bool IstTest() const { return parts_.settings.IstTest(); }
   bool NachAkkorden() const { return parts_.settings.best_art == 0; }
-  /// A tile or a group button, by what is named in this run.
-  Pressable& Wahl(int i) const {
-    return NachAkkorden() ? static_cast<Pressable&>(jz_kl[i]) : akk_group[i];
-  }
 
   Shell& shell_;
   Parts parts_;
@@ -270,6 +257,7 @@ class Arbeitsblatt1 : public Form {
   ChordPlayback playback_;
   Judging judging_;
   StoredTraining fortsetzung_;  ///< what a continued training was stored as
+  AnswerField antwortfeld_;
   WaitSign warten_;
   Frage frage_ = Frage::kKeine;
   std::unique_ptr<MidiEvent> midi_ereignis;
