@@ -4,6 +4,7 @@
 #include "settings/time_limit.h"
 
 #include "base/numbers.h"
+#include "ports/event_loop.h"
 
 namespace vmod17 {
 namespace {
@@ -41,6 +42,25 @@ TestRest BemissTest(const TestVorgabe& vorgabe) {
   }
   test.rest_aufgaben = test.test_aufgaben;
   return test;
+}
+
+void TestRest::HalteAn(float uhr) {
+  if (!halt_seit) halt_seit = uhr;
+}
+
+void TestRest::SetzeFort(float uhr) {
+  if (!halt_seit) return;
+  gutschrift += ClockDifference(*halt_seit, uhr);
+  halt_seit.reset();
+}
+
+bool TestRest::Zaehle(int sekunden) {
+  if (halt_seit || gutschrift > 0) {
+    gutschrift -= static_cast<float>(sekunden);
+    return false;
+  }
+  rest_sek -= sekunden;
+  return true;
 }
 
 }  // namespace vmod17

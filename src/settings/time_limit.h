@@ -18,6 +18,14 @@ struct TestRest {
 
   std::optional<float> halt_seit{};  ///< clock since which the time stands, for want of sound
   float gutschrift = 0;              ///< seconds that it is still to stand for what was lost so
+
+  /// The time stands since `uhr`, as from `EventLoop::Clock`; if it does already, since then.
+  void HalteAn(float uhr);
+  /// The time goes on at `uhr`, and what it has stood is given back.
+  void SetzeFort(float uhr);
+  /// A beat of `sekunden` has passed. Returns whether it counts: none does while the time stands,
+  /// and as many as were lost do not afterwards, a broken one in the student's favour.
+  bool Zaehle(int sekunden);
 };
 
 /// What the length of a test depends on.

@@ -30,13 +30,13 @@ void Arbeitsblatt1::VerliereKlang(KlangVerlust bei) {
   // What has to be done once more costs no time of a test.
   switch (bei) {
     case KlangVerlust::kSpiel:
-      HalteTestzeitAn(run_.spiel_start);
+      run_.test.HalteAn(run_.spiel_start);
       break;
     case KlangVerlust::kAntwort:
-      HalteTestzeitAn(run_.clock.antw_start);
+      run_.test.HalteAn(run_.clock.antw_start);
       break;
     case KlangVerlust::kAngebot:
-      HalteTestzeitAn(shell_.loop.Clock());
+      run_.test.HalteAn(shell_.loop.Clock());
       break;
   }
   spieltimer.Disable();
@@ -58,7 +58,7 @@ void Arbeitsblatt1::VerliereSpiel() {
   run_.stockte = false;
   run_.verlust.reset();
   listening = false;
-  HalteTestzeitAn(run_.spiel_start);
+  run_.test.HalteAn(run_.spiel_start);
   MeldeStumm();
   if (run_.abbruch) return;
   if (run_.spiel_art == SpielArt::kKontrolle) return BeendeSpiel();
@@ -88,7 +88,7 @@ void Arbeitsblatt1::NimmWiederAuf() {
   if (run_.verlust != KlangVerlust::kAngebot) return SpieleNach(*run_.verlust);
   run_.verlust.reset();
   warten_.Beende();
-  SetzeTestzeitFort();
+  run_.test.SetzeFort(shell_.loop.Clock());
   BieteWiederAn();
   // Seen at once, and heard by nobody: nothing else tells that there is sound again.
   Say(parts_.settings.abfolge == 1 ? LbNextAufg.caption : CmdNextAufg.caption);
@@ -102,7 +102,7 @@ void Arbeitsblatt1::SpieleNach(KlangVerlust bei) {
   switch (BeginneSpiel([] {})) {
     case Spielstand::kKlingt:
       // It is heard for the first time, or once more than the time of a test reckons with.
-      if (bei == KlangVerlust::kSpiel) SetzeTestzeitFort();
+      if (bei == KlangVerlust::kSpiel) run_.test.SetzeFort(shell_.loop.Clock());
       return;
     case Spielstand::kStumm:
       return SucheKlang(bei);

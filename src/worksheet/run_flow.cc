@@ -167,16 +167,16 @@ bool Arbeitsblatt1::Spiele(SpielArt art) {
   run_.spiel_art = art;
   const float seit = shell_.loop.Clock();
   const Spielstand beginn = BeginneSpiel([&] {
-    HalteTestzeitAn(seit);
+    run_.test.HalteAn(seit);
     warten_.ZeigeWarten();
   });
   if (beginn == Spielstand::kStumm) {
     warten_.Beende();
-    HalteTestzeitAn(seit);
+    run_.test.HalteAn(seit);
     if (!KlangIstVerloren()) MeldeStumm();
     return run_.abbruch;
   }
-  if (beginn == Spielstand::kKlingt) SetzeTestzeitFort();
+  if (beginn == Spielstand::kKlingt) run_.test.SetzeFort(shell_.loop.Clock());
   return true;
 }
 
@@ -222,7 +222,7 @@ void Arbeitsblatt1::BeendeSpiel() {
   if (KlangIstVerloren()) {
     return VerliereKlang(kontrolle ? KlangVerlust::kAngebot : KlangVerlust::kAntwort);
   }
-  SetzeTestzeitFort();
+  run_.test.SetzeFort(shell_.loop.Clock());
   if (kontrolle) return BieteWiederAn();
   run_.phase = Phase::kAntwort;
   antwortfeld_.AntwortenFreigeben(run_.aus_ar);

@@ -36,25 +36,8 @@ void Arbeitsblatt1::BeendeTest() {
   MeldeEnde();
 }
 
-void Arbeitsblatt1::HalteTestzeitAn(float seit) {
-  if (!run_.test.halt_seit) run_.test.halt_seit = seit;
-}
-
-void Arbeitsblatt1::SetzeTestzeitFort() {
-  TestRest& test = run_.test;
-  if (!test.halt_seit) return;
-  test.gutschrift += ClockDifference(*test.halt_seit, shell_.loop.Clock());
-  test.halt_seit.reset();
-}
-
 void Arbeitsblatt1::ZaehleTestzeit() {
-  TestRest& test = run_.test;
-  // Time that was lost is given back in whole beats, the broken one in the student's favour.
-  if (test.halt_seit || test.gutschrift > 0) {
-    test.gutschrift -= kSekundenJeTakt;
-    return;
-  }
-  test.rest_sek -= kSekundenJeTakt;
+  if (!run_.test.Zaehle(kSekundenJeTakt)) return;
   ZeigeRestzeit();
   if (run_.test.rest_sek <= 0) BeendeTestNachZeit();
 }

@@ -237,9 +237,6 @@ class Arbeitsblatt1 : public Form {
   void ZeigeRestaufgaben();
   void BeendeTest();
   void ZaehleTestzeit();
-  /// The time of a test stands while nothing can be heard; `seit` by the clock.
-  void HalteTestzeitAn(float seit);
-  void SetzeTestzeitFort();
   void ZeigeRestzeit();
   void BeendeTestNachZeit();
   bool TestLaeuft() const;

@@ -97,5 +97,51 @@ TEST(TestLength, IsEvenAndAMultipleOfTenSecondsForEveryTest) {
   }
 }
 
+TestRest Left(int rest_sek) {
+  TestRest test;
+  test.rest_sek = rest_sek;
+  return test;
+}
+
+TEST(TestTime, GoesDownWithEachBeat) {
+  TestRest test = Left(30);
+  EXPECT_TRUE(test.Zaehle(10));
+  EXPECT_TRUE(test.Zaehle(10));
+  EXPECT_EQ(test.rest_sek, 10);
+}
+
+TEST(TestTime, StandsFromTheFirstWordOnUntilItGoesOn) {
+  TestRest test = Left(30);
+  test.HalteAn(100);
+  test.HalteAn(140);
+  for (int beat = 0; beat < 5; ++beat) EXPECT_FALSE(test.Zaehle(10));
+  test.SetzeFort(150);
+  EXPECT_EQ(test.rest_sek, 30);
+  EXPECT_TRUE(test.Zaehle(10)) << "the five beats made up for the fifty seconds";
+}
+
+TEST(TestTime, MakesUpForWhatWasLostBetweenTwoBeatsInTheStudentsFavour) {
+  TestRest test = Left(30);
+  test.HalteAn(101);
+  test.SetzeFort(113);
+  EXPECT_FALSE(test.Zaehle(10));
+  EXPECT_FALSE(test.Zaehle(10)) << "twelve seconds are a whole beat and a broken one";
+  EXPECT_TRUE(test.Zaehle(10));
+  EXPECT_EQ(test.rest_sek, 20);
+}
+
+TEST(TestTime, IsLostOverMidnightToo) {
+  TestRest test = Left(30);
+  test.HalteAn(86395);
+  test.SetzeFort(5);
+  EXPECT_EQ(test.gutschrift, 10);
+}
+
+TEST(TestTime, LosesNothingWhereItDidNotStand) {
+  TestRest test = Left(30);
+  test.SetzeFort(500);
+  EXPECT_EQ(test.gutschrift, 0);
+}
+
 }  // namespace
 }  // namespace vmod17
