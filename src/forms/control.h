@@ -15,6 +15,21 @@ namespace vmod17 {
 /// What all controls share. Controls are members of their form and never move.
 class Control {
  public:
+  /// What a view has to know to show it. A new kind wants its widget in each view.
+  enum class Kind {
+    kLabel,
+    kButton,
+    kPanel,
+    kPicture,
+    kFrame,
+    kOption,
+    kItemList,
+    kSlider,
+    kGauge,
+    kPopupMenu,
+    kUnseen  ///< works by itself and is never shown
+  };
+
   static constexpr int kNoIndex = -1;
 
   Control(Form& form, std::string name, int index = kNoIndex)
@@ -25,6 +40,7 @@ class Control {
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
+  virtual Kind kind() const = 0;
   Form& form() const { return form_; }
   const std::string& name() const { return name_; }
   /// The place in the control array, or kNoIndex.
@@ -69,12 +85,14 @@ class Control {
 class Label : public Control {
  public:
   using Control::Control;
+  Kind kind() const override { return Kind::kLabel; }
 };
 
 /// Shows a share in whole per cent.
 class Gauge : public Control {
  public:
   using Control::Control;
+  Kind kind() const override { return Kind::kGauge; }
   int percent = 0;
 };
 

@@ -13,6 +13,7 @@ namespace vmod17 {
 class Frame : public Control {
  public:
   using Control::Control;
+  Kind kind() const override { return Kind::kFrame; }
   std::function<void()> MenuAsked;
 
   /// The user asks for the frame's menu, by the right mouse button or the menu key. A frame that is
@@ -28,6 +29,7 @@ class Frame : public Control {
 class PopupMenu : public Control {
  public:
   using Control::Control;
+  Kind kind() const override { return Kind::kPopupMenu; }
   std::function<void()> Click;
   bool checked = false;
   Control* open_at = nullptr;  ///< where it is open; null while it is closed

@@ -29,6 +29,7 @@ class ItemList : public Control {
 
   ItemList(Form& form, std::string name, int index = kNoIndex, Shape shape = Shape::kDropDown)
       : Control(form, std::move(name), index), shape_(shape) {}
+  Kind kind() const override { return Kind::kItemList; }
 
   std::function<void()> Click;
 

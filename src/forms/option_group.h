@@ -20,6 +20,7 @@ class Option : public Control {
  public:
   Option(Form& form, const std::string& name, int index, OptionGroup& group)
       : Control(form, name, index), group_(group) {}
+  Kind kind() const override { return Kind::kOption; }
 
   /// The group through which it is checked.
   OptionGroup& group() const { return group_; }

@@ -46,12 +46,14 @@ class Pressable : public Control {
 class Button : public Pressable {
  public:
   using Pressable::Pressable;
+  Kind kind() const override { return Kind::kButton; }
 };
 
 /// A raised area with a caption; with a handler it works as a button.
 class Panel : public Pressable {
  public:
   using Pressable::Pressable;
+  Kind kind() const override { return Kind::kPanel; }
 };
 
 /// A sign that the view draws, in the colour of its texts.
@@ -61,6 +63,7 @@ enum class Sign { kNone, kRisingBars, kStopWatch };
 class Picture : public Pressable {
  public:
   using Pressable::Pressable;
+  Kind kind() const override { return Kind::kPicture; }
   PictureId image;
   Sign sign = Sign::kNone;
 };

@@ -16,6 +16,7 @@ class Slider : public Control {
  public:
   Slider(Form& form, std::string name, int low, int high)
       : Control(form, std::move(name)), low_(low), high_(high), value_(low) {}
+  Kind kind() const override { return Kind::kSlider; }
 
   std::function<void()> Change;
 

@@ -23,6 +23,7 @@ class Timer : public Control {
     enabled = false;
   }
   ~Timer() override { Disable(); }
+  Kind kind() const override { return Kind::kUnseen; }
 
   std::function<void()> Fire;
   int interval;  ///< milliseconds; a change counts from the next `Enable`

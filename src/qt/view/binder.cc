@@ -8,7 +8,6 @@
 #include <algorithm>
 
 #include "forms/caption.h"
-#include "ports/timer.h"
 #include "qt/kit/drop_down_widget.h"
 #include "qt/kit/gauge_widget.h"
 #include "qt/kit/list_widget.h"
@@ -30,11 +29,10 @@ QString AsToolTip(const QString& text) {
 
 class PressBinding : public Binding {
  public:
-  PressBinding(Pressable& control, PressWidget& widget, const BindingSite& site)
-      : Binding(control, widget, widget),
-        control_(control),
-        press_(widget),
-        picture_(dynamic_cast<Picture*>(&control)) {
+  /// `picture` is the control itself if it is one, else null.
+  PressBinding(Pressable& control, const Picture* picture, PressWidget& widget,
+               const BindingSite& site)
+      : Binding(control, widget, widget), control_(control), press_(widget), picture_(picture) {
     widget.move_focus = [&control, move = site.move_focus](int key) { return move(control, key); };
     QObject::connect(
         &widget, &QAbstractButton::clicked, &widget,
@@ -57,7 +55,7 @@ class PressBinding : public Binding {
  private:
   const Pressable& control_;
   PressWidget& press_;
-  Picture* picture_;
+  const Picture* picture_;
   PictureId image_;
   Sign sign_ = Sign::kNone;
   int number_ = 0;
@@ -66,10 +64,9 @@ class PressBinding : public Binding {
 
 class TextBinding : public Binding {
  public:
-  TextBinding(Control& control, TextWidget& widget)
-      : Binding(control, widget, widget),
-        text_(widget),
-        picture_(dynamic_cast<Picture*>(&control)) {}
+  /// `picture` is the control itself if it is one, else null.
+  TextBinding(Control& control, const Picture* picture, TextWidget& widget)
+      : Binding(control, widget, widget), text_(widget), picture_(picture) {}
 
  protected:
   void RefreshKind() override {
@@ -84,7 +81,7 @@ class TextBinding : public Binding {
 
  private:
   TextWidget& text_;
-  Picture* picture_;
+  const Picture* picture_;
   PictureId image_;
   Sign sign_ = Sign::kNone;
 };
@@ -264,21 +261,14 @@ class GaugeBinding : public Binding {
 
 class PlateBinding : public Binding {
  public:
-  PlateBinding(Control& control, PlateWidget& widget, const BindingSite& site)
+  /// `frame` is the control itself if it is one, else null.
+  PlateBinding(Control& control, Frame* frame, PlateWidget& widget, const BindingSite& site)
       : Binding(control, widget, widget) {
     widget.move_focus = [&control, move = site.move_focus](int key) { return move(control, key); };
-    auto* const frame = dynamic_cast<Frame*>(&control);
     if (frame == nullptr || !frame->MenuAsked) return;
     widget.ask_menu = [frame, ask = site.ask_menu] { ask(*frame); };
   }
 };
-
-/// A panel or picture without a handler only shows; it is no button then.
-bool IsButton(const Control& control) {
-  if (dynamic_cast<const Button*>(&control) != nullptr) return true;
-  const auto* pressable = dynamic_cast<const Pressable*>(&control);
-  return pressable != nullptr && pressable->Click != nullptr;
-}
 
 /// Whether the screen it belongs to shows it.
 bool IsShown(const Control& control) {
@@ -288,22 +278,16 @@ bool IsShown(const Control& control) {
   return true;
 }
 
-bool IsPlate(const Control& control, Dress dress) {
-  if (dynamic_cast<const Frame*>(&control) != nullptr) return true;
-  return dynamic_cast<const Panel*>(&control) != nullptr && dress != Dress::kMark;
-}
-
-std::unique_ptr<Binding> BindSimple(Control& control, const Placement& place,
-                                    const BindingSite& site, QWidget* parent) {
-  if (IsButton(control)) {
-    return std::make_unique<PressBinding>(dynamic_cast<Pressable&>(control),
-                                          *new PressWidget(parent, site.style, place), site);
+std::unique_ptr<Binding> BindList(ItemList& list, const Placement& place, const BindingSite& site,
+                                  QWidget* parent) {
+  switch (list.shape()) {
+    case ItemList::Shape::kDropDown:
+      return std::make_unique<DropDownBinding>(list, *new DropDownWidget(parent, site.style, place),
+                                               site);
+    case ItemList::Shape::kBox:
+      return std::make_unique<ListBinding>(list, *new ListWidget(parent, site.style, place), site);
   }
-  if (IsPlate(control, place.dress)) {
-    return std::make_unique<PlateBinding>(control, *new PlateWidget(parent, site.style, place),
-                                          site);
-  }
-  return std::make_unique<TextBinding>(control, *new TextWidget(parent, site.style, place));
+  return nullptr;
 }
 
 }  // namespace
@@ -387,26 +371,53 @@ bool Binding::RefreshPlace() {
 
 std::unique_ptr<Binding> Bind(Control& control, const Placement& place, const BindingSite& site,
                               QWidget* parent) {
-  if (dynamic_cast<Timer*>(&control) != nullptr) return nullptr;
-  if (auto* option = dynamic_cast<Option*>(&control)) {
-    return std::make_unique<OptionBinding>(*option, *new OptionWidget(parent, site.style, place),
-                                           site);
-  }
-  if (auto* list = dynamic_cast<ItemList*>(&control)) {
-    if (list->shape() == ItemList::Shape::kDropDown) {
-      return std::make_unique<DropDownBinding>(
-          *list, *new DropDownWidget(parent, site.style, place), site);
+  const auto press = [&](Pressable& pressable, const Picture* picture = nullptr) {
+    return std::make_unique<PressBinding>(pressable, picture,
+                                          *new PressWidget(parent, site.style, place), site);
+  };
+  const auto plate = [&](Frame* frame = nullptr) {
+    return std::make_unique<PlateBinding>(control, frame,
+                                          *new PlateWidget(parent, site.style, place), site);
+  };
+  const auto text = [&](const Picture* picture = nullptr) {
+    return std::make_unique<TextBinding>(control, picture,
+                                         *new TextWidget(parent, site.style, place));
+  };
+  switch (control.kind()) {
+    case Control::Kind::kLabel:
+      return text();
+    case Control::Kind::kButton:
+      return press(static_cast<Button&>(control));
+    // A panel or picture without a handler only shows; it is no button then.
+    case Control::Kind::kPanel: {
+      auto& panel = static_cast<Panel&>(control);
+      if (panel.Click) return press(panel);
+      if (place.dress == Dress::kMark) return text();
+      return plate();
     }
-    return std::make_unique<ListBinding>(*list, *new ListWidget(parent, site.style, place), site);
+    case Control::Kind::kPicture: {
+      auto& picture = static_cast<Picture&>(control);
+      if (picture.Click) return press(picture, &picture);
+      return text(&picture);
+    }
+    case Control::Kind::kFrame:
+      return plate(static_cast<Frame*>(&control));
+    case Control::Kind::kOption:
+      return std::make_unique<OptionBinding>(static_cast<Option&>(control),
+                                             *new OptionWidget(parent, site.style, place), site);
+    case Control::Kind::kItemList:
+      return BindList(static_cast<ItemList&>(control), place, site, parent);
+    case Control::Kind::kSlider:
+      return std::make_unique<SliderBinding>(static_cast<Slider&>(control),
+                                             *new SliderWidget(parent, site.style, place), site);
+    case Control::Kind::kGauge:
+      return std::make_unique<GaugeBinding>(static_cast<Gauge&>(control),
+                                            *new GaugeWidget(parent, site.style, place));
+    case Control::Kind::kPopupMenu:  // the page's own
+    case Control::Kind::kUnseen:
+      return nullptr;
   }
-  if (auto* slider = dynamic_cast<Slider*>(&control)) {
-    return std::make_unique<SliderBinding>(*slider, *new SliderWidget(parent, site.style, place),
-                                           site);
-  }
-  if (auto* gauge = dynamic_cast<Gauge*>(&control)) {
-    return std::make_unique<GaugeBinding>(*gauge, *new GaugeWidget(parent, site.style, place));
-  }
-  return BindSimple(control, place, site, parent);
+  return nullptr;
 }
 
 }  // namespace vmod17
