@@ -11,6 +11,7 @@ vmod17_test(
           shell/delay_test.cc
           shell/error_report_test.cc
           shell/first_screen_test.cc
+          shell/first_screen_layout_test.cc
           shell/loaded_screens_test.cc
           shell/message_form_test.cc
           shell/mod_server_test.cc
@@ -30,6 +31,7 @@ vmod17_test(
           sound/wait_sign_test.cc
           exercise/settings_record_test.cc
           settings/restoring_test.cc
+          settings/settings_layout_test.cc
           settings/settings_levels_test.cc
           settings/settings_outlook_test.cc
           settings/settings_screen_test.cc
@@ -42,6 +44,7 @@ vmod17_test(
           settings/sound_check_test.cc
           settings/time_limit_test.cc
           forms/caption_test.cc
+          forms/layout_test.cc
           store/memory_host_test.cc
           xml/memory_xml_document_test.cc
   LIBRARIES vmod17_program test_support rapidcheck)
@@ -61,6 +64,7 @@ target_sources(
           exercise/stored_training_test.cc
           exercise/training_weights_test.cc
           results/percentages_test.cc
+          results/results_layout_test.cc
           results/results_print_test.cc
           results/results_screen_test.cc
           exercise/lesson_record_test.cc
@@ -77,6 +81,7 @@ target_sources(
           worksheet/timed_flow_test.cc
           worksheet/training_flow_test.cc
           worksheet/waiting_flow_test.cc
+          worksheet/worksheet_layout_test.cc
           worksheet/worksheet_screen_test.cc)
 target_compile_definitions(
   core_tests PRIVATE VMOD17_GOLDEN_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}/golden")

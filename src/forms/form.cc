@@ -4,8 +4,11 @@
 #include "forms/form.h"
 
 #include "forms/control.h"
+#include "forms/layout.h"
 
 namespace vmod17 {
+
+Layout Form::LayOut(Size, const TextMeasure&) const { return {}; }
 
 void Form::Unload() {
   if (!loaded_) return;

@@ -13,6 +13,9 @@
 namespace vmod17 {
 
 class Control;
+class TextMeasure;
+struct Layout;
+struct Size;
 
 /// A screen: its controls in the order of their making, and what concerns the window as a whole.
 /// Units of places and sizes are the pixels of a screen of 1024 by 768; a view may enlarge them.
@@ -36,6 +39,10 @@ class Form {
   virtual void Form_Resize() { window_state = WindowState::kMaximised; }
   virtual void Form_Unload() {}
   virtual void Form_Close() = 0;
+
+  /// Where its controls stand on a page of this size, as they are now. One without a place is not
+  /// shown.
+  virtual Layout LayOut(Size page, const TextMeasure& measure) const;
 
   /// Has the user told in words what else only the eye would see: what a click was worth, what has
   /// moved where. It is spoken where a reader of the screen runs, behind what the same event has

@@ -77,6 +77,7 @@ class Testergebnis : public Form {
   void Form_Close() override {
     if (!schonfrist.enabled) cmdOK_Click(1);
   }
+  Layout LayOut(Size page, const TextMeasure& measure) const override;
 
   void start_Timer();
   void testtimer_Timer();

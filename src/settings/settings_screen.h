@@ -91,6 +91,7 @@ class Einstellung1 : public Form {
   void Form_Load() override;
   void Form_Unload() override;
   void Form_Close() override { cmdZurueck_Click(); }
+  Layout LayOut(Size page, const TextMeasure& measure) const override;
 
   void start_Timer();
   void cmdOK_Click();

@@ -26,6 +26,7 @@ class GrdEinst : public Form {
 
   void Form_Load() override;
   void Form_Close() override { cmdEnde_Click(); }
+  Layout LayOut(Size page, const TextMeasure& measure) const override;
 
   void start_Timer();
   void ueb_typ_Click(int index);

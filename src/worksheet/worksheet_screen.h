@@ -98,6 +98,7 @@ class Arbeitsblatt1 : public Form {
   void Form_Load() override;
   void Form_Unload() override;
   void Form_Close() override;
+  Layout LayOut(Size page, const TextMeasure& measure) const override;
 
   void start_Timer();
   void spieltimer_Timer();

@@ -25,6 +25,7 @@
 namespace melvado {
 namespace {
 
+using vmod17::Align;
 using vmod17::Dress;
 using vmod17::Dressed;
 using vmod17::DropDownWidget;
@@ -39,6 +40,7 @@ using vmod17::Notice;
 using vmod17::Placement;
 using vmod17::PressWidget;
 using vmod17::QtEventLoop;
+using vmod17::Rect;
 using vmod17::StoreUser;
 using vmod17::TextWidget;
 
@@ -51,19 +53,19 @@ constexpr double kColumn = (kWidth - kGap) / 2;
 constexpr double kRight = kLeft + kColumn + kGap;
 constexpr double kPadding = 24;
 constexpr double kField = kColumn - 2 * kPadding;
-const QRectF kBanner(kLeft, 14, kWidth, 112);
-const QRectF kUserCard(kLeft, 142, kColumn, 272);
-const QRectF kSoundCard(kRight, 142, kColumn, 272);
-const QRectF kVerdictCard(kLeft, 428, kWidth, 108);
-const QRectF kStart(kLeft, 552, kWidth, 78);
+constexpr Rect kBanner{kLeft, 14, kWidth, 112};
+constexpr Rect kUserCard{kLeft, 142, kColumn, 272};
+constexpr Rect kSoundCard{kRight, 142, kColumn, 272};
+constexpr Rect kVerdictCard{kLeft, 428, kWidth, 108};
+constexpr Rect kStart{kLeft, 552, kWidth, 78};
 constexpr double kFooter = 646;
 constexpr double kSmallest = 0.85;  // pixels of a unit in the smallest window
 constexpr double kWidestEntry = 560;
 
 constexpr int kPollMs = 1500;
 
-Placement ButtonPlace(const QRectF& rect, double text = 15) {
-  return {.rect = rect, .text = text, .align = Qt::AlignCenter};
+Placement ButtonPlace(const Rect& rect, double text = 15) {
+  return {.rect = rect, .text = text, .align = Align::kCenter};
 }
 
 /// The toolkit tells of each name that is set, also of the one that it has.
@@ -98,13 +100,10 @@ HomeWindow::HomeWindow(Host& host, QtEventLoop& loop, MessageBox& messages, File
       "subtitle", {.rect = {kLeft + 36, 76, 560, 30}, .dress = Dress::kOnBanner, .text = 17});
   BuildUsers();
   BuildSound();
-  start_ = MakeButton("start",
-                      {.rect = kStart,
-                       .dress = Dress::kPrimary,
-                       .text = 26,
-                       .align = Qt::AlignCenter,
-                       .bold = true},
-                      [this] { Start(); });
+  start_ = MakeButton(
+      "start",
+      {.rect = kStart, .dress = Dress::kPrimary, .text = 26, .align = Align::kCenter, .bold = true},
+      [this] { Start(); });
   BuildFooter();
   OrderTabs();
   Connect();
@@ -136,7 +135,7 @@ PressWidget* HomeWindow::MakeButton(const char* name, const Placement& place,
   return button;
 }
 
-DropDownWidget* HomeWindow::MakeList(const char* name, const QRectF& rect,
+DropDownWidget* HomeWindow::MakeList(const char* name, const Rect& rect,
                                      std::function<void(int)> choose) {
   auto* const list = Make<DropDownWidget>(name, {.rect = rect, .text = 16});
   connect(list, &QComboBox::currentIndexChanged, this,
@@ -146,13 +145,13 @@ DropDownWidget* HomeWindow::MakeList(const char* name, const QRectF& rect,
   return list;
 }
 
-TextWidget* HomeWindow::MakeHeading(const char* name, const QRectF& rect) {
+TextWidget* HomeWindow::MakeHeading(const char* name, const Rect& rect) {
   return Make<TextWidget>(name, {.rect = rect, .dress = Dress::kHeading, .text = 17, .bold = true});
 }
 
 void HomeWindow::BuildUsers() {
-  const double x = kUserCard.left() + kPadding;
-  const double y = kUserCard.top() + 16;
+  const double x = kUserCard.left + kPadding;
+  const double y = kUserCard.top + 16;
   user_heading_ = MakeHeading("user_heading", {x, y, kField, 28});
   user_ = MakeList("user", {x, y + 34, kField, 40}, [this](int index) {
     host_.ChooseUser(index == 0 ? "" : users_[static_cast<std::size_t>(index - 1)].id);
@@ -171,8 +170,8 @@ void HomeWindow::BuildUsers() {
 }
 
 void HomeWindow::BuildSound() {
-  const double x = kSoundCard.left() + kPadding;
-  const double y = kSoundCard.top() + 16;
+  const double x = kSoundCard.left + kPadding;
+  const double y = kSoundCard.top + 16;
   const double half = (kField - 10) / 2;
   output_heading_ = MakeHeading("output_heading", {x, y, kField, 28});
   output_ = MakeList("output", {x, y + 34, kField, 40}, [this](int index) {
@@ -189,7 +188,7 @@ void HomeWindow::BuildSound() {
   soundfont_note_ = Make<TextWidget>(
       "soundfont_note", {.rect = {x, y + 218, kField, 30}, .dress = Dress::kQuiet, .text = 13});
   verdict_ = Make<TextWidget>(
-      "verdict", {.rect = kVerdictCard.adjusted(kPadding, 8, -kPadding, -10), .text = 16});
+      "verdict", {.rect = kVerdictCard.Adjusted(kPadding, 8, -kPadding, -10), .text = 16});
 }
 
 void HomeWindow::BuildFooter() {
@@ -197,7 +196,7 @@ void HomeWindow::BuildFooter() {
     return Placement{.rect = {x, kFooter, width, 40},
                      .dress = Dress::kQuiet,
                      .text = 15,
-                     .align = Qt::AlignCenter};
+                     .align = Align::kCenter};
   };
   help_ = MakeButton("help", quiet(kLeft, 150), [this] {
     if (on_help) on_help("melvado");
@@ -210,7 +209,7 @@ void HomeWindow::BuildFooter() {
   version_ = Make<TextWidget>("version", {.rect = {kLeft + 576, kFooter + 4, 142, 32},
                                           .dress = Dress::kQuiet,
                                           .text = 13,
-                                          .align = Qt::AlignCenter});
+                                          .align = Align::kCenter});
   version_->SetCaption(
       QString("Melvado %1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
 }
@@ -617,9 +616,10 @@ QRectF HomeWindow::Canvas() const {
           size.height()};
 }
 
-QRectF HomeWindow::Pixels(const QRectF& units) const {
+QRectF HomeWindow::Pixels(const Rect& units) const {
   const double f = style_.factor;
-  return QRectF(units.topLeft() * f + Canvas().topLeft(), units.size() * f);
+  const QRectF place = look::ToQ(units);
+  return QRectF(place.topLeft() * f + Canvas().topLeft(), place.size() * f);
 }
 
 void HomeWindow::Arrange() {
@@ -645,7 +645,7 @@ void HomeWindow::paintEvent(QPaintEvent*) {
   QPainterPath path;
   path.addRoundedRect(banner, radius, radius);
   look::DrawBanner(painter, banner, path);
-  const auto card = [&](const QRectF& units, const QColor& fill) {
+  const auto card = [&](const Rect& units, const QColor& fill) {
     look::DrawCard(painter, Pixels(units), colors, fill, style_.factor);
   };
   card(kUserCard, colors.card);

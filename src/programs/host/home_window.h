@@ -69,16 +69,16 @@ class HomeWindow : public QWidget {
   struct Part {
     QWidget* widget;
     vmod17::Dressed* dress;
-    QRectF rect;
+    vmod17::Rect rect;
   };
 
   template <typename Widget>
   Widget* Make(const char* name, const vmod17::Placement& place);
   vmod17::PressWidget* MakeButton(const char* name, const vmod17::Placement& place,
                                   std::function<void()> act);
-  vmod17::DropDownWidget* MakeList(const char* name, const QRectF& rect,
+  vmod17::DropDownWidget* MakeList(const char* name, const vmod17::Rect& rect,
                                    std::function<void(int)> choose);
-  vmod17::TextWidget* MakeHeading(const char* name, const QRectF& rect);
+  vmod17::TextWidget* MakeHeading(const char* name, const vmod17::Rect& rect);
   void BuildUsers();
   void BuildSound();
   void BuildFooter();
@@ -86,7 +86,7 @@ class HomeWindow : public QWidget {
   void Connect();
 
   void Arrange();
-  QRectF Pixels(const QRectF& units) const;
+  QRectF Pixels(const vmod17::Rect& units) const;
   QRectF Canvas() const;
 
   void Refresh();

@@ -8,10 +8,10 @@
 #include <QWidget>
 #include <optional>
 
-#include "forms/controls.h"
+#include "forms/color.h"
+#include "forms/layout.h"
 #include "qt/kit/look.h"
 #include "qt/kit/picture_source.h"
-#include "qt/view/layout.h"
 
 // The widgets that the controls are shown with. They paint themselves; what a reader of the screen
 // is told comes from the toolkit's classes that they derive from. None of them has signals or slots

@@ -150,7 +150,7 @@ HelpWindow::HelpWindow(std::vector<std::filesystem::path> folders)
     : folders_(std::move(folders)), browser_(new Browser(*this)) {
   setObjectName("help_window");
   const auto add = [this](Button button, const char* name, std::function<void()> act) {
-    const Placement place{.rect = {}, .dress = Dress::kQuiet, .text = 15, .align = Qt::AlignCenter};
+    const Placement place{.rect = {}, .dress = Dress::kQuiet, .text = 15, .align = Align::kCenter};
     buttons_[button] = new PressWidget(this, style_, place);
     buttons_[button]->setObjectName(name);
     connect(buttons_[button], &QAbstractButton::clicked, this, std::move(act));

@@ -133,6 +133,22 @@ QPalette ForToolkit(const Palette& colors) {
 
 QColor ToQ(const Color& color) { return QColor(color.red, color.green, color.blue); }
 
+QRectF ToQ(const Rect& rect) { return QRectF(rect.left, rect.top, rect.width, rect.height); }
+
+Qt::Alignment ToQ(Align align) {
+  switch (align) {
+    case Align::kLeft:
+      return Qt::AlignLeft | Qt::AlignVCenter;
+    case Align::kCenter:
+      return Qt::AlignCenter;
+    case Align::kRight:
+      return Qt::AlignRight | Qt::AlignVCenter;
+    case Align::kTopLeft:
+      return Qt::AlignLeft | Qt::AlignTop;
+  }
+  return {};
+}
+
 double Contrast(const QColor& one, const QColor& other) {
   const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
   return (light + 0.05) / (dark + 0.05);

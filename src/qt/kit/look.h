@@ -10,7 +10,9 @@
 #include <QString>
 #include <optional>
 
-#include "forms/controls.h"
+#include "forms/color.h"
+#include "forms/layout.h"
+#include "forms/text_measure.h"
 
 class QPainter;
 class QPainterPath;
@@ -74,6 +76,8 @@ inline constexpr double kRadius = 8;
 inline constexpr double kCardRadius = 12;
 
 QColor ToQ(const Color& color);
+QRectF ToQ(const Rect& rect);
+Qt::Alignment ToQ(Align align);
 /// How far two colours stand apart, from 1 to 21, as in WCAG 2. Text wants 4.5.
 double Contrast(const QColor& one, const QColor& other);
 bool IsReadable(const QColor& text, const QColor& ground);
@@ -82,7 +86,7 @@ QColor TextOn(const QColor& ground);
 /// A colour as it can be read on a ground: itself, or as much lighter or darker as it takes.
 QColor Readable(const QColor& color, const QColor& ground);
 
-enum class Weight { kNormal, kBold };
+using vmod17::Weight;
 
 /// The program's font at a size in pixels.
 QFont Type(double pixels, Weight weight);

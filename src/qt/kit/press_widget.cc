@@ -139,7 +139,7 @@ void PressWidget::PaintButton(QPainter& painter) {
   look::DrawPlate(painter, box, Ground(), Edge(), radius, Px(1.2));
   const QRectF inside = box.adjusted(Px(10), Px(3), -Px(10), -Px(3));
   if (sign_ == Sign::kNone) {
-    look::DrawText(painter, inside, caption(), Set(), Ink(), place_.align);
+    look::DrawText(painter, inside, caption(), Set(), Ink(), look::ToQ(place_.align));
   } else {
     DrawSign(painter, sign_, box, Ink());
   }

@@ -103,7 +103,7 @@ void TextWidget::PaintImage(QPainter& painter) {
   if (picture.isNull()) {
     DrawSign(painter, sign_, QRectF(rect()), colors().accent);
     if (place_.dress == Dress::kMark) painter.fillRect(rect(), Ground());
-    look::DrawText(painter, QRectF(rect()), caption(), Set(), Ink(), place_.align);
+    look::DrawText(painter, QRectF(rect()), caption(), Set(), Ink(), look::ToQ(place_.align));
     return;
   }
   const QSizeF size = picture.deviceIndependentSize();
@@ -131,7 +131,7 @@ void TextWidget::Paint(QPainter& painter) {
     look::DrawPlate(painter, box, colors().hover, colors().accent, Px(look::kRadius), Px(1.2));
     box.adjust(Px(4), 0, -Px(4), 0);
   }
-  look::DrawText(painter, box, caption(), Set(), Ink(), place_.align);
+  look::DrawText(painter, box, caption(), Set(), Ink(), look::ToQ(place_.align));
 }
 
 }  // namespace vmod17

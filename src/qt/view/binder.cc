@@ -90,7 +90,7 @@ class OptionBinding : public Binding {
  public:
   OptionBinding(Option& option, OptionWidget& widget, const BindingSite& site)
       : Binding(option, widget, widget), option_(option), radio_(widget) {
-    group_ = site.option_group(option.name());
+    group_ = site.option_group(option.group());
     group_->addButton(&widget);
     QObject::connect(&widget, &QAbstractButton::clicked, &widget,
                      [&option, deliver = site.deliver] {

@@ -27,8 +27,8 @@ struct BindingSite {
   std::function<bool(const Control& from, int key)> move_focus;
   /// Asks for the menu of a frame.
   std::function<void(Frame& frame)> ask_menu;
-  /// The group in which the options of one name exclude each other.
-  std::function<QButtonGroup*(const std::string& name)> option_group;
+  /// The toolkit's group for the options of one group, which exclude each other.
+  std::function<QButtonGroup*(const OptionGroup& group)> option_group;
 };
 
 /// Ties a control to its widget: a user's action reaches the control, and `Refresh` shows on the

@@ -21,11 +21,21 @@ namespace vmod17 {
 namespace {
 
 /// How far `to` lies above or below `from`, as the key says; infinite when it lies elsewhere.
-double Distance(const QPointF& from, const QPointF& to, int key) {
-  const QPointF way = to - from;
-  const double ahead = key == Qt::Key_Down ? way.y() : -way.y();
+double Distance(const Point& from, const Point& to, int key) {
+  const double ahead = key == Qt::Key_Down ? to.y - from.y : from.y - to.y;
   if (ahead < 1) return std::numeric_limits<double>::infinity();
-  return ahead + 3 * std::abs(way.x());
+  return ahead + 3 * std::abs(to.x - from.x);
+}
+
+/// The control as a frame; null if it is none.
+Frame* AsFrame(const Binding& binding) {
+  Control& control = binding.control();
+  return control.kind() == Control::Kind::kFrame ? static_cast<Frame*>(&control) : nullptr;
+}
+
+QKeySequence ToQ(const Key& key) {
+  const int sign = key.sign == Key::kEscape ? static_cast<int>(Qt::Key_Escape) : key.sign;
+  return QKeySequence(key.with == Key::With::kControl ? sign | Qt::CTRL : sign);
 }
 
 }  // namespace
@@ -43,8 +53,8 @@ Page::Page(Form& form, QtEventLoop& loop, PictureSource& pictures, QWidget* pare
   site_.deliver = [this](const EventLoop::Handler& handler) { Deliver(handler); };
   site_.move_focus = [this](const Control& from, int key) { return MoveFocus(from, key); };
   site_.ask_menu = [this](Frame& frame) { AskMenuOf(&frame, QPoint(-1, -1)); };
-  site_.option_group = [this](const std::string& name) {
-    QButtonGroup*& group = option_groups_[name];
+  site_.option_group = [this](const OptionGroup& options) {
+    QButtonGroup*& group = option_groups_[&options];
     if (group == nullptr) group = new QButtonGroup(this);
     return group;
   };
@@ -52,7 +62,7 @@ Page::Page(Form& form, QtEventLoop& loop, PictureSource& pictures, QWidget* pare
 }
 
 void Page::Build() {
-  layout_ = LayoutOf(*form_, Layout{}.canvas);
+  layout_ = form_->LayOut(Layout{}.canvas, measure_);
   for (Control* control : form_->controls()) BindControl(*control);
   NameAndKeys();
   for (const auto& binding : bindings_) binding->Refresh();
@@ -60,7 +70,7 @@ void Page::Build() {
 }
 
 void Page::BindControl(Control& control) {
-  const auto place = layout_.places.find(control.Id());
+  const auto place = layout_.places.find(&control);
   if (place == layout_.places.end() || by_control_.contains(&control)) return;
   QWidget* parent = this;
   if (control.container != nullptr) {
@@ -77,16 +87,14 @@ void Page::BindControl(Control& control) {
 
 void Page::NameAndKeys() {
   for (const auto& binding : bindings_) {
-    const Placement& place = layout_.places[binding->control().Id()];
-    if (!place.named_by.empty()) binding->NameBy(FindControl(*form_, place.named_by));
-    if (!place.ends[0].empty()) {
-      binding->NameEnds(FindControl(*form_, place.ends[0]), FindControl(*form_, place.ends[1]));
-    }
+    const Placement& place = layout_.places[&binding->control()];
+    binding->NameBy(place.named_by);
+    binding->NameEnds(place.ends[0], place.ends[1]);
   }
   for (const KeyBinding& key : layout_.keys) {
-    for (const std::string& id : key.controls) {
-      if (Binding* binding = BindingOf(id)) {
-        binding->SetKey(key.keys.toString(QKeySequence::NativeText));
+    for (const Pressable* control : key.controls) {
+      if (Binding* binding = BindingOf(control)) {
+        binding->SetKey(ToQ(key.key).toString(QKeySequence::NativeText));
       }
     }
   }
@@ -113,25 +121,30 @@ void Page::Refresh() {
       kMenuText * style_.factor);
 }
 
+QSize Page::LeastSize() const {
+  return (QSizeF(layout_.content.width, layout_.content.height) * kLeastFactor).toSize();
+}
+
 void Page::Arrange(const QSize& size) {
   size_ = size;
   const double fitting =
-      std::min(size.width() / layout_.canvas.width(), size.height() / layout_.canvas.height());
+      std::min(size.width() / layout_.canvas.width, size.height() / layout_.canvas.height);
   style_.factor = std::max(kLeastFactor, fitting);
   if (form_ != nullptr) Place();
 }
 
 void Page::Place() {
   if (size_.isEmpty()) return;
-  layout_ = LayoutOf(*form_, QSizeF(size_) / style_.factor);
+  const QSizeF room = QSizeF(size_) / style_.factor;
+  layout_ = form_->LayOut({room.width(), room.height()}, measure_);
   for (const auto& binding : bindings_) {
     const Control& control = binding->control();
-    QRect rect = Pixels(PlaceOf(control));
+    QRect rect = PixelsOf(control);
     if (control.container != nullptr) {
-      rect.translate(-Pixels(PlaceOf(*control.container)).topLeft());
+      rect.translate(-PixelsOf(*control.container).topLeft());
     }
     if (binding->widget().geometry() != rect) binding->widget().setGeometry(rect);
-    if (layout_.places[control.Id()].dress == Dress::kNotice) binding->widget().raise();
+    if (layout_.places[&control].dress == Dress::kNotice) binding->widget().raise();
   }
   PlaceBackdrops();
 }
@@ -139,15 +152,13 @@ void Page::Place() {
 void Page::PlaceBackdrops() {
   std::vector<Card> cards;
   for (const Backdrop& backdrop : layout_.backdrops) {
-    const Control* const control = FindControl(*form_, backdrop.control);
-    if (control == nullptr || !control->visible) continue;
-    const QRectF place = PlaceOf(*control).marginsAdded(backdrop.beyond);
-    cards.push_back({Pixels(place), control->back_color});
+    const Control& control = *backdrop.control;
+    if (!control.visible) continue;
+    cards.push_back({Pixels(layout_.PlaceOf(control).Grown(backdrop.beyond)), control.back_color});
   }
   std::vector<QRect> vacancies;
-  for (const std::string& id : layout_.vacancies) {
-    const Control* const control = FindControl(*form_, id);
-    if (control != nullptr && !control->visible) vacancies.push_back(Pixels(PlaceOf(*control)));
+  for (const Control* control : layout_.vacancies) {
+    if (!control->visible) vacancies.push_back(PixelsOf(*control));
   }
   const QRect title_place = Pixels(layout_.title);
   if (cards == cards_ && vacancies == vacancies_ && title_place == title_place_) return;
@@ -157,30 +168,9 @@ void Page::PlaceBackdrops() {
   update();
 }
 
-/// Where a control stands on the page: what the program sets counts before the layout's choice.
-QRectF Page::PlaceOf(const Control& control) const {
-  const auto place = layout_.places.find(control.Id());
-  QRectF rect = place == layout_.places.end() ? QRectF() : place->second.rect;
-  const QPointF origin = control.container != nullptr ? OriginIn(*control.container) : QPointF();
-  if (control.left) rect.moveLeft(origin.x() + *control.left);
-  if (control.top) rect.moveTop(origin.y() + *control.top);
-  if (control.width) rect.setWidth(*control.width);
-  if (control.height) rect.setHeight(*control.height);
-  if (place == layout_.places.end()) return rect;
-  const double beyond = std::max(0.0, place->second.least_width - rect.width()) / 2;
-  return rect.adjusted(-beyond, 0, beyond, 0);
-}
-
-/// Where a container begins what the program places in it.
-QPointF Page::OriginIn(const Control& container) const {
-  const auto place = layout_.places.find(container.Id());
-  const double head = place == layout_.places.end() ? 0 : place->second.head;
-  return PlaceOf(container).topLeft() + QPointF(0, head);
-}
-
-QRect Page::Pixels(const QRectF& units) const {
+QRect Page::Pixels(const Rect& units) const {
   const double f = style_.factor;
-  return QRect(QPoint(qRound(units.left() * f), qRound(units.top() * f)),
+  return QRect(QPoint(qRound(units.left * f), qRound(units.top * f)),
                QPoint(qRound(units.right() * f) - 1, qRound(units.bottom() * f) - 1));
 }
 
@@ -195,13 +185,13 @@ void Page::CollectTabs(const Control* container, std::vector<QWidget*>& order) c
   std::vector<const Binding*> rows;
   for (const auto& binding : bindings_) {
     if (binding->control().container != container) continue;
-    const bool frame = dynamic_cast<const Frame*>(&binding->control()) != nullptr;
+    const bool frame = AsFrame(*binding) != nullptr;
     (layout_.tab_by_column && frame ? columns : rows).push_back(binding.get());
   }
   std::stable_sort(columns.begin(), columns.end(), [this](const Binding* a, const Binding* b) {
-    const QRectF one = PlaceOf(a->control());
-    const QRectF other = PlaceOf(b->control());
-    return std::tuple(one.left(), one.top()) < std::tuple(other.left(), other.top());
+    const Rect one = layout_.PlaceOf(a->control());
+    const Rect other = layout_.PlaceOf(b->control());
+    return std::tie(one.left, one.top) < std::tie(other.left, other.top);
   });
   for (const std::vector<const Binding*>& part : {columns, RowByRow(std::move(rows))}) {
     for (const Binding* binding : part) {
@@ -214,16 +204,15 @@ void Page::CollectTabs(const Control* container, std::vector<QWidget*>& order) c
 /// As one reads: what stands beside the highest one of those that are left is of its row, also
 /// where it is lower or begins deeper.
 std::vector<const Binding*> Page::RowByRow(std::vector<const Binding*> bindings) const {
-  const auto place = [this](const Binding* binding) { return PlaceOf(binding->control()); };
+  const auto place = [this](const Binding* binding) { return layout_.PlaceOf(binding->control()); };
   std::stable_sort(bindings.begin(), bindings.end(),
-                   [&](auto* a, auto* b) { return place(a).top() < place(b).top(); });
+                   [&](auto* a, auto* b) { return place(a).top < place(b).top; });
   auto row = bindings.begin();
   while (row != bindings.end()) {
     const double bottom = place(*row).bottom();
     const auto next = std::stable_partition(
-        row, bindings.end(), [&](auto* one) { return place(one).center().y() < bottom; });
-    std::stable_sort(row, next,
-                     [&](auto* a, auto* b) { return place(a).left() < place(b).left(); });
+        row, bindings.end(), [&](auto* one) { return place(one).center().y < bottom; });
+    std::stable_sort(row, next, [&](auto* a, auto* b) { return place(a).left < place(b).left; });
     row = next;
   }
   return bindings;
@@ -240,15 +229,20 @@ void Page::Release() {
   by_control_.clear();
 }
 
-Binding* Page::BindingOf(const std::string& id) const {
-  if (form_ == nullptr) return nullptr;
-  const auto found = by_control_.find(FindControl(*form_, id));
+Binding* Page::BindingOf(const Control* control) const {
+  const auto found = by_control_.find(control);
   return found == by_control_.end() ? nullptr : found->second;
 }
 
-Pressable* Page::PressableOf(const std::string& id) const {
-  Binding* const binding = BindingOf(id);
-  return binding == nullptr ? nullptr : dynamic_cast<Pressable*>(&binding->control());
+/// The control that a key means now; null for none.
+Pressable* Page::ReachableOf(const KeyBinding& key) const {
+  for (const Pressable* control : key.controls) {
+    Binding* const binding = BindingOf(control);
+    if (binding != nullptr && control->Reachable()) {
+      return static_cast<Pressable*>(&binding->control());
+    }
+  }
+  return nullptr;
 }
 
 bool Page::HandleKey(const QKeyEvent& event) {
@@ -259,25 +253,20 @@ bool Page::HandleKey(const QKeyEvent& event) {
   if (menu_key) return AskMenuOf(FrameWithFocus(), QPoint(-1, -1));
   KeyBinding meant;
   const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  if (enter && !layout_.default_control.empty()) {
-    meant.controls = {layout_.default_control};
-  }
+  if (enter) meant.controls = {layout_.default_control};
   const QKeySequence pressed(event.key() |
                              static_cast<int>(event.modifiers().toInt() & ~Qt::KeypadModifier));
   for (const KeyBinding& key : layout_.keys) {
-    if (key.keys == pressed) meant = key;
+    if (ToQ(key.key) == pressed) meant = key;
   }
-  for (const std::string& id : meant.controls) {
-    Pressable* const control = PressableOf(id);
-    if (control == nullptr || !control->Reachable()) continue;
-    if (meant.closes) {
-      Deliver([form = form_] { form->Form_Close(); });
-    } else {
-      Deliver([control] { control->Press(); });
-    }
-    return true;
+  Pressable* const control = ReachableOf(meant);
+  if (control == nullptr) return false;
+  if (meant.closes) {
+    Deliver([form = form_] { form->Form_Close(); });
+  } else {
+    Deliver([control] { control->Press(); });
   }
-  return false;
+  return true;
 }
 
 void Page::keyPressEvent(QKeyEvent* event) {
@@ -295,9 +284,9 @@ void Page::contextMenuEvent(QContextMenuEvent* event) {
 /// Goes by places and not by widgets, since a widget that is locked takes no events.
 Frame* Page::FrameAt(const QPoint& point) const {
   for (const auto& binding : bindings_) {
-    auto* const frame = dynamic_cast<Frame*>(&binding->control());
+    Frame* const frame = AsFrame(*binding);
     if (frame == nullptr || !frame->visible || !frame->MenuAsked) continue;
-    if (Pixels(PlaceOf(*frame)).contains(point)) return frame;
+    if (PixelsOf(*frame).contains(point)) return frame;
   }
   return nullptr;
 }
@@ -305,7 +294,7 @@ Frame* Page::FrameAt(const QPoint& point) const {
 Frame* Page::FrameWithFocus() const {
   const QWidget* const focus = window()->focusWidget();
   for (const auto& binding : bindings_) {
-    auto* const frame = dynamic_cast<Frame*>(&binding->control());
+    Frame* const frame = AsFrame(*binding);
     if (frame != nullptr && frame->MenuAsked && binding->widget().isAncestorOf(focus)) return frame;
   }
   return nullptr;
@@ -321,7 +310,7 @@ bool Page::AskMenuOf(Frame* frame, const QPoint& at) {
 
 /// Under the pointer, or under the head of the frame.
 QPoint Page::MenuPlace(const Control& control) const {
-  const QRect place = Pixels(PlaceOf(control));
+  const QRect place = PixelsOf(control);
   if (place.contains(menu_at_)) return menu_at_;
   const double f = style_.factor;
   return place.topLeft() + QPoint(qRound(12 * f), qRound(kSmallCardHead * f));
@@ -373,11 +362,11 @@ bool Page::MoveFocus(const Control& from, int key) {
 /// The nearest one above or below; `from` where there is none.
 const Binding* Page::Nearest(const Binding& from, const std::vector<const Binding*>& among,
                              int key) const {
-  const QPointF start = PlaceOf(from.control()).center();
+  const Point start = layout_.PlaceOf(from.control()).center();
   const Binding* best = &from;
   double best_distance = std::numeric_limits<double>::infinity();
   for (const Binding* binding : among) {
-    const double distance = Distance(start, PlaceOf(binding->control()).center(), key);
+    const double distance = Distance(start, layout_.PlaceOf(binding->control()).center(), key);
     if (distance >= best_distance) continue;
     best = binding;
     best_distance = distance;
@@ -385,22 +374,24 @@ const Binding* Page::Nearest(const Binding& from, const std::vector<const Bindin
   return best;
 }
 
-/// The first control of an array that can have the focus, counted from the one that had it last.
-QWidget* Page::RefugeIn(const std::string& name) const {
-  const auto last = last_index_.find(name);
-  const int from = last == last_index_.end() ? 0 : last->second;
+/// The first control of a refuge that can have the focus, counted from the one that had it last.
+QWidget* Page::RefugeIn(std::size_t i) const {
+  const Controls& refuge = layout_.refuge[i];
+  const auto last = last_in_refuge_.find(i);
+  const std::size_t from = last == last_in_refuge_.end() ? 0 : last->second;
   QWidget* lowest = nullptr;
-  for (const auto& binding : bindings_) {
-    if (binding->control().name() != name || !CanFocus(binding->widget())) continue;
-    if (binding->control().index() >= from) return &binding->widget();
+  for (std::size_t at = 0; at < refuge.size(); ++at) {
+    Binding* const binding = BindingOf(refuge[at]);
+    if (binding == nullptr || !CanFocus(binding->widget())) continue;
+    if (at >= from) return &binding->widget();
     if (lowest == nullptr) lowest = &binding->widget();
   }
   return lowest;
 }
 
 QWidget* Page::Refuge() const {
-  for (const std::string& name : layout_.refuge) {
-    if (QWidget* widget = RefugeIn(name)) return widget;
+  for (std::size_t i = 0; i < layout_.refuge.size(); ++i) {
+    if (QWidget* widget = RefugeIn(i)) return widget;
   }
   return nullptr;
 }
@@ -424,9 +415,12 @@ void Page::KeepFocus(QWidget* before) {
 void Page::RememberFocus(QWidget* focus) {
   if (focus == last_focus_) return;
   last_focus_ = focus;
-  for (const auto& binding : bindings_) {
-    if (&binding->widget() != focus) continue;
-    last_index_[binding->control().name()] = binding->control().index();
+  for (std::size_t i = 0; i < layout_.refuge.size(); ++i) {
+    const Controls& refuge = layout_.refuge[i];
+    for (std::size_t at = 0; at < refuge.size(); ++at) {
+      Binding* const binding = BindingOf(refuge[at]);
+      if (binding != nullptr && &binding->widget() == focus) last_in_refuge_[i] = at;
+    }
   }
 }
 
@@ -444,14 +438,14 @@ void Page::TakeFocus() {
 // --- painting
 
 bool Page::TitleFits() const {
-  return layout_.title.isEmpty() ||
+  return layout_.title.empty() ||
          look::SetText(QString::fromStdString(title_), Pixels(layout_.title).size(),
                        layout_.title_text * style_.factor, look::Weight::kBold)
              .fits;
 }
 
 void Page::PaintBanner(QPainter& painter) const {
-  if (layout_.banner.isEmpty()) return;
+  if (layout_.banner.empty()) return;
   const QRectF banner(Pixels(layout_.banner));
   const double radius = look::kCardRadius * style_.factor;
   QPainterPath path;  // round above, where the card is
@@ -464,7 +458,7 @@ void Page::PaintBanner(QPainter& painter) const {
 /// What stands behind all cards.
 void Page::PaintGround(QPainter& painter) const {
   const double radius = (look::kCardRadius + 4) * style_.factor;
-  for (const QRectF& section : layout_.sections) {
+  for (const Rect& section : layout_.sections) {
     look::DrawPlate(painter, QRectF(Pixels(section)), style_.colors().section, {}, radius, 0);
   }
   for (const QRect& slot : vacancies_)
@@ -486,13 +480,14 @@ void Page::PaintCards(QPainter& painter) const {
 }
 
 void Page::PaintTitle(QPainter& painter) const {
-  if (layout_.title.isEmpty()) return;
+  if (layout_.title.empty()) return;
   const QString title = QString::fromStdString(title_);
   const QRectF box(Pixels(layout_.title));
   look::DrawText(
       painter, box, title,
       look::SetText(title, box.size(), layout_.title_text * style_.factor, look::Weight::kBold),
-      layout_.banner.isEmpty() ? style_.colors().text : QColor(Qt::white), layout_.title_align);
+      layout_.banner.empty() ? style_.colors().text : QColor(Qt::white),
+      look::ToQ(layout_.title_align));
 }
 
 void Page::paintEvent(QPaintEvent*) {

@@ -5,6 +5,7 @@
 
 #include <QRect>
 #include <QWidget>
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <optional>
@@ -13,13 +14,17 @@
 #include <vector>
 
 #include "forms/controls.h"
+#include "forms/layout.h"
+#include "qt/kit/font_measure.h"
 #include "qt/view/binder.h"
-#include "qt/view/layout.h"
 #include "qt/view/page_menu.h"
 
 namespace vmod17 {
 
 class QtEventLoop;
+
+/// The least number of pixels of a unit: the smallest type, of 12 units, has 11 pixels then.
+inline constexpr double kLeastFactor = 0.9;
 
 /// One screen's widgets. It is made when the screen is first shown, since only then is it known
 /// what the screen consists of.
@@ -33,7 +38,7 @@ class Page : public QWidget {
   /// but none at which type could no longer be read.
   void Arrange(const QSize& size);
   /// The least size at which nothing is cut off.
-  QSize LeastSize() const { return (layout_.content * kLeastFactor).toSize(); }
+  QSize LeastSize() const;
   double factor() const { return style_.factor; }
 
   /// Gives the focus to where it was when the screen was last shown, or to its first control.
@@ -70,9 +75,8 @@ class Page : public QWidget {
   Frame* FrameWithFocus() const;
   bool AskMenuOf(Frame* frame, const QPoint& at);
   QPoint MenuPlace(const Control& control) const;
-  QRectF PlaceOf(const Control& control) const;
-  QPointF OriginIn(const Control& container) const;
-  QRect Pixels(const QRectF& units) const;
+  QRect Pixels(const Rect& units) const;
+  QRect PixelsOf(const Control& control) const { return Pixels(layout_.PlaceOf(control)); }
   void OrderTabs();
   std::vector<const Binding*> RowByRow(std::vector<const Binding*> bindings) const;
   void CollectTabs(const Control* container, std::vector<QWidget*>& order) const;
@@ -80,11 +84,11 @@ class Page : public QWidget {
   bool MoveFocus(const Control& from, int key);
   const Binding* Nearest(const Binding& from, const std::vector<const Binding*>& among,
                          int key) const;
-  Binding* BindingOf(const std::string& id) const;
-  Pressable* PressableOf(const std::string& id) const;
+  Binding* BindingOf(const Control* control) const;
+  Pressable* ReachableOf(const KeyBinding& key) const;
   bool CanFocus(const QWidget& widget) const;
   QWidget* Refuge() const;
-  QWidget* RefugeIn(const std::string& name) const;
+  QWidget* RefugeIn(std::size_t i) const;
   void KeepFocus(QWidget* before);
   void RememberFocus(QWidget* focus);
   void PaintBanner(QPainter& painter) const;
@@ -96,6 +100,7 @@ class Page : public QWidget {
   QtEventLoop& loop_;
   PageStyle style_;
   BindingSite site_;
+  FontMeasure measure_;
   Layout layout_;
   QSize size_;
   struct Card {
@@ -110,9 +115,9 @@ class Page : public QWidget {
   QPoint menu_at_;
   std::vector<std::unique_ptr<Binding>> bindings_;
   std::unordered_map<const Control*, Binding*> by_control_;
-  std::map<std::string, QButtonGroup*> option_groups_;
+  std::map<const OptionGroup*, QButtonGroup*> option_groups_;
   QWidget* last_focus_ = nullptr;
-  std::map<std::string, int> last_index_;  // of the array's control that had the focus last
+  std::map<std::size_t, std::size_t> last_in_refuge_;  // which of a refuge had the focus last
   std::string title_;
   std::optional<Color> ground_;
 };

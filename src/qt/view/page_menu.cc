@@ -15,8 +15,9 @@ namespace {
 
 PopupMenu* OpenMenu(const Form& form) {
   for (Control* control : form.controls()) {
-    auto* const popup = dynamic_cast<PopupMenu*>(control);
-    if (popup != nullptr && popup->open_at != nullptr) return popup;
+    if (control->kind() != Control::Kind::kPopupMenu) continue;
+    auto* const popup = static_cast<PopupMenu*>(control);
+    if (popup->open_at != nullptr) return popup;
   }
   return nullptr;
 }

@@ -47,7 +47,7 @@ class Binder : public testing::Test {
       handler();
     };
     site_.move_focus = [](const Control&, int) { return false; };
-    site_.option_group = [this](const std::string&) { return &group_; };
+    site_.option_group = [this](const OptionGroup&) { return &group_; };
     window_.resize(400, 300);
   }
 

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "qt/view/layout.h"
-
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -101,18 +99,6 @@ TEST_P(LayoutIn, SaysWhatARunWillBeInALineOfFullSize) {
   expect_full_size();
   screen.klang_contr_Click();
   expect_full_size();
-}
-
-TEST_P(LayoutIn, HasAPlaceForEveryControlOfTheSettings) {
-  SpokenProgram p(GetParam());
-  p.ToSettings();
-  const Shown shown(p.settings_screen(), kSmall);
-  for (const Control* control : p.settings_screen().controls()) {
-    const bool never_seen = dynamic_cast<const Timer*>(control) != nullptr ||
-                            dynamic_cast<const PopupMenu*>(control) != nullptr;
-    const QString name = QString::fromStdString(control->Id());
-    EXPECT_EQ(shown.Find(name) == nullptr, never_seen) << control->Id();
-  }
 }
 
 TEST_P(LayoutIn, ShowsTheWorksheetWholeBeforeAndAfterATask) {
@@ -279,42 +265,6 @@ TEST(Layout, ScrollsNothingOnALowScreen) {
   EXPECT_LE(Shown(p.worksheet(), kLow).page().LeastSize().height(), 600);
 }
 
-TEST(Layout, HasNoEmptyBandUnderTheHeaderOfTheWorksheet) {
-  ProgramFixture p;
-  p.ToWorksheet();
-  for (const QSize& size : {kSmall, kLow, kLarge}) {
-    Shown shown(p.worksheet(), size);
-    const double band =
-        shown.OnPage(shown.At("jzakk_box(0)")).top() - shown.OnPage(shown.At("PicUebTyp")).bottom();
-    EXPECT_LE(band / shown.page().factor(), 26) << size.width();
-  }
-}
-
-TEST(Layout, HasAsMuchRoomAboveTheWorksheetAsBelowIt) {
-  ProgramFixture p;
-  p.ToWorksheet();
-  for (const QSize& size : {QSize(1024, 768), QSize(1280, 1024), kLow}) {
-    Shown shown(p.worksheet(), size);
-    constexpr double kBeyond = 8;  // by which the card stands out
-    const double below = size.height() - shown.OnPage(shown.At("jzakk_box(0)")).bottom() -
-                         kBeyond * shown.page().factor();
-    EXPECT_NEAR(shown.OnPage(shown.At("PicUebTyp")).top(), below, 2) << size.height();
-  }
-}
-
-TEST(Layout, KeepsTheStepsOfTheTileRows) {
-  ProgramFixture p;
-  p.ToWorksheet();
-  const Shown shown(p.worksheet(), kSmall);
-  const QRect first = shown.OnPage(shown.At("klang_pan(1)"));
-  const QRect seventh = shown.OnPage(shown.At("klang_pan(7)"));
-  EXPECT_EQ(first.height(), 84);
-  EXPECT_EQ(seventh.top() - first.top(), 136);
-  EXPECT_EQ(seventh.left(), first.left());
-  EXPECT_EQ(first.top() - shown.OnPage(shown.At("Akkbez(1)")).top(), 40);
-  EXPECT_EQ(shown.At("aktionsbox").size(), QSize(193, 545));
-}
-
 TEST(Layout, AlignsTheHeaderWithWhatStandsUnderIt) {
   ProgramFixture p;
   p.ToWorksheet();
@@ -328,25 +278,6 @@ TEST(Layout, AlignsTheHeaderWithWhatStandsUnderIt) {
     EXPECT_EQ(header.right(), actions.right());
     EXPECT_LE(std::abs(header.left() - (size.width() - 1 - header.right())), 1);
   }
-}
-
-TEST(Layout, MovesNothingOfTheSettingsWhenFramesComeAndGo) {
-  ProgramFixture p;
-  p.ToSettings();
-  Einstellung1& screen = p.settings_screen();
-  const auto places = [&] {
-    const Shown shown(screen, kSmall);
-    std::map<int, QRect> frames;
-    for (const int i : screen.grdeinst.indexes()) {
-      frames[i] = shown.OnPage(shown.At(screen.grdeinst[i].Id()));
-    }
-    return frames;
-  };
-  const auto at_first = places();
-  screen.aus_w.Check(1);
-  screen.akk_grp.Check(1);
-  EXPECT_FALSE(screen.grdeinst[11].visible);
-  EXPECT_EQ(places(), at_first);
 }
 
 TEST(Layout, LeavesAQuietPlaceWhereAFrameIsHidden) {
@@ -381,15 +312,6 @@ TEST(Layout, ShowsATilesStateInTheColoursOfTheProgram) {
   EXPECT_EQ(colors(), std::pair(QColor(255, 0, 0), QColor(192, 192, 192)));
   p.PlayTask();
   EXPECT_EQ(colors(), std::pair(QColor(128, 255, 128), QColor(255, 255, 255)));
-}
-
-TEST(Layout, LeavesAFormThatItDoesNotKnowWithoutPlaces) {
-  class Unknown : public Form {
-   public:
-    Unknown() : Form("unknown") {}
-    void Form_Close() override {}
-  };
-  EXPECT_TRUE(LayoutOf(Unknown(), QSizeF(1024, 730)).places.empty());
 }
 
 }  // namespace

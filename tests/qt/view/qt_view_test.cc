@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QTest>
 #include <QWidget>
-#include <set>
 
 #include "qt/desk/qt_event_loop.h"
 #include "qt/view/page.h"
@@ -252,15 +251,6 @@ TEST_F(QtViewTest, AnswersByTheKeyOfATileWhereverTheFocusIs) {
   Key(keys[p_.Asked(1) - 1].unicode());
   EXPECT_EQ(p_.worksheet().zaehler[0].caption, "1");
   EXPECT_TRUE(Window().findChild<QWidget*>("jz_kl(3)")->toolTip().endsWith(" (3)"));
-}
-
-TEST_F(QtViewTest, GivesNoKeyTwoThingsToDo) {
-  ToWorksheet();
-  std::set<QString> keys;
-  for (const KeyBinding& key : LayoutOf(p_.worksheet(), QSizeF(1024, 768)).keys) {
-    EXPECT_TRUE(keys.insert(key.keys.toString()).second) << key.keys.toString().toStdString();
-  }
-  EXPECT_EQ(keys.size(), 24U + 4U);
 }
 
 TEST_F(QtViewTest, KeepsTheTileThatTheArrowKeysWentToWhenTheTaskIsRepeated) {

@@ -76,8 +76,8 @@ TEST_P(Header, ShowsATestWholeWithTheLongestTimeAndNumber) {
 TEST_P(Header, ShowsFreePracticeWithItsTitleInTheMiddle) {
   Start(0);
   ExpectWellLaidOut(sheet());
-  const Layout layout = LayoutOf(sheet(), QSizeF(1024, 768));
-  EXPECT_NEAR(layout.title.center().x(), 512, 1);
+  const Layout layout = sheet().LayOut({1024, 768}, FontMeasure());
+  EXPECT_NEAR(layout.title.center().x, 512, 1);
 }
 
 TEST_P(Header, SaysTheGaugeWithItsValueAndWhatItsEndsMean) {
