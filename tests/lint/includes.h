@@ -3,18 +3,24 @@
 
 #pragma once
 
+#include <string_view>
+
 #include "lint/tree.h"
 
 namespace vmod17::lint {
 
-/// A file of src/ includes only its own floor and lower ones; of the libraries' folders below
-/// src/platform none includes another.
+/// The page whose table of folders says which folder may include what.
+inline constexpr std::string_view kFloorPage = "docs/architecture.md";
+
+/// The table is whole: it has a row for each folder of src/ that holds sources, and for no other;
+/// a row names only folders of the rows above it, libraries that are known here, and a target that
+/// a CMakeLists.txt of src/ makes.
+Faults TableFaults(const Tree& tree);
+
+/// A file of src/ includes its own folder, and what the row of its folder grants.
 Faults FloorFaults(const Tree& tree);
 
-/// No file of src/ includes itself by way of others.
+/// No file of src/ includes itself by way of others, and no folder does.
 Faults CircleFaults(const Tree& tree);
-
-/// The core includes the standard library's plain headers and the project's own, nothing else.
-Faults CoreIncludeFaults(const Tree& tree);
 
 }  // namespace vmod17::lint

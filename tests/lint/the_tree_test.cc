@@ -29,13 +29,11 @@ TEST(TheTree, IsReadWithItsSourcesAndWithoutWhatIsBuilt) {
   }
 }
 
+TEST(TheTree, HasARowForEachFolder) { EXPECT_THAT(TableFaults(TheTree()), IsEmpty()); }
+
 TEST(TheTree, KeepsItsFloors) { EXPECT_THAT(FloorFaults(TheTree()), IsEmpty()); }
 
 TEST(TheTree, IncludesNothingInACircle) { EXPECT_THAT(CircleFaults(TheTree()), IsEmpty()); }
-
-TEST(TheTree, HasACoreWithoutForeignHeaders) {
-  EXPECT_THAT(CoreIncludeFaults(TheTree()), IsEmpty());
-}
 
 TEST(TheTree, HasNoWordsThatHaveNoPlaceInIt) { EXPECT_THAT(WordFaults(TheTree()), IsEmpty()); }
 
