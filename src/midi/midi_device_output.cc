@@ -362,9 +362,9 @@ std::future<void> LetGo(std::unique_ptr<MidiDeviceOutput> output) {
   return gone;
 }
 
-std::unique_ptr<MidiDeviceOutput> MakeMidiOutput(MidiOptions options, EventLoop& loop,
+std::unique_ptr<MidiDeviceOutput> MakeMidiOutput(const MidiOptions& options, EventLoop& loop,
                                                  Notify notify) {
-  return std::make_unique<MidiDeviceOutput>(std::move(options), loop, std::move(notify));
+  return std::make_unique<MidiDeviceOutput>(options, loop, std::move(notify));
 }
 
 }  // namespace vmod17

@@ -122,7 +122,7 @@ class MidiDeviceOutput : public MidiOutput {
 /// for: at the end of the process what hangs ends with it.
 std::future<void> LetGo(std::unique_ptr<MidiDeviceOutput> output);
 
-std::unique_ptr<MidiDeviceOutput> MakeMidiOutput(MidiOptions options, EventLoop& loop,
+std::unique_ptr<MidiDeviceOutput> MakeMidiOutput(const MidiOptions& options, EventLoop& loop,
                                                  Notify notify);
 
 }  // namespace vmod17

@@ -74,6 +74,7 @@ constexpr bool Sperrt(int uebmodus, const Rahmen& rahmen) {
 
 inline std::vector<int> RahmenNummern() {
   std::vector<int> nummern;
+  nummern.reserve(kRahmen.size());
   for (const Rahmen& rahmen : kRahmen) nummern.push_back(rahmen.nummer);
   return nummern;
 }
