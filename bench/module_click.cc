@@ -59,14 +59,14 @@ int main(int argc, char* argv[]) {
   QApplication::setQuitOnLastWindowClosed(false);
   const QTemporaryDir folder;
   vmod17::QtEventLoop loop;
-  vmod17::HostSetup setup;
+  melvado::HostSetup setup;
   setup.store = folder.filePath("store.sqlite").toStdString();
   setup.language_folders = vmod17::LanguageFolders();
   setup.module = argv[2];
-  vmod17::Host host(std::move(setup), loop);
+  melvado::Host host(std::move(setup), loop);
   vmod17::ScriptedMessageBox messages;
   vmod17::ScriptedFileDialog dialog;
-  vmod17::HomeWindow window(host, loop, messages, dialog);
+  melvado::HomeWindow window(host, loop, messages, dialog);
   auto* const start = window.findChild<QAbstractButton*>("start");
   std::vector<double> rounds;
   for (int i = 0; i < std::atoi(argv[1]); ++i) {

@@ -11,6 +11,7 @@
 
 #include "module/program.h"
 #include "qt/desk/qt_event_loop.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/view/qt_view.h"
 #include "shell/uniform_random.h"
 #include "support/fake_platform.h"
@@ -54,7 +55,8 @@ class WindowStage {
   }
 
   QtEventLoop loop_;
-  QtView view_{loop_};
+  ChordPictures pictures_;
+  QtView view_{loop_, pictures_};
   FakeSystem system_;
   ScriptedMessageBox messages_;
   RecordingMidiOutput output_;

@@ -13,6 +13,7 @@
 #include "qt/kit/gauge_widget.h"
 #include "qt/kit/list_widget.h"
 #include "qt/kit/plate_widget.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/view/page.h"
 #include "shell/text_lookup.h"
 
@@ -49,7 +50,7 @@ class Shown {
 
  private:
   QtEventLoop loop_;
-  PictureSource pictures_;
+  ChordPictures pictures_;
   Page page_;
 };
 

@@ -16,7 +16,6 @@
 #include "qt/desk/qt_event_loop.h"
 #include "qt/kit/drop_down_widget.h"
 #include "qt/kit/narrator.h"
-#include "qt/kit/picture_source.h"
 #include "qt/kit/press_widget.h"
 #include "qt/kit/text_widget.h"
 
@@ -118,8 +117,7 @@ class HomeWindow : public QWidget {
   vmod17::QtEventLoop& loop_;
   vmod17::MessageBox& messages_;
   vmod17::FileDialog& dialog_;
-  vmod17::PictureSource pictures_;
-  vmod17::PageStyle style_{pictures_};
+  vmod17::PageStyle style_;
   std::vector<Part> parts_;
   std::vector<vmod17::StoreUser> users_;
   std::unique_ptr<QTimer> poll_;

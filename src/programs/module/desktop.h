@@ -17,6 +17,7 @@
 #include "qt/desk/single_instance.h"
 #include "qt/kit/help_window.h"
 #include "qt/kit/theme.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/view/qt_printer.h"
 #include "qt/view/qt_view.h"
 #include "shell/notices.h"
@@ -72,12 +73,13 @@ class Desktop {
   UniformRandom random_;
   QtLanguageList languages_;
   Theme theme_;
-  QtView view_{loop_};
+  ChordPictures pictures_;
+  QtView view_{loop_, pictures_};
   QtMessageBox messages_{[this] { return view_.Window(); }};
   HelpWindow help_;
   QtFileDialog dialog_{[this] { return view_.Window(); }};
   PugiSettingsFiles settings_files_;
-  QtPrinter printer_{loop_, SystemPrintTargets(loop_)};
+  QtPrinter printer_{loop_, pictures_, SystemPrintTargets(loop_)};
   std::unique_ptr<Notices> notices_;  // before those that tell, so that it goes after them
   std::unique_ptr<UnsavedRecords> unsaved_records_;
   std::unique_ptr<MidiDeviceOutput> output_;

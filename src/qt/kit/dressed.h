@@ -21,11 +21,15 @@ namespace vmod17 {
 
 /// What the widgets of one page share.
 struct PageStyle {
-  PictureSource& pictures;
-  double factor = 1;     ///< pixels of a unit
-  bool keyboard = true;  ///< the user works by keyboard: the focus is shown
-  bool paper = false;    ///< drawn for a printer, whose pixels are many and small
+  PictureSource* pictures = nullptr;  ///< none where no control shows one
+  double factor = 1;                  ///< pixels of a unit
+  bool keyboard = true;               ///< the user works by keyboard: the focus is shown
+  bool paper = false;                 ///< drawn for a printer, whose pixels are many and small
 
+  /// Null for a picture that does not exist.
+  QPixmap Picture(const PictureId& id, double ratio) const {
+    return pictures == nullptr ? QPixmap() : pictures->Get(id, factor, ratio);
+  }
   const look::Palette& colors() const { return paper ? look::kLight : look::PresentColors(); }
 };
 

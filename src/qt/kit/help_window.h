@@ -12,7 +12,6 @@
 #include <string>
 #include <vector>
 
-#include "qt/kit/picture_source.h"
 #include "qt/kit/press_widget.h"
 
 namespace vmod17 {
@@ -93,8 +92,7 @@ class HelpWindow : public QWidget {
   void StandBefore(QWidget* dialog);
 
   const std::vector<std::filesystem::path> folders_;
-  PictureSource pictures_;
-  PageStyle style_{pictures_};
+  PageStyle style_;
   Browser* browser_;
   std::array<PressWidget*, kButtons> buttons_{};
   Words words_;

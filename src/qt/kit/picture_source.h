@@ -5,34 +5,27 @@
 
 #include <QImage>
 #include <QPixmap>
-#include <map>
-#include <string_view>
-#include <tuple>
+#include <QSizeF>
 
-#include "forms/controls.h"
+#include "forms/pressable.h"
 
 namespace vmod17 {
 
-/// The chord pictures, at any size. They are compiled in at 1, 2 and 3 times; what lies between is
-/// made from the next larger one and kept. For paper there is one more, much larger.
+/// Where the widgets have the pictures from that their controls show.
 class PictureSource {
  public:
-  PictureSource();
+  /// A picture as finely as it was drawn.
+  struct OnPaper {
+    QImage image;  ///< black and grey on white; null for a picture that does not exist
+    QSizeF size;   ///< in units
+  };
 
-  /// The picture at `factor` pixels of the screen per pixel of the drawing, `ratio` of which make
-  /// one of the toolkit's. Null for a picture that does not exist.
-  QPixmap Get(const PictureId& id, double factor, double ratio);
+  virtual ~PictureSource() = default;
 
-  /// The picture as large as it was drawn, black and grey on white. Null for one that does not
-  /// exist.
-  static QImage ForPaper(const PictureId& id);
-  /// The size of such a picture in units.
-  static QSizeF SizeOnPaper(const QImage& picture);
-
- private:
-  using Key = std::tuple<std::string_view, int, long>;  // set, number, size in thousandths
-
-  std::map<Key, QPixmap> made_;
+  /// The picture at `factor` pixels of the screen per unit, `ratio` of which make one of the
+  /// toolkit's. Null for a picture that does not exist.
+  virtual QPixmap Get(const PictureId& id, double factor, double ratio) = 0;
+  virtual OnPaper ForPaper(const PictureId& id) = 0;
 };
 
 }  // namespace vmod17

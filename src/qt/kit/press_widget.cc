@@ -83,7 +83,7 @@ void PressWidget::paintEvent(QPaintEvent*) {
 
 void PressWidget::PaintTile(QPainter& painter) {
   painter.fillRect(rect(), Ground());
-  const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
+  const QPixmap picture = style_.Picture(image_, devicePixelRatioF());
   if (picture.isNull()) {
     look::DrawText(painter, QRectF(rect()), caption(), Set(), Ink(), Qt::AlignCenter);
   } else {

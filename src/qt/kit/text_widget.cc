@@ -90,16 +90,17 @@ QColor TextWidget::Ink() const {
 
 /// The largest drawing, brought to its size by the printer itself.
 void TextWidget::PaintImageOnPaper(QPainter& painter) {
-  const QImage drawn = style_.pictures.ForPaper(image_);
-  const QSizeF size = PictureSource::SizeOnPaper(drawn) * style_.factor;
+  if (style_.pictures == nullptr) return;
+  const PictureSource::OnPaper drawn = style_.pictures->ForPaper(image_);
+  const QSizeF size = drawn.size * style_.factor;
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   const QPointF corner((width() - size.width()) / 2, (height() - size.height()) / 2);
-  painter.drawImage(QRectF(corner, size), drawn);
+  painter.drawImage(QRectF(corner, size), drawn.image);
 }
 
 void TextWidget::PaintImage(QPainter& painter) {
   if (style_.paper) return PaintImageOnPaper(painter);
-  const QPixmap picture = style_.pictures.Get(image_, style_.factor, devicePixelRatioF());
+  const QPixmap picture = style_.Picture(image_, devicePixelRatioF());
   if (picture.isNull()) {
     DrawSign(painter, sign_, QRectF(rect()), colors().accent);
     if (place_.dress == Dress::kMark) painter.fillRect(rect(), Ground());

@@ -44,7 +44,7 @@ Page::Page(Form& form, QtEventLoop& loop, PictureSource& pictures, QWidget* pare
     : QWidget(parent),
       form_(&form),
       loop_(loop),
-      style_{pictures},
+      style_{&pictures},
       site_{style_, {}, {}, {}, {}},
       menu_(*this, [this](const EventLoop::Handler& handler) { Deliver(handler); }) {
   setObjectName(QString::fromStdString(form.name()));

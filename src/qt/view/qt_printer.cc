@@ -151,8 +151,8 @@ PrintTargets SystemPrintTargets(const EventLoop& loop) {
           [&loop] { return loop.Now(); }};
 }
 
-QtPrinter::QtPrinter(QtEventLoop& loop, PrintTargets targets)
-    : loop_(loop), targets_(std::move(targets)) {}
+QtPrinter::QtPrinter(QtEventLoop& loop, PictureSource& pictures, PrintTargets targets)
+    : loop_(loop), pictures_(pictures), targets_(std::move(targets)) {}
 
 PrintResult QtPrinter::PrintForm(Form& form) {
   const std::unique_ptr<QPrinter> printer = targets_.printer();

@@ -11,12 +11,12 @@
 
 #include "ports/event_loop.h"
 #include "ports/printer.h"
-#include "qt/kit/picture_source.h"
 
 class QPagedPaintDevice;
 
 namespace vmod17 {
 
+class PictureSource;
 class QtEventLoop;
 
 /// Where pages can go.
@@ -36,7 +36,7 @@ PrintTargets SystemPrintTargets(const EventLoop& loop);
 /// the chords as pictures. Asks nothing and shows nothing.
 class QtPrinter : public Printer {
  public:
-  QtPrinter(QtEventLoop& loop, PrintTargets targets);
+  QtPrinter(QtEventLoop& loop, PictureSource& pictures, PrintTargets targets);
 
   void SetOrientation(Orientation orientation) override { orientation_ = orientation; }
   PrintResult PrintForm(Form& form) override;
@@ -47,8 +47,8 @@ class QtPrinter : public Printer {
   bool Draw(QPagedPaintDevice& device, Form& form);
 
   QtEventLoop& loop_;
+  PictureSource& pictures_;
   PrintTargets targets_;
-  PictureSource pictures_;
   Orientation orientation_ = Orientation::kPortrait;
 };
 

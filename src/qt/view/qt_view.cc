@@ -93,8 +93,9 @@ class QtView::MainWindow : public QWidget {
   QWidget* stage_;
 };
 
-QtView::QtView(QtEventLoop& loop)
+QtView::QtView(QtEventLoop& loop, PictureSource& pictures)
     : loop_(loop),
+      pictures_(pictures),
       window_(std::make_unique<MainWindow>(*this)),
       narrator_(std::make_unique<Narrator>(*window_)) {
   QApplication::setQuitOnLastWindowClosed(false);

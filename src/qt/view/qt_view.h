@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "ports/form_view.h"
-#include "qt/kit/picture_source.h"
 
 class QKeyEvent;
 class QWidget;
@@ -19,6 +18,7 @@ namespace vmod17 {
 
 class Narrator;
 class Page;
+class PictureSource;
 class QtEventLoop;
 
 /// Shows the screens in one window: always the page of the screen that is visible, of several the
@@ -29,7 +29,7 @@ class QtEventLoop;
 /// `Refresh`. Forms are detached before they are destroyed, and before the view is.
 class QtView : public FormView {
  public:
-  explicit QtView(QtEventLoop& loop);
+  QtView(QtEventLoop& loop, PictureSource& pictures);
   ~QtView() override;
   QtView(const QtView&) = delete;
   QtView& operator=(const QtView&) = delete;
@@ -69,7 +69,7 @@ class QtView : public FormView {
   bool AskHelp(const QKeyEvent& key);
 
   QtEventLoop& loop_;
-  PictureSource pictures_;
+  PictureSource& pictures_;
   std::vector<Screen> screens_;
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<Narrator> narrator_;

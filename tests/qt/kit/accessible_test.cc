@@ -13,6 +13,7 @@
 #include "ports/timer.h"
 #include "qt/accessible_tree.h"
 #include "qt/finished_test.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/shown_page.h"
 #include "qt/view/qt_view.h"
 
@@ -73,7 +74,8 @@ class Opened {
 
   Form& form_;
   QtEventLoop loop_;
-  QtView view_{loop_};
+  ChordPictures pictures_;
+  QtView view_{loop_, pictures_};
 };
 
 /// Acts on a widget in each way that it offers to an assistive technology, but for the focus.
@@ -231,7 +233,8 @@ class AccessibleSettings : public testing::Test {
   const HeardEvents reader_;
   ProgramFixture p_;
   QtEventLoop loop_;
-  QtView view_{loop_};
+  ChordPictures pictures_;
+  QtView view_{loop_, pictures_};
 };
 
 TEST_F(AccessibleSettings, PlayVoicingsOnceTheirOptionIsToggled) {

@@ -23,6 +23,7 @@
 #include "qt/desk/qt_event_loop.h"
 #include "qt/desk/qt_system.h"
 #include "qt/finished_test.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/view/qt_view.h"
 #include "support/program_fixture.h"
 
@@ -470,7 +471,8 @@ class HelpKeyTest : public testing::Test {
 
   ProgramFixture p_;
   QtEventLoop qt_loop_;
-  QtView view_{qt_loop_};
+  ChordPictures pictures_;
+  QtView view_{qt_loop_, pictures_};
   HelpWindow help_{{std::filesystem::path(PROGRAM_HELP)}};
   std::vector<Form*> attached_;
   std::vector<std::string> asked_;

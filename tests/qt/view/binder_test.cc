@@ -70,8 +70,7 @@ class Binder : public testing::Test {
   }
 
   TestForm form_;
-  PictureSource pictures_;
-  PageStyle style_{pictures_};
+  PageStyle style_;
   BindingSite site_{style_, {}, {}, {}, {}};
   QButtonGroup group_;
   QWidget window_;

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "qt/desk/qt_event_loop.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/screen_reader.h"
 #include "qt/spoken_program.h"
 #include "qt/view/page.h"
@@ -133,7 +134,8 @@ class BlindLesson : public testing::Test {
 
   ScreenReader reader_;
   QtEventLoop qt_loop_;
-  QtView view_{qt_loop_};
+  ChordPictures pictures_;
+  QtView view_{qt_loop_, pictures_};
   SpokenProgram p_{"de_DE"};
 };
 

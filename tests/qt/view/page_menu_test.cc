@@ -13,6 +13,7 @@
 #include <QTest>
 
 #include "qt/desk/qt_event_loop.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/view/page.h"
 #include "qt/view/qt_view.h"
 #include "support/program_fixture.h"
@@ -53,7 +54,8 @@ class PageMenuTest : public testing::Test {
 
   ProgramFixture p_;
   QtEventLoop qt_loop_;
-  QtView view_{qt_loop_};
+  ChordPictures pictures_;
+  QtView view_{qt_loop_, pictures_};
 };
 
 TEST_F(PageMenuTest, OpensOnAFrameByTheRightButtonAndMarksItByTheEntry) {

@@ -14,6 +14,7 @@
 
 #include "qt/desk/qt_event_loop.h"
 #include "qt/finished_test.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/view/page.h"
 
 namespace vmod17 {
@@ -71,7 +72,8 @@ class Printing : public testing::Test {
   ProgramFixture p_;
   QTemporaryDir folder_;
   QtEventLoop loop_;
-  QtPrinter printer_{loop_, NoPrinter()};
+  ChordPictures pictures_;
+  QtPrinter printer_{loop_, pictures_, NoPrinter()};
 };
 
 TEST_F(Printing, SavesThePageWhereThereIsNoPrinterAndTellsWhere) {
@@ -160,7 +162,7 @@ class Paper {
   }
 
  private:
-  PictureSource pictures_;
+  ChordPictures pictures_;
   Page page_;
   QImage image_{1600, 1131, QImage::Format_RGB32};
 };
@@ -215,7 +217,7 @@ TEST_F(Printing, TakesTheNextFolderWhereTheFirstCannotBeWritten) {
   ASSERT_TRUE(in_the_way.open(QIODevice::WriteOnly));
   PrintTargets targets = NoPrinter();
   targets.folders.insert(targets.folders.begin(), folder_.filePath("besetzt/Dokumente"));
-  QtPrinter printer(loop_, targets);
+  QtPrinter printer(loop_, pictures_, targets);
   const PrintResult result = printer.PrintForm(screen());
   EXPECT_TRUE(result.printed);
   EXPECT_TRUE(QFile::exists(Pdf()));
@@ -226,7 +228,7 @@ TEST_F(Printing, TellsWhenNoFolderTakesThePage) {
   ASSERT_TRUE(in_the_way.open(QIODevice::WriteOnly));
   PrintTargets targets = NoPrinter();
   targets.folders = {folder_.filePath("besetzt/Dokumente"), folder_.filePath("besetzt")};
-  QtPrinter printer(loop_, targets);
+  QtPrinter printer(loop_, pictures_, targets);
   const PrintResult result = printer.PrintForm(screen());
   EXPECT_FALSE(result.printed);
   ASSERT_TRUE(result.notice);
@@ -237,7 +239,7 @@ TEST_F(Printing, TellsWhenNoFolderTakesThePage) {
 
 TEST_F(Printing, PrintsOnThePrinterThatThereIsAndWritesNoFileOfItsOwn) {
   const QString paper = folder_.filePath("paper.pdf");
-  QtPrinter printer(loop_, With([&] {
+  QtPrinter printer(loop_, pictures_, With([&] {
                       auto device = std::make_unique<QPrinter>(QPrinter::HighResolution);
                       device->setOutputFormat(QPrinter::PdfFormat);
                       device->setOutputFileName(paper);
@@ -255,7 +257,7 @@ TEST_F(Printing, PrintsOnThePrinterThatThereIsAndWritesNoFileOfItsOwn) {
 
 TEST_F(Printing, TellsWhenAPrinterRefusesAndLetsItBeTriedAgain) {
   int asked = 0;
-  QtPrinter printer(loop_, With([&] {
+  QtPrinter printer(loop_, pictures_, With([&] {
                       ++asked;
                       auto device = std::make_unique<QPrinter>(QPrinter::HighResolution);
                       device->setOutputFormat(QPrinter::PdfFormat);
@@ -275,7 +277,7 @@ TEST_F(Printing, TellsWhenAPrinterRefusesAndLetsItBeTriedAgain) {
 TEST_F(Printing, GoesToTheFileWhenThePrinterIsGoneAtTheNextPrint) {
   bool gone = false;
   const QString paper = folder_.filePath("paper.pdf");
-  QtPrinter printer(loop_, With([&]() -> std::unique_ptr<QPrinter> {
+  QtPrinter printer(loop_, pictures_, With([&]() -> std::unique_ptr<QPrinter> {
                       if (gone) return nullptr;
                       auto device = std::make_unique<QPrinter>(QPrinter::HighResolution);
                       device->setOutputFormat(QPrinter::PdfFormat);

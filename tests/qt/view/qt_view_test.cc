@@ -12,6 +12,7 @@
 #include <QWidget>
 
 #include "qt/desk/qt_event_loop.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/view/page.h"
 #include "support/program_fixture.h"
 
@@ -50,7 +51,8 @@ class QtViewTest : public testing::Test {
 
   ProgramFixture p_;
   QtEventLoop qt_loop_;
-  QtView view_{qt_loop_};
+  ChordPictures pictures_;
+  QtView view_{qt_loop_, pictures_};
   std::vector<Form*> attached_;
 };
 

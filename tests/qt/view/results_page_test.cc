@@ -12,6 +12,7 @@
 
 #include "qt/finished_test.h"
 #include "qt/kit/look.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/shown_page.h"
 #include "qt/spoken_program.h"
 #include "qt/view/qt_view.h"
@@ -185,7 +186,8 @@ class ResultsPage : public testing::Test {
 
   ProgramFixture p_;
   QtEventLoop qt_loop_;
-  QtView view_{qt_loop_};
+  ChordPictures pictures_;
+  QtView view_{qt_loop_, pictures_};
 };
 
 TEST(ResultsOfATestThatRanOutOfTime, TakeNoKeyAndNoClickInTheirFirstSecond) {
@@ -193,7 +195,8 @@ TEST(ResultsOfATestThatRanOutOfTime, TakeNoKeyAndNoClickInTheirFirstSecond) {
   p.ToSettings();
   RunOutOfTime(p);
   QtEventLoop loop;
-  QtView view{loop};
+  ChordPictures pictures;
+  QtView view{loop, pictures};
   loop.after_event = [&] { view.Refresh(); };
   view.Attach(p.results());
   view.Refresh();

@@ -13,6 +13,7 @@
 #include "qt/kit/list_widget.h"
 #include "qt/kit/slider_widget.h"
 #include "qt/kit/text_widget.h"
+#include "qt/pictures/chord_pictures.h"
 #include "qt/view/page.h"
 #include "qt/view/qt_view.h"
 #include "support/program_fixture.h"
@@ -45,7 +46,8 @@ class SettingsPage : public testing::Test {
 
   ProgramFixture p_;
   QtEventLoop qt_loop_;
-  QtView view_{qt_loop_};
+  ChordPictures pictures_;
+  QtView view_{qt_loop_, pictures_};
 };
 
 TEST_F(SettingsPage, MovesAnEntryByAClick) {

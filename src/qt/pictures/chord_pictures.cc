@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "qt/kit/picture_source.h"
+#include "qt/pictures/chord_pictures.h"
 
 #include <QString>
 #include <cmath>
@@ -31,17 +31,16 @@ QPixmap Make(const PictureId& id, double factor) {
 
 }  // namespace
 
-PictureSource::PictureSource() { RegisterChordPictures(); }
+ChordPictures::ChordPictures() { RegisterChordPictures(); }
 
-QImage PictureSource::ForPaper(const PictureId& id) {
+PictureSource::OnPaper ChordPictures::ForPaper(const PictureId& id) {
   if (id.set.empty()) return {};
   // Without colour the file that is printed is smaller.
-  return Load(id, kPaper).convertToFormat(QImage::Format_Grayscale8);
+  const QImage image = Load(id, kPaper).convertToFormat(QImage::Format_Grayscale8);
+  return {image, QSizeF(image.size()) / kPaper};
 }
 
-QSizeF PictureSource::SizeOnPaper(const QImage& picture) { return QSizeF(picture.size()) / kPaper; }
-
-QPixmap PictureSource::Get(const PictureId& id, double factor, double ratio) {
+QPixmap ChordPictures::Get(const PictureId& id, double factor, double ratio) {
   if (id.set.empty()) return {};
   const double wanted = factor * ratio;
   const Key key(id.set, id.number, std::lround(wanted * 1000));
