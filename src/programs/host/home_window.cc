@@ -266,23 +266,23 @@ void HomeWindow::Refresh() {
 }
 
 void HomeWindow::ShowWords() {
-  const Words& words = host_.words();
+  const Texts& texts = host_.texts();
   setWindowTitle("Melvado");
   SetWords(*title_, *title_, "Melvado");
-  SetWords(*subtitle_, *subtitle_, words.Say(9401, "Ear training"));
-  SetWords(*user_heading_, *user_heading_, words.Say(9402, "Who is practising?"));
-  SetWords(*add_user_, *add_user_, words.Say(9404, "Add…"));
-  SetWords(*change_user_, *change_user_, words.Say(9405, "Change…"));
-  SetWords(*remove_user_, *remove_user_, words.Say(9406, "Remove…"));
-  SetWords(*language_heading_, *language_heading_, words.Say(9407, "Language"));
-  SetWords(*output_heading_, *output_heading_, words.Say(9408, "Sound output"));
-  SetWords(*test_, *test_, words.Say(9411, "Test the sound"));
-  SetWords(*soundfont_, *soundfont_, words.Say(9412, "Choose a soundfont…"));
-  SetWords(*usual_soundfont_, *usual_soundfont_, words.Say(9413, "Soundfont of the system"));
-  SetWords(*log_button_, *log_button_, words.Say(9419, "Log"));
-  SetWords(*restore_, *restore_, words.Say(9208, "Restore a backup…"));
-  SetWords(*quit_, *quit_, words.Say(9420, "Quit"));
-  SetWords(*help_, *help_, words.Say(9421, "Help"));
+  SetWords(*subtitle_, *subtitle_, texts.Say(9401, "Ear training"));
+  SetWords(*user_heading_, *user_heading_, texts.Say(9402, "Who is practising?"));
+  SetWords(*add_user_, *add_user_, texts.Say(9404, "Add…"));
+  SetWords(*change_user_, *change_user_, texts.Say(9405, "Change…"));
+  SetWords(*remove_user_, *remove_user_, texts.Say(9406, "Remove…"));
+  SetWords(*language_heading_, *language_heading_, texts.Say(9407, "Language"));
+  SetWords(*output_heading_, *output_heading_, texts.Say(9408, "Sound output"));
+  SetWords(*test_, *test_, texts.Say(9411, "Test the sound"));
+  SetWords(*soundfont_, *soundfont_, texts.Say(9412, "Choose a soundfont…"));
+  SetWords(*usual_soundfont_, *usual_soundfont_, texts.Say(9413, "Soundfont of the system"));
+  SetWords(*log_button_, *log_button_, texts.Say(9419, "Log"));
+  SetWords(*restore_, *restore_, texts.Say(9208, "Restore a backup…"));
+  SetWords(*quit_, *quit_, texts.Say(9420, "Quit"));
+  SetWords(*help_, *help_, texts.Say(9421, "Help"));
   Name(*user_, user_heading_->caption());
   Name(*language_, language_heading_->caption());
   Name(*output_, output_heading_->caption());
@@ -308,7 +308,7 @@ void HomeWindow::Fill(DropDownWidget& list, const QStringList& entries, int chos
 void HomeWindow::ShowUsers() {
   users_ = host_.Users();
   const std::string chosen = host_.ChosenUser();
-  QStringList entries{host_.words().Say(9403, "Nobody (without a name)")};
+  QStringList entries{host_.texts().Say(9403, "Nobody (without a name)")};
   int index = 0;
   for (const StoreUser& user : users_) {
     if (user.id == chosen) index = static_cast<int>(entries.size());
@@ -330,15 +330,15 @@ void HomeWindow::ShowLanguages() {
 }
 
 void HomeWindow::ShowOutputs() {
-  const Words& words = host_.words();
+  const Texts& texts = host_.texts();
   const OutputChoice& choice = host_.outputs();
   QStringList entries;
   for (const Output& output : choice.outputs) {
     const QString name = QString::fromStdString(output.name);
     if (name.isEmpty()) {
-      entries << words.Say(9409, "Built-in synthesiser");
+      entries << texts.Say(9409, "Built-in synthesiser");
     } else {
-      entries << (output.is_there ? name : words.Say(9410, "%1 (not connected)", {name}));
+      entries << (output.is_there ? name : texts.Say(9410, "%1 (not connected)", {name}));
     }
   }
   Fill(*output_, entries, choice.chosen);
@@ -346,22 +346,22 @@ void HomeWindow::ShowOutputs() {
   const QString note =
       chosen.is_there
           ? QString()
-          : words.Say(9416, "%1 is not connected. The built-in synthesiser plays in its place.",
+          : texts.Say(9416, "%1 is not connected. The built-in synthesiser plays in its place.",
                       {QString::fromStdString(chosen.name)});
   SetWords(*output_note_, *output_note_, note);
   output_->setAccessibleDescription(note);
 }
 
 void HomeWindow::ShowSoundfont() {
-  const Words& words = host_.words();
+  const Texts& texts = host_.texts();
   const std::string path = host_.Soundfont();
   QString note;
   if (path.empty()) {
-    note = words.Say(9415, "The soundfont of the system plays.");
+    note = texts.Say(9415, "The soundfont of the system plays.");
   } else if (host_.SoundfontIsThere()) {
-    note = words.Say(9414, "Soundfont: %1", {FileName(path)});
+    note = texts.Say(9414, "Soundfont: %1", {FileName(path)});
   } else {
-    note = words.Say(9430, "The soundfont %1 is missing. That of the system plays in its place.",
+    note = texts.Say(9430, "The soundfont %1 is missing. That of the system plays in its place.",
                      {FileName(path)});
   }
   SetWords(*soundfont_note_, *soundfont_note_, note);
@@ -371,18 +371,18 @@ void HomeWindow::ShowSoundfont() {
 }
 
 void HomeWindow::ShowVerdict() {
-  const Words& words = host_.words();
+  const Texts& texts = host_.texts();
   QString text;
   verdict_is_good_.reset();
   if (host_.TestRuns()) {
-    text = words.Say(9417, "A chord is being played…");
+    text = texts.Say(9417, "A chord is being played…");
   } else if (const auto& verdict = host_.verdict()) {
     for (const Notice& notice : verdict->words) {
-      text += (text.isEmpty() ? "" : " ") + words.Say(notice);
+      text += (text.isEmpty() ? "" : " ") + texts.Say(notice);
     }
     verdict_is_good_ = verdict->left_the_program;
   } else {
-    text = words.Say(9418, "The sound test plays a chord and tells what became of it.");
+    text = texts.Say(9418, "The sound test plays a chord and tells what became of it.");
   }
   update();
   SetWords(*verdict_, *verdict_, text);
@@ -395,8 +395,8 @@ void HomeWindow::ShowVerdict() {
 void HomeWindow::ShowStart() {
   const bool runs = host_.ModuleRuns();
   SetWords(*start_, *start_,
-           runs ? host_.words().Say(9422, "Starting…")
-                : host_.words().Say(347, "Jazz-Akkorde bestimmen"));
+           runs ? host_.texts().Say(9422, "Starting…")
+                : host_.texts().Say(347, "Jazz-Akkorde bestimmen"));
   start_->setDown(runs);
   for (QWidget* widget :
        std::initializer_list<QWidget*>{user_, add_user_, language_, output_, restore_}) {
@@ -459,7 +459,7 @@ void HomeWindow::ComeToFront() {
 
 void HomeWindow::AskToEndModule() {
   if (!host_.ModuleRuns()) return;
-  const QString question = host_.words().Say(
+  const QString question = host_.texts().Say(
       9260,
       "The exercise does not answer. If it is only busy, wait for it. Do you want to end it? What "
       "has not been stored there may be lost.");
@@ -479,7 +479,7 @@ void HomeWindow::AskForUser(bool known) {
       if (one.id == chosen) user = one;
     }
   }
-  UserDialog dialog(this, host_.words(), user, [this, known](const StoreUser& typed) {
+  UserDialog dialog(this, host_.texts(), user, [this, known](const StoreUser& typed) {
     return known ? host_.ChangeUser(typed) : host_.AddUser(typed);
   });
   const bool taken = dialog.exec() == QDialog::Accepted;
@@ -492,7 +492,7 @@ void HomeWindow::RemoveUser() {
   for (const StoreUser& user : users_) {
     if (user.id != chosen) continue;
     const QString question =
-        host_.words().Say(9429,
+        host_.texts().Say(9429,
                           "Remove %1 from the list? The stored trainings are kept: whoever is "
                           "added with this number again goes on with them.",
                           {Shown(user)});
@@ -508,7 +508,7 @@ void HomeWindow::RemoveUser() {
 void HomeWindow::ChooseSoundfont() {
   // The kinds of soundfonts, as the name filter writes several.
   constexpr const char* kEndings = "sf2 *.sf3 *.SF2 *.SF3";
-  const QString title = host_.words().Say(9437, "Choose a soundfont");
+  const QString title = host_.texts().Say(9437, "Choose a soundfont");
   const std::optional<std::string> path = dialog_.AskToOpen(title.toStdString(), kEndings, "");
   if (path) TakeSoundfont(*path);
 }
@@ -519,7 +519,7 @@ void HomeWindow::TakeSoundfont(const std::string& path) {
   QGuiApplication::restoreOverrideCursor();
   // The other button of the two is locked where the soundfont of the system plays.
   soundfont_->setFocus(Qt::OtherFocusReason);
-  if (fault) messages_.Warn(host_.words().Say(*fault).toStdString(), "Melvado");
+  if (fault) messages_.Warn(host_.texts().Say(*fault).toStdString(), "Melvado");
 }
 
 void HomeWindow::Test() {
@@ -543,7 +543,7 @@ void HomeWindow::Return() {
 void HomeWindow::ModuleEnded(const ModuleEnd& end) {
   // The user may be at work in the next one. What was wrong with this one is in the log.
   if (host_.ModuleRuns()) return;
-  const Words& words = host_.words();
+  const Texts& texts = host_.texts();
   switch (end.kind) {
     case ModuleEnd::Kind::kMenu:
     case ModuleEnd::Kind::kHung:
@@ -553,7 +553,7 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
     case ModuleEnd::Kind::kOpenBefore:
       Return();
       messages_.Warn(
-          words.Say(9452, "The exercise is open already. After OK its window comes to the front.")
+          texts.Say(9452, "The exercise is open already. After OK its window comes to the front.")
               .toStdString(),
           "Melvado");
       // It has come once, but the message and this window have covered it.
@@ -562,7 +562,7 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
     case ModuleEnd::Kind::kNotStarted:
       Return();
       return messages_.Warn(
-          words
+          texts
               .Say(9453,
                    "The exercise could not be started (%1). Install the program again; if that "
                    "does not help, send the fault report from the log.",
@@ -574,7 +574,7 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
       break;
   }
   const QString question =
-      words.Say(9451,
+      texts.Say(9451,
                 "The exercise has ended unexpectedly. What was stored before is still there. Do "
                 "you want to see the end of the log?");
   if (messages_.Ask(question.toStdString(), "Melvado", MessageBox::Answer::kYes) ==
@@ -588,24 +588,24 @@ void HomeWindow::ShowLog() {
 }
 
 void HomeWindow::RestoreBackup() {
-  const Words& words = host_.words();
+  const Texts& texts = host_.texts();
   // Whoever made a backup named it; what was put aside has its date for an extension.
   constexpr const char* kAnyExtension = "*";
   const std::optional<std::string> path = dialog_.AskToOpen(
-      words.Say(9209, "Choose a backup").toStdString(), kAnyExtension, host_.StoreFolder());
+      texts.Say(9209, "Choose a backup").toStdString(), kAnyExtension, host_.StoreFolder());
   if (!path) return;
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   const std::optional<Notice> outcome = host_.RestoreBackup(*path, [&](const Notice& question) {
     QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
     const MessageBox::Answer answer =
-        messages_.Ask(words.Say(question).toStdString(), "Melvado", MessageBox::Answer::kNo);
+        messages_.Ask(texts.Say(question).toStdString(), "Melvado", MessageBox::Answer::kNo);
     QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
     return answer == MessageBox::Answer::kYes;
   });
   QGuiApplication::restoreOverrideCursor();
   if (!outcome) return;
   Refresh();  // behind the message stands already what was restored
-  messages_.Warn(words.Say(*outcome).toStdString(), "Melvado");
+  messages_.Warn(texts.Say(*outcome).toStdString(), "Melvado");
 }
 
 // --- Events and painting

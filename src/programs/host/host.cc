@@ -67,7 +67,7 @@ Host::Host(HostSetup setup, EventLoop& loop)
     : setup_(Completed(std::move(setup))),
       loop_(loop),
       languages_(setup_.language_folders),
-      words_(languages_),
+      texts_(languages_),
       ports_(setup_.sound.ports),
       store_(HostStoreOptions()),
       test_(setup_.sound, loop) {
@@ -84,7 +84,7 @@ Host::Host(HostSetup setup, EventLoop& loop)
   RefreshOutputs();
   TaggedValue slot;
   store_.Service()->Action("LOGMESS", "melvado " + Version(), slot);
-  for (const Notice& notice : languages_.Notices()) Tell(notice);
+  for (const Notice& notice : languages_.Notices()) TellLater(notice);
 }
 
 Host::~Host() = default;
@@ -99,16 +99,16 @@ StoreOptions Host::HostStoreOptions() {
     const std::vector<std::string> names = Languages();
     return std::ranges::find(names, name) != names.end();
   };
-  options.notify = [this](const Notice& notice) { Tell(notice); };
+  options.notify = [this](const Notice& notice) { TellLater(notice); };
   return options;
 }
 
 void Host::SetTell(Notify tell) {
   tell_ = std::move(tell);
-  TellLater();
+  PostUntold();
 }
 
-void Host::TellLater() {
+void Host::PostUntold() {
   if (!tell_) return;
   loop_.Post([this, alive = std::weak_ptr(alive_)] {
     if (alive.expired()) return;
@@ -116,10 +116,10 @@ void Host::TellLater() {
   });
 }
 
-void Host::Tell(const Notice& notice) {
+void Host::TellLater(const Notice& notice) {
   // Whoever is told shows a message, which must not come in the middle of what is being done.
   untold_.push_back(notice);
-  TellLater();
+  PostUntold();
 }
 
 /// Returns that the store is locked, in place of the store's own word, which comes once only.
@@ -135,7 +135,7 @@ std::optional<Notice> Host::Store(const std::function<void()>& work) {
 }
 
 void Host::Choose(const std::function<void()>& work) {
-  if (const auto trouble = Store(work)) Tell(*trouble);
+  if (const auto trouble = Store(work)) TellLater(*trouble);
 }
 
 // --- Who is learning
@@ -145,7 +145,7 @@ std::vector<StoreUser> Host::Users() {
   const std::optional<StoreUser> chosen = store_.User();
   const auto is_chosen = [&](const StoreUser& user) { return user.id == chosen->id; };
   if (chosen && std::ranges::none_of(users, is_chosen)) users.push_back(*chosen);
-  Sort(users, words_.locale());
+  Sort(users, texts_.locale());
   return users;
 }
 
@@ -196,7 +196,7 @@ void Host::SpeakLanguage() {
   TaggedValue name = kFirstLanguage;
   store_.Service()->Action("LANG", "", name);
   language_ = name.String();
-  words_.Speak(language_);
+  texts_.Speak(language_);
 }
 
 void Host::ChooseLanguage(const std::string& name) {
@@ -307,7 +307,7 @@ std::optional<Notice> Host::RestoreBackup(const std::string& path,
   StoreBackup backup(QString::fromStdString(path), address.path);
   if (auto refusal = backup.Prepare()) return refusal;
   const std::string changed_on =
-      words_.locale()
+      texts_.locale()
           .toString(QFileInfo(QString::fromStdString(path)).lastModified(), QLocale::ShortFormat)
           .toStdString();
   const Notice question{
@@ -358,7 +358,7 @@ FaultFacts Host::Facts() {
   facts.soundfont = soundfont.empty() ? "the system's" : soundfont;
   if (!SoundfontIsThere()) facts.soundfont += " (missing)";
   if (verdict_) {
-    Words english(languages_);
+    Texts english(languages_);
     for (const Notice& notice : verdict_->words) {
       facts.verdict += (facts.verdict.empty() ? "" : " ") + english.Say(notice).toStdString();
     }

@@ -97,22 +97,22 @@ void LogWindow::Open(double factor) {
 }
 
 void LogWindow::ShowWords() {
-  const Words& words = host_.words();
-  setWindowTitle(words.Say(9419, "Log"));
-  lines_->setHorizontalHeaderLabels({words.Say(9455, "Time"), words.Say(9456, "Place"),
-                                     words.Say(9457, "Number"), words.Say(9458, "Text"),
-                                     words.Say(9459, "Source")});
+  const Texts& texts = host_.texts();
+  setWindowTitle(texts.Say(9419, "Log"));
+  lines_->setHorizontalHeaderLabels({texts.Say(9455, "Time"), texts.Say(9456, "Place"),
+                                     texts.Say(9457, "Number"), texts.Say(9458, "Text"),
+                                     texts.Say(9459, "Source")});
   lines_->setAccessibleName(windowTitle());
-  line_->setAccessibleName(words.Say(9458, "Text"));
-  refresh_->setText(words.Say(9460, "Refresh"));
-  copy_->setText(words.Say(9461, "Copy as a fault report"));
-  close_->setText(words.Say(9462, "Close"));
+  line_->setAccessibleName(texts.Say(9458, "Text"));
+  refresh_->setText(texts.Say(9460, "Refresh"));
+  copy_->setText(texts.Say(9461, "Copy as a fault report"));
+  close_->setText(texts.Say(9462, "Close"));
 }
 
 QString LogWindow::ShownTime(const std::string& at) const {
   const QString text = QString::fromStdString(at);
   const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
-  const QLocale& locale = host_.words().locale();
+  const QLocale& locale = host_.texts().locale();
   if (!time.isValid()) return text;
   return locale.toString(time.date(), QLocale::ShortFormat) + ' ' + time.toString("hh:mm:ss");
 }
@@ -146,7 +146,7 @@ void LogWindow::Read() {
 
 void LogWindow::ShowLine(int row) {
   if (row < 0 || row >= static_cast<int>(entries_.size())) {
-    line_->setPlainText(host_.words().Say(9464, "The log is empty."));
+    line_->setPlainText(host_.texts().Say(9464, "The log is empty."));
     return;
   }
   const LogEntry& entry = entries_[static_cast<std::size_t>(row)];
@@ -161,7 +161,7 @@ void LogWindow::ShowLine(int row) {
 void LogWindow::Copy() {
   QGuiApplication::clipboard()->setText(QString::fromStdString(host_.Report()));
   note_->setText(
-      host_.words().Say(9463, "The report is in the clipboard and can be pasted into a mail."));
+      host_.texts().Say(9463, "The report is in the clipboard and can be pasted into a mail."));
 }
 
 }  // namespace melvado

@@ -69,7 +69,7 @@ void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& ho
     help->words = [&host] {
       const HelpWindow::Words english;
       const auto word = [&host](int id, const std::string& text) {
-        return host.words().Say(id, text.c_str()).toStdString();
+        return host.texts().Say(id, text.c_str()).toStdString();
       };
       return HelpWindow::Words{word(9421, english.title),    word(9391, english.contents),
                                word(9392, english.back),     word(9393, english.forward),
@@ -77,7 +77,7 @@ void ShowHelp(std::unique_ptr<HelpWindow>& help, QWidget& window, const Host& ho
                                word(9634, english.too_large)};
     };
   }
-  help->Show(page, host.words().locale().name().toStdString());
+  help->Show(page, host.texts().locale().name().toStdString());
 }
 
 /// The words in which the host would speak, had it started.
@@ -92,42 +92,42 @@ class EarlyWords {
     TaggedValue name;
     try {
       HostStore(std::move(options)).Service()->Action("LANG", "", name);
-      words_.Speak(name.String());
+      texts_.Speak(name.String());
     } catch (const RunTimeError&) {
       // English, then.
     }
   }
-  const Words& words() const { return words_; }
+  const Texts& texts() const { return texts_; }
 
  private:
   // The process that is silent may hold the store, and wait for the server as this one would.
   static constexpr int kEarlyPatienceMs = 500;
 
   const QtLanguageList languages_;
-  Words words_{languages_};
+  Texts texts_{languages_};
 };
 
-QtMessageBox::Words ButtonsIn(const Words& words) {
-  return {words.Say(432, "OK").toStdString(), words.Say(9001, "Yes").toStdString(),
-          words.Say(9002, "No").toStdString()};
+QtMessageBox::Words ButtonsIn(const Texts& texts) {
+  return {texts.Say(432, "OK").toStdString(), texts.Say(9001, "Yes").toStdString(),
+          texts.Say(9002, "No").toStdString()};
 }
 
 /// Two hosts of a store would hide what the other has chosen.
 SingleInstance::Claimed ClaimFor(const HostSetup& setup, SingleInstance& instance) {
   std::optional<EarlyWords> early;
-  const auto words = [&]() -> const Words& {
+  const auto texts = [&]() -> const Texts& {
     if (!early) early.emplace(setup);
-    return early->words();
+    return early->texts();
   };
   QtMessageBox messages(nullptr);
-  messages.words = [&] { return ButtonsIn(words()); };
+  messages.words = [&] { return ButtonsIn(texts()); };
   const Notice question{
       9257,
       "Melvado is open already, but does not answer. If it is only busy, wait for it. Do you want "
       "to end it and start it again? What has not been stored there may be lost.",
       {}};
   return ClaimOrAsk(instance, messages, question,
-                    [&](const Notice& notice) { return words().Say(notice).toStdString(); });
+                    [&](const Notice& notice) { return texts().Say(notice).toStdString(); });
 }
 
 int Run() {
@@ -149,12 +149,12 @@ int Run() {
   QtMessageBox messages([&front] { return front; });
   QtFileDialog dialog([&front] { return front; });
   Host host(std::move(setup), loop);
-  messages.words = [&host] { return ButtonsIn(host.words()); };
+  messages.words = [&host] { return ButtonsIn(host.texts()); };
   loop.on_error = [&](const std::exception_ptr& error) {
     const RunTimeError what = AsRunTimeError(error);
     host.LogError("run_time", what.number(), what.what(), what.source());
     const QString said = QString::fromStdString(what.what());
-    messages.Warn(host.words()
+    messages.Warn(host.texts()
                       .Say(9467,
                            "An error has occurred that the program did not expect (%1). It is in "
                            "the log; you can go on. Please send the fault report from the log.",
@@ -176,7 +176,7 @@ int Run() {
   QTimer::singleShot(0, &window, [&] {
     QApplication::setWindowIcon(QIcon(":/melvado.svg"));
     host.SetTell([&](const Notice& notice) {
-      messages.Warn(host.words().Say(notice).toStdString(), "Melvado");
+      messages.Warn(host.texts().Say(notice).toStdString(), "Melvado");
     });
   });
   loop.Run();

@@ -19,9 +19,9 @@ namespace melvado {
 
 using vmod17::StoreUser;
 
-UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& user, Take take)
+UserDialog::UserDialog(QWidget* parent, const Texts& texts, const StoreUser& user, Take take)
     : QDialog(parent),
-      words_(words),
+      texts_(texts),
       take_(std::move(take)),
       name_(MakeField("name", user.name)),
       first_name_(MakeField("first_name", user.first_name)),
@@ -31,28 +31,28 @@ UserDialog::UserDialog(QWidget* parent, const Words& words, const StoreUser& use
   const bool known = !user.id.empty();
   const double factor = parent->font().pixelSize() / 14.0;
   DressDialog(*this, factor);
-  setWindowTitle(known ? words.Say(9424, "Change a user") : words.Say(9423, "Add a user"));
+  setWindowTitle(known ? texts.Say(9424, "Change a user") : texts.Say(9423, "Add a user"));
   // What is stored stands under the number.
   number_->setReadOnly(known);
   if (known) number_->setFocusPolicy(Qt::NoFocus);
   fault_->hide();
   if (!known) {
     note_->setText(
-        words.Say(9431, "Please enter the matriculation number: the trainings are kept under it."));
+        texts.Say(9431, "Please enter the matriculation number: the trainings are kept under it."));
     number_->setAccessibleDescription(note_->text());
   }
   note_->setVisible(!known);
 
   auto* const form = new QFormLayout;
   form->setVerticalSpacing(qRound(10 * factor));
-  form->addRow(MakeLabel(words.Say(9425, "Name"), *name_), name_);
-  form->addRow(MakeLabel(words.Say(9426, "First name"), *first_name_), first_name_);
-  form->addRow(MakeLabel(words.Say(9427, "Matriculation number"), *number_), number_);
-  auto* const ok = new QPushButton(words.Say(432, "OK"));
+  form->addRow(MakeLabel(texts.Say(9425, "Name"), *name_), name_);
+  form->addRow(MakeLabel(texts.Say(9426, "First name"), *first_name_), first_name_);
+  form->addRow(MakeLabel(texts.Say(9427, "Matriculation number"), *number_), number_);
+  auto* const ok = new QPushButton(texts.Say(432, "OK"));
   ok->setObjectName("ok");
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, [this] { Try(); });
-  auto* const cancel = new QPushButton(words.Say(9428, "Cancel"));
+  auto* const cancel = new QPushButton(texts.Say(9428, "Cancel"));
   cancel->setObjectName("cancel");
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   auto* const buttons = new QHBoxLayout;
@@ -105,7 +105,7 @@ void UserDialog::Try() {
   for (QLineEdit* field : {name_, first_name_, number_}) field->setAccessibleDescription({});
   if (!fault) return accept();
   note_->hide();
-  const QString said = words_.Say(*fault);
+  const QString said = texts_.Say(*fault);
   fault_->setText(said);
   fault_->show();
   Grow();

@@ -222,13 +222,13 @@ TEST_F(HomeWindowTest, HasRoomForTheWordsOfAStart) {
 TEST_F(HomeWindowTest, ShowsItsOwnWordsWholeInTheLists) {
   Open();
   InEachLanguage([this](const std::string& language) {
-    EXPECT_EQ(Caption("user").toStdString(), host_->words().Say(9403, "").toStdString());
-    EXPECT_EQ(Caption("output").toStdString(), host_->words().Say(9409, "").toStdString());
+    EXPECT_EQ(Caption("user").toStdString(), host_->texts().Say(9403, "").toStdString());
+    EXPECT_EQ(Caption("output").toStdString(), host_->texts().Say(9409, "").toStdString());
     host_->ChooseOutput("USB Piano");
     host_->RefreshOutputs();
     Choose("user", 0);  // shows the outputs anew
     EXPECT_EQ(Caption("output").toStdString(),
-              host_->words().Say(9410, "", {"USB Piano"}).toStdString())
+              host_->texts().Say(9410, "", {"USB Piano"}).toStdString())
         << language;
     host_->ChooseOutput("");
   });

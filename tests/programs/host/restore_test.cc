@@ -92,7 +92,7 @@ TEST_F(Restore, SaysInWordsWhyAFileIsRefused) {
   EXPECT_THAT(messages_.questions, IsEmpty());
   ASSERT_THAT(messages_.warnings, SizeIs(1));
   EXPECT_EQ(messages_.warnings[0].text,
-            host_->words().Say({9120, "", {FAKE_MODULE}}).toStdString());
+            host_->texts().Say({9120, "", {FAKE_MODULE}}).toStdString());
   EXPECT_THAT(Users(), ElementsAre("4712"));
 }
 
@@ -124,7 +124,7 @@ TEST_F(Restore, RefusesWhileAnotherProgramUsesTheStore) {
   Press("restore");
   ASSERT_THAT(messages_.warnings, SizeIs(1));
   EXPECT_EQ(messages_.warnings[0].text,
-            host_->words().Say({9123, "", {At("store.sqlite").toStdString()}}).toStdString());
+            host_->texts().Say({9123, "", {At("store.sqlite").toStdString()}}).toStdString());
   EXPECT_THAT(Users(), ElementsAre("4712"));
 }
 

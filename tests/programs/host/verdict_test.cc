@@ -8,7 +8,7 @@
 #include <QDir>
 
 #include "midi/midi_notices.h"
-#include "programs/host/words.h"
+#include "programs/host/texts.h"
 #include "qt/desk/qt_language.h"
 #include "qt/kit/look.h"
 
@@ -148,11 +148,11 @@ TEST(Verdict, FitsItsPlaceInEveryLanguage) {
             {PortVanishedNotice("Digital Piano:Digital Piano MIDI 1")}, kMs)};
   ASSERT_GE(languages.Table().size(), 2u);
   for (const LanguageColumn& column : languages.Table()) {
-    Words words(languages);
-    words.Speak(column[1]);
+    Texts texts(languages);
+    texts.Speak(column[1]);
     for (const Verdict& verdict : verdicts) {
       QString text;
-      for (const Notice& notice : verdict.words) text += words.Say(notice) + ' ';
+      for (const Notice& notice : verdict.words) text += texts.Say(notice) + ' ';
       EXPECT_TRUE(look::SetText(text, QSizeF(832, 90), 16, look::Weight::kNormal).fits)
           << column[1] << ": " << text.toStdString();
     }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "programs/host/words.h"
+#include "programs/host/texts.h"
 
 #include <QStringList>
 
@@ -26,7 +26,7 @@ QString Filled(QString text, const QStringList& details) {
 
 }  // namespace
 
-void Words::Speak(const std::string& name) {
+void Texts::Speak(const std::string& name) {
   language_.reset();
   locale_ = QLocale(QLocale::English);
   for (const LanguageColumn& column : list_.Table()) {
@@ -41,7 +41,7 @@ void Words::Speak(const std::string& name) {
   }
 }
 
-QString Words::Word(int id, const QString& english) const {
+QString Texts::Word(int id, const QString& english) const {
   if (!language_) return english;
   try {
     const std::string word = language_->Wort(std::to_string(id) + 's');
@@ -51,11 +51,11 @@ QString Words::Word(int id, const QString& english) const {
   }
 }
 
-QString Words::Say(int id, const char* english, std::initializer_list<QString> details) const {
+QString Texts::Say(int id, const char* english, std::initializer_list<QString> details) const {
   return Filled(Word(id, QString::fromUtf8(english)), QStringList(details));
 }
 
-QString Words::Say(const Notice& notice) const {
+QString Texts::Say(const Notice& notice) const {
   QStringList details;
   for (const std::string& detail : notice.details) details << QString::fromStdString(detail);
   return Filled(Word(notice.text_id, QString::fromStdString(notice.english)), details);

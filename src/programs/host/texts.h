@@ -16,10 +16,10 @@ namespace melvado {
 
 /// The host's texts by text id, in a language that can change while the host runs. A text that the
 /// language lacks is said in English.
-class Words {
+class Texts {
  public:
-  /// `list` outlives the words.
-  explicit Words(const vmod17::LanguageList& list) : list_(list) {}
+  /// `list` outlives the texts.
+  explicit Texts(const vmod17::LanguageList& list) : list_(list) {}
 
   /// Takes the language of this name; one that is not installed or cannot be made leaves English.
   void Speak(const std::string& name);
