@@ -15,6 +15,7 @@ vmod17_test(
           shell/loaded_screens_test.cc
           shell/message_form_test.cc
           shell/mod_server_test.cc
+          base/language_code_test.cc
           base/numbers_test.cc
           base/record_reader_test.cc
           shell/text_lookup_test.cc

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/usual_words.h"
 #include "forms/caption.h"
 #include "results/own_words.h"
 
@@ -223,7 +224,7 @@ void Testergebnis::ZeigeErgebnisse() {
 
 void Testergebnis::SetzeTexte() {
   lab_ges.caption = Wort(275);
-  cmdHilfe.spoken = shell_.texts.Words({9421, "Help", {}});
+  cmdHilfe.spoken = shell_.texts.Words(kHelpWord);
   for (int i : {0, 1}) {
     cmdOK[i].caption = Wort(625);
     cmdPrint[i].caption = Wort(1);

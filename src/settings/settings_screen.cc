@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/usual_words.h"
 #include "catalogue/chord_table.h"
 #include "settings/exams.h"
 #include "settings/settings_table.h"
@@ -276,7 +277,7 @@ void Einstellung1::SetzeTexte() {
   grplst[1].spoken = shell_.texts.SprachtextOder(9554, "Gruppe gewählt");
   cmdOK.caption = text(139);
   cmdZurueck.caption = text(640);
-  cmdHilfe.spoken = shell_.texts.Words({9421, "Help", {}});
+  cmdHilfe.spoken = shell_.texts.Words(kHelpWord);
   klang_contr.caption = text(366);
   lb14[0].caption = text(372);
   lb14[1].caption = DecimalText(kLautstaerke);

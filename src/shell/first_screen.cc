@@ -3,6 +3,8 @@
 
 #include "shell/first_screen.h"
 
+#include "base/usual_words.h"
+
 namespace vmod17 {
 namespace {
 
@@ -64,7 +66,7 @@ void GrdEinst::SetzeTexte() {
   ueb_typ[2].caption = texts.Sprachtext(160);
   ueb_typ[3].caption = texts.Sprachtext(496);
   cmdOK.caption = texts.Sprachtext(432);
-  cmdHilfe.spoken = texts.Words({9421, "Help", {}});
+  cmdHilfe.spoken = texts.Words(kHelpWord);
   cmdEnde.caption = texts.Sprachtext(223);
 }
 

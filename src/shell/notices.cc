@@ -13,9 +13,8 @@ constexpr int kWarten = 150;  // ms between two looks whether a screen stands
 
 }  // namespace
 
-Notices::Notices(EventLoop& loop, MessageBox& messages, const TextLookup& texts,
-                 std::function<bool()> ready)
-    : loop_(loop), messages_(messages), texts_(texts), ready_(std::move(ready)) {}
+Notices::Notices(EventLoop& loop, MessageBox& messages, Wording say, std::function<bool()> ready)
+    : loop_(loop), messages_(messages), say_(std::move(say)), ready_(std::move(ready)) {}
 
 void Notices::Tell(const Notice& notice) {
   const auto is_same = [&](const Waiting& waiting) {
@@ -23,7 +22,7 @@ void Notices::Tell(const Notice& notice) {
            waiting.notice->details == notice.details;
   };
   if (std::ranges::any_of(waiting_, is_same)) return;
-  Await({notice, [this, notice] { messages_.Warn(texts_.Words(notice), "Melvado"); }});
+  Await({notice, [this, notice] { messages_.Warn(say_(notice), "Melvado"); }});
 }
 
 void Notices::Ask(std::function<void()> question) { Await({std::nullopt, std::move(question)}); }

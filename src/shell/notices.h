@@ -7,10 +7,9 @@
 #include <optional>
 #include <vector>
 
-#include "base/notice.h"
+#include "base/wording.h"
 #include "ports/event_loop.h"
 #include "ports/message_box.h"
-#include "shell/text_lookup.h"
 
 namespace vmod17 {
 
@@ -18,9 +17,9 @@ namespace vmod17 {
 /// in a moment that a message does not spoil.
 class Notices {
  public:
-  /// `ready` tells whether this is such a moment.
-  Notices(EventLoop& loop, MessageBox& messages, const TextLookup& texts,
-          std::function<bool()> ready);
+  /// `say`    the words of a notice
+  /// `ready`  whether this is such a moment
+  Notices(EventLoop& loop, MessageBox& messages, Wording say, std::function<bool()> ready);
 
   /// The same notice is told once while it waits for its moment. Whoever tells it knows when it is
   /// new again.
@@ -40,7 +39,7 @@ class Notices {
 
   EventLoop& loop_;
   MessageBox& messages_;
-  const TextLookup& texts_;
+  Wording say_;
   std::function<bool()> ready_;
   std::vector<Waiting> waiting_;
   bool armed_ = false;

@@ -7,8 +7,7 @@
 #include <exception>
 #include <utility>
 
-#include "base/numbers.h"
-#include "base/run_time_error.h"
+#include "shell/words_of.h"
 
 namespace vmod17 {
 namespace {
@@ -48,14 +47,7 @@ void TextLookup::SpracheErzeugen(int column) {
   gebietsschema_ = language.at(kLocaleInColumn);
 }
 
-std::string TextLookup::Sprachtext(int id) const {
-  if (!languageTexts) return kOhneWort;
-  try {
-    return languageTexts->Wort(DecimalText(id) + "s");
-  } catch (const std::exception&) {
-    return kOhneWort;
-  }
-}
+std::string TextLookup::Sprachtext(int id) const { return WordOf(languageTexts.get(), id); }
 
 std::string TextLookup::SprachtextOder(int id, const std::string& eigenes) const {
   const std::string text = Sprachtext(id);
@@ -63,7 +55,7 @@ std::string TextLookup::SprachtextOder(int id, const std::string& eigenes) const
 }
 
 std::string TextLookup::Words(const Notice& notice) const {
-  return WithDetails(SprachtextOder(notice.text_id, notice.english), notice.details);
+  return WordsOf(languageTexts.get(), notice);
 }
 
 void TextLookup::TexteLaden() {

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "base/numbers.h"
+#include "base/usual_words.h"
 #include "catalogue/chord_spelling.h"
 
 namespace vmod17 {
@@ -231,7 +232,7 @@ void Arbeitsblatt1::BereiteModusVor() {
 void Arbeitsblatt1::TexteSetzen() {
   const TextLookup& texts = shell_.texts;
   const auto text = [&](int id) { return texts.Sprachtext(id); };
-  cmdHilfe.spoken = texts.Words({9421, "Help", {}});
+  cmdHilfe.spoken = texts.Words(kHelpWord);
   LbAkkGrp.caption = text(56);
   nrakk[0].caption = text(95) + text(700);
   for (int i = 1; i <= kSlots; ++i) {

@@ -55,5 +55,26 @@ TEST(Program, GivesTheHostItsWordOnceItsUserHasAnsweredWhatTheEndAsks) {
   EXPECT_EQ(p.host.Sent("MENUE"), 1);
 }
 
+TEST(Program, IsQuietWhereAScreenStandsAndNoTaskIsPlayedOrAnswered) {
+  ProgramFixture p;
+  EXPECT_FALSE(p.program.Quiet());
+  p.ToFirstScreen();
+  EXPECT_TRUE(p.program.Quiet());
+  p.first().cmdOK.Press();
+  EXPECT_FALSE(p.program.Quiet());  // between two screens
+  p.loop.Advance(200);
+  EXPECT_TRUE(p.program.Quiet());
+  p.StartRun();
+  EXPECT_TRUE(p.program.Quiet());
+  p.worksheet().CmdNextAufg.Press();
+  EXPECT_FALSE(p.program.Quiet());
+  p.loop.Advance(p.PlayingTime());
+  EXPECT_FALSE(p.program.Quiet());
+  EXPECT_TRUE(p.ClickRight());
+  EXPECT_TRUE(p.program.Quiet());
+  p.program.Leave();
+  EXPECT_FALSE(p.program.Quiet());
+}
+
 }  // namespace
 }  // namespace vmod17

@@ -19,7 +19,7 @@ class NoticesTest : public ::testing::Test {
 
   ProgramFixture p_;
   bool ready_ = true;
-  Notices notices_{p_.loop, p_.messages, p_.program.texts(), [this] { return ready_; }};
+  Notices notices_{p_.loop, p_.messages, InEnglish, [this] { return ready_; }};
   const Notice full_{9105, "The disk is full: %1.", {"store.sqlite"}};
 };
 

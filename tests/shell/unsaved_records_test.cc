@@ -62,7 +62,7 @@ class UnsavedRecordsTest : public ::testing::Test {
 
   ProgramFixture p_;
   bool ready_ = true;
-  Notices notices_{p_.loop, p_.messages, p_.program.texts(), [this] { return ready_; }};
+  Notices notices_{p_.loop, p_.messages, InEnglish, [this] { return ready_; }};
   UnsavedRecords records_{notices_, p_.messages, p_.dialog, p_.program.texts()};
 };
 

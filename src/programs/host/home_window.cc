@@ -15,16 +15,20 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/usual_words.h"
 #include "programs/host/log_window.h"
 #include "programs/host/user_dialog.h"
 #include "programs/shared/version.h"
+#include "qt/desk/raise_window.h"
 #include "qt/kit/help_window.h"
 #include "qt/kit/look.h"
 #include "qt/kit/signs.h"
+#include "qt/kit/window_factor.h"
 
 namespace melvado {
 namespace {
 
+namespace look = vmod17::look;
 using vmod17::Align;
 using vmod17::Dress;
 using vmod17::Dressed;
@@ -34,7 +38,6 @@ using vmod17::HelpWindow;
 using vmod17::kVersionMajor;
 using vmod17::kVersionMinor;
 using vmod17::kVersionRevision;
-namespace look = vmod17::look;
 using vmod17::MessageBox;
 using vmod17::Notice;
 using vmod17::Placement;
@@ -42,6 +45,7 @@ using vmod17::PressWidget;
 using vmod17::QtEventLoop;
 using vmod17::Rect;
 using vmod17::StoreUser;
+using vmod17::Texts;
 using vmod17::TextWidget;
 
 // All lengths in units, counted from the upper left corner of the canvas.
@@ -282,7 +286,7 @@ void HomeWindow::ShowWords() {
   SetWords(*log_button_, *log_button_, texts.Say(9419, "Log"));
   SetWords(*restore_, *restore_, texts.Say(9208, "Restore a backup…"));
   SetWords(*quit_, *quit_, texts.Say(9420, "Quit"));
-  SetWords(*help_, *help_, texts.Say(9421, "Help"));
+  SetWords(*help_, *help_, texts.Say(vmod17::kHelpWord));
   Name(*user_, user_heading_->caption());
   Name(*language_, language_heading_->caption());
   Name(*output_, output_heading_->caption());
@@ -442,13 +446,9 @@ void HomeWindow::ComeToFront() {
     if (host_.ModuleIsShown()) GiveWay();
     return;
   }
-  for (QWidget* window : {static_cast<QWidget*>(this), QApplication::activeModalWidget()}) {
-    if (window == nullptr) continue;
-    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-    window->show();
-    window->raise();
-    window->activateWindow();
-  }
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  vmod17::RaiseWindow(this);
   if (!asks) return;
   asks_to_end_ = true;
   QTimer::singleShot(0, this, [this] {
@@ -629,8 +629,7 @@ void HomeWindow::Arrange() {
     part.widget->setGeometry(Pixels(part.rect).toRect());
     part.widget->update();
   }
-  constexpr double kTextOfMessages = 14;
-  setFont(look::Type(kTextOfMessages * style_.factor, look::Weight::kNormal));
+  vmod17::SetFactor(*this, style_.factor);
 }
 
 void HomeWindow::resizeEvent(QResizeEvent*) { Arrange(); }

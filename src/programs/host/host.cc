@@ -47,6 +47,7 @@ using vmod17::StoreInUseNotice;
 using vmod17::StoreOptions;
 using vmod17::StoreUser;
 using vmod17::TaggedValue;
+using vmod17::Texts;
 
 constexpr const char* kFirstLanguage = "Deutsch";
 

@@ -16,8 +16,8 @@
 #include "programs/host/module_process.h"
 #include "programs/host/outputs.h"
 #include "programs/host/sound_trial.h"
-#include "programs/host/texts.h"
 #include "programs/host/users.h"
+#include "programs/shared/texts.h"
 #include "qt/desk/qt_language.h"
 #include "store/host_store.h"
 
@@ -54,7 +54,7 @@ class Host {
   /// What is shown has changed: outputs have come or gone.
   std::function<void()> changed;
 
-  const Texts& texts() const { return texts_; }
+  const vmod17::Texts& texts() const { return texts_; }
 
   // --- Who is learning
   /// Sorted; with who is chosen, even if somebody has taken him off the list meanwhile.
@@ -148,7 +148,7 @@ class Host {
   vmod17::Notify tell_;
   std::vector<vmod17::Notice> untold_;
   vmod17::QtLanguageList languages_;
-  Texts texts_;
+  vmod17::Texts texts_;
   std::string language_;
   std::shared_ptr<vmod17::MidiPorts> ports_;
   vmod17::HostStore store_;

@@ -22,6 +22,7 @@ namespace {
 
 using vmod17::LogEntry;
 using vmod17::QtEventLoop;
+using vmod17::Texts;
 
 enum Column { kTime, kPlace, kNumber, kText, kSource, kColumns };
 

@@ -13,7 +13,9 @@
 namespace melvado {
 
 using vmod17::kHostVariable;
+using vmod17::kOutputVariable;
 using vmod17::kSessionVariable;
+using vmod17::kStoreVariable;
 namespace ModuleLine = vmod17::ModuleLine;
 
 ModuleProcess::~ModuleProcess() {
@@ -40,15 +42,15 @@ void ModuleProcess::Start(const QString& program, const QString& store, const QS
   QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
   surroundings.insert(kHostVariable, "1");
   // Setting what is set would lose a name that is not UTF-8.
-  if (!store.isEmpty() && surroundings.value("MELVADO_STORE") != store) {
-    surroundings.insert("MELVADO_STORE", store);
+  if (!store.isEmpty() && surroundings.value(kStoreVariable) != store) {
+    surroundings.insert(kStoreVariable, store);
   }
   // The system starts no program with a longer one. The module reads the store, then.
   constexpr qsizetype kLongestVariable = 100'000;
   surroundings.remove(kSessionVariable);
   if (session.toUtf8().size() <= kLongestVariable) surroundings.insert(kSessionVariable, session);
   // Taken over by the host, where it may have been changed since.
-  surroundings.remove("MELVADO_MIDI");
+  surroundings.remove(kOutputVariable);
   process.setProcessEnvironment(surroundings);
   QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
                    [this, &module] { Hear(module); });

@@ -12,12 +12,15 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/usual_words.h"
 #include "programs/host/dialog_look.h"
 #include "programs/host/users.h"
+#include "qt/kit/window_factor.h"
 
 namespace melvado {
 
 using vmod17::StoreUser;
+using vmod17::Texts;
 
 UserDialog::UserDialog(QWidget* parent, const Texts& texts, const StoreUser& user, Take take)
     : QDialog(parent),
@@ -29,7 +32,7 @@ UserDialog::UserDialog(QWidget* parent, const Texts& texts, const StoreUser& use
       note_(MakeLine("note")),
       fault_(MakeLine("fault")) {
   const bool known = !user.id.empty();
-  const double factor = parent->font().pixelSize() / 14.0;
+  const double factor = vmod17::FactorOf(*parent);
   DressDialog(*this, factor);
   setWindowTitle(known ? texts.Say(9424, "Change a user") : texts.Say(9423, "Add a user"));
   // What is stored stands under the number.
@@ -48,7 +51,7 @@ UserDialog::UserDialog(QWidget* parent, const Texts& texts, const StoreUser& use
   form->addRow(MakeLabel(texts.Say(9425, "Name"), *name_), name_);
   form->addRow(MakeLabel(texts.Say(9426, "First name"), *first_name_), first_name_);
   form->addRow(MakeLabel(texts.Say(9427, "Matriculation number"), *number_), number_);
-  auto* const ok = new QPushButton(texts.Say(432, "OK"));
+  auto* const ok = new QPushButton(texts.Say(vmod17::kOkWord));
   ok->setObjectName("ok");
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, [this] { Try(); });

@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "base/notice.h"
-#include "programs/host/texts.h"
+#include "programs/shared/texts.h"
 #include "store/store_user.h"
 
 class QLabel;
@@ -25,7 +25,7 @@ class UserDialog : public QDialog {
 
   /// `user`  the one to be changed, whose number stays; without a number, a new one
   /// `take`  takes what was typed, or says why it cannot
-  UserDialog(QWidget* parent, const Texts& texts, const vmod17::StoreUser& user, Take take);
+  UserDialog(QWidget* parent, const vmod17::Texts& texts, const vmod17::StoreUser& user, Take take);
 
  private:
   QLineEdit* MakeField(const char* name, const std::string& text);
@@ -37,7 +37,7 @@ class UserDialog : public QDialog {
   /// Where the fault of what was typed is to be mended.
   QLineEdit& FaultyField() const;
 
-  const Texts& texts_;
+  const vmod17::Texts& texts_;
   const Take take_;
   QLineEdit* name_;
   QLineEdit* first_name_;

@@ -3,11 +3,9 @@
 
 #include "programs/module/desktop.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFileInfo>
-#include <QIcon>
 #include <QLocale>
-#include <QWidget>
 #include <algorithm>
 #include <chrono>
 #include <exception>
@@ -16,7 +14,7 @@
 
 #include "programs/shared/places.h"
 #include "programs/shared/version.h"
-#include "qt/desk/application_setup.h"
+#include "qt/desk/raise_window.h"
 #include "store/store_address.h"
 #include "xml/pugi_document.h"
 
@@ -50,30 +48,20 @@ class SharedLanguages : public LanguageList {
 
 Desktop::Desktop()
     : languages_(LanguageFolders()),
-      help_(HelpFolders()),
       output_(MakeMidiOutput(MidiOptions(), loop_, [this](const Notice& notice) { Tell(notice); })),
       store_(HostOptions()),
       program_(std::make_unique<Program>(MakePlatform(), Identity())) {
-  notices_ = std::make_unique<Notices>(loop_, messages_, program_->texts(),
-                                       [this] { return program_->Quiet(); });
-  unsaved_records_ =
-      std::make_unique<UnsavedRecords>(*notices_, messages_, dialog_, program_->texts());
+  notices_ = std::make_unique<Notices>(
+      loop_, front_.messages, [this](const Notice& notice) { return Say(notice); },
+      [this] { return program_->Quiet(); });
+  unsaved_records_ = std::make_unique<UnsavedRecords>(*notices_, front_.messages, front_.dialog,
+                                                      program_->texts());
   loop_.after_event = [this] { AfterEvent(); };
   loop_.on_error = [this](const std::exception_ptr& error) { RunTimeReport(error); };
-  messages_.words = [this] {
-    return QtMessageBox::Words{Word(432, "OK"), Word(9001, "Yes"), Word(9002, "No")};
+  view_.on_help = [this](const std::string& form_name) {
+    front_.ShowHelp(form_name, program_->texts().Gebietsschema());
   };
-  help_.owner = [this] { return view_.Window(); };
-  help_.words = [this] {
-    const HelpWindow::Words english;
-    return HelpWindow::Words{
-        Word(9421, english.title.c_str()),    Word(9391, english.contents.c_str()),
-        Word(9392, english.back.c_str()),     Word(9393, english.forward.c_str()),
-        Word(9394, english.missing.c_str()),  Word(9631, english.english_only.c_str()),
-        Word(9634, english.too_large.c_str())};
-  };
-  view_.on_help = [this](const std::string& form_name) { ShowHelp(form_name); };
-  messages_.before = [this] { view_.Refresh(); };
+  front_.messages.before = [this] { view_.Refresh(); };
   program_->OnEnd = [this] {
     unsaved_records_->Offer();
     loop_.Quit();
@@ -99,6 +87,7 @@ int Desktop::Run() {
   loop_.Deliver([this] {
     TakeOutputFromEnvironment();
     TakeSoundfont();
+    started_ = true;
     program_->Start();
   });
   loop_.Run();
@@ -114,58 +103,29 @@ void Desktop::Leave() {
   loop_.Quit();
 }
 
-/// Two at once would write over each other's training.
 std::optional<int> Desktop::StatusWithoutStart() {
-  const std::string address = system_.Environment("MELVADO_STORE").value_or("");
+  const std::string address = system_.Environment(kStoreVariable).value_or("");
   const std::optional<StoreUser> user = store_.User();
   instance_ = std::make_unique<SingleInstance>(ModuleKey(address, user ? user->id : ""));
-  instance_->come_to_front = [this] { ComeToFront(); };
+  instance_->come_to_front = [this] { RaiseWindow(view_.Window()); };
   const Notice question{
       9258,
       "The exercise is open already, but does not answer. If it is only busy, wait for it. Do you "
       "want to end it and start it again? What has not been stored there may be lost.",
       {}};
-  const auto claimed = ClaimOrAsk(*instance_, messages_, question, [this](const Notice& notice) {
-    return EarlyTexts().Words(notice);
-  });
-  early_texts_.reset();
-  const bool has_host = system_.Environment(kHostVariable).has_value();
-  switch (claimed) {
-    case SingleInstance::Claimed::kFirst:
-      return std::nullopt;
-    case SingleInstance::Claimed::kAnswered:
-      if (has_host) SayToHost(ModuleLine::kOpen);
-      return 0;
-    case SingleInstance::Claimed::kSilent:
-      if (has_host) SayToHost(ModuleLine::kMenu);
-      break;
+  const SingleInstance::Claimed claimed = front_.Claim(*instance_, question);
+  if (system_.Environment(kHostVariable)) {
+    if (claimed == SingleInstance::Claimed::kAnswered) SayToHost(ModuleLine::kOpen);
+    if (claimed == SingleInstance::Claimed::kSilent) SayToHost(ModuleLine::kMenu);
   }
-  return kStatusNotShown;
+  return FrontMatter::StatusWithoutStart(claimed);
 }
 
-/// In the language that the first screen will take.
-const TextLookup& Desktop::EarlyTexts() {
-  if (early_texts_) return *early_texts_;
-  early_texts_ = std::make_unique<TextLookup>(
-      [this] { return std::make_unique<SharedLanguages>(languages_); }, system_);
-  TaggedValue name;
-  try {
-    store_.Service()->Action("LANG", "", name);
-    early_texts_->SprachenLaden();
-    early_texts_->SpracheWaehlen(name.String());
-  } catch (const RunTimeError&) {
-    // Its own words are English.
-  }
-  return *early_texts_;
-}
-
-void Desktop::ComeToFront() {
-  for (QWidget* window : {view_.Window(), QApplication::activeModalWidget()}) {
-    if (window == nullptr || !window->isVisible()) continue;
-    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-    window->raise();
-    window->activateWindow();
-  }
+/// Before the program has started, in the language that its first screen will take.
+std::string Desktop::Say(const Notice& notice) {
+  if (started_) return program_->texts().Words(notice);
+  if (!early_texts_) early_texts_.emplace(languages_).SpeakAs(*store_.Service());
+  return early_texts_->Say(notice).toStdString();
 }
 
 bool Desktop::ReturnToHost() {
@@ -177,7 +137,7 @@ bool Desktop::ReturnToHost() {
 
 StoreOptions Desktop::HostOptions() {
   StoreOptions options;
-  options.address = system_.Environment("MELVADO_STORE").value_or("");
+  options.address = system_.Environment(kStoreVariable).value_or("");
   options.session = system_.Environment(kSessionVariable).value_or("");
   options.desktop_language = [this] { return languages_.DesktopLanguage(); };
   options.language_installed = [this](const std::string& name) {
@@ -195,11 +155,11 @@ StoreOptions Desktop::HostOptions() {
 Platform Desktop::MakePlatform() {
   return {loop_,
           system_,
-          messages_,
+          front_.messages,
           view_,
           *output_,
           random_,
-          dialog_,
+          front_.dialog,
           settings_files_,
           printer_,
           [this] { return store_.Service(); },
@@ -223,7 +183,7 @@ XmlDocumentFactory Desktop::MakeDocuments() {
 /// The output is remembered by the host. The variable sets it from outside, by a part of its name;
 /// an empty one goes back to the built-in synthesiser.
 void Desktop::TakeOutputFromEnvironment() {
-  const auto name = system_.Environment("MELVADO_MIDI");
+  const auto name = system_.Environment(kOutputVariable);
   if (!name) return;
   try {
     store_.SetMidiDevice(*name);
@@ -234,7 +194,7 @@ void Desktop::TakeOutputFromEnvironment() {
 
 /// What is named from outside goes before what was chosen in the host.
 void Desktop::TakeSoundfont() {
-  const auto named = system_.Environment("MELVADO_SOUNDFONT");
+  const auto named = system_.Environment(kSoundfontVariable);
   output_->UseSoundfont(named ? *named : store_.Soundfont());
 }
 
@@ -249,8 +209,7 @@ void Desktop::AfterEvent() {
   // What takes time begins once the user has something to look at.
   loop_.Post([this] {
     output_->BeginLoading();
-    loop_.StartTimer(kTimeToPaintMs, EventLoop::Repeat::kOnce,
-                     [] { QApplication::setWindowIcon(QIcon(":/melvado.svg")); });
+    loop_.StartTimer(kTimeToPaintMs, EventLoop::Repeat::kOnce, FrontMatter::TakeIcon);
     TellOfLanguages();
   });
 }
@@ -271,10 +230,6 @@ void Desktop::TellOfLanguages() {
   }
 }
 
-void Desktop::ShowHelp(const std::string& page) {
-  help_.Show(page, program_->texts().Gebietsschema());
-}
-
 void Desktop::RunTimeReport(const std::exception_ptr& error) {
   if (std::exchange(failed_, true)) return;  // the report itself failed
   const RunTimeError what = AsRunTimeError(error);
@@ -283,21 +238,15 @@ void Desktop::RunTimeReport(const std::exception_ptr& error) {
   } catch (const std::exception&) {
     // The message below is what is left.
   }
-  messages_.Warn(Word(9003, "The program has met an error that it cannot deal with, and ends.") +
-                     "\n\n" + what.what() + " (" + std::to_string(what.number()) + ", " +
-                     what.source() + ")",
-                 "Melvado");
+  const Notice ends{9003, "The program has met an error that it cannot deal with, and ends.", {}};
+  front_.messages.Warn(Say(ends) + "\n\n" + what.what() + " (" + std::to_string(what.number()) +
+                           ", " + what.source() + ")",
+                       "Melvado");
   try {
     program_->Leave();
   } catch (const std::exception&) {
   }
   loop_.Quit();
-}
-
-std::string Desktop::Word(int id, const char* english) const {
-  const TextLookup& texts = early_texts_ ? *early_texts_ : program_->texts();
-  const std::string word = texts.Sprachtext(id);
-  return word == TextLookup::kOhneWort ? english : word;
 }
 
 }  // namespace vmod17

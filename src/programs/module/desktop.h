@@ -9,13 +9,12 @@
 
 #include "midi/midi_device_output.h"
 #include "module/program.h"
+#include "programs/shared/front_matter.h"
+#include "programs/shared/texts.h"
 #include "qt/desk/qt_event_loop.h"
-#include "qt/desk/qt_file_dialog.h"
 #include "qt/desk/qt_language.h"
-#include "qt/desk/qt_message_box.h"
 #include "qt/desk/qt_system.h"
 #include "qt/desk/single_instance.h"
-#include "qt/kit/help_window.h"
 #include "qt/kit/theme.h"
 #include "qt/pictures/chord_pictures.h"
 #include "qt/view/qt_printer.h"
@@ -57,16 +56,13 @@ class Desktop {
   Platform MakePlatform();
   XmlDocumentFactory MakeDocuments();
   std::optional<int> StatusWithoutStart();
-  const TextLookup& EarlyTexts();
   bool ReturnToHost();
-  void ComeToFront();
   void TakeOutputFromEnvironment();
   void TakeSoundfont();
   void AfterEvent();
   void SpeakAsTheLanguage();
   void TellOfLanguages();
-  void ShowHelp(const std::string& page);
-  std::string Word(int id, const char* english) const;
+  std::string Say(const Notice& notice);
 
   QtEventLoop loop_;
   QtSystem system_;
@@ -75,9 +71,8 @@ class Desktop {
   Theme theme_;
   ChordPictures pictures_;
   QtView view_{loop_, pictures_};
-  QtMessageBox messages_{[this] { return view_.Window(); }};
-  HelpWindow help_;
-  QtFileDialog dialog_{[this] { return view_.Window(); }};
+  FrontMatter front_{[this] { return view_.Window(); },
+                     [this](const Notice& notice) { return Say(notice); }};
   PugiSettingsFiles settings_files_;
   QtPrinter printer_{loop_, pictures_, SystemPrintTargets(loop_)};
   std::unique_ptr<Notices> notices_;  // before those that tell, so that it goes after them
@@ -86,7 +81,8 @@ class Desktop {
   HostStore store_;
   std::unique_ptr<Program> program_;
   std::unique_ptr<SingleInstance> instance_;
-  std::unique_ptr<TextLookup> early_texts_;  // of a message that stands before the first screen
+  std::optional<Texts> early_texts_;  // of a message that stands before the program
+  bool started_ = false;
   bool screen_was_shown_ = false;
   bool failed_ = false;
 };

@@ -31,6 +31,12 @@ inline constexpr const char* kMenu = "MENUE";   ///< it ends, and gives control 
 inline constexpr const char* kOpen = "OPEN";    ///< another process is at work, now in front
 }  // namespace ModuleLine
 
+// What the surroundings say of this machine, for both programs.
+inline constexpr const char* kStoreVariable = "MELVADO_STORE";  ///< see `ParseStoreAddress`
+inline constexpr const char* kOutputVariable =
+    "MELVADO_MIDI";  ///< part of a name, "" the synthesiser
+inline constexpr const char* kSoundfontVariable = "MELVADO_SOUNDFONT";
+
 /// Set in the surroundings of a module that a host has started.
 inline constexpr const char* kHostVariable = "MELVADO_HOST";
 /// What the host has chosen, as `HostStore::Session` gives it.

@@ -10,6 +10,7 @@
 #include <utility>
 #include <variant>
 
+#include "base/language_code.h"
 #include "base/run_time_error.h"
 
 namespace vmod17 {
@@ -77,11 +78,6 @@ class QtLanguage : public Language {
   const QByteArray bytes_;
   QTranslator words_;
 };
-
-/// The language of a locale, without country: "de" of "de_AT" and of "de-AT".
-std::string LanguageCode(const std::string& locale) {
-  return locale.substr(0, locale.find_first_of("_-"));
-}
 
 }  // namespace
 

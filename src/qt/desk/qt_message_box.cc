@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/usual_words.h"
+
 namespace vmod17 {
 namespace {
 
@@ -69,11 +71,13 @@ QString Fitting(const QString& text, const QMessageBox& box) {
   return fitting + "…";
 }
 
-void Label(QMessageBox& box, QMessageBox::StandardButton button, const std::string& word) {
-  if (!word.empty()) box.button(button)->setText(QString::fromStdString(word));
-}
-
 }  // namespace
+
+void QtMessageBox::Label(QMessageBox& box, int button, const Notice& word) const {
+  if (!say) return;
+  box.button(static_cast<QMessageBox::StandardButton>(button))
+      ->setText(QString::fromStdString(say(word)));
+}
 
 /// The keyboard comes back to the window even where no window manager sees to it.
 int QtMessageBox::Show(QMessageBox& box) const {
@@ -91,7 +95,7 @@ void QtMessageBox::Warn(const std::string& text, const std::string& title) {
   QMessageBox box(QMessageBox::Warning, QString::fromStdString(title), QString::fromStdString(text),
                   QMessageBox::Ok, Window());
   box.setTextFormat(Qt::PlainText);
-  Label(box, QMessageBox::Ok, CurrentWords().ok);
+  Label(box, QMessageBox::Ok, kOkWord);
   Show(box);
 }
 
@@ -100,9 +104,8 @@ MessageBox::Answer QtMessageBox::Ask(const std::string& text, const std::string&
   QuestionBox box(QMessageBox::Question, QString::fromStdString(title),
                   QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, Window());
   box.setDefaultButton(preselected == Answer::kYes ? QMessageBox::Yes : QMessageBox::No);
-  const Words words_now = CurrentWords();
-  Label(box, QMessageBox::Yes, words_now.yes);
-  Label(box, QMessageBox::No, words_now.no);
+  Label(box, QMessageBox::Yes, kYesWord);
+  Label(box, QMessageBox::No, kNoWord);
   return ShowQuestion(box) == QMessageBox::Yes ? Answer::kYes : Answer::kNo;
 }
 

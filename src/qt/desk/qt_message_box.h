@@ -9,6 +9,7 @@
 #include <functional>
 #include <string>
 
+#include "base/wording.h"
 #include "ports/message_box.h"
 
 class QMessageBox;
@@ -19,19 +20,13 @@ namespace vmod17 {
 /// "…".
 class QtMessageBox : public MessageBox {
  public:
-  /// What the buttons say, UTF-8. An empty word leaves the toolkit's own.
-  struct Words {
-    std::string ok;
-    std::string yes;
-    std::string no;
-  };
-
   /// `window`  the window that a box belongs to, asked anew for each; may be null, and may answer
   ///           null
   explicit QtMessageBox(std::function<QWidget*()> window) : window_(std::move(window)) {}
 
-  /// Asked before each box is shown, since the language is known only some time after the start.
-  std::function<Words()> words;
+  /// Says what stands on the buttons. Asked for each box, since the language is known only some
+  /// time after the start; without it they say what the toolkit says.
+  Wording say;
   /// Called before each box is shown, so that the window behind it shows what the box speaks of.
   std::function<void()> before;
 
@@ -45,7 +40,7 @@ class QtMessageBox : public MessageBox {
   int Show(QMessageBox& box) const;
   int ShowQuestion(QMessageBox& box);
   QWidget* Window() const { return window_ ? window_() : nullptr; }
-  Words CurrentWords() const { return words ? words() : Words{}; }
+  void Label(QMessageBox& box, int button, const Notice& word) const;
 
   std::function<QWidget*()> window_;
   QPointer<QMessageBox> question_;  // the one that stands

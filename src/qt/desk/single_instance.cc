@@ -269,8 +269,7 @@ bool SingleInstance::BringToFront(const std::string& key) {
 }
 
 SingleInstance::Claimed ClaimOrAsk(SingleInstance& instance, MessageBox& messages,
-                                   const Notice& question,
-                                   const std::function<std::string(const Notice&)>& say) {
+                                   const Notice& question, const Wording& say) {
   using Claimed = SingleInstance::Claimed;
   const Claimed claimed = instance.Claim();
   if (claimed != Claimed::kSilent) return claimed;

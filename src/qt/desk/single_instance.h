@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "base/notice.h"
+#include "base/wording.h"
 #include "ports/message_box.h"
 
 namespace vmod17 {
@@ -66,7 +66,6 @@ class SingleInstance {
 /// `question`  says that the other does not answer, and what its end means
 /// `say`       a notice in the user's language
 SingleInstance::Claimed ClaimOrAsk(SingleInstance& instance, MessageBox& messages,
-                                   const Notice& question,
-                                   const std::function<std::string(const Notice&)>& say);
+                                   const Notice& question, const Wording& say);
 
 }  // namespace vmod17

@@ -17,17 +17,19 @@
 #include <iterator>
 #include <utility>
 
+#include "base/language_code.h"
+#include "base/usual_words.h"
 #include "qt/kit/html_bounds.h"
 #include "qt/kit/look.h"
+#include "qt/kit/window_factor.h"
 
 namespace vmod17 {
 namespace {
 
-constexpr double kText = 15;         // height of the type of the pages
-constexpr double kTextOfOwner = 14;  // the size at which the owner's type has one pixel a unit
-constexpr double kBar = 56;          // height of the strip with the buttons
-constexpr double kMargin = 12;       // around the page
-constexpr double kInside = 22;       // between the page's edge and its words
+constexpr double kText = 15;    // height of the type of the pages
+constexpr double kBar = 56;     // height of the strip with the buttons
+constexpr double kMargin = 12;  // around the page
+constexpr double kInside = 22;  // between the page's edge and its words
 constexpr double kZoomStep = 1.15;
 constexpr double kLeastZoom = 0.7;
 constexpr double kMostZoom = 2.5;
@@ -38,11 +40,18 @@ constexpr char kScheme[] = "help";
 constexpr char kEnglish[] = "en";
 constexpr char kContentsPage[] = "index";
 
-/// The language of a locale, without country: "de" of "de_AT". Only letters, since it becomes a
-/// folder.
-std::string LanguageCode(const std::string& locale) {
-  const auto is_letter = [](char c) { return c >= 'a' && c <= 'z'; };
-  return {locale.begin(), std::find_if_not(locale.begin(), locale.end(), is_letter)};
+const Notice kContentsWord{9391, "Contents", {}};
+const Notice kBackWord{9392, "Back", {}};
+const Notice kForwardWord{9393, "Forward", {}};
+/// Above a page that is there in English only, in the language that the reader would have.
+const Notice kEnglishOnly{9631, "This page of the help is in English.", {}};
+const Notice kTooLarge{
+    9634, "This page of the help cannot be shown: it is too large, or too deeply nested.", {}};
+
+Notice NotFound(const std::string& page, const std::string& folders) {
+  return {9394,
+          "The page “%1” of the help was not found. Help pages are looked for in: %2",
+          {page, folders}};
 }
 
 QString FileOf(const std::string& language, const std::string& page) {
@@ -208,27 +217,26 @@ std::string HelpWindow::LanguageOf(const std::string& page) const {
   return wanted.empty() || Find(FileOf(wanted, page)).empty() ? kEnglish : wanted;
 }
 
+QString HelpWindow::Said(const Notice& notice) const { return QString::fromStdString(say(notice)); }
+
 /// What stands in the place of a page that is not there.
 QString HelpWindow::Missing() const {
   QStringList places;
   for (const std::filesystem::path& folder : folders_) {
     places += QString::fromStdString(folder.lexically_normal().string());
   }
-  const QString text = QString::fromStdString(words_.missing);
-  return "<p>" + text.arg(QString::fromStdString(page_), places.join("; ")).toHtmlEscaped() +
-         "</p>";
+  const Notice missing = NotFound(page_, places.join("; ").toStdString());
+  return "<p>" + Said(missing).toHtmlEscaped() + "</p>";
 }
 
-QString HelpWindow::TooLarge() const {
-  return "<p>" + QString::fromStdString(words_.too_large).toHtmlEscaped() + "</p>";
-}
+QString HelpWindow::TooLarge() const { return "<p>" + Said(kTooLarge).toHtmlEscaped() + "</p>"; }
 
 /// A page as it is, or with a line above it when it is not in the language that was asked for.
 QString HelpWindow::WithNote(const QString& file, const QString& page) const {
   const std::string wanted = LanguageCode(locale_);
   const bool english = file.startsWith(QString(kEnglish) + '/');
   if (!english || wanted.empty() || wanted == kEnglish) return page;
-  const QString note = QString::fromStdString(words_.english_only).toHtmlEscaped();
+  const QString note = Said(kEnglishOnly).toHtmlEscaped();
   QString noted = page;
   constexpr char kBody[] = "<body>";
   const qsizetype body = noted.indexOf(kBody);
@@ -237,24 +245,22 @@ QString HelpWindow::WithNote(const QString& file, const QString& page) const {
 }
 
 void HelpWindow::TakeWords() {
-  if (words) words_ = words();
-  setWindowTitle(QString::fromStdString(words_.title));
+  setWindowTitle(Said(kHelpWord));
   browser_->setAccessibleName(windowTitle());
-  const auto name = [this](Button button, const char* caption, const std::string& word) {
-    const QString text = QString::fromStdString(word);
+  const auto name = [this](Button button, const char* caption, const Notice& word) {
+    const QString text = Said(word);
     buttons_[button]->SetCaption(QString(caption).arg(text));
     buttons_[button]->setAccessibleName(text);
   };
-  name(kContents, "%1", words_.contents);
-  name(kBack, "‹ %1", words_.back);
-  name(kForward, "%1 ›", words_.forward);
+  name(kContents, "%1", kContentsWord);
+  name(kBack, "‹ %1", kBackWord);
+  name(kForward, "%1 ›", kForwardWord);
 }
 
 /// The pages grow with the window that they explain.
 void HelpWindow::TakeType() {
   const QWidget* const window = owner ? owner() : nullptr;
-  const double pixels = window != nullptr ? window->font().pixelSize() : 0;
-  style_.factor = std::max(1.0, pixels / kTextOfOwner);
+  style_.factor = window == nullptr ? 1 : std::max(1.0, FactorOf(*window));
   const QFont type = look::Type(kText * style_.factor * zoom_, look::Weight::kNormal);
   if (browser_->font() != type) {
     browser_->setFont(type);

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "base/wording.h"
 #include "qt/kit/press_widget.h"
 
 namespace vmod17 {
@@ -30,29 +31,14 @@ namespace vmod17 {
 /// A QApplication must exist before it and outlive it.
 class HelpWindow : public QWidget {
  public:
-  /// What the window says by itself, UTF-8.
-  struct Words {
-    std::string title = "Help";
-    std::string contents = "Contents";
-    std::string back = "Back";
-    std::string forward = "Forward";
-    /// In the place of %1 stands the name of the page, in that of %2 the folders.
-    std::string missing =
-        "The page “%1” of the help was not found. Help pages are looked for in: %2";
-    /// Above a page that is there in English only, in the language that the reader would have.
-    std::string english_only = "This page of the help is in English.";
-    /// In the place of a page that is too large, or nested too deeply, to be laid out.
-    std::string too_large =
-        "This page of the help cannot be shown: it is too large, or too deeply nested.";
-  };
-
   /// `folders`  where the pages are looked for, the first of them first; need not exist
   explicit HelpWindow(std::vector<std::filesystem::path> folders);
   ~HelpWindow() override;
 
-  /// Asked before each page is shown, since the language is known only some time after the start.
-  std::function<Words()> words;
-  /// The window that the help belongs to, from which it takes its type and to which it hands the
+  /// Says what the window says by itself. Asked for each page, since the language is known only
+  /// some time after the start.
+  Wording say = InEnglish;
+  /// The window that the help belongs to, from which it takes its size and to which it hands the
   /// keyboard back; may be null, and may answer null.
   std::function<QWidget*()> owner;
 
@@ -81,6 +67,7 @@ class HelpWindow : public QWidget {
 
   std::filesystem::path Find(const QString& file) const;
   std::string LanguageOf(const std::string& page) const;
+  QString Said(const Notice& notice) const;
   QString Missing() const;
   QString TooLarge() const;
   QString WithNote(const QString& file, const QString& page) const;
@@ -95,7 +82,6 @@ class HelpWindow : public QWidget {
   PageStyle style_;
   Browser* browser_;
   std::array<PressWidget*, kButtons> buttons_{};
-  Words words_;
   std::string page_;  // that was asked for last
   std::string locale_;
   double zoom_ = 1;  // of the type, by the user's choice

@@ -18,15 +18,10 @@
 #include "qt/desk/qt_event_loop.h"
 #include "qt/kit/look.h"
 #include "qt/kit/narrator.h"
+#include "qt/kit/window_factor.h"
 #include "qt/view/page.h"
 
 namespace vmod17 {
-namespace {
-
-constexpr double kTextOfMessages = 14;
-
-}  // namespace
-
 /// The window: a page in a view that scrolls only where the screen is smaller than the page.
 class QtView::MainWindow : public QWidget {
  public:
@@ -205,11 +200,7 @@ void QtView::ArrangePage() {
   window_->FitStage(page_->LeastSize());
   page_->setGeometry(window_->stage()->rect());
   page_->Arrange(page_->size());
-  // What stands in front of the window takes its type from it.
-  const QFont type = look::Type(kTextOfMessages * page_->factor(), look::Weight::kNormal);
-  if (window_->font() == type) return;
-  window_->setFont(type);
-  QToolTip::setFont(type);
+  if (SetFactor(*window_, page_->factor())) QToolTip::setFont(window_->font());
 }
 
 void QtView::ShowWindow() {

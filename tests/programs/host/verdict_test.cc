@@ -8,7 +8,7 @@
 #include <QDir>
 
 #include "midi/midi_notices.h"
-#include "programs/host/texts.h"
+#include "programs/shared/texts.h"
 #include "qt/desk/qt_language.h"
 #include "qt/kit/look.h"
 
@@ -25,6 +25,7 @@ using vmod17::OtherSoundfontNotice;
 using vmod17::PortVanishedNotice;
 using vmod17::QtLanguageList;
 using vmod17::SoundFacts;
+using vmod17::Texts;
 
 using ::testing::ElementsAre;
 

@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <algorithm>
 #include <functional>
+#include <map>
+#include <string>
 
 #include "qt/accessible_tree.h"
 
@@ -22,6 +24,11 @@ namespace {
 using Answer = MessageBox::Answer;
 
 /// What the user does once the box stands.
+std::string InGerman(const Notice& notice) {
+  static const std::map<int, std::string> kGerman = {{432, "Gut"}, {9001, "Ja"}, {9002, "Nein"}};
+  return kGerman.at(notice.text_id);
+}
+
 void Then(const std::function<void(QMessageBox&)>& act) {
   QTimer::singleShot(0, [act] {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -32,7 +39,7 @@ void Then(const std::function<void(QMessageBox&)>& act) {
 
 TEST(QtMessageBox, WarnsInPlainWordsUntilTheUserAgrees) {
   QtMessageBox messages(nullptr);
-  messages.words = [] { return QtMessageBox::Words{"Gut", "", ""}; };
+  messages.say = InGerman;
   QString text, title, button;
   Then([&](QMessageBox& box) {
     text = box.text();
@@ -58,7 +65,7 @@ TEST(QtMessageBox, IsReadWholeByAReaderOfTheScreen) {
     });
     box.button(QMessageBox::No)->click();
   });
-  messages.words = [] { return QtMessageBox::Words{"", "Ja", "Nein"}; };
+  messages.say = InGerman;
   messages.Ask("Speichern?\nEin Stand geht verloren.", "Melvado", MessageBox::Answer::kNo);
   // Readers speak of an alert with all its labels, as soon as it comes.
   EXPECT_EQ(role, QAccessible::AlertMessage);
@@ -89,7 +96,7 @@ TEST(QtMessageBox, FitsIntoTheScreenWhateverItSays) {
 
 TEST(QtMessageBox, TellsYesFromNo) {
   QtMessageBox messages(nullptr);
-  messages.words = [] { return QtMessageBox::Words{"", "Ja", "Nein"}; };
+  messages.say = InGerman;
   Then([](QMessageBox& box) {
     EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "Ja");
     EXPECT_EQ(box.button(QMessageBox::No)->text(), "Nein");

@@ -19,6 +19,8 @@
 #include <QTimer>
 #include <QWindow>
 #include <QXmlStreamReader>
+#include <map>
+#include <string>
 
 #include "qt/desk/qt_event_loop.h"
 #include "qt/desk/qt_system.h"
@@ -262,10 +264,8 @@ TEST(HelpWindow, SaysInTheReadersLanguageThatAPageIsInEnglish) {
   folder.Write("en/b.html", "<html><body><h1>second</h1></body></html>");
   folder.Write("de/b.html", "<p>zweite</p>");
   HelpWindow help({folder.path()});
-  help.words = [] {
-    HelpWindow::Words words;
-    words.english_only = "Cette page est en anglais & c'est tout.";
-    return words;
+  help.say = [](const Notice& notice) -> std::string {
+    return notice.text_id == 9631 ? "Cette page est en anglais & c'est tout." : InEnglish(notice);
   };
   help.Show("b", "fr_FR");
   EXPECT_EQ(TextOf(help), "Cette page est en anglais & c'est tout.\nsecond");
@@ -339,7 +339,7 @@ TEST(HelpWindow, RefusesInWordsAPageThatCannotBeLaidOut) {
   HelpWindow help({folder.path()});
   for (const char* page : {"deep", "large", "wide", "nested", "told"}) {
     help.Show(page, "en");
-    EXPECT_EQ(TextOf(help), HelpWindow::Words().too_large) << page;
+    EXPECT_THAT(TextOf(help), testing::StartsWith("This page of the help cannot be shown")) << page;
   }
   help.Show("good", "en");
   EXPECT_EQ(TextOf(help), "good");
@@ -367,8 +367,13 @@ TEST(HelpWindow, GoesBackForwardAndToTheContents) {
 
 TEST(HelpWindow, NamesItsButtonsInTheWordsThatItIsGiven) {
   HelpWindow help({std::filesystem::path(PROGRAM_HELP)});
-  help.words = [] {
-    return HelpWindow::Words{"Hilfe", "Inhalt", "Zurück", "Vor", "%1 fehlt in %2"};
+  help.say = [](const Notice& notice) {
+    static const std::map<int, std::string> kGerman = {{9421, "Hilfe"},
+                                                       {9391, "Inhalt"},
+                                                       {9392, "Zurück"},
+                                                       {9393, "Vor"},
+                                                       {9394, "%1 fehlt in %2"}};
+    return WithDetails(kGerman.at(notice.text_id), notice.details);
   };
   help.Show("index", "de");
   EXPECT_EQ(help.windowTitle(), "Hilfe");

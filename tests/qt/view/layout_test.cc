@@ -193,11 +193,8 @@ TEST_P(LayoutIn, ShowsTheResultsWholeWithoutAUser) {
 TEST_P(LayoutIn, ShowsTheButtonsOfTheHelpWhole) {
   SpokenProgram p(GetParam());
   p.ToFirstScreen();
-  const auto word = [&](int id) { return p.program.texts().Sprachtext(id); };
   HelpWindow help({std::filesystem::path(PROGRAM_HELP)});
-  help.words = [&] {
-    return HelpWindow::Words{word(9421), word(9391), word(9392), word(9393), word(9394)};
-  };
+  help.say = [&](const Notice& notice) { return p.program.texts().Sprachtext(notice.text_id); };
   help.Show("index", GetParam());
   for (const QSize& size : {kSmall, help.minimumSize()}) {
     help.resize(size);
@@ -221,8 +218,8 @@ TEST_P(LayoutIn, ShowsMessagesWhole) {
     if (text.size() > longest.size()) longest = text;
   }
   QtMessageBox messages(nullptr);
-  messages.words = [&] {
-    return QtMessageBox::Words{words.at("432s"), words.at("9001s"), words.at("9002s")};
+  messages.say = [&](const Notice& notice) {
+    return words.at(std::to_string(notice.text_id) + "s");
   };
   QTimer::singleShot(0, [] {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

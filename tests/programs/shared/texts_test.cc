@@ -1,18 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "programs/host/texts.h"
+#include "programs/shared/texts.h"
 
 #include <gmock/gmock.h>
 
 #include "support/fake_platform.h"
 
-namespace melvado {
+namespace vmod17 {
 namespace {
-
-using vmod17::FakeLanguages;
-using vmod17::LanguageList;
-using vmod17::Notice;
 
 class TextsTest : public testing::Test {
  protected:
@@ -58,4 +54,4 @@ TEST_F(TextsTest, TakeDetailsAsTheyAre) {
 }
 
 }  // namespace
-}  // namespace melvado
+}  // namespace vmod17
