@@ -6,10 +6,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
@@ -21,17 +19,10 @@
 #include "programs/shared/version.h"
 #include "qt/desk/raise_window.h"
 #include "qt/kit/help_window.h"
-#include "qt/kit/look.h"
-#include "qt/kit/signs.h"
-#include "qt/kit/window_factor.h"
 
 namespace melvado {
 namespace {
 
-namespace look = vmod17::look;
-using vmod17::Align;
-using vmod17::Dress;
-using vmod17::Dressed;
 using vmod17::DropDownWidget;
 using vmod17::FileDialog;
 using vmod17::HelpWindow;
@@ -40,45 +31,22 @@ using vmod17::kVersionMinor;
 using vmod17::kVersionRevision;
 using vmod17::MessageBox;
 using vmod17::Notice;
-using vmod17::Placement;
 using vmod17::PressWidget;
 using vmod17::QtEventLoop;
-using vmod17::Rect;
 using vmod17::StoreUser;
 using vmod17::Texts;
 using vmod17::TextWidget;
 
-// All lengths in units, counted from the upper left corner of the canvas.
-constexpr QSizeF kCanvas{1024, 700};
-constexpr double kLeft = 72;
-constexpr double kWidth = 880;
-constexpr double kGap = 20;
-constexpr double kColumn = (kWidth - kGap) / 2;
-constexpr double kRight = kLeft + kColumn + kGap;
-constexpr double kPadding = 24;
-constexpr double kField = kColumn - 2 * kPadding;
-constexpr Rect kBanner{kLeft, 14, kWidth, 112};
-constexpr Rect kUserCard{kLeft, 142, kColumn, 272};
-constexpr Rect kSoundCard{kRight, 142, kColumn, 272};
-constexpr Rect kVerdictCard{kLeft, 428, kWidth, 108};
-constexpr Rect kStart{kLeft, 552, kWidth, 78};
-constexpr double kFooter = 646;
-constexpr double kSmallest = 0.85;  // pixels of a unit in the smallest window
-constexpr double kWidestEntry = 560;
-
 constexpr int kPollMs = 1500;
-
-Placement ButtonPlace(const Rect& rect, double text = 15) {
-  return {.rect = rect, .text = text, .align = Align::kCenter};
-}
 
 /// The toolkit tells of each name that is set, also of the one that it has.
 void Name(QWidget& widget, const QString& name) {
   if (widget.accessibleName() != name) widget.setAccessibleName(name);
 }
 
-void SetWords(QWidget& widget, Dressed& dress, const QString& text) {
-  dress.SetCaption(text);
+template <typename Widget>
+void SetWords(Widget& widget, const QString& text) {
+  widget.SetCaption(text);
   Name(widget, text);
 }
 
@@ -96,21 +64,13 @@ HomeWindow::HomeWindow(Host& host, QtEventLoop& loop, MessageBox& messages, File
       poll_(std::make_unique<QTimer>()) {
   setObjectName("melvado_home");
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setMinimumSize((kCanvas * kSmallest).toSize());
-  title_ = Make<TextWidget>(
-      "title",
-      {.rect = {kLeft + 36, 30, 560, 44}, .dress = Dress::kOnBanner, .text = 32, .bold = true});
-  subtitle_ = Make<TextWidget>(
-      "subtitle", {.rect = {kLeft + 36, 76, 560, 30}, .dress = Dress::kOnBanner, .text = 17});
-  BuildUsers();
-  BuildSound();
-  start_ = MakeButton(
-      "start",
-      {.rect = kStart, .dress = Dress::kPrimary, .text = 26, .align = Align::kCenter, .bold = true},
-      [this] { Start(); });
-  BuildFooter();
-  OrderTabs();
-  Connect();
+  setMinimumSize(HomePage::LeastSize());
+  page_.version->SetCaption(
+      QString("Melvado %1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
+  // The person who looks after a server restores it there.
+  page_.restore->setVisible(host_.KeepsAFile());
+  ConnectWidgets();
+  ConnectHost();
   Refresh();
   qApp->installEventFilter(this);
 }
@@ -122,111 +82,45 @@ HomeWindow::~HomeWindow() {
   host_.on_module_end = nullptr;
 }
 
-// --- Building
+// --- Connecting
 
-template <typename Widget>
-Widget* HomeWindow::Make(const char* name, const Placement& place) {
-  auto* const widget = new Widget(this, style_, place);
-  widget->setObjectName(name);
-  parts_.push_back({widget, widget, place.rect});
-  return widget;
+void HomeWindow::On(PressWidget& button, std::function<void()> act) {
+  connect(&button, &QAbstractButton::clicked, this, [this, act = std::move(act)] { Act(act); });
 }
 
-PressWidget* HomeWindow::MakeButton(const char* name, const Placement& place,
-                                    std::function<void()> act) {
-  auto* const button = Make<PressWidget>(name, place);
-  connect(button, &QAbstractButton::clicked, this, [this, act = std::move(act)] { Act(act); });
-  return button;
-}
-
-DropDownWidget* HomeWindow::MakeList(const char* name, const Rect& rect,
-                                     std::function<void(int)> choose) {
-  auto* const list = Make<DropDownWidget>(name, {.rect = rect, .text = 16});
-  connect(list, &QComboBox::currentIndexChanged, this,
+void HomeWindow::On(DropDownWidget& list, std::function<void(int)> choose) {
+  connect(&list, &QComboBox::currentIndexChanged, this,
           [this, choose = std::move(choose)](int index) {
             if (!filling_ && index >= 0) Act([&] { choose(index); });
           });
-  return list;
 }
 
-TextWidget* HomeWindow::MakeHeading(const char* name, const Rect& rect) {
-  return Make<TextWidget>(name, {.rect = rect, .dress = Dress::kHeading, .text = 17, .bold = true});
-}
-
-void HomeWindow::BuildUsers() {
-  const double x = kUserCard.left + kPadding;
-  const double y = kUserCard.top + 16;
-  user_heading_ = MakeHeading("user_heading", {x, y, kField, 28});
-  user_ = MakeList("user", {x, y + 34, kField, 40}, [this](int index) {
+void HomeWindow::ConnectWidgets() {
+  On(*page_.user, [this](int index) {
     host_.ChooseUser(index == 0 ? "" : users_[static_cast<std::size_t>(index - 1)].id);
   });
-  const double third = (kField - 2 * 10) / 3;
-  add_user_ =
-      MakeButton("add_user", ButtonPlace({x, y + 86, third, 38}), [this] { AskForUser(false); });
-  change_user_ = MakeButton("change_user", ButtonPlace({x + third + 10, y + 86, third, 38}),
-                            [this] { AskForUser(true); });
-  remove_user_ = MakeButton("remove_user", ButtonPlace({x + 2 * (third + 10), y + 86, third, 38}),
-                            [this] { RemoveUser(); });
-  language_heading_ = MakeHeading("language_heading", {x, y + 158, kField, 28});
-  language_ = MakeList("language", {x, y + 192, kField, 40}, [this](int index) {
+  On(*page_.add_user, [this] { AskForUser(false); });
+  On(*page_.change_user, [this] { AskForUser(true); });
+  On(*page_.remove_user, [this] { RemoveUser(); });
+  On(*page_.language, [this](int index) {
     host_.ChooseLanguage(host_.Languages()[static_cast<std::size_t>(index)]);
   });
-}
-
-void HomeWindow::BuildSound() {
-  const double x = kSoundCard.left + kPadding;
-  const double y = kSoundCard.top + 16;
-  const double half = (kField - 10) / 2;
-  output_heading_ = MakeHeading("output_heading", {x, y, kField, 28});
-  output_ = MakeList("output", {x, y + 34, kField, 40}, [this](int index) {
+  On(*page_.output, [this](int index) {
     host_.ChooseOutput(host_.outputs().outputs[static_cast<std::size_t>(index)].name);
   });
-  output_note_ = Make<TextWidget>(
-      "output_note", {.rect = {x, y + 78, kField, 44}, .dress = Dress::kHint, .text = 14});
-  test_ = MakeButton("test", ButtonPlace({x, y + 128, kField, 42}, 16), [this] { Test(); });
-  soundfont_ = MakeButton("soundfont", ButtonPlace({x, y + 180, half, 36}, 14),
-                          [this] { ChooseSoundfont(); });
-  usual_soundfont_ =
-      MakeButton("usual_soundfont", ButtonPlace({x + half + 10, y + 180, half, 36}, 14),
-                 [this] { TakeSoundfont(""); });
-  soundfont_note_ = Make<TextWidget>(
-      "soundfont_note", {.rect = {x, y + 218, kField, 30}, .dress = Dress::kQuiet, .text = 13});
-  verdict_ = Make<TextWidget>(
-      "verdict", {.rect = kVerdictCard.Adjusted(kPadding, 8, -kPadding, -10), .text = 16});
-}
-
-void HomeWindow::BuildFooter() {
-  const auto quiet = [](double x, double width) {
-    return Placement{.rect = {x, kFooter, width, 40},
-                     .dress = Dress::kQuiet,
-                     .text = 15,
-                     .align = Align::kCenter};
-  };
-  help_ = MakeButton("help", quiet(kLeft, 150), [this] {
+  On(*page_.test, [this] { Test(); });
+  On(*page_.soundfont, [this] { ChooseSoundfont(); });
+  On(*page_.usual_soundfont, [this] { TakeSoundfont(""); });
+  On(*page_.start, [this] { Start(); });
+  On(*page_.help, [this] {
     if (on_help) on_help("melvado");
   });
-  log_button_ = MakeButton("log", quiet(kLeft + 162, 150), [this] { ShowLog(); });
-  restore_ = MakeButton("restore", quiet(kLeft + 324, 240), [this] { RestoreBackup(); });
-  // The person who looks after a server restores it there.
-  restore_->setVisible(host_.KeepsAFile());
-  quit_ = MakeButton("quit", quiet(kLeft + kWidth - 150, 150), [this] { close(); });
-  version_ = Make<TextWidget>("version", {.rect = {kLeft + 576, kFooter + 4, 142, 32},
-                                          .dress = Dress::kQuiet,
-                                          .text = 13,
-                                          .align = Align::kCenter});
-  version_->SetCaption(
-      QString("Melvado %1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
+  On(*page_.log, [this] { ShowLog(); });
+  On(*page_.restore, [this] { RestoreBackup(); });
+  On(*page_.quit, [this] { close(); });
 }
 
-/// From the button that most users need only, then down the columns.
-void HomeWindow::OrderTabs() {
-  const QList<QWidget*> order = {start_,    user_,       add_user_, change_user_, remove_user_,
-                                 language_, output_,     test_,     soundfont_,   usual_soundfont_,
-                                 help_,     log_button_, restore_,  quit_};
-  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
-}
-
-void HomeWindow::Connect() {
+void HomeWindow::ConnectHost() {
   host_.changed = [this] { Refresh(); };
   host_.on_module_shown = [this] { GiveWay(); };
   host_.on_module_back = [this] { loop_.Deliver([this] { Return(); }); };
@@ -250,7 +144,7 @@ void HomeWindow::Act(const std::function<void()>& action) {
 
 void HomeWindow::Refresh() {
   narrator_.Begin(host_.TestRuns());
-  const bool output_noted = !output_note_->caption().isEmpty();
+  const bool output_noted = !page_.output_note->caption().isEmpty();
   const bool verdict_known = verdict_is_good_.has_value();
   filling_ = true;
   ShowWords();
@@ -264,49 +158,32 @@ void HomeWindow::Refresh() {
   // What happens away from the focus.
   std::vector<std::string> said;
   const auto say = [&](const TextWidget& line) { said.push_back(line.caption().toStdString()); };
-  if (!output_noted) say(*output_note_);
-  if (!verdict_known && verdict_is_good_) say(*verdict_);
+  if (!output_noted) say(*page_.output_note);
+  if (!verdict_known && verdict_is_good_) say(*page_.verdict);
   narrator_.End(said);
 }
 
 void HomeWindow::ShowWords() {
   const Texts& texts = host_.texts();
   setWindowTitle("Melvado");
-  SetWords(*title_, *title_, "Melvado");
-  SetWords(*subtitle_, *subtitle_, texts.Say(9401, "Ear training"));
-  SetWords(*user_heading_, *user_heading_, texts.Say(9402, "Who is practising?"));
-  SetWords(*add_user_, *add_user_, texts.Say(9404, "Add…"));
-  SetWords(*change_user_, *change_user_, texts.Say(9405, "Change…"));
-  SetWords(*remove_user_, *remove_user_, texts.Say(9406, "Remove…"));
-  SetWords(*language_heading_, *language_heading_, texts.Say(9407, "Language"));
-  SetWords(*output_heading_, *output_heading_, texts.Say(9408, "Sound output"));
-  SetWords(*test_, *test_, texts.Say(9411, "Test the sound"));
-  SetWords(*soundfont_, *soundfont_, texts.Say(9412, "Choose a soundfont…"));
-  SetWords(*usual_soundfont_, *usual_soundfont_, texts.Say(9413, "Soundfont of the system"));
-  SetWords(*log_button_, *log_button_, texts.Say(9419, "Log"));
-  SetWords(*restore_, *restore_, texts.Say(9208, "Restore a backup…"));
-  SetWords(*quit_, *quit_, texts.Say(9420, "Quit"));
-  SetWords(*help_, *help_, texts.Say(vmod17::kHelpWord));
-  Name(*user_, user_heading_->caption());
-  Name(*language_, language_heading_->caption());
-  Name(*output_, output_heading_->caption());
-}
-
-void HomeWindow::Fill(DropDownWidget& list, const QStringList& entries, int chosen) {
-  const QFontMetricsF metrics(look::Type(16, look::Weight::kNormal));
-  QStringList shown;
-  for (const QString& entry : entries) {
-    shown << metrics.elidedText(entry, Qt::ElideRight, kWidestEntry);
-  }
-  QStringList present;
-  for (int i = 0; i < list.count(); ++i) present << list.itemText(i);
-  if (present != shown) {
-    list.clear();
-    list.addItems(shown);
-  }
-  if (list.currentIndex() != chosen) list.setCurrentIndex(chosen);
-  // The closed list is narrower than the open one.
-  list.SetCaption(metrics.elidedText(list.currentText(), Qt::ElideRight, kField - 40));
+  SetWords(*page_.title, "Melvado");
+  SetWords(*page_.subtitle, texts.Say(9401, "Ear training"));
+  SetWords(*page_.user_heading, texts.Say(9402, "Who is practising?"));
+  SetWords(*page_.add_user, texts.Say(9404, "Add…"));
+  SetWords(*page_.change_user, texts.Say(9405, "Change…"));
+  SetWords(*page_.remove_user, texts.Say(9406, "Remove…"));
+  SetWords(*page_.language_heading, texts.Say(9407, "Language"));
+  SetWords(*page_.output_heading, texts.Say(9408, "Sound output"));
+  SetWords(*page_.test, texts.Say(9411, "Test the sound"));
+  SetWords(*page_.soundfont, texts.Say(9412, "Choose a soundfont…"));
+  SetWords(*page_.usual_soundfont, texts.Say(9413, "Soundfont of the system"));
+  SetWords(*page_.log, texts.Say(9419, "Log"));
+  SetWords(*page_.restore, texts.Say(9208, "Restore a backup…"));
+  SetWords(*page_.quit, texts.Say(9420, "Quit"));
+  SetWords(*page_.help, texts.Say(vmod17::kHelpWord));
+  Name(*page_.user, page_.user_heading->caption());
+  Name(*page_.language, page_.language_heading->caption());
+  Name(*page_.output, page_.output_heading->caption());
 }
 
 void HomeWindow::ShowUsers() {
@@ -318,11 +195,11 @@ void HomeWindow::ShowUsers() {
     if (user.id == chosen) index = static_cast<int>(entries.size());
     entries << Shown(user);
   }
-  Fill(*user_, entries, index);
-  change_user_->setEnabled(index > 0);
-  remove_user_->setEnabled(index > 0);
+  page_.Fill(*page_.user, entries, index);
+  page_.change_user->setEnabled(index > 0);
+  page_.remove_user->setEnabled(index > 0);
   // Who has just been added or changed is told where the focus went.
-  start_->setAccessibleDescription(user_heading_->caption() + " " + entries[index]);
+  page_.start->setAccessibleDescription(page_.user_heading->caption() + " " + entries[index]);
 }
 
 void HomeWindow::ShowLanguages() {
@@ -330,7 +207,8 @@ void HomeWindow::ShowLanguages() {
   const auto found = std::ranges::find(names, host_.Language());
   QStringList entries;
   for (const std::string& name : names) entries << QString::fromStdString(name);
-  Fill(*language_, entries, found == names.end() ? -1 : static_cast<int>(found - names.begin()));
+  page_.Fill(*page_.language, entries,
+             found == names.end() ? -1 : static_cast<int>(found - names.begin()));
 }
 
 void HomeWindow::ShowOutputs() {
@@ -345,15 +223,15 @@ void HomeWindow::ShowOutputs() {
       entries << (output.is_there ? name : texts.Say(9410, "%1 (not connected)", {name}));
     }
   }
-  Fill(*output_, entries, choice.chosen);
+  page_.Fill(*page_.output, entries, choice.chosen);
   const Output& chosen = choice.outputs[static_cast<std::size_t>(choice.chosen)];
   const QString note =
       chosen.is_there
           ? QString()
           : texts.Say(9416, "%1 is not connected. The built-in synthesiser plays in its place.",
                       {QString::fromStdString(chosen.name)});
-  SetWords(*output_note_, *output_note_, note);
-  output_->setAccessibleDescription(note);
+  SetWords(*page_.output_note, note);
+  page_.output->setAccessibleDescription(note);
 }
 
 void HomeWindow::ShowSoundfont() {
@@ -368,10 +246,11 @@ void HomeWindow::ShowSoundfont() {
     note = texts.Say(9430, "The soundfont %1 is missing. That of the system plays in its place.",
                      {FileName(path)});
   }
-  SetWords(*soundfont_note_, *soundfont_note_, note);
-  soundfont_->setAccessibleDescription(note);
-  soundfont_->setEnabled(!host_.SoundfontIsNamed() && !host_.TestRuns());
-  usual_soundfont_->setEnabled(!host_.SoundfontIsNamed() && !path.empty() && !host_.TestRuns());
+  SetWords(*page_.soundfont_note, note);
+  page_.soundfont->setAccessibleDescription(note);
+  page_.soundfont->setEnabled(!host_.SoundfontIsNamed() && !host_.TestRuns());
+  page_.usual_soundfont->setEnabled(!host_.SoundfontIsNamed() && !path.empty() &&
+                                    !host_.TestRuns());
 }
 
 void HomeWindow::ShowVerdict() {
@@ -389,35 +268,27 @@ void HomeWindow::ShowVerdict() {
     text = texts.Say(9418, "The sound test plays a chord and tells what became of it.");
   }
   update();
-  SetWords(*verdict_, *verdict_, text);
+  SetWords(*page_.verdict, text);
   // It stays where the focus is, and says what became of the test.
-  test_->setEnabled(true);
-  test_->setDown(host_.TestRuns());
-  test_->setAccessibleDescription(text);
+  page_.test->setEnabled(true);
+  page_.test->setDown(host_.TestRuns());
+  page_.test->setAccessibleDescription(text);
 }
 
 void HomeWindow::ShowStart() {
   const bool runs = host_.ModuleRuns();
-  SetWords(*start_, *start_,
-           runs ? host_.texts().Say(9422, "Starting…")
-                : host_.texts().Say(347, "Jazz-Akkorde bestimmen"));
-  start_->setDown(runs);
-  for (QWidget* widget :
-       std::initializer_list<QWidget*>{user_, add_user_, language_, output_, restore_}) {
+  SetWords(*page_.start, runs ? host_.texts().Say(9422, "Starting…")
+                              : host_.texts().Say(347, "Jazz-Akkorde bestimmen"));
+  page_.start->setDown(runs);
+  for (QWidget* widget : std::initializer_list<QWidget*>{page_.user, page_.add_user, page_.language,
+                                                         page_.output, page_.restore}) {
     widget->setEnabled(!runs);
   }
   if (!runs) return;
-  for (QWidget* widget : {change_user_, remove_user_, test_, soundfont_, usual_soundfont_}) {
+  for (QWidget* widget :
+       {page_.change_user, page_.remove_user, page_.test, page_.soundfont, page_.usual_soundfont}) {
     widget->setEnabled(false);
   }
-}
-
-std::vector<std::string> HomeWindow::CaptionsThatDoNotFit() {
-  std::vector<std::string> names;
-  for (const Part& part : parts_) {
-    if (!part.dress->CaptionFits()) names.push_back(part.widget->objectName().toStdString());
-  }
-  return names;
 }
 
 void HomeWindow::Open() {
@@ -429,7 +300,7 @@ void HomeWindow::Open() {
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   activateWindow();
-  start_->setFocus(Qt::OtherFocusReason);
+  page_.start->setFocus(Qt::OtherFocusReason);
   poll_->start();
 }
 
@@ -484,7 +355,7 @@ void HomeWindow::AskForUser(bool known) {
   });
   const bool taken = dialog.exec() == QDialog::Accepted;
   activateWindow();
-  if (taken) start_->setFocus(Qt::OtherFocusReason);
+  if (taken) page_.start->setFocus(Qt::OtherFocusReason);
 }
 
 void HomeWindow::RemoveUser() {
@@ -499,7 +370,7 @@ void HomeWindow::RemoveUser() {
     if (messages_.Ask(question.toStdString(), "Melvado", MessageBox::Answer::kNo) ==
         MessageBox::Answer::kYes) {
       host_.RemoveUser(user.id);
-      user_->setFocus(Qt::OtherFocusReason);
+      page_.user->setFocus(Qt::OtherFocusReason);
     }
     return;
   }
@@ -518,7 +389,7 @@ void HomeWindow::TakeSoundfont(const std::string& path) {
   const std::optional<Notice> fault = host_.ChooseSoundfont(path);
   QGuiApplication::restoreOverrideCursor();
   // The other button of the two is locked where the soundfont of the system plays.
-  soundfont_->setFocus(Qt::OtherFocusReason);
+  page_.soundfont->setFocus(Qt::OtherFocusReason);
   if (fault) messages_.Warn(host_.texts().Say(*fault).toStdString(), "Melvado");
 }
 
@@ -537,7 +408,7 @@ void HomeWindow::Return() {
   if (asks_to_end_) messages_.Withdraw();
   Refresh();
   if (!isVisible()) Open();
-  start_->setFocus(Qt::OtherFocusReason);
+  page_.start->setFocus(Qt::OtherFocusReason);
 }
 
 void HomeWindow::ModuleEnded(const ModuleEnd& end) {
@@ -584,7 +455,7 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
 
 void HomeWindow::ShowLog() {
   if (!log_) log_ = std::make_unique<LogWindow>(host_, loop_, this);
-  log_->Open(style_.factor);
+  log_->Open(page_.style.factor);
 }
 
 void HomeWindow::RestoreBackup() {
@@ -610,48 +481,11 @@ void HomeWindow::RestoreBackup() {
 
 // --- Events and painting
 
-QRectF HomeWindow::Canvas() const {
-  const QSizeF size = kCanvas * style_.factor;
-  return {(width() - size.width()) / 2, (height() - size.height()) / 2, size.width(),
-          size.height()};
-}
-
-QRectF HomeWindow::Pixels(const Rect& units) const {
-  const double f = style_.factor;
-  const QRectF place = look::ToQ(units);
-  return QRectF(place.topLeft() * f + Canvas().topLeft(), place.size() * f);
-}
-
-void HomeWindow::Arrange() {
-  style_.factor =
-      std::max(kSmallest, std::min(width() / kCanvas.width(), height() / kCanvas.height()));
-  for (const Part& part : parts_) {
-    part.widget->setGeometry(Pixels(part.rect).toRect());
-    part.widget->update();
-  }
-  vmod17::SetFactor(*this, style_.factor);
-}
-
-void HomeWindow::resizeEvent(QResizeEvent*) { Arrange(); }
+void HomeWindow::resizeEvent(QResizeEvent*) { page_.Arrange(); }
 
 void HomeWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const look::Palette& colors = style_.colors();
-  painter.fillRect(rect(), colors.page);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double radius = look::kCardRadius * style_.factor;
-  const QRectF banner = Pixels(kBanner);
-  QPainterPath path;
-  path.addRoundedRect(banner, radius, radius);
-  look::DrawBanner(painter, banner, path);
-  const auto card = [&](const Rect& units, const QColor& fill) {
-    look::DrawCard(painter, Pixels(units), colors, fill, style_.factor);
-  };
-  card(kUserCard, colors.card);
-  card(kSoundCard, colors.card);
-  card(kVerdictCard, !verdict_is_good_   ? colors.card
-                     : *verdict_is_good_ ? colors.good
-                                         : colors.bad);
+  page_.Paint(painter, verdict_is_good_);
 }
 
 /// From every window but the help's, which knows by itself what was asked for.
@@ -693,8 +527,8 @@ bool HomeWindow::eventFilter(QObject* watched, QEvent* event) {
     return true;
   }
   if (!key && event->type() != QEvent::MouseButtonPress) return false;
-  if (style_.keyboard != key) {
-    style_.keyboard = key;
+  if (page_.style.keyboard != key) {
+    page_.style.keyboard = key;
     if (QWidget* focus = focusWidget()) focus->update();
   }
   // Where no window manager passes the focus around, keys can reach a window that has none.

@@ -3,21 +3,19 @@
 
 #pragma once
 
-#include <QRectF>
 #include <QWidget>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "ports/file_dialog.h"
 #include "ports/message_box.h"
+#include "programs/host/home_page.h"
 #include "programs/host/host.h"
 #include "qt/desk/qt_event_loop.h"
-#include "qt/kit/drop_down_widget.h"
 #include "qt/kit/narrator.h"
-#include "qt/kit/press_widget.h"
-#include "qt/kit/text_widget.h"
 
 class QTimer;
 
@@ -27,9 +25,6 @@ class LogWindow;
 
 /// The place where a student starts: who learns, language, sound, and the button that opens the
 /// exercise. It shows what the host says and hands on what the user does.
-///
-/// Its widgets have names: user, add_user, change_user, remove_user, language, output, test,
-/// soundfont, usual_soundfont, verdict, start, help, log, restore, quit.
 class HomeWindow : public QWidget {
  public:
   /// All outlive the window.
@@ -52,9 +47,9 @@ class HomeWindow : public QWidget {
   /// exercise does not answer.
   void ComeToFront();
   /// The names of captions that are larger than their places.
-  std::vector<std::string> CaptionsThatDoNotFit();
+  std::vector<std::string> CaptionsThatDoNotFit() const { return page_.CaptionsThatDoNotFit(); }
   /// Pixels of a unit.
-  double factor() const { return style_.factor; }
+  double factor() const { return page_.style.factor; }
   LogWindow* log_window() const { return log_.get(); }
 
  protected:
@@ -65,28 +60,10 @@ class HomeWindow : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  struct Part {
-    QWidget* widget;
-    vmod17::Dressed* dress;
-    vmod17::Rect rect;
-  };
-
-  template <typename Widget>
-  Widget* Make(const char* name, const vmod17::Placement& place);
-  vmod17::PressWidget* MakeButton(const char* name, const vmod17::Placement& place,
-                                  std::function<void()> act);
-  vmod17::DropDownWidget* MakeList(const char* name, const vmod17::Rect& rect,
-                                   std::function<void(int)> choose);
-  vmod17::TextWidget* MakeHeading(const char* name, const vmod17::Rect& rect);
-  void BuildUsers();
-  void BuildSound();
-  void BuildFooter();
-  void OrderTabs();
-  void Connect();
-
-  void Arrange();
-  QRectF Pixels(const vmod17::Rect& units) const;
-  QRectF Canvas() const;
+  void On(vmod17::PressWidget& button, std::function<void()> act);
+  void On(vmod17::DropDownWidget& list, std::function<void(int)> choose);
+  void ConnectWidgets();
+  void ConnectHost();
 
   void Refresh();
   void ShowWords();
@@ -96,7 +73,6 @@ class HomeWindow : public QWidget {
   void ShowSoundfont();
   void ShowVerdict();
   void ShowStart();
-  void Fill(vmod17::DropDownWidget& list, const QStringList& entries, int chosen);
   void Act(const std::function<void()>& action);
 
   void AskForUser(bool known);
@@ -117,40 +93,15 @@ class HomeWindow : public QWidget {
   vmod17::QtEventLoop& loop_;
   vmod17::MessageBox& messages_;
   vmod17::FileDialog& dialog_;
-  vmod17::PageStyle style_;
-  std::vector<Part> parts_;
   std::vector<vmod17::StoreUser> users_;
   std::unique_ptr<QTimer> poll_;
   std::unique_ptr<LogWindow> log_;
   vmod17::Narrator narrator_{*this};
+  HomePage page_{*this};
   std::optional<bool> verdict_is_good_;  // none: no test has come to its end
   bool filling_ = false;                 // a list changes by the program, not by the user
   bool was_open_ = false;
   bool asks_to_end_ = false;  // a question whether to end the module stands
-
-  vmod17::TextWidget* title_ = nullptr;
-  vmod17::TextWidget* subtitle_ = nullptr;
-  vmod17::TextWidget* user_heading_ = nullptr;
-  vmod17::DropDownWidget* user_ = nullptr;
-  vmod17::PressWidget* add_user_ = nullptr;
-  vmod17::PressWidget* change_user_ = nullptr;
-  vmod17::PressWidget* remove_user_ = nullptr;
-  vmod17::TextWidget* language_heading_ = nullptr;
-  vmod17::DropDownWidget* language_ = nullptr;
-  vmod17::TextWidget* output_heading_ = nullptr;
-  vmod17::DropDownWidget* output_ = nullptr;
-  vmod17::TextWidget* output_note_ = nullptr;
-  vmod17::PressWidget* test_ = nullptr;
-  vmod17::PressWidget* soundfont_ = nullptr;
-  vmod17::PressWidget* usual_soundfont_ = nullptr;
-  vmod17::TextWidget* soundfont_note_ = nullptr;
-  vmod17::TextWidget* verdict_ = nullptr;
-  vmod17::PressWidget* start_ = nullptr;
-  vmod17::PressWidget* help_ = nullptr;
-  vmod17::PressWidget* log_button_ = nullptr;
-  vmod17::PressWidget* restore_ = nullptr;
-  vmod17::PressWidget* quit_ = nullptr;
-  vmod17::TextWidget* version_ = nullptr;
 };
 
 }  // namespace melvado
