@@ -54,6 +54,7 @@ class Printing : public testing::Test {
   }
 
   Testergebnis& screen() { return p_.results(); }
+  void Print() { EXPECT_TRUE(printer_.PrintForm(screen()).printed); }
   PrintTargets NoPrinter() {
     return {[] { return nullptr; },
             {folder_.filePath("Dokumente")},
@@ -96,7 +97,7 @@ TEST_F(Printing, NamesAFileByTheTitleInTheLanguageOfTheProgram) {
 }
 
 TEST_F(Printing, MakesOneLandscapePage) {
-  printer_.PrintForm(screen());
+  Print();
   const QByteArray pdf = ContentOf(Pdf());
   EXPECT_EQ(pdf.count("/Type /Page\n"), 1);
   static const QRegularExpression box("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]");
@@ -107,7 +108,7 @@ TEST_F(Printing, MakesOneLandscapePage) {
 
 TEST_F(Printing, FollowsTheOrientation) {
   printer_.SetOrientation(Printer::Orientation::kPortrait);
-  printer_.PrintForm(screen());
+  Print();
   static const QRegularExpression box("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]");
   const auto match = box.match(QString::fromLatin1(ContentOf(Pdf())));
   ASSERT_TRUE(match.hasMatch());
@@ -115,7 +116,7 @@ TEST_F(Printing, FollowsTheOrientation) {
 }
 
 TEST_F(Printing, SetsTextAsTextAndOnlyThePicturesOfTheChordsAsPictures) {
-  printer_.PrintForm(screen());
+  Print();
   const QByteArray pdf = ContentOf(Pdf());
   EXPECT_GT(pdf.count("/FontFile2"), 0);
   EXPECT_GT(Unpacked(pdf).count(" Tj"), 20);
@@ -127,9 +128,9 @@ TEST_F(Printing, SetsTextAsTextAndOnlyThePicturesOfTheChordsAsPictures) {
 }
 
 TEST_F(Printing, LeavesOutTheButtonsAndThePicturesOnTheFaceBehind) {
-  printer_.PrintForm(screen());
+  Print();
   screen().cmdOK[0].Press();
-  printer_.PrintForm(screen());
+  Print();
   const QByteArray settings = ContentOf(Pdf(" (2)"));
   EXPECT_EQ(settings.count("/Subtype /Image"), 0);
   EXPECT_GT(Unpacked(settings).count(" Tj"), 20);
@@ -202,7 +203,7 @@ TEST_F(Printing, PutsTheSettingsOnPaperWithoutTheirButtons) {
 }
 
 TEST_F(Printing, NeverOverwritesAnEarlierPage) {
-  printer_.PrintForm(screen());
+  Print();
   const QByteArray first = ContentOf(Pdf());
   const PrintResult second = printer_.PrintForm(screen());
   const PrintResult third = printer_.PrintForm(screen());
