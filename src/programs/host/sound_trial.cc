@@ -43,8 +43,8 @@ void SoundTest::Start(const std::string& port, const std::string& soundfont, Don
   done_ = std::move(done);
   MidiOptions options = options_;
   options.soundfont = soundfont;
-  output_ = MakeMidiOutput(std::move(options), loop_,
-                           [this](const Notice& notice) { troubles_.push_back(notice); });
+  output_ =
+      MakeMidiOutput(options, loop_, [this](const Notice& notice) { troubles_.push_back(notice); });
   int number = -1;
   if (!port.empty()) {
     const std::optional<int> found = output_->NumberOf(port);
