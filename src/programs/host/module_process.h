@@ -40,7 +40,7 @@ inline constexpr int kTimeToSaveMs = 3000;
 /// How long a module may take until it is shown. It may wait for the store meanwhile.
 inline constexpr int kTimeToStartMs = 10'000;
 
-/// The module as a process of its own, one at a time. What it says is in app/places.h.
+/// The module as a process of its own, one at a time. What it says is in programs/shared/places.h.
 ///
 /// A module that has given control back has saved all and closed its window. For the user it is
 /// over then, and another one may be started, while its process still takes leave of the sound
