@@ -4,16 +4,17 @@
 #pragma once
 
 #include "base/notice.h"
+#include "base/text_ids.h"
 
 // What stands in several places.
 
 namespace vmod17 {
 
-inline const Notice kHelpWord{9421, "Help", {}};
+inline const Notice kHelpWord{text_id::kHelp, "Help", {}};
 
 // The buttons of messages and dialogs.
-inline const Notice kOkWord{432, "OK", {}};
-inline const Notice kYesWord{9001, "Yes", {}};
-inline const Notice kNoWord{9002, "No", {}};
+inline const Notice kOkWord{text_id::kOk, "OK", {}};
+inline const Notice kYesWord{text_id::kYes, "Yes", {}};
+inline const Notice kNoWord{text_id::kNo, "No", {}};
 
 }  // namespace vmod17

@@ -6,6 +6,8 @@
 #include <initializer_list>
 #include <utility>
 
+#include "base/text_ids.h"
+
 namespace vmod17 {
 
 const std::array<std::string, 10> ExerciseNames::tempo_name_ar = {
@@ -18,22 +20,41 @@ void ExerciseNames::Fuelle(const TextLookup& texts) {
   const auto fill = [&texts](auto& table, std::initializer_list<std::pair<int, int>> ids) {
     for (const auto& [slot, id] : ids) table[slot] = texts.Sprachtext(id);
   };
-  fill(grp_name_ar, {{0, 51},
-                     {1, 379},
-                     {2, 380},
-                     {3, 409},
-                     {4, 200},
-                     {5, 201},
-                     {6, 410},
-                     {7, 312},
-                     {8, 609},
-                     {10, 199}});
-  fill(klang_name_ar, {{3, 51}, {4, 57}, {5, 60}, {6, 62}, {7, 64}});
-  fill(modus_name_ar, {{0, 136}, {1, 564}, {2, 565}, {3, 550}, {4, 438}});
-  fill(arp_richtung_name_ar, {{0, 133}, {1, 84}, {2, 624}, {3, 278}});
-  fill(arp_tempo_name_ar, {{0, 477}, {1, 371}, {2, 400}, {3, 470}, {4, 479}});
-  fill(art_name_ar, {{0, 194}, {1, 141}});
-  fill(frei_name_ar, {{0, 478}, {1, 424}, {2, 400}, {3, 319}, {4, 476}});
+  fill(grp_name_ar, {{0, text_id::kTriads},
+                     {1, text_id::kMajorSeventh},
+                     {2, text_id::kMajorSeventhAltered},
+                     {3, text_id::kMinorSeventh},
+                     {4, text_id::kDominant},
+                     {5, text_id::kDominantAltered},
+                     {6, text_id::kTonicMinor},
+                     {7, text_id::kHalfDiminished},
+                     {8, text_id::kDiminished},
+                     {10, text_id::kDominantAlteredShort}});
+  fill(klang_name_ar, {{3, text_id::kTriads},
+                       {4, text_id::kFourNoteChords},
+                       {5, text_id::kFiveNoteChords},
+                       {6, text_id::kSixNoteChords},
+                       {7, text_id::kSevenNoteChords}});
+  fill(modus_name_ar, {{0, text_id::kFreePractice},
+                       {1, text_id::kTrainingNew},
+                       {2, text_id::kTrainingContinued},
+                       {3, text_id::kTest},
+                       {4, text_id::kExam}});
+  fill(arp_richtung_name_ar, {{0, text_id::kUpwards},
+                              {1, text_id::kDownwards},
+                              {2, text_id::kRandom},
+                              {3, text_id::kAllAtOnce}});
+  fill(arp_tempo_name_ar, {{0, text_id::kVerySlow},
+                           {1, text_id::kSlow},
+                           {2, text_id::kMedium},
+                           {3, text_id::kFast},
+                           {4, text_id::kVeryFast}});
+  fill(art_name_ar, {{0, text_id::kDirect}, {1, text_id::kSelectable}});
+  fill(frei_name_ar, {{0, text_id::kVeryLow},
+                      {1, text_id::kLow},
+                      {2, text_id::kMedium},
+                      {3, text_id::kHigh},
+                      {4, text_id::kVeryHigh}});
 }
 
 }  // namespace vmod17

@@ -3,6 +3,8 @@
 
 #include "midi/midi_notices.h"
 
+#include "base/text_ids.h"
+
 namespace vmod17 {
 namespace {
 
@@ -16,27 +18,27 @@ std::string Joined(const std::vector<std::string>& names) {
 
 Notice NoSoundfontNotice(const std::vector<std::string>& tried) {
   if (!tried.empty()) {
-    return {9151,
+    return {text_id::kSoundfontDamaged,
             "The exercise makes no sound: the file with the sounds of the instruments (soundfont) "
             "is damaged: %1. Install the package fluid-soundfont-gm again, then start the program "
             "again.",
             {Joined(tried)}};
   }
-  return {9152,
+  return {text_id::kSoundfontMissing,
           "The exercise makes no sound: the file with the sounds of the instruments (soundfont) is "
           "missing. Install the package fluid-soundfont-gm, then start the program again.",
           {}};
 }
 
 Notice OtherSoundfontNotice(const std::string& chosen, const std::string& playing) {
-  return {9157,
+  return {text_id::kSoundfontReplaced,
           "The soundfont that was chosen, %1, is missing or damaged. %2 plays in its place. Choose "
           "another soundfont in Melvado.",
           {chosen, playing}};
 }
 
 Notice NoAudioNotice(const std::vector<std::string>& drivers) {
-  return {9153,
+  return {text_id::kNoSoundOutput,
           "The exercise makes no sound: no sound output was found (tried: %1). Check that "
           "loudspeakers or headphones are connected and chosen in the sound settings of the "
           "system, then start the program again.",
@@ -44,7 +46,7 @@ Notice NoAudioNotice(const std::vector<std::string>& drivers) {
 }
 
 Notice AudioLostNotice() {
-  return {9154,
+  return {text_id::kSoundOutputStopped,
           "The sound output has stopped. Check the loudspeakers or headphones and the sound "
           "settings of the system, then try again.",
           {}};
@@ -52,14 +54,14 @@ Notice AudioLostNotice() {
 
 Notice PortVanishedNotice(const std::string& name) {
   return {
-      9155,
+      text_id::kMidiDeviceGone,
       "The MIDI device \"%1\" is not there any more. Check its cable and whether it is switched "
       "on, then try again.",
       {name}};
 }
 
 Notice NoSuchDeviceNotice(int number, int count) {
-  return {9156,
+  return {text_id::kMidiDeviceUnknown,
           "MIDI device number %1 does not exist; there are %2 devices. Choose another MIDI device "
           "in Melvado.",
           {std::to_string(number), std::to_string(count)}};

@@ -8,6 +8,7 @@
 #include <span>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "results/own_words.h"
 #include "results/results_screen.h"
 #include "settings/settings_table.h"
@@ -34,20 +35,22 @@ std::string Gesehen(const OptionGroup& group, int chosen, std::array<int, 2> ids
 }
 
 std::string EigenerModus(int uebmodus) {
-  constexpr std::array ids = {136, 564, 565, 550, 438};
+  constexpr std::array ids = {text_id::kFreePractice, text_id::kTrainingNew,
+                              text_id::kTrainingContinued, text_id::kTest, text_id::kExam};
   return EigenesWort(ids.at(uebmodus));
 }
 
 std::string EigeneOktaven(int oktav_ber) {
-  return SignedText(oktav_ber + 2) + " " + EigenesWort(41);
+  return SignedText(oktav_ber + 2) + " " + EigenesWort(text_id::kOctaves);
 }
 
 /// `j` is the place of the lowest note among those from 36 upwards, an octave apart.
 std::string EigenerTonraum(int j, int oktav_ber) {
-  return EigenesWort(671 + j) + " " + EigenesWort(702) + " " + EigenesWort(673 + oktav_ber + j);
+  return EigenesWort(text_id::kC2 + j) + " " + EigenesWort(text_id::kTo) + " " +
+         EigenesWort(text_id::kC4 + oktav_ber + j);
 }
 
-std::string EigeneStimme(int i) { return EigenesWort(499) + " " + SignedText(i + 1); }
+std::string EigeneStimme(int i) { return EigenesWort(text_id::kVoice) + " " + SignedText(i + 1); }
 
 /// The lines that the page fills by itself. All others are those of two options.
 constexpr std::array kEigeneZeilen = {0, 1, 2, 4, 9, 10, 13, 14};
@@ -88,10 +91,11 @@ void Testergebnis::LbGrdEinst() {
       [this] {
         const TextLookup& texts = shell_.texts;
         const int typ = shell_.state.uebTyp;
-        grd_einst_head.caption = Wort(347);
-        ZeigeGrundZeile(0, Ueberschrift(189), Zeitpunkt(shell_.loop.Now()));
-        ZeigeGrundZeile(1, Gesehen(parts_.grd_einst.grdeinst_lb[0].caption, 586) + " ",
-                        Gesehen(parts_.grd_einst.ueb_typ[typ].caption, 154));
+        grd_einst_head.caption = Wort(text_id::kModuleTitle);
+        ZeigeGrundZeile(0, Ueberschrift(text_id::kDate), Zeitpunkt(shell_.loop.Now()));
+        ZeigeGrundZeile(
+            1, Gesehen(parts_.grd_einst.grdeinst_lb[0].caption, text_id::kExerciseType) + " ",
+            Gesehen(parts_.grd_einst.ueb_typ[typ].caption, text_id::kIdentify));
         for (int k = 2; k < kGrundZeilen; ++k) {
           g_einst_lab[k].visible = g_einst_inh[k].visible = shell_.state.loginKnown;
         }
@@ -101,10 +105,10 @@ void Testergebnis::LbGrdEinst() {
         const auto feld = [&](std::size_t i) {
           return i < anwender.Elements().size() ? anwender[i].String() : "";
         };
-        ZeigeGrundZeile(2, Ueberschrift(109), texts.Rechnername());
-        ZeigeGrundZeile(3, Wort(9603), feld(1));
-        ZeigeGrundZeile(4, Wort(9604), feld(2));
-        ZeigeGrundZeile(5, Wort(9605), feld(0));
+        ZeigeGrundZeile(2, Ueberschrift(text_id::kUser), texts.Rechnername());
+        ZeigeGrundZeile(3, Wort(text_id::kNameHeading), feld(1));
+        ZeigeGrundZeile(4, Wort(text_id::kFirstNameHeading), feld(2));
+        ZeigeGrundZeile(5, Wort(text_id::kMatriculationNumberHeading), feld(0));
       },
       [this] { SchliesseMitFehler(); });
 }
@@ -125,7 +129,7 @@ void Testergebnis::LbEinst() {
         for (int k = 0; k < kEinstZeilen; ++k) {
           einst_lab[k].visible = einst_Inh[k].visible = false;
         }
-        einst_head.caption = Gesehen(shell_.texts.titel_ar[1], 221);
+        einst_head.caption = Gesehen(shell_.texts.titel_ar[1], text_id::kSettingsTitle);
         for (const Merkmal& merkmal : kMerkmale) {
           if (!HatZeile(merkmal) || !merkmal.Gilt(s)) continue;
           ZeigeZeile(merkmal.zeile, rahmen(merkmal.rahmen),
@@ -133,10 +137,10 @@ void Testergebnis::LbEinst() {
         }
         ZeigeZeile(0, rahmen(8), ModusMitNummer());
         KlangfarbenZeile();
-        ZeigeZeile(2, Gesehen(e.lb15[0].caption, 547), e.temp_Combo.text());
+        ZeigeZeile(2, Gesehen(e.lb15[0].caption, text_id::kTempo), e.temp_Combo.text());
         ZeigeZeile(4, rahmen(4), e.akkzahl_cmb.text());
         ZeigeZeile(9, rahmen(1), Oder(e.oktav_cmb.text(), EigeneOktaven(s.oktav_ber)));
-        ZeigeZeile(10, Gesehen(e.lb1.caption, 153),
+        ZeigeZeile(10, Gesehen(e.lb1.caption, text_id::kRegister),
                    Oder(e.Combo_tonraum.text(), EigenerTonraum(s.tonraum_idx, s.oktav_ber)));
         if (s.akk_form == 0) {
           ZeigeZeile(13, rahmen(11), Verbunden(e.klanglst[1].entries(), ", ", EigenerKlangName));
@@ -164,7 +168,8 @@ std::string Testergebnis::ModusMitNummer() const {
   const Einstellung1& e = parts_.einstellung1;
   const std::string modus = Oder(e.training_Combo.text(), EigenerModus(s.uebmodus));
   if (s.uebmodus != kModusPruefung) return modus;
-  return modus + " " + Oder(e.prfnr_Comb.text(), EigenesWort(426) + SignedText(s.pruef_nr));
+  return modus + " " +
+         Oder(e.prfnr_Comb.text(), EigenesWort(text_id::kNumber) + SignedText(s.pruef_nr));
 }
 
 void Testergebnis::KlangfarbenZeile() {

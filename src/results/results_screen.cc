@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "base/usual_words.h"
 #include "forms/caption.h"
 #include "results/own_words.h"
@@ -126,8 +127,9 @@ void Testergebnis::testtimer_Timer() {
 void Testergebnis::BaueAuf() {
   cmdOK[1].tag = "OK";
   const TextLookup& texts = shell_.texts;
-  caption = Oder(texts.ueb_typ_name_ar.at(shell_.state.uebTyp), EigenesWort(348)) + Wort(700) +
-            Oder(texts.titel_ar[2], EigenesWort(224));
+  caption =
+      Oder(texts.ueb_typ_name_ar.at(shell_.state.uebTyp), EigenesWort(text_id::kExerciseName)) +
+      Wort(text_id::kColon) + Oder(texts.titel_ar[2], EigenesWort(text_id::kResultsTitle));
   LbGrdEinst();
   LbEinst();
   // A page that failed has closed the screen by itself.
@@ -137,11 +139,11 @@ void Testergebnis::BaueAuf() {
   ZeigeErgebnisse();
   if (end_ == RunEnd::kTimeUp) MeldeZeitUm();
   visible = true;
-  Say(lab_ges.caption + shell_.texts.Sprachtext(700) + " " + ergebnis[0].caption);
+  Say(lab_ges.caption + shell_.texts.Sprachtext(text_id::kColon) + " " + ergebnis[0].caption);
 }
 
 void Testergebnis::MeldeZeitUm() {
-  zeit_um.caption = shell_.texts.Words({9728, "Time is up", {}});
+  zeit_um.caption = shell_.texts.Words({text_id::kTimeIsUp, "Time is up", {}});
   zeit_um.visible = true;
   PicSchalt[0].enabled = false;
   schonfrist.Enable();
@@ -223,11 +225,11 @@ void Testergebnis::ZeigeErgebnisse() {
 }
 
 void Testergebnis::SetzeTexte() {
-  lab_ges.caption = Wort(275);
+  lab_ges.caption = Wort(text_id::kOverallResult);
   cmdHilfe.spoken = shell_.texts.Words(kHelpWord);
   for (int i : {0, 1}) {
-    cmdOK[i].caption = Wort(625);
-    cmdPrint[i].caption = Wort(1);
+    cmdOK[i].caption = Wort(text_id::kContinue);
+    cmdPrint[i].caption = Wort(text_id::kPrint);
   }
 }
 
@@ -237,7 +239,7 @@ std::string Testergebnis::Wort(int id) const {
 
 std::string Testergebnis::Ueberschrift(int id) const {
   const std::string wort = shell_.texts.Sprachtext(id);
-  return TextLookup::Fehlt(wort) ? EigenesWort(id) + ":" : wort + " " + Wort(700);
+  return TextLookup::Fehlt(wort) ? EigenesWort(id) + ":" : wort + " " + Wort(text_id::kColon);
 }
 
 void Testergebnis::cmdOK_Click(int index) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "forms/caption.h"
 #include "settings/settings_screen.h"
 
@@ -45,7 +46,8 @@ std::string Aufgelistet(const std::vector<std::string>& zeilen, const TextLookup
   for (std::size_t i = 0; i < anzahl; ++i) text += "\n" + Gekuerzt(zeilen[i]);
   if (ganz) return text;
   return text + "\n" +
-         texts.Words({9633, "… and %1 more", {std::to_string(zeilen.size() - anzahl)}});
+         texts.Words(
+             {text_id::kAndMore, "… and %1 more", {std::to_string(zeilen.size() - anzahl)}});
 }
 
 /// The options of the group that a control belongs to; null for a control of another kind.
@@ -105,7 +107,7 @@ void Einstellung1::cmdOptionSave_Click() {
   FixedSettings dokument;
   dokument.controls = SammleMarkierte();
   if (dokument.controls.empty()) {
-    shell_.messages.Warn(texts.Sprachtext(9011), cmdOptionSave.caption);
+    shell_.messages.Warn(texts.Sprachtext(text_id::kNoFrameMarked), cmdOptionSave.caption);
     return;
   }
   const DateTime heute = shell_.loop.Now();
@@ -120,8 +122,9 @@ void Einstellung1::cmdOptionSave_Click() {
   try {
     parts_.settings_files.Write(*file, dokument);
   } catch (const SettingsFileError& error) {
-    shell_.messages.Warn(texts.Sprachtext(9012) + "\n" + texts.Words(error.reason()),
-                         cmdOptionSave.caption);
+    shell_.messages.Warn(
+        texts.Sprachtext(text_id::kTestFileNotWritten) + "\n" + texts.Words(error.reason()),
+        cmdOptionSave.caption);
   }
 }
 
@@ -135,10 +138,11 @@ void Einstellung1::cmdOptionRead_Click() {
     WendeAn(parts_.settings_files.Read(*file));
   } catch (const SettingsFileError& error) {
     const TextLookup& texts = shell_.texts;
-    std::string text = texts.Sprachtext(9013) + "\n" + texts.Words(error.reason());
+    std::string text =
+        texts.Sprachtext(text_id::kTestFileUnreadable) + "\n" + texts.Words(error.reason());
     if (error.line() > 0) {
-      text += "\n" + texts.Sprachtext(9014) + " " + DecimalText(error.line()) + ", " +
-              texts.Sprachtext(9015) + " " + DecimalText(error.column());
+      text += "\n" + texts.Sprachtext(text_id::kLine) + " " + DecimalText(error.line()) + ", " +
+              texts.Sprachtext(text_id::kColumn) + " " + DecimalText(error.column());
     }
     shell_.messages.Warn(text, cmdOptionRead.caption);
   }
@@ -185,13 +189,14 @@ void Einstellung1::WendeAn(const FixedSettings& dokument) {
   const TextLookup& texts = shell_.texts;
   std::string text;
   if (!gehalten.empty()) {
-    text = texts.Words({9555,
+    text = texts.Words({text_id::kModeHoldsSettings,
                         "The practice mode “%1” holds these settings. They stay as they are:",
                         {training_Combo.text()}}) +
            gehalten;
   }
   if (!uebergangen.empty()) {
-    text += (text.empty() ? "" : "\n\n") + texts.Sprachtext(9016) + Aufgelistet(uebergangen, texts);
+    text += (text.empty() ? "" : "\n\n") + texts.Sprachtext(text_id::kSettingsPassedOver) +
+            Aufgelistet(uebergangen, texts);
   }
   if (!text.empty()) shell_.messages.Warn(text, cmdOptionRead.caption);
 }

@@ -7,6 +7,7 @@
 #include <array>
 #include <vector>
 
+#include "base/text_ids.h"
 #include "exercise/settings_record.h"
 #include "forms/color.h"
 
@@ -29,21 +30,21 @@ struct Rahmen {
 };
 
 inline constexpr std::array kRahmen = {
-    Rahmen{0, 243, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},              // tuning
-    Rahmen{1, 107, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},              // Tonraum
-    Rahmen{2, 302, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},   // groups
-    Rahmen{3, 154, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},   // what is named
-    Rahmen{4, 88, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},               // chords a task
-    Rahmen{5, 78, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},    // sequence
-    Rahmen{7, 138, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},   // material
-    Rahmen{8, 587, kLevelRahmen, Rahmen::Gesperrt::kNie},                      // level
-    Rahmen{9, 297, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},              // root
-    Rahmen{10, 469, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},             // direction
-    Rahmen{11, 364, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},  // kinds
-    Rahmen{12, 114, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},             // display
-    Rahmen{14, 0, kKlangRahmen, Rahmen::Gesperrt::kNie},                       // loudness
-    Rahmen{15, 365, kKlangRahmen, Rahmen::Gesperrt::kNie},                     // timbre, tempo
-    Rahmen{17, 87, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},              // accent
+    Rahmen{0, text_id::kTuning, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},
+    Rahmen{1, text_id::kRange, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},
+    Rahmen{2, text_id::kChordGroups, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},
+    Rahmen{3, text_id::kIdentify, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},
+    Rahmen{4, text_id::kNumberOfChords, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},
+    Rahmen{5, text_id::kSequence, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},
+    Rahmen{7, text_id::kMaterial, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},
+    Rahmen{8, text_id::kPracticeMode, kLevelRahmen, Rahmen::Gesperrt::kNie},
+    Rahmen{9, text_id::kRoot, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},
+    Rahmen{10, text_id::kDirection, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},
+    Rahmen{11, text_id::kChordSizes, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzungUndPruefung},
+    Rahmen{12, text_id::kChordDisplay, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},
+    Rahmen{14, 0, kKlangRahmen, Rahmen::Gesperrt::kNie},                // loudness
+    Rahmen{15, text_id::kSound, kKlangRahmen, Rahmen::Gesperrt::kNie},  // timbre, tempo
+    Rahmen{17, text_id::kChordRoot, kRahmenFarbe, Rahmen::Gesperrt::kFortsetzung},
 };
 
 static_assert(std::ranges::is_sorted(kRahmen, {}, &Rahmen::nummer) &&

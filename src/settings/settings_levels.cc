@@ -7,6 +7,7 @@
 #include <exception>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "catalogue/chord_table.h"
 #include "settings/exams.h"
 #include "settings/settings_screen.h"
@@ -82,7 +83,7 @@ void Einstellung1::training_Combo_Click() {
   try {
     StelleWiederHer();
   } catch (const std::exception&) {
-    shell_.messages.Warn(shell_.texts.Sprachtext(196),
+    shell_.messages.Warn(shell_.texts.Sprachtext(text_id::kSettingsUnreadable),
                          parts_.names.modus_name_ar[kModusFortsetzung]);
     training_Combo.Select(kModusNeuesTraining);
     return;

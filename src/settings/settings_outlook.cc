@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "catalogue/chord_board.h"
 #include "settings/settings_screen.h"
 #include "settings/time_limit.h"
@@ -50,15 +51,16 @@ std::string Einstellung1::AusblickAufLauf() const {
 
   // A training that is taken up keeps the board that it has.
   const bool gemischt = kandidaten > eintraege && settings.uebmodus != kModusFortsetzung;
-  std::string text = gemischt ? texts.Words({9561,
-                                             "Chords: %1 of %2, mixed anew each time",
-                                             {DecimalText(eintraege), DecimalText(kandidaten)}})
-                              : texts.Words({9560, "Chords: %1", {DecimalText(eintraege)}});
+  std::string text =
+      gemischt ? texts.Words({text_id::kChordsMixedAnew,
+                              "Chords: %1 of %2, mixed anew each time",
+                              {DecimalText(eintraege), DecimalText(kandidaten)}})
+               : texts.Words({text_id::kChordsInRun, "Chords: %1", {DecimalText(eintraege)}});
   if (settings.IstTest()) {
     const TestRest test =
         BemissTest({eintraege, settings.akk_anzahl, settings.SpielDauer(shell_.state), kWahlPause});
     text += kZwischenraum +
-            texts.Words({9562,
+            texts.Words({text_id::kTasksAndTime,
                          "Tasks: %1, in at most %2 min",
                          {DecimalText(test.test_aufgaben), MinutenText(test.rest_sek)}});
   }
@@ -70,10 +72,11 @@ std::string Einstellung1::WasFehlt() const {
   const ItemList& klaenge = klanglst[1];
   const bool voicings = parts_.settings.akk_form != 0;
   if (!voicings && klaenge.count() == 0) {
-    return texts.Words({9563, "Still to select: chord sizes (at least 1)", {}});
+    return texts.Words(
+        {text_id::kChordSizesMissing, "Still to select: chord sizes (at least 1)", {}});
   }
   const bool mit_triaden = !voicings && klaenge.entry(0).item_data == kTriade;
-  return texts.Words({9564,
+  return texts.Words({text_id::kChordGroupsMissing,
                       "Still to select: chord groups (%1 of at least %2)",
                       {DecimalText(grplst[1].count()), DecimalText(mit_triaden ? 1 : 2)}});
 }
@@ -82,15 +85,18 @@ std::string Einstellung1::WasFehlt() const {
 std::string Einstellung1::WarumKeineProbe() const {
   const TextLookup& texts = shell_.texts;
   if (probe_laeuft_) {
-    return texts.Words(
-        {9567, "The sample is playing: OK and the sound check wait for its end", {}});
+    return texts.Words({text_id::kSampleIsPlaying,
+                        "The sample is playing: OK and the sound check wait for its end",
+                        {}});
   }
   if (probe_erlaubt_) return "";
   // Groups that are chosen one by one leave it locked.
   if (parts_.settings.akk_form == 0 && klanglst[1].count() > 0) {
-    return texts.Words({9566, "Sound check: only after » (all chord groups)", {}});
+    return texts.Words(
+        {text_id::kCheckNeedsAllGroups, "Sound check: only after » (all chord groups)", {}});
   }
-  return texts.Words({9565, "Sound check: only with a complete selection", {}});
+  return texts.Words(
+      {text_id::kCheckNeedsSelection, "Sound check: only with a complete selection", {}});
 }
 
 }  // namespace vmod17

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "base/usual_words.h"
 #include "catalogue/chord_table.h"
 #include "settings/exams.h"
@@ -36,7 +37,7 @@ Einstellung1::Einstellung1(Shell& shell, const Parts& parts)
       klangprobe(*this, shell.loop, "klangprobe", 0),
       shell_(shell),
       parts_(parts),
-      warten_(*this, shell.texts, klang_contr, 366) {
+      warten_(*this, shell.texts, klang_contr, text_id::kSoundCheck) {
   caption = "Grundeinstellung : Jazz-Akkorde bestimmen";
   StelleInRahmen();
   BindeMerkmale();
@@ -147,10 +148,12 @@ void Einstellung1::Verdrahte() {
       const ItemList& von = (*listen)[i];
       const ItemList& nach = (*listen)[1 - i];
       dann_ausblick((*listen)[i].Click, [&] {
-        return texts.Words({9731, "%1: from “%2” to “%3”", {von.text(), von.spoken, nach.spoken}});
+        return texts.Words(
+            {text_id::kMoveFromTo, "%1: from “%2” to “%3”", {von.text(), von.spoken, nach.spoken}});
       });
       dann_ausblick((*alle)[i].Click, [&] {
-        return texts.Words({9732, "all from “%1” to “%2”", {von.spoken, nach.spoken}});
+        return texts.Words(
+            {text_id::kMoveAllFromTo, "all from “%1” to “%2”", {von.spoken, nach.spoken}});
       });
     }
   }
@@ -182,8 +185,8 @@ void Einstellung1::start_Timer() {
 void Einstellung1::BaueAuf() {
   ExerciseSettings& settings = parts_.settings;
   const TextLookup& texts = shell_.texts;
-  caption =
-      texts.ueb_typ_name_ar.at(shell_.state.uebTyp) + texts.Sprachtext(700) + texts.titel_ar[1];
+  caption = texts.ueb_typ_name_ar.at(shell_.state.uebTyp) + texts.Sprachtext(text_id::kColon) +
+            texts.titel_ar[1];
   SetzeTexte();
   visible = true;
   form_bereit = false;
@@ -224,7 +227,8 @@ void Einstellung1::FuelleKlangListen() {
   parts_.settings.klang_kanal = 0;
   parts_.settings.patch_ar = kPatchVorgabe;
   for (int i = 1; i < ModMIDI::kKanaele; ++i) {
-    Channel_Combo.Add(texts.Sprachtext(499) + " " + SignedText(i), ItemList::kValueIsIndex);
+    Channel_Combo.Add(texts.Sprachtext(text_id::kVoice) + " " + SignedText(i),
+                      ItemList::kValueIsIndex);
   }
   for (int i = 0; i < ModMIDI::kKanaele; ++i) SetzeKlangfarbe(parts_.settings.patch_ar[i], i);
   ComboPatch.Select(parts_.settings.patch_ar[0]);
@@ -237,7 +241,8 @@ void Einstellung1::FuelleAuswahlListen() {
   for (int k = kTriade; k < kVoicing; ++k) klanglst[0].Add(parts_.names.klang_name_ar[k], k);
   klanglst[0].Select(0);
   for (const Pruefung& pruefung : kPruefungen) {
-    prfnr_Comb.Add(texts.Sprachtext(426) + SignedText(pruefung.nummer), ItemList::kValueIsIndex);
+    prfnr_Comb.Add(texts.Sprachtext(text_id::kNumber) + SignedText(pruefung.nummer),
+                   ItemList::kValueIsIndex);
   }
   prfnr_Comb.Select(0);
   grdeinst[2].visible = false;
@@ -250,7 +255,7 @@ void Einstellung1::FuelleAuswahlListen() {
 void Einstellung1::FuelleOktaven(int von) {
   oktav_cmb.Clear();
   for (int n = von; n <= 5; ++n) {
-    oktav_cmb.Add(SignedText(n) + " " + shell_.texts.Sprachtext(41), n - 2);
+    oktav_cmb.Add(SignedText(n) + " " + shell_.texts.Sprachtext(text_id::kOctaves), n - 2);
   }
   oktav_cmb.Select(0);
 }
@@ -264,34 +269,35 @@ void Einstellung1::SetzeTexte() {
     if (merkmal.gruppe == nullptr) continue;
     for (const int i : {0, 1}) (this->*merkmal.gruppe)[i].caption = text(merkmal.texte[i]);
   }
-  lb1.caption = text(153);
-  lb10.caption = text(116);
-  lb11[0].caption = lb2[0].caption = text(140);
-  lb11[1].caption = lb2[1].caption = text(135);
-  lb11[2].caption = text(395);
-  lb2[2].caption = text(396);
-  lb2[3].caption = text(2);
-  klanglst[0].spoken = shell_.texts.SprachtextOder(9551, "Klangtyp wählen");
-  klanglst[1].spoken = shell_.texts.SprachtextOder(9552, "Klangtyp gewählt");
-  grplst[0].spoken = shell_.texts.SprachtextOder(9553, "Gruppe wählen");
-  grplst[1].spoken = shell_.texts.SprachtextOder(9554, "Gruppe gewählt");
-  cmdOK.caption = text(139);
-  cmdZurueck.caption = text(640);
+  lb1.caption = text(text_id::kRegister);
+  lb10.caption = text(text_id::kArpeggioSpeed);
+  lb11[0].caption = lb2[0].caption = text(text_id::kSelect);
+  lb11[1].caption = lb2[1].caption = text(text_id::kSelected);
+  lb11[2].caption = text(text_id::kAtLeastOne);
+  lb2[2].caption = text(text_id::kAtLeastTwo);
+  lb2[3].caption = text(text_id::kForFourNotesAndMore);
+  klanglst[0].spoken = shell_.texts.SprachtextOder(text_id::kChooseChordSize, "Klangtyp wählen");
+  klanglst[1].spoken = shell_.texts.SprachtextOder(text_id::kChosenChordSizes, "Klangtyp gewählt");
+  grplst[0].spoken = shell_.texts.SprachtextOder(text_id::kChooseChordGroup, "Gruppe wählen");
+  grplst[1].spoken = shell_.texts.SprachtextOder(text_id::kChosenChordGroups, "Gruppe gewählt");
+  cmdOK.caption = text(text_id::kSelectionIncomplete);
+  cmdZurueck.caption = text(text_id::kBack);
   cmdHilfe.spoken = shell_.texts.Words(kHelpWord);
-  klang_contr.caption = text(366);
-  lb14[0].caption = text(372);
+  klang_contr.caption = text(text_id::kSoundCheck);
+  lb14[0].caption = text(text_id::kVolume);
   lb14[1].caption = DecimalText(kLautstaerke);
-  lb15[0].caption = text(547);
+  lb15[0].caption = text(text_id::kTempo);
   lb15[1].caption = "=MM";
-  lb15[2].caption = text(615);
-  cmdOptionRead.caption = shell_.texts.SprachtextOder(9601, "Einlesen Test");
-  cmdOptionSave.caption = shell_.texts.SprachtextOder(9602, "Einstellungen Speichern");
-  popPruefung.caption = shell_.texts.SprachtextOder(9606, kMarke);
+  lb15[2].caption = text(text_id::kFromTheBottomUp);
+  cmdOptionRead.caption = shell_.texts.SprachtextOder(text_id::kReadTest, "Einlesen Test");
+  cmdOptionSave.caption =
+      shell_.texts.SprachtextOder(text_id::kSaveSettings, "Einstellungen Speichern");
+  popPruefung.caption = shell_.texts.SprachtextOder(text_id::kExamMark, kMarke);
   for (const ControlArray<Button>* alle : {&klang_alle, &grp_alle}) {
     (*alle)[0].caption = "»";
-    (*alle)[0].spoken = text(9017);
+    (*alle)[0].spoken = text(text_id::kSelectAll);
     (*alle)[1].caption = "«";
-    (*alle)[1].spoken = text(9018);
+    (*alle)[1].spoken = text(text_id::kTakeAllBack);
   }
 }
 
@@ -316,8 +322,8 @@ void Einstellung1::oktav_cmb_Click() {
   const TextLookup& texts = shell_.texts;
   Combo_tonraum.Clear();
   for (int j = 0; j <= 3 - settings.oktav_ber; ++j) {
-    Combo_tonraum.Add(texts.Sprachtext(671 + j) + " " + texts.Sprachtext(702) + " " +
-                          texts.Sprachtext(673 + settings.oktav_ber + j),
+    Combo_tonraum.Add(texts.Sprachtext(text_id::kC2 + j) + " " + texts.Sprachtext(text_id::kTo) +
+                          " " + texts.Sprachtext(text_id::kC4 + settings.oktav_ber + j),
                       ItemList::kValueIsIndex);
   }
   Combo_tonraum.Select(settings.oktav_ber == 3 ? 0 : 1);

@@ -5,14 +5,12 @@
 
 #include <vector>
 
+#include "base/text_ids.h"
 #include "catalogue/chord_table.h"
 #include "settings/settings_screen.h"
 
 namespace vmod17 {
 namespace {
-
-constexpr int kMindestensZwei = 396;
-constexpr int kMindestensEine = 395;
 
 /// The groups that have a chord of `klangtyp` or of one with more notes.
 std::vector<int> GruppenAb(int klangtyp) {
@@ -44,14 +42,14 @@ void Einstellung1::ok_bereit() {
   auswahl_vollstaendig_ = true;
   cmdOK.enabled = !probe_laeuft_;
   cmdOK.back_color = kBereitFarbe;
-  cmdOK.caption = shell_.texts.Sprachtext(432);
+  cmdOK.caption = shell_.texts.Sprachtext(text_id::kOk);
 }
 
 void Einstellung1::ok_gesperrt() {
   auswahl_vollstaendig_ = false;
   cmdOK.enabled = false;
   cmdOK.back_color = Colors::kRed;
-  cmdOK.caption = shell_.texts.Sprachtext(139);
+  cmdOK.caption = shell_.texts.Sprachtext(text_id::kSelectionIncomplete);
 }
 
 void Einstellung1::SetzeOk(bool vollstaendig) {
@@ -79,7 +77,8 @@ void Einstellung1::klanglst_Click(int index) {
     grdeinst[2].visible = false;
     return;
   }
-  VerlangeGruppen(gewaehlt.entry(0).item_data == kTriade ? kMindestensEine : kMindestensZwei);
+  VerlangeGruppen(gewaehlt.entry(0).item_data == kTriade ? text_id::kAtLeastOne
+                                                         : text_id::kAtLeastTwo);
   ok_gesperrt();
   ErlaubeProbe(false);
   FuelleGruppen(0);
@@ -111,7 +110,7 @@ void Einstellung1::klang_alle_Click(int index) {
   }
   // OK keeps its state: after triads alone it stays ready, without any group.
   lb11[2].visible = false;
-  VerlangeGruppen(parts_.settings.best_art == 0 ? kMindestensEine : kMindestensZwei);
+  VerlangeGruppen(parts_.settings.best_art == 0 ? text_id::kAtLeastOne : text_id::kAtLeastTwo);
   LeereGruppen();
   for (int g = 1; g <= kGruppen; ++g) grplst[0].Add(parts_.names.grp_name_ar[g], g);
 }
@@ -153,7 +152,7 @@ void Einstellung1::aus_w_Click(int index) {
     akk_anzg.Check(0);
     FuelleOktaven(3);
     grdeinst[11].visible = false;
-    VerlangeGruppen(kMindestensZwei);
+    VerlangeGruppen(text_id::kAtLeastTwo);
     FuelleGruppen(0);
   }
   ok_gesperrt();

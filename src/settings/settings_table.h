@@ -7,6 +7,7 @@
 #include <array>
 #include <string_view>
 
+#include "base/text_ids.h"
 #include "exercise/settings_record.h"
 #include "exercise/stored_settings.h"
 #include "settings/settings_frames.h"
@@ -51,7 +52,7 @@ inline constexpr std::array kMerkmale = {
             .rahmen = 15,
             .marke = "Klangfarbe",
             .schluessel = "Klangfarbe",
-            .texte = Texte(277, 589),
+            .texte = Texte(text_id::kConstant, text_id::kIndividual),
             .zeile = Merkmal::kKeineZeile,  // the results tell the timbres themselves
             .beim_oeffnen = Merkmal::BeimOeffnen::kBleibt},
     Merkmal{.feld = &ExerciseSettings::tempo_idx,
@@ -64,7 +65,7 @@ inline constexpr std::array kMerkmale = {
             .rahmen = 0,
             .marke = "Frequenz",
             .schluessel = "Frequenz",
-            .texte = Texte(238, 603),
+            .texte = Texte(text_id::kFixedTuning, text_id::kVariable),
             .zeile = 8,
             .beim_oeffnen = Merkmal::BeimOeffnen::kBleibt},
     Merkmal{.feld = &ExerciseSettings::abfolge,
@@ -72,7 +73,7 @@ inline constexpr std::array kMerkmale = {
             .rahmen = 5,
             .marke = "Abfolge",
             .schluessel = "Abfolge",
-            .texte = Texte(383, 142),
+            .texte = Texte(text_id::kManual, text_id::kAutomatic),
             .zeile = 3,
             .beim_oeffnen = Merkmal::BeimOeffnen::kNull},
     Merkmal{.feld = &ExerciseSettings::best_art,
@@ -80,7 +81,7 @@ inline constexpr std::array kMerkmale = {
             .rahmen = 3,
             .marke = "Bestimmen",
             .schluessel = "Bestimmen",
-            .texte = Texte(97, 301),
+            .texte = Texte(text_id::kChord, text_id::kGroup),
             .zeile = 5,
             .beim_oeffnen = Merkmal::BeimOeffnen::kNull},
     Merkmal{.feld = &ExerciseSettings::akk_anzeige,
@@ -89,7 +90,7 @@ inline constexpr std::array kMerkmale = {
             .marke = "Akk.-Anzeige",
             .schluessel = "Akk-Anzeige",
             .gilt = [](const ExerciseSettings& s) { return s.best_art == 0; },
-            .texte = Texte(507, 429),
+            .texte = Texte(text_id::kNotesAndSymbol, text_id::kSymbolOnly),
             .zeile = 6,
             .beim_oeffnen = Merkmal::BeimOeffnen::kNull},
     Merkmal{.feld = &ExerciseSettings::akk_form,
@@ -97,7 +98,7 @@ inline constexpr std::array kMerkmale = {
             .rahmen = 7,
             .marke = "Akk-Form",
             .schluessel = "Auswahl",
-            .texte = Texte(49, 45),
+            .texte = Texte(text_id::kThreeToSevenNotes, text_id::kTwoHandVoicings),
             .zeile = 12,
             .beim_oeffnen = Merkmal::BeimOeffnen::kNull},
     Merkmal{.feld = &ExerciseSettings::akk_anzahl,
@@ -134,7 +135,7 @@ inline constexpr std::array kMerkmale = {
             .rahmen = 17,
             .marke = "Akkord-Grundton",
             .schluessel = "Akk-Grdton",
-            .texte = Texte(588, 156),
+            .texte = Texte(text_id::kUnaccented, text_id::kAccented),
             .zeile = 7,
             .beim_oeffnen = Merkmal::BeimOeffnen::kBleibt},
     Merkmal{.feld = &ExerciseSettings::grundton_art,
@@ -142,7 +143,7 @@ inline constexpr std::array kMerkmale = {
             .rahmen = 9,
             .marke = "Grundton",
             .schluessel = "Grdton",
-            .texte = Texte(623, 277),
+            .texte = Texte(text_id::kChanging, text_id::kConstant),
             .zeile = 11,
             .beim_oeffnen = Merkmal::BeimOeffnen::kNull},
 };

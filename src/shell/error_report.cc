@@ -3,6 +3,8 @@
 
 #include "shell/error_report.h"
 
+#include "base/text_ids.h"
+
 namespace vmod17 {
 namespace {
 
@@ -23,8 +25,10 @@ void ErrorReport::Guard(const std::string& tag, const Form& form, const std::fun
     // Once leave was taken of the host the program is on its way out, and this error with it.
     if (server_.HostObjekt() == nullptr) return;
     LogFehler(AsRunTimeError(std::current_exception()), tag + form.name(), Zeigen::kNein);
-    messages_.Warn(texts_.Sprachtext(720) + "\n" + texts_.Sprachtext(721) + "\n" +
-                       texts_.Sprachtext(722) + "\n" + texts_.Sprachtext(723),
+    messages_.Warn(texts_.Sprachtext(text_id::kSomethingWentWrong) + "\n" +
+                       texts_.Sprachtext(text_id::kErrorIsInTheLog) + "\n" +
+                       texts_.Sprachtext(text_id::kWindowWillClose) + "\n" +
+                       texts_.Sprachtext(text_id::kTryAgainOrAskTeacher),
                    kTitel);
   }
   if (!normal) recovery();

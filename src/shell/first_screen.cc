@@ -3,6 +3,7 @@
 
 #include "shell/first_screen.h"
 
+#include "base/text_ids.h"
 #include "base/usual_words.h"
 
 namespace vmod17 {
@@ -49,8 +50,9 @@ void GrdEinst::start_Timer() {
         texts.TexteLaden();
         SetzeTexte();
         state.loginKnown = shell_.server.LoginDaten()[0] != TaggedValue("unbekannt");
-        caption = texts.modul_titel + texts.Sprachtext(700) + texts.titel_ar[0];
-        versionszeile.caption = texts.Sprachtext(6) + " " + texts.Sprachtext(699) + " " +
+        caption = texts.modul_titel + texts.Sprachtext(text_id::kColon) + texts.titel_ar[0];
+        versionszeile.caption = texts.Sprachtext(text_id::kProgramName) + " " +
+                                texts.Sprachtext(text_id::kVersion) + " " +
                                 shell_.server.identity().VersionText();
         ueb_typ.Check(kBestimmen);
         state.FillTables();
@@ -61,13 +63,13 @@ void GrdEinst::start_Timer() {
 
 void GrdEinst::SetzeTexte() {
   const TextLookup& texts = shell_.texts;
-  grdeinst_lb[0].caption = texts.Sprachtext(586);
-  ueb_typ[1].caption = texts.Sprachtext(154);
-  ueb_typ[2].caption = texts.Sprachtext(160);
-  ueb_typ[3].caption = texts.Sprachtext(496);
-  cmdOK.caption = texts.Sprachtext(432);
+  grdeinst_lb[0].caption = texts.Sprachtext(text_id::kExerciseType);
+  ueb_typ[1].caption = texts.Sprachtext(text_id::kIdentify);
+  ueb_typ[2].caption = texts.Sprachtext(text_id::kBuild);
+  ueb_typ[3].caption = texts.Sprachtext(text_id::kPlay);
+  cmdOK.caption = texts.Sprachtext(text_id::kOk);
   cmdHilfe.spoken = texts.Words(kHelpWord);
-  cmdEnde.caption = texts.Sprachtext(223);
+  cmdEnde.caption = texts.Sprachtext(text_id::kQuit);
 }
 
 void GrdEinst::ueb_typ_Click(int index) { shell_.state.uebTyp = index; }

@@ -7,6 +7,7 @@
 #include <exception>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "shell/words_of.h"
 
 namespace vmod17 {
@@ -59,9 +60,10 @@ std::string TextLookup::Words(const Notice& notice) const {
 }
 
 void TextLookup::TexteLaden() {
-  modul_titel = Sprachtext(347);
-  titel_ar = {Sprachtext(287), Sprachtext(221), Sprachtext(224)};
-  ueb_typ_name_ar[1] = Sprachtext(348);
+  modul_titel = Sprachtext(text_id::kModuleTitle);
+  titel_ar = {Sprachtext(text_id::kStartTitle), Sprachtext(text_id::kSettingsTitle),
+              Sprachtext(text_id::kResultsTitle)};
+  ueb_typ_name_ar[1] = Sprachtext(text_id::kExerciseName);
   if (WeitereTexte) WeitereTexte(*this);
 }
 

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "base/text_ids.h"
+
 namespace vmod17 {
 
 UnsavedRecords::UnsavedRecords(Notices& notices, MessageBox& messages, FileDialog& dialog,
@@ -37,9 +39,10 @@ void UnsavedRecords::SaveUnasked() {
 }
 
 std::optional<UnsavedRecords::Answer> UnsavedRecords::Ask(const UnsavedRecord& record) {
-  const std::vector<std::string> answers = {texts_.Words({9203, "Try again", {}}),
-                                            texts_.Words({9204, "Another folder…", {}}),
-                                            texts_.Words({9205, "Give the record up", {}})};
+  const std::vector<std::string> answers = {
+      texts_.Words({text_id::kTryAgain, "Try again", {}}),
+      texts_.Words({text_id::kAnotherFolder, "Another folder…", {}}),
+      texts_.Words({text_id::kGiveRecordUp, "Give the record up", {}})};
   asking_ = true;
   const std::optional<int> chosen =
       messages_.Choose(texts_.Words(record.Trouble()), "Melvado", answers);
@@ -50,7 +53,7 @@ std::optional<UnsavedRecords::Answer> UnsavedRecords::Ask(const UnsavedRecord& r
 
 bool UnsavedRecords::SaveInOtherFolder(UnsavedRecord& record) {
   const std::optional<std::string> path =
-      dialog_.AskToSave(texts_.Words({9206, "Save the record", {}}), record.Name());
+      dialog_.AskToSave(texts_.Words({text_id::kSaveRecord, "Save the record", {}}), record.Name());
   if (!path) return false;
   const std::optional<Notice> trouble = record.SaveAs(*path);
   if (trouble) messages_.Warn(texts_.Words(*trouble), "Melvado");

@@ -3,6 +3,7 @@
 
 // How the judgement of a click shows: what is marked, what opens and closes, how its task ends.
 
+#include "base/text_ids.h"
 #include "worksheet/worksheet_screen.h"
 
 namespace vmod17 {
@@ -53,7 +54,7 @@ void Arbeitsblatt1::ZeigeRichtig(const AnswerGiven& antwort) {
   ergebnis[slot].back_color = Colors::kBlack;
   ergebnis[slot].fore_color = kRichtigText;
   ZeigeLoesung(antwort, kGeloest);
-  BenenneSlot(slot, {9683, "%1: right, %2", {antwortfeld_.Name(antwort.gefragt)}});
+  BenenneSlot(slot, {text_id::kTileRight, "%1: right, %2", {antwortfeld_.Name(antwort.gefragt)}});
 }
 
 void Arbeitsblatt1::ZeigeFalsch(const AnswerGiven& antwort) {
@@ -63,10 +64,12 @@ void Arbeitsblatt1::ZeigeFalsch(const AnswerGiven& antwort) {
   if (antwort.Verloren()) {
     antwortfeld_.Markiere(antwort.gefragt, AnswerMark::Kind::kTick, slot);
     ZeigeLoesung(antwort, Colors::kRed);
-    BenenneSlot(slot, {9685, "%1: lost, the solution is %2", {antwortfeld_.Name(antwort.gefragt)}});
+    BenenneSlot(
+        slot,
+        {text_id::kTileLost, "%1: lost, the solution is %2", {antwortfeld_.Name(antwort.gefragt)}});
   } else {
-    ergebnis[slot].caption = shell_.texts.Sprachtext(232);
-    BenenneSlot(slot, {9684, "%1: wrong, still open", {}});
+    ergebnis[slot].caption = shell_.texts.Sprachtext(text_id::kWrong);
+    BenenneSlot(slot, {text_id::kTileWrong, "%1: wrong, still open", {}});
     antwortfeld_.Streiche(antwort.gewaehlt);
   }
 }

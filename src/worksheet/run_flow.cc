@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "shell/delay.h"
 #include "sound/sound_words.h"
 #include "worksheet/worksheet_screen.h"
@@ -64,7 +65,7 @@ void Arbeitsblatt1::BieteErsteAufgabeAn() {
 
 void Arbeitsblatt1::NaechsteAufgabeAnbieten() {
   run_.schalter_zaehler = 1;
-  CmdNextAufg.caption = LbNextAufg.caption = shell_.texts.Sprachtext(420);
+  CmdNextAufg.caption = LbNextAufg.caption = shell_.texts.Sprachtext(text_id::kNextTask);
   CmdNextAufg.visible = parts_.settings.abfolge == 0;
   BieteWeiterAn();
 }
@@ -156,9 +157,9 @@ void Arbeitsblatt1::LegeLoesungBereit(int slot) {
   ergebnis[slot].caption.clear();
   ergebnis[slot].back_color = Colors::kBlack;
   ergebnis[slot].description.clear();
-  BenenneSlot(slot, {9682, "%1: open", {}});
+  BenenneSlot(slot, {text_id::kTileOpen, "%1: open", {}});
   if (!NachAkkorden()) return;
-  akk_lfdnr[slot].caption = shell_.texts.Sprachtext(374) + " " + DecimalText(e);
+  akk_lfdnr[slot].caption = shell_.texts.Sprachtext(text_id::kTileNumber) + " " + DecimalText(e);
   erg[slot].image = parts_.settings.akk_anzeige == 0 ? Akkbez[e].image : jz_kl[e].image;
   erg[slot].caption = jz_kl[e].caption;
 }
@@ -302,7 +303,7 @@ void Arbeitsblatt1::zurueck_Click() {
     wieder2.enabled = false;
     zurueck.back_color = Colors::kMagenta;
     zurueck.fore_color = Colors::kBlack;
-    zurueck.caption = shell_.texts.Sprachtext(640);
+    zurueck.caption = shell_.texts.Sprachtext(text_id::kBack);
     OeffneErgebnisse(RunEnd::kLeft);
     return;
   }
@@ -353,7 +354,7 @@ void Arbeitsblatt1::MeldeEnde() {
   run_.phase = Phase::kZuEnde;
   zurueck.back_color = Colors::kYellow;
   zurueck.fore_color = Colors::kRed;
-  zurueck.caption = shell_.texts.Sprachtext(625);
+  zurueck.caption = shell_.texts.Sprachtext(text_id::kContinue);
 }
 
 }  // namespace vmod17

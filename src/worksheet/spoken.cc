@@ -4,6 +4,7 @@
 // What a student hears of a run who does not see it. A playback is told of by its end alone.
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "worksheet/worksheet_screen.h"
 
 namespace vmod17 {
@@ -11,30 +12,35 @@ namespace vmod17 {
 void Arbeitsblatt1::SageUrteil(const AnswerGiven& antwort) {
   const TextLookup& texts = shell_.texts;
   if (antwort.richtig) {
-    Say(texts.Sprachtext(468) + texts.Sprachtext(700) + " " + Loesung(antwort));
+    Say(texts.Sprachtext(text_id::kRight) + texts.Sprachtext(text_id::kColon) + " " +
+        Loesung(antwort));
   } else {
-    Say(texts.Sprachtext(232));
-    if (antwort.Verloren()) Say(texts.Words({9721, "Solution: %1", {Loesung(antwort)}}));
+    Say(texts.Sprachtext(text_id::kWrong));
+    if (antwort.Verloren()) {
+      Say(texts.Words({text_id::kSolution, "Solution: %1", {Loesung(antwort)}}));
+    }
   }
   if (antwort.danach == LaufStatus::kNaechsterSlot) Say(OffenerAkkord());
 }
 
 void Arbeitsblatt1::SageAufgabenende(const TaskClosed& ende) {
   const TextLookup& texts = shell_.texts;
-  Say(texts.Words({9724,
+  Say(texts.Words({text_id::kEndOfTask,
                    "End of the task, %1 of %2 solved",
                    {DecimalText(ende.geloest), DecimalText(parts_.settings.akk_anzahl)}}));
   if (ende.danach == LaufStatus::kTrainingZuEnde) {
-    Say(texts.Words({9726, "End of the training: %1", {Trainingsanzeige(ende.training).caption}}));
+    Say(texts.Words({text_id::kEndOfTraining,
+                     "End of the training: %1",
+                     {Trainingsanzeige(ende.training).caption}}));
   } else if (ende.danach == LaufStatus::kTestZuEnde) {
-    Say(texts.Words({9727, "End of the test", {}}));
+    Say(texts.Words({text_id::kEndOfTest, "End of the test", {}}));
   } else {
     Say(Stand());
   }
 }
 
 void Arbeitsblatt1::SageAntwortbereit() {
-  Say(shell_.texts.Words({9723, "Please answer", {}}));
+  Say(shell_.texts.Words({text_id::kPleaseAnswer, "Please answer", {}}));
   if (parts_.settings.akk_anzahl > 1) Say(OffenerAkkord());
 }
 
@@ -44,7 +50,7 @@ std::string Arbeitsblatt1::Loesung(const AnswerGiven& antwort) const {
 }
 
 std::string Arbeitsblatt1::OffenerAkkord() const {
-  return shell_.texts.Words({9722,
+  return shell_.texts.Words({text_id::kChordOf,
                              "Chord %1 of %2",
                              {DecimalText(run_.akk_nr), DecimalText(parts_.settings.akk_anzahl)}});
 }

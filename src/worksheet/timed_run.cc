@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "worksheet/worksheet_screen.h"
 
 namespace vmod17 {
@@ -20,13 +21,15 @@ void Arbeitsblatt1::BeginneTest() {
                           WahlAutomat.interval});
   selection_.BeginneTest(run_, parts_.counters.auswertung_obj);
   ZeigeRestzeit();
-  lab_aufgaben.caption = shell_.texts.Sprachtext(462) + SignedText(run_.test.rest_aufgaben);
+  lab_aufgaben.caption =
+      shell_.texts.Sprachtext(text_id::kTasksLeft) + SignedText(run_.test.rest_aufgaben);
   PicUetyp[1].visible = true;
   ZeigeTeststand(true);
 }
 
 void Arbeitsblatt1::ZeigeRestaufgaben() {
-  lab_aufgaben.caption = shell_.texts.Sprachtext(462) + " " + SignedText(run_.test.rest_aufgaben);
+  lab_aufgaben.caption =
+      shell_.texts.Sprachtext(text_id::kTasksLeft) + " " + SignedText(run_.test.rest_aufgaben);
 }
 
 void Arbeitsblatt1::BeendeTest() {
@@ -45,16 +48,16 @@ void Arbeitsblatt1::ZaehleTestzeit() {
 void Arbeitsblatt1::ZeigeRestzeit() {
   const TextLookup& texts = shell_.texts;
   const int sekunden = run_.test.rest_sek;
-  stop_uhr.caption = texts.Sprachtext(461) + SignedText(sekunden / 60) + " " +
-                     texts.Sprachtext(394) + SignedText(sekunden % 60) + " " +
-                     texts.Sprachtext(480);
+  stop_uhr.caption = texts.Sprachtext(text_id::kTimeLeft) + SignedText(sekunden / 60) + " " +
+                     texts.Sprachtext(text_id::kMinutes) + SignedText(sekunden % 60) + " " +
+                     texts.Sprachtext(text_id::kSeconds);
 }
 
 void Arbeitsblatt1::BeendeTestNachZeit() {
   HalteAn();
   wieder.enabled = false;
   wieder2.enabled = false;
-  Say(shell_.texts.Words({9728, "Time is up", {}}));
+  Say(shell_.texts.Words({text_id::kTimeIsUp, "Time is up", {}}));
   BeendeAufzeichnung();
   // Events are served while the record is saved: the program may have been ended in them.
   if (loaded()) OeffneErgebnisse(RunEnd::kTimeUp);
@@ -69,8 +72,8 @@ bool Arbeitsblatt1::TestLaeuft() const {
 bool Arbeitsblatt1::WillTestBeenden() {
   if (frage_ != Frage::kKeine) return false;
   frage_ = Frage::kTestende;
-  const std::string frage =
-      shell_.texts.Words({9502, "The test is not over yet. End it without results?", {}});
+  const std::string frage = shell_.texts.Words(
+      {text_id::kEndTestQuestion, "The test is not over yet. End it without results?", {}});
   const MessageBox::Answer answer = shell_.messages.Ask(frage, caption, MessageBox::Answer::kNo);
   frage_ = Frage::kKeine;
   return answer == MessageBox::Answer::kYes;

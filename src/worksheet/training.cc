@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "worksheet/worksheet_screen.h"
 
 namespace vmod17 {
@@ -38,7 +39,7 @@ void Arbeitsblatt1::NimmTrainingAuf() {
     parts_.board.Uebernimm(Auswahl(), fortsetzung_.akk_tab);
   } catch (const std::exception&) {
     // Said in its own words, before the error goes its usual way.
-    shell_.messages.Warn(shell_.texts.Sprachtext(196),
+    shell_.messages.Warn(shell_.texts.Sprachtext(text_id::kSettingsUnreadable),
                          parts_.names.modus_name_ar[kModusFortsetzung]);
     parts_.einstellung1.training_Combo.Select(kModusNeuesTraining);
     throw;
@@ -101,7 +102,8 @@ void Arbeitsblatt1::BeendeTraining() {
 
 void Arbeitsblatt1::BieteSichernAn() {
   const TextLookup& texts = shell_.texts;
-  std::string frage = texts.Sprachtext(495) + "\n" + texts.Sprachtext(8);
+  std::string frage = texts.Sprachtext(text_id::kSaveProgressQuestion) + "\n" +
+                      texts.Sprachtext(text_id::kReplacesEarlierProgress);
   while (WillSichern(frage)) {
     try {
       SichereTraining();
@@ -110,7 +112,8 @@ void Arbeitsblatt1::BieteSichernAn() {
       pointer = Pointer::kDefault;
       MeldeSicherungsfehler(std::current_exception());
       // Nothing is lost as long as the student does not give it up.
-      frage = texts.Words({9301, "The training could not be saved. Try again?", {}});
+      frage = texts.Words(
+          {text_id::kTrainingNotSavedQuestion, "The training could not be saved. Try again?", {}});
     }
   }
 }

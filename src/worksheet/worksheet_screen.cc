@@ -7,6 +7,7 @@
 #include <map>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "base/usual_words.h"
 #include "catalogue/chord_spelling.h"
 
@@ -64,7 +65,7 @@ Arbeitsblatt1::Arbeitsblatt1(Shell& shell, const Parts& parts)
       playback_(shell.loop, parts.midi, shell.state, parts.settings, parts.board),
       judging_(parts.settings, parts.board, parts.counters.auswertung_obj, parts.random),
       antwortfeld_(parts.settings, parts.board, klang_pan, jz_kl, akk_group),
-      warten_(*this, shell.texts, WaitMeld, 726, &WaitMeldung) {
+      warten_(*this, shell.texts, WaitMeld, text_id::kOneMoment, &WaitMeldung) {
   StelleInRahmen();
   Verdrahte();
   cmdHilfe.caption = "?";
@@ -233,24 +234,24 @@ void Arbeitsblatt1::TexteSetzen() {
   const TextLookup& texts = shell_.texts;
   const auto text = [&](int id) { return texts.Sprachtext(id); };
   cmdHilfe.spoken = texts.Words(kHelpWord);
-  LbAkkGrp.caption = text(56);
-  nrakk[0].caption = text(95) + text(700);
+  LbAkkGrp.caption = text(text_id::kNameTheChordGroup);
+  nrakk[0].caption = text(text_id::kChordHeading) + text(text_id::kColon);
   for (int i = 1; i <= kSlots; ++i) {
-    nrakk[i].caption = text(426) + " " + DecimalText(i);
-    akk_lfdnr[i].caption = text(374);
+    nrakk[i].caption = text(text_id::kNumber) + " " + DecimalText(i);
+    akk_lfdnr[i].caption = text(text_id::kTileNumber);
   }
-  true_false[0].caption = text(468);
-  true_false[1].caption = text(232);
-  wieder.caption = text(629);
-  wieder2.caption = text(632);
-  CmdNextAufg.caption = LbNextAufg.caption = text(129) + " 1";
-  zurueck.caption = text(640);
-  ergebnis_anz[0].caption = text(566);
-  ergebnis_anz[1].caption = text(130);
-  ergebnis_anz[2].caption = text(638);
-  cmd_test_aus.caption = text(552);
-  cmd_test_ein.caption = text(551);
-  WaitMeld.caption = text(726);
+  true_false[0].caption = text(text_id::kRight);
+  true_false[1].caption = text(text_id::kWrong);
+  wieder.caption = text(text_id::kRepeat);
+  wieder2.caption = text(text_id::kRepeatCheck);
+  CmdNextAufg.caption = LbNextAufg.caption = text(text_id::kTask) + " 1";
+  zurueck.caption = text(text_id::kBack);
+  ergebnis_anz[0].caption = text(text_id::kTrainingProgress);
+  ergebnis_anz[1].caption = text(text_id::kTrainingCompleted);
+  ergebnis_anz[2].caption = text(text_id::kTooHard);
+  cmd_test_aus.caption = text(text_id::kHideTestStatus);
+  cmd_test_ein.caption = text(text_id::kShowTestStatus);
+  WaitMeld.caption = text(text_id::kOneMoment);
 }
 
 void Arbeitsblatt1::BaueAntwortfeld() {
@@ -293,7 +294,7 @@ void Arbeitsblatt1::BaueKacheln() {
     if (settings.akk_anzeige == 0) Akkbez[e].image = store.jbez(n);
     jz_kl[e].caption = Akkbez[e].caption = ChordOfKlang(n).symbol;
     jz_kl[e].number = e;
-    jz_kl[e].description = shell_.texts.Sprachtext(374) + " " + DecimalText(e);
+    jz_kl[e].description = shell_.texts.Sprachtext(text_id::kTileNumber) + " " + DecimalText(e);
   }
   BenenneKacheln();
 }
@@ -305,7 +306,9 @@ void Arbeitsblatt1::BenenneKacheln() {
     const Chord& chord = ChordOfKlang(parts_.board.KlangNummer(e));
     std::string& name = jz_kl[e].spoken = chord.symbol;
     if (parts_.settings.akk_anzeige == 0) {
-      if (chord.klangtyp == kVoicing) name += ", " + shell_.texts.Words({9681, "voicing", {}});
+      if (chord.klangtyp == kVoicing) {
+        name += ", " + shell_.texts.Words({text_id::kVoicing, "voicing", {}});
+      }
       name += ", " + NoteNames(chord);
     }
     ++gleiche[name];

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/run_time_error.h"
+#include "base/text_ids.h"
 #include "xml/record_file.h"
 #include "xml/whole_file.h"
 #include "xml/xml_text.h"
@@ -155,7 +156,7 @@ struct StringWriter : pugi::xml_writer {
 
 Notice SavedElsewhereNotice(const std::string& folder, const std::string& reason,
                             const std::string& path) {
-  return {9201,
+  return {text_id::kRecordSavedElsewhere,
           "The record of your exercise could not be saved in the folder %1 (%2). It has been saved "
           "as %3 instead. Please check that the folder exists, that you may write in it and that "
           "the disk is not full.",
@@ -164,7 +165,7 @@ Notice SavedElsewhereNotice(const std::string& folder, const std::string& reason
 
 Notice NotSavedNotice(const std::string& folder, const std::string& reason) {
   return {
-      9202,
+      text_id::kRecordNotSavedAnywhere,
       "The record of your exercise could not be saved, neither in the folder %1 (%2) nor in "
       "the program's own folder. Make room on the disk and try again, or choose another folder. "
       "Until then it is kept, but not beyond the end of the program.",
@@ -172,7 +173,7 @@ Notice NotSavedNotice(const std::string& folder, const std::string& reason) {
 }
 
 Notice NotSavedAsNotice(const std::string& path, const std::string& reason) {
-  return {9207, "The record could not be saved as %1 (%2).", {path, reason}};
+  return {text_id::kRecordNotSavedAs, "The record could not be saved as %1 (%2).", {path, reason}};
 }
 
 /// What is to be written of a document, and where. It outlives a document that could not be saved.

@@ -15,6 +15,7 @@
 #include <string_view>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "xml/whole_file.h"
 #include "xml/xml_text.h"
 
@@ -86,18 +87,18 @@ Notice SystemSays(int error) {
   switch (error) {
     case ENOENT:
     case ENOTDIR:
-      return {9611, "The file or its folder does not exist.", {}};
+      return {text_id::kFileOrFolderMissing, "The file or its folder does not exist.", {}};
     case EACCES:
     case EPERM:
     case EROFS:
-      return {9612, "Access to the file is denied.", {}};
+      return {text_id::kAccessDenied, "Access to the file is denied.", {}};
     case EISDIR:
-      return {9613, "This is a folder, not a file.", {}};
+      return {text_id::kIsAFolder, "This is a folder, not a file.", {}};
     case ENOSPC:
     case EDQUOT:
-      return {9614, "The disk is full.", {}};
+      return {text_id::kDiskFull, "The disk is full.", {}};
     default:
-      return {9615, "The system says: %1.", {SystemReason(error)}};
+      return {text_id::kSystemSays, "The system says: %1.", {SystemReason(error)}};
   }
 }
 
@@ -129,7 +130,9 @@ class OpenFile {
     struct stat facts {};
     if (::fstat(handle_, &facts) != 0) Fail(SystemSays(errno));
     if (S_ISDIR(facts.st_mode)) Fail(SystemSays(EISDIR));
-    if (!S_ISREG(facts.st_mode)) Fail({9616, "This is not a file that can be read.", {}});
+    if (!S_ISREG(facts.st_mode)) {
+      Fail({text_id::kNotAReadableFile, "This is not a file that can be read.", {}});
+    }
   }
 
  private:
@@ -141,7 +144,7 @@ std::string Bytes(const std::string& path) {
   file.NeedRegular();
   std::string bytes = file.Read(PugiSettingsFiles::kMaxBytes + 1);
   if (bytes.size() > PugiSettingsFiles::kMaxBytes) {
-    Fail({9617, "The file is too large for a test.", {}});
+    Fail({text_id::kFileTooLarge, "The file is too large for a test.", {}});
   }
   return bytes;
 }
@@ -196,7 +199,7 @@ std::string Decoded(std::string bytes) {
   if (allowed == text) return text;
   const auto wrong = std::mismatch(text.begin(), text.end(), allowed.begin(), allowed.end()).first;
   FailAt(text, static_cast<std::size_t>(wrong - text.begin()),
-         {9619, "There is a character that cannot be read.", {}});
+         {text_id::kUnreadableCharacter, "There is a character that cannot be read.", {}});
 }
 
 /// Walks through the elements of a test.
@@ -208,17 +211,17 @@ class Reader {
         pugi::encoding_utf8);
     if (result) return;
     FailAt(text_, static_cast<std::size_t>(result.offset),
-           {9620, "The text is not well-formed XML.", {}});
+           {text_id::kNotWellFormed, "The text is not well-formed XML.", {}});
   }
 
   FixedSettings Read() const {
     const pugi::xml_node root = document_.document_element();
     if (root.name() != std::string_view("test")) {
-      FailIn(root, {9621, "The root element is not \"%1\".", {"test"}});
+      FailIn(root, {text_id::kRootElementIsNot, "The root element is not \"%1\".", {"test"}});
     }
     for (pugi::xml_node other = root.next_sibling(); other; other = other.next_sibling()) {
       if (other.type() != pugi::node_element) continue;
-      FailIn(other, {9622, "There is a second root element.", {}});
+      FailIn(other, {text_id::kSecondRootElement, "There is a second root element.", {}});
     }
     const pugi::xml_node basic = Child(root, "basic");
     FixedSettings test{Text(basic, "modul"), Text(basic, "type"), Text(basic, "description"), {}};
@@ -244,14 +247,16 @@ class Reader {
   pugi::xml_node Child(pugi::xml_node parent, const char* name) const {
     const pugi::xml_node child = parent.child(name);
     if (!child) {
-      FailIn(parent, {9623, "\"%1\" has no element \"%2\".", {parent.name(), name}});
+      FailIn(parent,
+             {text_id::kElementMissing, "\"%1\" has no element \"%2\".", {parent.name(), name}});
     }
     return child;
   }
   std::string Attribute(pugi::xml_node node, const char* name) const {
     const pugi::xml_attribute attribute = node.attribute(name);
     if (!attribute) {
-      FailIn(node, {9624, "\"%1\" has no attribute \"%2\".", {node.name(), name}});
+      FailIn(node,
+             {text_id::kAttributeMissing, "\"%1\" has no attribute \"%2\".", {node.name(), name}});
     }
     return XmlText(attribute.value());
   }
@@ -271,7 +276,7 @@ class Reader {
     int number = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
     if (result.ec != std::errc() || result.ptr != text.data() + text.size()) {
-      FailIn(node, {9625, "\"%1\" holds no whole number.", {node.name()}});
+      FailIn(node, {text_id::kNoWholeNumber, "\"%1\" holds no whole number.", {node.name()}});
     }
     return number;
   }
@@ -290,7 +295,9 @@ class Reader {
 
 void PugiSettingsFiles::Write(const std::string& file, const FixedSettings& document) {
   const std::string text = DocumentText(document);
-  if (text.size() > kMaxBytes) Fail({9618, "The test is too large for a file.", {}});
+  if (text.size() > kMaxBytes) {
+    Fail({text_id::kTestTooLarge, "The test is too large for a file.", {}});
+  }
   if (const int error = WriteWholeFile(file, text); error != 0) Fail(SystemSays(error));
   // A teacher writes it for others to read. Where the file system knows no rights, nothing is lost.
   static_cast<void>(::chmod(file.c_str(), 0644));

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "base/usual_words.h"
 #include "programs/host/log_window.h"
 #include "programs/host/user_dialog.h"
@@ -22,6 +23,8 @@
 
 namespace melvado {
 namespace {
+
+namespace text_id = vmod17::text_id;
 
 using vmod17::DropDownWidget;
 using vmod17::FileDialog;
@@ -167,19 +170,19 @@ void HomeWindow::ShowWords() {
   const Texts& texts = host_.texts();
   setWindowTitle("Melvado");
   SetWords(*page_.title, "Melvado");
-  SetWords(*page_.subtitle, texts.Say(9401, "Ear training"));
-  SetWords(*page_.user_heading, texts.Say(9402, "Who is practising?"));
-  SetWords(*page_.add_user, texts.Say(9404, "Add…"));
-  SetWords(*page_.change_user, texts.Say(9405, "Change…"));
-  SetWords(*page_.remove_user, texts.Say(9406, "Remove…"));
-  SetWords(*page_.language_heading, texts.Say(9407, "Language"));
-  SetWords(*page_.output_heading, texts.Say(9408, "Sound output"));
-  SetWords(*page_.test, texts.Say(9411, "Test the sound"));
-  SetWords(*page_.soundfont, texts.Say(9412, "Choose a soundfont…"));
-  SetWords(*page_.usual_soundfont, texts.Say(9413, "Soundfont of the system"));
-  SetWords(*page_.log, texts.Say(9419, "Log"));
-  SetWords(*page_.restore, texts.Say(9208, "Restore a backup…"));
-  SetWords(*page_.quit, texts.Say(9420, "Quit"));
+  SetWords(*page_.subtitle, texts.Say(text_id::kEarTraining, "Ear training"));
+  SetWords(*page_.user_heading, texts.Say(text_id::kWhoIsPractising, "Who is practising?"));
+  SetWords(*page_.add_user, texts.Say(text_id::kAdd, "Add…"));
+  SetWords(*page_.change_user, texts.Say(text_id::kChange, "Change…"));
+  SetWords(*page_.remove_user, texts.Say(text_id::kRemove, "Remove…"));
+  SetWords(*page_.language_heading, texts.Say(text_id::kLanguage, "Language"));
+  SetWords(*page_.output_heading, texts.Say(text_id::kSoundOutput, "Sound output"));
+  SetWords(*page_.test, texts.Say(text_id::kTestTheSound, "Test the sound"));
+  SetWords(*page_.soundfont, texts.Say(text_id::kChooseSoundfontButton, "Choose a soundfont…"));
+  SetWords(*page_.usual_soundfont, texts.Say(text_id::kSystemSoundfont, "Soundfont of the system"));
+  SetWords(*page_.log, texts.Say(text_id::kLog, "Log"));
+  SetWords(*page_.restore, texts.Say(text_id::kRestoreBackup, "Restore a backup…"));
+  SetWords(*page_.quit, texts.Say(text_id::kQuitHost, "Quit"));
   SetWords(*page_.help, texts.Say(vmod17::kHelpWord));
   Name(*page_.user, page_.user_heading->caption());
   Name(*page_.language, page_.language_heading->caption());
@@ -189,7 +192,7 @@ void HomeWindow::ShowWords() {
 void HomeWindow::ShowUsers() {
   users_ = host_.Users();
   const std::string chosen = host_.ChosenUser();
-  QStringList entries{host_.texts().Say(9403, "Nobody (without a name)")};
+  QStringList entries{host_.texts().Say(text_id::kNobody, "Nobody (without a name)")};
   int index = 0;
   for (const StoreUser& user : users_) {
     if (user.id == chosen) index = static_cast<int>(entries.size());
@@ -218,9 +221,11 @@ void HomeWindow::ShowOutputs() {
   for (const Output& output : choice.outputs) {
     const QString name = QString::fromStdString(output.name);
     if (name.isEmpty()) {
-      entries << texts.Say(9409, "Built-in synthesiser");
+      entries << texts.Say(text_id::kBuiltInSynthesiser, "Built-in synthesiser");
     } else {
-      entries << (output.is_there ? name : texts.Say(9410, "%1 (not connected)", {name}));
+      entries << (output.is_there
+                      ? name
+                      : texts.Say(text_id::kOutputNotConnected, "%1 (not connected)", {name}));
     }
   }
   page_.Fill(*page_.output, entries, choice.chosen);
@@ -228,7 +233,8 @@ void HomeWindow::ShowOutputs() {
   const QString note =
       chosen.is_there
           ? QString()
-          : texts.Say(9416, "%1 is not connected. The built-in synthesiser plays in its place.",
+          : texts.Say(text_id::kSynthesiserPlaysInstead,
+                      "%1 is not connected. The built-in synthesiser plays in its place.",
                       {QString::fromStdString(chosen.name)});
   SetWords(*page_.output_note, note);
   page_.output->setAccessibleDescription(note);
@@ -239,11 +245,12 @@ void HomeWindow::ShowSoundfont() {
   const std::string path = host_.Soundfont();
   QString note;
   if (path.empty()) {
-    note = texts.Say(9415, "The soundfont of the system plays.");
+    note = texts.Say(text_id::kSystemSoundfontPlays, "The soundfont of the system plays.");
   } else if (host_.SoundfontIsThere()) {
-    note = texts.Say(9414, "Soundfont: %1", {FileName(path)});
+    note = texts.Say(text_id::kSoundfontOf, "Soundfont: %1", {FileName(path)});
   } else {
-    note = texts.Say(9430, "The soundfont %1 is missing. That of the system plays in its place.",
+    note = texts.Say(text_id::kChosenSoundfontMissing,
+                     "The soundfont %1 is missing. That of the system plays in its place.",
                      {FileName(path)});
   }
   SetWords(*page_.soundfont_note, note);
@@ -258,14 +265,15 @@ void HomeWindow::ShowVerdict() {
   QString text;
   verdict_is_good_.reset();
   if (host_.TestRuns()) {
-    text = texts.Say(9417, "A chord is being played…");
+    text = texts.Say(text_id::kChordIsPlaying, "A chord is being played…");
   } else if (const auto& verdict = host_.verdict()) {
     for (const Notice& notice : verdict->words) {
       text += (text.isEmpty() ? "" : " ") + texts.Say(notice);
     }
     verdict_is_good_ = verdict->left_the_program;
   } else {
-    text = texts.Say(9418, "The sound test plays a chord and tells what became of it.");
+    text = texts.Say(text_id::kWhatSoundTestDoes,
+                     "The sound test plays a chord and tells what became of it.");
   }
   update();
   SetWords(*page_.verdict, text);
@@ -277,8 +285,8 @@ void HomeWindow::ShowVerdict() {
 
 void HomeWindow::ShowStart() {
   const bool runs = host_.ModuleRuns();
-  SetWords(*page_.start, runs ? host_.texts().Say(9422, "Starting…")
-                              : host_.texts().Say(347, "Jazz-Akkorde bestimmen"));
+  SetWords(*page_.start, runs ? host_.texts().Say(text_id::kStarting, "Starting…")
+                              : host_.texts().Say(text_id::kModuleTitle, "Jazz-Akkorde bestimmen"));
   page_.start->setDown(runs);
   for (QWidget* widget : std::initializer_list<QWidget*>{page_.user, page_.add_user, page_.language,
                                                          page_.output, page_.restore}) {
@@ -331,7 +339,7 @@ void HomeWindow::ComeToFront() {
 void HomeWindow::AskToEndModule() {
   if (!host_.ModuleRuns()) return;
   const QString question = host_.texts().Say(
-      9260,
+      text_id::kEndSilentExerciseQuestion,
       "The exercise does not answer. If it is only busy, wait for it. Do you want to end it? What "
       "has not been stored there may be lost.");
   if (messages_.Ask(question.toStdString(), "Melvado", MessageBox::Answer::kNo) ==
@@ -363,7 +371,7 @@ void HomeWindow::RemoveUser() {
   for (const StoreUser& user : users_) {
     if (user.id != chosen) continue;
     const QString question =
-        host_.texts().Say(9429,
+        host_.texts().Say(text_id::kRemoveUserQuestion,
                           "Remove %1 from the list? The stored trainings are kept: whoever is "
                           "added with this number again goes on with them.",
                           {Shown(user)});
@@ -379,7 +387,7 @@ void HomeWindow::RemoveUser() {
 void HomeWindow::ChooseSoundfont() {
   // The kinds of soundfonts, as the name filter writes several.
   constexpr const char* kEndings = "sf2 *.sf3 *.SF2 *.SF3";
-  const QString title = host_.texts().Say(9437, "Choose a soundfont");
+  const QString title = host_.texts().Say(text_id::kChooseSoundfont, "Choose a soundfont");
   const std::optional<std::string> path = dialog_.AskToOpen(title.toStdString(), kEndings, "");
   if (path) TakeSoundfont(*path);
 }
@@ -424,7 +432,9 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
     case ModuleEnd::Kind::kOpenBefore:
       Return();
       messages_.Warn(
-          texts.Say(9452, "The exercise is open already. After OK its window comes to the front.")
+          texts
+              .Say(text_id::kExerciseIsOpen,
+                   "The exercise is open already. After OK its window comes to the front.")
               .toStdString(),
           "Melvado");
       // It has come once, but the message and this window have covered it.
@@ -434,7 +444,7 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
       Return();
       return messages_.Warn(
           texts
-              .Say(9453,
+              .Say(text_id::kExerciseNotStarted,
                    "The exercise could not be started (%1). Install the program again; if that "
                    "does not help, send the fault report from the log.",
                    {end.reason})
@@ -445,7 +455,7 @@ void HomeWindow::ModuleEnded(const ModuleEnd& end) {
       break;
   }
   const QString question =
-      texts.Say(9451,
+      texts.Say(text_id::kExerciseEndedUnexpectedly,
                 "The exercise has ended unexpectedly. What was stored before is still there. Do "
                 "you want to see the end of the log?");
   if (messages_.Ask(question.toStdString(), "Melvado", MessageBox::Answer::kYes) ==
@@ -462,8 +472,9 @@ void HomeWindow::RestoreBackup() {
   const Texts& texts = host_.texts();
   // Whoever made a backup named it; what was put aside has its date for an extension.
   constexpr const char* kAnyExtension = "*";
-  const std::optional<std::string> path = dialog_.AskToOpen(
-      texts.Say(9209, "Choose a backup").toStdString(), kAnyExtension, host_.StoreFolder());
+  const std::optional<std::string> path =
+      dialog_.AskToOpen(texts.Say(text_id::kChooseBackup, "Choose a backup").toStdString(),
+                        kAnyExtension, host_.StoreFolder());
   if (!path) return;
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   const std::optional<Notice> outcome = host_.RestoreBackup(*path, [&](const Notice& question) {

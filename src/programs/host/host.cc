@@ -12,6 +12,7 @@
 #include <limits>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "midi/midi_ports.h"
 #include "midi/soundfonts.h"
 #include "programs/shared/places.h"
@@ -23,6 +24,8 @@
 
 namespace melvado {
 namespace {
+
+namespace text_id = vmod17::text_id;
 
 using vmod17::EventLoop;
 using vmod17::ExistingSoundfonts;
@@ -232,7 +235,7 @@ bool Host::SoundfontIsThere() {
 
 std::optional<Notice> Host::ChooseSoundfont(const std::string& path) {
   if (!path.empty() && !LoadsAsSoundfont(path)) {
-    return Notice{9436,
+    return Notice{text_id::kNotASoundfont,
                   "The file %1 is no soundfont that can be played, or it is damaged. The soundfont "
                   "stays as it was.",
                   {path}};
@@ -312,7 +315,7 @@ std::optional<Notice> Host::RestoreBackup(const std::string& path,
           .toString(QFileInfo(QString::fromStdString(path)).lastModified(), QLocale::ShortFormat)
           .toStdString();
   const Notice question{
-      9210,
+      text_id::kRestoreBackupQuestion,
       "Put the backup %1 (last changed: %2) in the place of %3? Users, settings, trainings and the "
       "log are those of the backup then. What is stored now is kept under another name.",
       {path, changed_on, address.Display()}};
@@ -325,7 +328,7 @@ std::optional<Notice> Host::RestoreBackup(const std::string& path,
   verdict_.reset();
   SpeakLanguage();
   RefreshOutputs();
-  return Notice{9211,
+  return Notice{text_id::kBackupRestored,
                 "The backup %1 has been restored. What was stored before has been kept under the "
                 "name %2.",
                 {path, aside}};

@@ -15,10 +15,13 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "programs/host/dialog_look.h"
 
 namespace melvado {
 namespace {
+
+namespace text_id = vmod17::text_id;
 
 using vmod17::LogEntry;
 using vmod17::QtEventLoop;
@@ -99,15 +102,16 @@ void LogWindow::Open(double factor) {
 
 void LogWindow::ShowWords() {
   const Texts& texts = host_.texts();
-  setWindowTitle(texts.Say(9419, "Log"));
-  lines_->setHorizontalHeaderLabels({texts.Say(9455, "Time"), texts.Say(9456, "Place"),
-                                     texts.Say(9457, "Number"), texts.Say(9458, "Text"),
-                                     texts.Say(9459, "Source")});
+  setWindowTitle(texts.Say(text_id::kLog, "Log"));
+  lines_->setHorizontalHeaderLabels(
+      {texts.Say(text_id::kLogTime, "Time"), texts.Say(text_id::kLogPlace, "Place"),
+       texts.Say(text_id::kLogNumber, "Number"), texts.Say(text_id::kLogText, "Text"),
+       texts.Say(text_id::kLogSource, "Source")});
   lines_->setAccessibleName(windowTitle());
-  line_->setAccessibleName(texts.Say(9458, "Text"));
-  refresh_->setText(texts.Say(9460, "Refresh"));
-  copy_->setText(texts.Say(9461, "Copy as a fault report"));
-  close_->setText(texts.Say(9462, "Close"));
+  line_->setAccessibleName(texts.Say(text_id::kLogText, "Text"));
+  refresh_->setText(texts.Say(text_id::kRefresh, "Refresh"));
+  copy_->setText(texts.Say(text_id::kCopyAsFaultReport, "Copy as a fault report"));
+  close_->setText(texts.Say(text_id::kClose, "Close"));
 }
 
 QString LogWindow::ShownTime(const std::string& at) const {
@@ -147,7 +151,7 @@ void LogWindow::Read() {
 
 void LogWindow::ShowLine(int row) {
   if (row < 0 || row >= static_cast<int>(entries_.size())) {
-    line_->setPlainText(host_.texts().Say(9464, "The log is empty."));
+    line_->setPlainText(host_.texts().Say(text_id::kLogIsEmpty, "The log is empty."));
     return;
   }
   const LogEntry& entry = entries_[static_cast<std::size_t>(row)];
@@ -162,7 +166,8 @@ void LogWindow::ShowLine(int row) {
 void LogWindow::Copy() {
   QGuiApplication::clipboard()->setText(QString::fromStdString(host_.Report()));
   note_->setText(
-      host_.texts().Say(9463, "The report is in the clipboard and can be pasted into a mail."));
+      host_.texts().Say(text_id::kReportInClipboard,
+                        "The report is in the clipboard and can be pasted into a mail."));
 }
 
 }  // namespace melvado

@@ -9,6 +9,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "programs/host/home_window.h"
 #include "programs/shared/end_on_signal.h"
 #include "programs/shared/front_matter.h"
@@ -22,6 +23,8 @@
 
 namespace melvado {
 namespace {
+
+namespace text_id = vmod17::text_id;
 
 using vmod17::AsRunTimeError;
 using vmod17::EndOnSignal;
@@ -95,7 +98,7 @@ int Run() {
 
   SingleInstance instance(HostKey(setup.store));
   const Notice question{
-      9257,
+      text_id::kHostSilentQuestion,
       "Melvado is open already, but does not answer. If it is only busy, wait for it. Do you want "
       "to end it and start it again? What has not been stored there may be lost.",
       {}};
@@ -106,7 +109,7 @@ int Run() {
   loop.on_error = [&](const std::exception_ptr& error) {
     const RunTimeError what = AsRunTimeError(error);
     host->LogError("run_time", what.number(), what.what(), what.source());
-    front.Warn({9467,
+    front.Warn({text_id::kUnexpectedError,
                 "An error has occurred that the program did not expect (%1). It is in the log; you "
                 "can go on. Please send the fault report from the log.",
                 {what.what()}});

@@ -12,12 +12,15 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "base/usual_words.h"
 #include "programs/host/dialog_look.h"
 #include "programs/host/users.h"
 #include "qt/kit/window_factor.h"
 
 namespace melvado {
+
+namespace text_id = vmod17::text_id;
 
 using vmod17::StoreUser;
 using vmod17::Texts;
@@ -34,28 +37,32 @@ UserDialog::UserDialog(QWidget* parent, const Texts& texts, const StoreUser& use
   const bool known = !user.id.empty();
   const double factor = vmod17::FactorOf(*parent);
   DressDialog(*this, factor);
-  setWindowTitle(known ? texts.Say(9424, "Change a user") : texts.Say(9423, "Add a user"));
+  setWindowTitle(known ? texts.Say(text_id::kChangeUser, "Change a user")
+                       : texts.Say(text_id::kAddUser, "Add a user"));
   // What is stored stands under the number.
   number_->setReadOnly(known);
   if (known) number_->setFocusPolicy(Qt::NoFocus);
   fault_->hide();
   if (!known) {
     note_->setText(
-        texts.Say(9431, "Please enter the matriculation number: the trainings are kept under it."));
+        texts.Say(text_id::kNumberIsNeeded,
+                  "Please enter the matriculation number: the trainings are kept under it."));
     number_->setAccessibleDescription(note_->text());
   }
   note_->setVisible(!known);
 
   auto* const form = new QFormLayout;
   form->setVerticalSpacing(qRound(10 * factor));
-  form->addRow(MakeLabel(texts.Say(9425, "Name"), *name_), name_);
-  form->addRow(MakeLabel(texts.Say(9426, "First name"), *first_name_), first_name_);
-  form->addRow(MakeLabel(texts.Say(9427, "Matriculation number"), *number_), number_);
+  form->addRow(MakeLabel(texts.Say(text_id::kName, "Name"), *name_), name_);
+  form->addRow(MakeLabel(texts.Say(text_id::kFirstName, "First name"), *first_name_), first_name_);
+  form->addRow(
+      MakeLabel(texts.Say(text_id::kMatriculationNumber, "Matriculation number"), *number_),
+      number_);
   auto* const ok = new QPushButton(texts.Say(vmod17::kOkWord));
   ok->setObjectName("ok");
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, [this] { Try(); });
-  auto* const cancel = new QPushButton(texts.Say(9428, "Cancel"));
+  auto* const cancel = new QPushButton(texts.Say(text_id::kCancel, "Cancel"));
   cancel->setObjectName("cancel");
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   auto* const buttons = new QHBoxLayout;

@@ -5,8 +5,12 @@
 
 #include <algorithm>
 
+#include "base/text_ids.h"
+
 namespace melvado {
 namespace {
+
+namespace text_id = vmod17::text_id;
 
 using vmod17::Notice;
 using vmod17::StoreUser;
@@ -59,31 +63,33 @@ StoreUser Cleaned(const StoreUser& typed) {
 
 std::optional<Notice> FaultOf(const StoreUser& user) {
   if (user.id.empty()) {
-    return Notice{
-        9431, "Please enter the matriculation number: the trainings are kept under it.", {}};
+    return Notice{text_id::kNumberIsNeeded,
+                  "Please enter the matriculation number: the trainings are kept under it.",
+                  {}};
   }
   if (QString::fromStdString(user.id).size() > kLongestNumber) {
-    return Notice{9432,
+    return Notice{text_id::kNumberTooLong,
                   "The matriculation number is too long. It may have up to %1 characters.",
                   {std::to_string(kLongestNumber)}};
   }
   for (const std::string& name : {user.name, user.first_name}) {
     if (QString::fromStdString(name).size() > kLongestName) {
-      return Notice{9433,
+      return Notice{text_id::kNameTooLong,
                     "The name is too long. Name and first name may have up to %1 characters "
                     "each.",
                     {std::to_string(kLongestName)}};
     }
   }
   if (user.id == kUnknownUser) {
-    return Notice{
-        9434, "\"%1\" cannot be a matriculation number. Please choose another one.", {user.id}};
+    return Notice{text_id::kNumberImpossible,
+                  "\"%1\" cannot be a matriculation number. Please choose another one.",
+                  {user.id}};
   }
   return std::nullopt;
 }
 
 Notice NumberTakenNotice(const std::string& number) {
-  return {9435,
+  return {text_id::kNumberTaken,
           "The matriculation number %1 is in the list already. Choose that user, or enter another "
           "number.",
           {number}};

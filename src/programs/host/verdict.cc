@@ -8,10 +8,13 @@
 #include <cmath>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "midi/midi_notices.h"
 
 namespace melvado {
 namespace {
+
+namespace text_id = vmod17::text_id;
 
 using vmod17::AudioLostNotice;
 using vmod17::Notice;
@@ -22,31 +25,31 @@ constexpr float kHeard = 0.001f;
 // A driver that takes fewer frames in a millisecond does not play.
 constexpr double kFewestFramesPerMs = 4;
 
-Notice NoSignal() { return {9441, "No sound left the program.", {}}; }
+Notice NoSignal() { return {text_id::kNoSoundLeft, "No sound left the program.", {}}; }
 
 Notice PlayedBySynthesiser(const SoundFacts& facts) {
   if (!facts.peak) {
-    return {9442,
+    return {text_id::kSynthesiserPlayed,
             "The chord left the program: the built-in synthesiser played %1 notes through %2, with "
             "the soundfont %3.",
             {std::to_string(facts.notes), DriverName(facts.driver), facts.soundfont}};
   }
   const auto level = static_cast<int>(std::lround(*facts.peak * 100));
-  return {9443,
+  return {text_id::kSynthesiserPlayedAtLevel,
           "The chord left the program: the built-in synthesiser played through %1, with the "
           "soundfont %2, at a level of %3 %.",
           {DriverName(facts.driver), facts.soundfont, std::to_string(std::max(level, 1))}};
 }
 
 Notice NotReadyInTime() {
-  return {9445,
+  return {text_id::kSynthesiserNotReady,
           "The synthesiser was not ready in time: the computer is very busy, or the soundfont is "
           "very large. Try it again.",
           {}};
 }
 
 Notice IfNothingIsHeard() {
-  return {9444,
+  return {text_id::kIfNothingFromLoudspeakers,
           "If you hear nothing all the same: switch on the loudspeakers or headphones, turn them "
           "up, and choose them in the sound settings of the system.",
           {}};
@@ -65,7 +68,7 @@ Verdict JudgeSynthesiser(const SoundFacts& facts, const std::vector<Notice>& tro
   }
   if (static_cast<double>(facts.frames) < kFewestFramesPerMs * ms) {
     verdict.words = {NoSignal(),
-                     {9446,
+                     {text_id::kOutputTookNoSound,
                       "%1 was opened but took no sound. Another program may hold the sound card: "
                       "close it, or choose another output in the sound settings of the system.",
                       {DriverName(facts.driver)}}};
@@ -73,7 +76,7 @@ Verdict JudgeSynthesiser(const SoundFacts& facts, const std::vector<Notice>& tro
   }
   if (facts.peak && *facts.peak < kHeard) {
     verdict.words = {NoSignal(),
-                     {9447,
+                     {text_id::kSoundfontHasNoPiano,
                       "The soundfont %1 has no sound for the piano. Choose another soundfont.",
                       {facts.soundfont}}};
     return verdict;
@@ -93,10 +96,10 @@ Verdict JudgePort(const std::string& wanted, const SoundFacts& facts,
     return verdict;
   }
   return {true,
-          {{9448,
+          {{text_id::kMidiDeviceTookChord,
             "The chord left the program: the MIDI device \"%1\" took %2 messages without an error.",
             {facts.port, std::to_string(facts.sent)}},
-           {9449,
+           {text_id::kIfNothingFromMidiDevice,
             "If you hear nothing all the same: check that the device is switched on and turned up, "
             "and that it plays what arrives on channel 1.",
             {}}}};
@@ -119,7 +122,7 @@ Verdict Judge(const std::string& wanted, const SoundFacts& facts,
 Verdict JudgeMissing(const std::string& port) {
   return {false,
           {NoSignal(),
-           {9450,
+           {text_id::kMidiDeviceUnreachable,
             "The MIDI device \"%1\" cannot be reached. Check its cable and whether it is switched "
             "on, or choose another output.",
             {port}}}};

@@ -12,6 +12,7 @@
 #include <future>
 #include <utility>
 
+#include "base/text_ids.h"
 #include "programs/shared/places.h"
 #include "programs/shared/version.h"
 #include "qt/desk/raise_window.h"
@@ -109,7 +110,7 @@ std::optional<int> Desktop::StatusWithoutStart() {
   instance_ = std::make_unique<SingleInstance>(ModuleKey(address, user ? user->id : ""));
   instance_->come_to_front = [this] { RaiseWindow(view_.Window()); };
   const Notice question{
-      9258,
+      text_id::kExerciseSilentQuestion,
       "The exercise is open already, but does not answer. If it is only busy, wait for it. Do you "
       "want to end it and start it again? What has not been stored there may be lost.",
       {}};
@@ -222,8 +223,8 @@ void Desktop::SpeakAsTheLanguage() {
 
 void Desktop::TellOfLanguages() {
   for (const Notice& notice : languages_.Notices()) Tell(notice);
-  if (program_->texts().Sprachtext(700) == TextLookup::kOhneWort) {
-    Tell({9252,
+  if (program_->texts().Sprachtext(text_id::kColon) == TextLookup::kOhneWort) {
+    Tell({text_id::kNoWordsFound,
           "No words were found for the language of this program, which is why its texts "
           "read \"VOID\". Install the program again, or start it in another language.",
           {}});
@@ -238,7 +239,9 @@ void Desktop::RunTimeReport(const std::exception_ptr& error) {
   } catch (const std::exception&) {
     // The message below is what is left.
   }
-  const Notice ends{9003, "The program has met an error that it cannot deal with, and ends.", {}};
+  const Notice ends{text_id::kProgramEndsWithError,
+                    "The program has met an error that it cannot deal with, and ends.",
+                    {}};
   front_.messages.Warn(Say(ends) + "\n\n" + what.what() + " (" + std::to_string(what.number()) +
                            ", " + what.source() + ")",
                        "Melvado");

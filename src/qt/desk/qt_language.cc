@@ -12,6 +12,7 @@
 
 #include "base/language_code.h"
 #include "base/run_time_error.h"
+#include "base/text_ids.h"
 
 namespace vmod17 {
 namespace {
@@ -32,25 +33,25 @@ bool IsLanguageFile(const std::filesystem::path& path) {
 Notice NoticeOf(LanguageFault fault, const std::string& path) {
   switch (fault) {
     case LanguageFault::kTooLarge:
-      return {9253,
+      return {text_id::kLanguageTooLarge,
               "The language file %1 is larger than any language is (%2 KB at the most) and is left "
               "out.",
               {path, std::to_string(kLargestLanguageFile / 1024)}};
     case LanguageFault::kDependent:
       return {
-          9254,
+          text_id::kLanguageAsksForFiles,
           "The language file %1 asks for further files and is left out. All words of a language "
           "must be in one file.",
           {path}};
     case LanguageFault::kDamaged:
-      return {9255,
+      return {text_id::kLanguageDamaged,
               "The language file %1 is damaged and is left out. Make it again from its source, or "
               "take it out of its folder.",
               {path}};
     case LanguageFault::kUnreadable:
       break;
   }
-  return {9251,
+  return {text_id::kLanguageUnreadable,
           "The language file %1 cannot be read and is left out. If it came with the program, "
           "install the program again.",
           {path}};
@@ -140,7 +141,7 @@ std::vector<Notice> QtLanguageList::Notices() const {
   std::vector<Notice> notices;
   for (const Problem& problem : problems_) {
     if (notices.size() == kMostNotices) {
-      notices.push_back({9256,
+      notices.push_back({text_id::kMoreLanguagesFaulty,
                          "Further language files have faults and are left out too: %1.",
                          {std::to_string(problems_.size() - kMostNotices)}});
       break;

@@ -24,6 +24,8 @@
 // Older C libraries declare it for C alone.
 extern "C" {
 #include <sys/pidfd.h>
+
+#include "base/text_ids.h"
 }
 
 namespace vmod17 {
@@ -32,7 +34,7 @@ namespace {
 using std::chrono::milliseconds;
 
 const Notice kCannotBeEnded{
-    9259,
+    text_id::kCouldNotBeEnded,
     "It could not be ended. Sign out of this computer and in again, then start the program once "
     "more.",
     {}};

@@ -18,6 +18,7 @@
 #include <utility>
 
 #include "base/language_code.h"
+#include "base/text_ids.h"
 #include "base/usual_words.h"
 #include "qt/kit/html_bounds.h"
 #include "qt/kit/look.h"
@@ -40,16 +41,18 @@ constexpr char kScheme[] = "help";
 constexpr char kEnglish[] = "en";
 constexpr char kContentsPage[] = "index";
 
-const Notice kContentsWord{9391, "Contents", {}};
-const Notice kBackWord{9392, "Back", {}};
-const Notice kForwardWord{9393, "Forward", {}};
+const Notice kContentsWord{text_id::kHelpContents, "Contents", {}};
+const Notice kBackWord{text_id::kHelpBack, "Back", {}};
+const Notice kForwardWord{text_id::kHelpForward, "Forward", {}};
 /// Above a page that is there in English only, in the language that the reader would have.
-const Notice kEnglishOnly{9631, "This page of the help is in English.", {}};
+const Notice kEnglishOnly{text_id::kHelpIsInEnglish, "This page of the help is in English.", {}};
 const Notice kTooLarge{
-    9634, "This page of the help cannot be shown: it is too large, or too deeply nested.", {}};
+    text_id::kHelpPageUnshowable,
+    "This page of the help cannot be shown: it is too large, or too deeply nested.",
+    {}};
 
 Notice NotFound(const std::string& page, const std::string& folders) {
-  return {9394,
+  return {text_id::kHelpPageNotFound,
           "The page “%1” of the help was not found. Help pages are looked for in: %2",
           {page, folders}};
 }

@@ -19,6 +19,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/text_ids.h"
 #include "qt/desk/qt_event_loop.h"
 #include "qt/view/page.h"
 
@@ -29,27 +30,27 @@ constexpr double kMargin = 10;  // mm
 constexpr int kFileResolution = 1200;
 
 Notice NotReady(const QString& printer) {
-  return {9304,
+  return {text_id::kPrinterNotReady,
           "The printer %1 is not ready. Check that it is switched on, connected and has paper, and "
           "print again.",
           {printer.toStdString()}};
 }
 
 Notice Refused(const QString& printer, const QString& reason) {
-  return {9303,
+  return {text_id::kPrinterDidNotTake,
           "The printer %1 did not take the page: %2. Check that it is switched on and connected, "
           "and print again.",
           {printer.toStdString(), reason.toStdString()}};
 }
 
 Notice SavedAs(const QString& file) {
-  return {9302,
+  return {text_id::kPrintedToFile,
           "There is no printer. The page was saved as %1.",
           {QDir::toNativeSeparators(file).toStdString()}};
 }
 
 Notice NotSaved(const QString& folder, const QString& reason) {
-  return {9305,
+  return {text_id::kPageNotSaved,
           "There is no printer, and the page could not be saved as a file in the folder %1 either "
           "(%2). Check that you may write there and that the disk is not full.",
           {QDir::toNativeSeparators(folder).toStdString(), reason.toStdString()}};
