@@ -44,9 +44,10 @@ std::string FaultOfBoard(const TrainingFacts& facts, const ExerciseSettings& set
   for (const auto& entry : facts.board) {
     const auto& [kind, row, group] = entry;
     const bool listed =
-        std::any_of(kExpectedChords.begin(), kExpectedChords.end(), [&](const ExpectedChord& c) {
-          return c.klangtyp == kind && c.row == row && c.group == group;
-        });
+        std::any_of(kExpectedChords.begin(), kExpectedChords.end(),
+                    [kind = kind, row = row, group = group](const ExpectedChord& c) {
+                      return c.klangtyp == kind && c.row == row && c.group == group;
+                    });
     if (!listed) return "a board entry that is no chord";
     if (!Holds(settings.Klangtypen(), kind)) return "a kind that was not chosen";
     if (group != 0 && !Holds(settings.Gruppen(), group)) return "a group that was not chosen";

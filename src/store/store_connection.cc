@@ -12,9 +12,12 @@
 #include "store/store_notices.h"
 
 namespace vmod17 {
+namespace {
 
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
+
+}  // namespace
 
 StoreConnection::Call::Call(StoreConnection& connection) : connection_(connection) {
   if (connection_.calls_++ > 0) return;

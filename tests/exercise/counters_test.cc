@@ -158,10 +158,13 @@ TEST(Auswertung, StoresNothing) {
 
 TEST(Auswertung, RaisesForAnIndexOutsideItsBounds) {
   Auswertung counter = OfTheProgram();
-  for (const auto& [i, j] : {std::pair{25, 0}, {-1, 0}, {0, 4}, {0, -1}}) {
-    EXPECT_EQ(ErrorOf([&] { counter.Save(i, j, 1); }), ErrorNumber::kOutOfRange);
-    EXPECT_EQ(ErrorOf([&] { Read(counter, i, j); }), ErrorNumber::kOutOfRange);
-    EXPECT_EQ(ErrorOf([&] { counter.Increment(i, j); }), ErrorNumber::kOutOfRange);
+  struct Cell {
+    int i, j;
+  };
+  for (const Cell& at : {Cell{25, 0}, {-1, 0}, {0, 4}, {0, -1}}) {
+    EXPECT_EQ(ErrorOf([&] { counter.Save(at.i, at.j, 1); }), ErrorNumber::kOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { Read(counter, at.i, at.j); }), ErrorNumber::kOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { counter.Increment(at.i, at.j); }), ErrorNumber::kOutOfRange);
   }
   EXPECT_EQ(ErrorOf([&] { counter.Add(25, 1); }), ErrorNumber::kOutOfRange);
   EXPECT_EQ(ErrorOf([&] { counter.SaveBest(25, 1); }), ErrorNumber::kOutOfRange);

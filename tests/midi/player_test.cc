@@ -100,7 +100,7 @@ class SoundCard : public ::testing::Test {
   std::vector<MidiQueueStand> queue_;
   MidiKlangStand told_when_mute_ = kUnbekannt;
   FakePorts ports_;
-  const SynthVolume volume_;
+  const SynthVolume volume_{};
   Player player_{Rendered(), ports_, volume_, Hooks()};
 };
 

@@ -210,9 +210,11 @@ class Simulation {
     } else if (what < 70) {
       PressRepeat();
     } else if (what < 74) {
-      EXPECT_EQ(sheet().wieder2.Press(), CanCheck());
+      const bool can = CanCheck();
+      EXPECT_EQ(sheet().wieder2.Press(), can);
     } else if (what < 85) {
-      EXPECT_EQ(sheet().CmdNextAufg.Press(), CanCallNext());
+      const bool can = CanCallNext();
+      EXPECT_EQ(sheet().CmdNextAufg.Press(), can);
     } else if (what == 85 && dice_.OneIn(6)) {
       Leave();
     } else {

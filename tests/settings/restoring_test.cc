@@ -184,7 +184,7 @@ TEST_F(Restoring, BearsValuesOfEveryOtherKindInEveryPlace) {
   const std::vector<TaggedValue> values = {TaggedValue(),
                                            Array{},
                                            Array{"1"},
-                                           Array{Array{Array{"1"}}},
+                                           Array{TaggedValue(Array{TaggedValue(Array{"1"})})},
                                            -1,
                                            std::int64_t{1} << 62,
                                            std::numeric_limits<double>::quiet_NaN(),

@@ -48,7 +48,7 @@ TEST_F(Levels, OfferATrainingOnlyWhenBothRecordsAreThereAndItCanBeTakenUp) {
       {e1, Array{TaggedValue()}, kNichts},
       {e1, Array{1}, kNichts},
       {e1, Array{1.0}, kNichts},
-      {e1, Array{Array{"true"}}, kNichts},
+      {e1, Array{TaggedValue(Array{"true"})}, kNichts},
       {e1, Array{"", "true"}, kNichts},
       {e1, Array{}, kNichts},
       {e1, "true", kNichts},

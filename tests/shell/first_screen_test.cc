@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "exercise/exercise_names.h"
 #include "shell/shell_fixture.h"
 #include "support/program_fixture.h"
 
@@ -339,6 +340,8 @@ TEST(FirstScreenStart, GoesThroughItsStepsInOrder) {
   ShellFixture f;
   ModServer server(trace.HostFactory(), {"vmod17", 1, 0, 0});
   TextLookup texts(trace.ListFactory(), f.system);
+  ExerciseNames names;
+  texts.WeitereTexte = [&](const TextLookup& all) { names.Fuelle(all); };
   Shell shell{f.loop, f.system, f.messages, f.state,     texts,
               server, f.errors, f.screens,  f.navigation};
   GrdEinst screen(shell);

@@ -28,6 +28,8 @@ class ProgramFixture {
                  make_host ? std::move(make_host) : host.Factory(), languages.Factory(),
                  make_document ? std::move(make_document) : documents.Factory()},
                 {"vmod17", 1, 0, 0}) {}
+  /// What a test has watched with is gone by now.
+  ~ProgramFixture() { loop.meanwhile = nullptr; }
 
   SimulatedLoop loop;
   FakeSystem system;
