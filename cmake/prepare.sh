@@ -73,8 +73,9 @@ build() {
     # New, or moved here from another folder, which makes what was built useless.
     configure "$preset" --fresh "$@" || return 1
   elif [ "$root/CMakePresets.json" -nt "$folder/build.ninja" ]; then
-    configure "$preset" "$@" || return 1
+    configure "$preset" --fresh "$@" || return 1
   fi
+  say "Building $preset ..."
   quiet=--quiet
   [ ! -t 2 ] || quiet=
   # shellcheck disable=SC2086  # nothing at all when it is empty

@@ -48,7 +48,9 @@ vmod17_test(
           forms/layout_test.cc
           store/memory_host_test.cc
           xml/memory_xml_document_test.cc
-  LIBRARIES vmod17_program test_support rapidcheck)
+  LIBRARIES vmod17_program test_support rapidcheck
+  PRECOMPILE ${CMAKE_CURRENT_SOURCE_DIR}/support/program_fixture.h
+  SHARDS 4)
 
 # Records, the worksheet and whole runs.
 target_sources(
