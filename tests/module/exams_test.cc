@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Melvado authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The five exams from the choice of their number to the settings screen again: to their last task,
+// The exams from the choice of their number to the settings screen again: to their last task,
 // and out of time.
+
+#include "settings/exams.h"
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
 #include <tuple>
 
@@ -23,6 +26,7 @@ struct Exam {
 };
 constexpr Exam kExams[] = {{},           {3, 3, 0, 10}, {4, 5, 0, 24}, {6, 7, 0, 20}, {8, 8, 0, 16},
                            {8, 8, 1, 16}};
+static_assert(std::size(kExams) == kPruefungen.size() + 1, "each exam is run here");
 
 class AnExam : public ::testing::TestWithParam<std::tuple<int, int>> {
  protected:
@@ -145,7 +149,9 @@ TEST_P(AnExam, CanBeTakenAgainAtOnce) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Numbers, AnExam,
-                         ::testing::Combine(::testing::Range(1, 6), ::testing::Values(1, 4)),
+                         ::testing::Combine(::testing::Range(1,
+                                                             static_cast<int>(std::size(kExams))),
+                                            ::testing::Values(1, 4)),
                          [](const auto& test) {
                            return std::to_string(std::get<0>(test.param)) + "With" +
                                   std::to_string(std::get<1>(test.param)) + "ChordsATask";

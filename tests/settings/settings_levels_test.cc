@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "settings/exams.h"
 #include "settings/settings_fixture.h"
 #include "settings/stored_training.h"
 
@@ -535,6 +536,7 @@ const std::array<Exam, 5> kExams = {{{0, 0, {3}, {}},
                                      {0, 0, {6, 7}, {2, 3, 4, 5}},
                                      {1, 0, {}, {1, 2, 3, 4, 5, 6, 7, 8}},
                                      {1, 1, {}, {1, 2, 3, 4, 5, 6, 7, 8}}}};
+static_assert(std::tuple_size_v<decltype(kExams)> == kPruefungen.size(), "each exam is asked for");
 
 class Exams : public SettingsTest {
  protected:
